@@ -1,0 +1,76 @@
+# What every target of the tree has in common, and the two functions that make a layer and its tests.
+
+add_library(quillon_options INTERFACE)
+target_compile_features(quillon_options INTERFACE cxx_std_20)
+target_compile_options(quillon_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align -Woverloaded-virtual
+  -Wconversion -Wno-sign-conversion -Werror)
+target_compile_definitions(quillon_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+  QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QUILLON_SANITIZE)
+  target_compile_options(quillon_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(quillon_options INTERFACE -fsanitize=address,undefined)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    target_compile_options(quillon_options INTERFACE -fsanitize=fuzzer-no-link) # the fuzzers follow coverage
+  endif()
+endif()
+
+# Sources of a folder that belong to the system being built for: a file named *_linux or *_macos is one twin of a
+# service whose other twin lies beside it.
+function(quillon_sources result folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+  if(APPLE)
+    file(GLOB objcxx CONFIGURE_DEPENDS ${folder}/*.mm)
+    list(APPEND sources ${objcxx})
+    list(FILTER sources EXCLUDE REGEX "_linux\\.(cpp|h)$")
+  else()
+    list(FILTER sources EXCLUDE REGEX "_macos\\.(cpp|h)$")
+  endif()
+  set(${result} ${sources} PARENT_SCOPE)
+endfunction()
+
+# quillon_layer(NAME LINK...): a static library of all sources in the current folder; it exposes only that folder.
+function(quillon_layer name)
+  quillon_sources(sources ${CMAKE_CURRENT_SOURCE_DIR})
+  add_library(${name} STATIC ${sources})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE quillon_options)
+endfunction()
+
+# quillon_program(NAME LINK...): an executable of all sources in the current folder.
+function(quillon_program name)
+  quillon_sources(sources ${CMAKE_CURRENT_SOURCE_DIR})
+  add_executable(${name} ${sources})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${name} PRIVATE ${ARGN} quillon_options)
+endfunction()
+
+# quillon_tests(NAME MAIN LINK...): the tests of the current folder. A file's ending says its kind and so its ctest
+# label: *IntegrationTest.cpp (real processes), *GuiTest.cpp (real widgets), any other *Test.cpp (unit). MAIN is
+# test_main_core or, for code with widgets, test_main_widgets, which runs on the offscreen platform unless told
+# otherwise.
+function(quillon_tests name main)
+  file(GLOB all CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*Test.cpp)
+  foreach(kind unit integration gui)
+    set(sources ${all})
+    if(kind STREQUAL "unit")
+      list(FILTER sources EXCLUDE REGEX "(Integration|Gui)Test\\.cpp$")
+    elseif(kind STREQUAL "integration")
+      list(FILTER sources INCLUDE REGEX "IntegrationTest\\.cpp$")
+    else()
+      list(FILTER sources INCLUDE REGEX "GuiTest\\.cpp$")
+    endif()
+    if(sources)
+      set(target ${name}_${kind}_tests)
+      add_executable(${target} ${sources})
+      set_target_properties(${target} PROPERTIES AUTOMOC ON)
+      target_link_libraries(${target} PRIVATE ${main} ${ARGN} quillon_options)
+      gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+        PROPERTIES LABELS ${kind} TIMEOUT 300)
+    endif()
+  endforeach()
+endfunction()

@@ -1,0 +1,101 @@
+#include "ChildProcess.h"
+
+#include "Task.h"
+#include "UtilityPriority.h"
+
+#include <QFile>
+
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+// What the child execs, complete before the fork: between fork and exec nothing may allocate.
+class ExecImage {
+public:
+    explicit ExecImage(const TaskRequest& request)
+        : path_(QFile::encodeName(request.executable))
+        , environmentEntry_((request.environmentName + u'=' + request.environmentValue).toLocal8Bit())
+    {
+        arguments_.push_back(path_);
+        for (const QString& argument : request.arguments)
+            arguments_.push_back(argument.toLocal8Bit());
+        for (QByteArray& argument : arguments_)
+            argumentPointers_.push_back(argument.data());
+        argumentPointers_.push_back(nullptr);
+        environmentPointers_ = {environmentEntry_.data(), nullptr};
+    }
+
+    [[noreturn]] void exec() const
+    {
+        execve(path_.constData(), argumentPointers_.data(), environmentPointers_.data());
+        _exit(TaskResult::launchRefused);
+    }
+
+private:
+    QByteArray path_;
+    QByteArray environmentEntry_;
+    std::vector<QByteArray> arguments_;
+    std::vector<char*> argumentPointers_;
+    std::vector<char*> environmentPointers_;
+};
+
+} // namespace
+
+ChildProcess::ChildProcess(const TaskRequest& request, TaskLauncher::Completion completion, QObject* parent)
+    : QProcess(parent)
+    , completion_(std::move(completion))
+{
+    setProgram(request.executable);
+    setInputChannelMode(ForwardedInputChannel);
+    setProcessChannelMode(ForwardedErrorChannel);
+    if (!request.captureOutput)
+        setStandardOutputFile(nullDevice());
+    // QProcess hands LD_LIBRARY_PATH down whatever environment it is given, hence the exec of our own.
+    setChildProcessModifier([image = std::make_shared<const ExecImage>(request)] {
+        lowerToUtilityPriority();
+        image->exec();
+    });
+    connect(this, &QProcess::readyReadStandardOutput, this, &ChildProcess::collectOutput);
+    connect(this, &QProcess::finished, this, &ChildProcess::reportLater); // after a signal the status is its number
+    connect(this, &QProcess::errorOccurred, this, [this](ProcessError error) {
+        if (error == FailedToStart)
+            reportLater(TaskResult::launchRefused);
+    });
+    start(ReadOnly);
+}
+
+ChildProcess::~ChildProcess()
+{
+    setProcessState(NotRunning); // otherwise QProcess ends the child and blocks until it is gone
+}
+
+void ChildProcess::collectOutput()
+{
+    output_ += readAllStandardOutput();
+    if (outputBoundExceeded_ || output_.size() > Task::outputBound) {
+        outputBoundExceeded_ = true;
+        output_.clear();
+        kill();
+    }
+}
+
+void ChildProcess::reportLater(int status)
+{
+    // Queued, so that the completion may destroy the handle or the launcher: QProcess is out of the way by then.
+    QMetaObject::invokeMethod(
+        this,
+        [this, status] {
+            const auto completion = std::exchange(completion_, nullptr);
+            const TaskResult result{status, outputBoundExceeded_ ? std::nullopt : std::optional(output_)};
+            deleteLater();
+            if (completion)
+                completion(result);
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace quillon

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Date.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace quillon {
+
+/// Lengths of a date or time text, with the original platform's raw values.
+enum class DateFormatterStyle { None = 0, Short = 1, Medium = 2, Long = 3, Full = 4 };
+
+/// Date and time texts in the user's locale and the host's current time zone.
+class DateFormatter {
+public:
+    static QString string(Date date, DateFormatterStyle dateStyle, DateFormatterStyle timeStyle);
+
+    /// `pattern` is a Unicode date pattern (UTS 35), such as "yyyy".
+    static QString string(Date date, const QString& pattern);
+
+    /// Nothing when the text does not match the pattern as a whole.
+    static std::optional<Date> date(const QString& text, const QString& pattern);
+
+    /// Name of a weekday in the form used inside a date; 1 is Sunday.
+    static QString weekdayName(int weekday);
+};
+
+} // namespace quillon

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "UserDefaultsStore.h"
+
+#include <QString>
+#include <QVariantMap>
+
+namespace quillon {
+
+/// User defaults in an XML property list.
+///
+/// Every change is on disk when the setter returns: a crash at any instant leaves the file as it was or as it is to be.
+/// What others changed in the file since is kept. A file that is no property list is set aside under a name of its own,
+/// never over an earlier one. What cannot be written stays in memory and goes out with the next change or, at the
+/// latest, with this object; each trouble is told once on standard error. A value that XML property lists cannot hold
+/// is refused. Dates are kept to the whole second, rounded down: the format has no fractions.
+class FileUserDefaults final : public UserDefaults {
+public:
+    FileUserDefaults(const QString& path, DefaultsAccess access);
+    ~FileUserDefaults() override;
+
+protected:
+    QVariant storedValue(const QString& key) const override;
+    void storeValue(const QString& key, const QVariant& value) override;
+
+private:
+    /// What the file holds now; what is in memory where there is no file or a damaged one. Nothing when it must not be
+    /// replaced, because it can neither be read nor set aside.
+    std::optional<QVariantMap> fileValues();
+    bool setAside(const QString& reason);
+    bool save();
+    bool saveLocked();
+    bool complain(const QString& trouble);
+
+    const QString path_;
+    const DefaultsAccess access_;
+    QVariantMap values_;
+    QVariantMap unsaved_; ///< changes that are not in the file yet; an invalid value stands for a removed key
+    QString lastTrouble_;
+};
+
+} // namespace quillon

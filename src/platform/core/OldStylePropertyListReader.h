@@ -1,0 +1,58 @@
+#pragma once
+
+#include "PropertyList.h"
+#include "RecentTexts.h"
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringConverter>
+#include <QVariant>
+
+#include <optional>
+
+namespace quillon {
+
+/// One pass over a property list in the old-style text format.
+///
+/// The grammar is that of "Old-Style ASCII Property Lists" in Apple's Property List Programming Guide:
+/// `"quoted"`, `'quoted'` and bare strings, `<hex data>`, `( arrays )`, `{ key = value; }`, comments in both styles of
+/// C. A comma may follow the last element of an array; the last entry of a dictionary needs its semicolon too. Of two
+/// entries with the same key the later one counts. The bytes must outlive the reader.
+class OldStylePropertyListReader {
+public:
+    explicit OldStylePropertyListReader(QByteArrayView bytes);
+
+    /// The whole text as one value; nothing when it is not exactly that. To be called once.
+    std::optional<QVariant> read();
+
+    /// Why read() gave nothing.
+    propertylist::ParseError error() const;
+
+private:
+    bool fail(const char* at, const char* message);
+    bool checkEncoding();
+    bool skipBlanks();
+    bool skipComment();
+    bool expect(char character, const char* message);
+
+    bool readValue(QVariant& value);
+    bool readDictionary(QVariant& value);
+    bool readArray(QVariant& value);
+    bool readData(QVariant& value);
+    bool readString(QString& text);
+    bool readQuotedString(QString& text);
+    bool unescape(const char* from, const char* end, QString& text);
+    bool readEscape(const char*& from, const char* end, QChar*& out);
+    bool readUnicodeEscape(const char*& from, const char* end, QChar*& out);
+
+    const char* const begin_;
+    const char* const end_;
+    const char* position_;
+    QStringDecoder utf8_{QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom};
+    RecentTexts recent_;
+    int depth_ = 0;
+    const char* errorPosition_ = nullptr;
+    const char* errorMessage_ = nullptr;
+};
+
+} // namespace quillon

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+namespace quillon {
+
+/// Property lists in the old-style text, XML and binary formats.
+///
+/// Values are QVariants of QString, QByteArray, bool, qlonglong, double, QDateTime (UTC), QVariantList and QVariantMap.
+/// In the old-style text format every scalar is a QString or a QByteArray.
+namespace propertylist {
+
+/// Why a text was refused.
+struct ParseError {
+    QString message;
+    int line = 0;   ///< counted from 1; 0 where the format has no lines
+    int column = 0; ///< in bytes, counted from 1
+};
+
+/// Reads a property list of any format; nothing when the bytes are not one, with the reason in `error`.
+std::optional<QVariant> parse(const QByteArray& bytes, ParseError* error = nullptr);
+
+/// Reads the old-style text format only.
+std::optional<QVariant> parseOldStyle(QByteArrayView bytes, ParseError* error = nullptr);
+
+/// Both give nothing when a value is of a kind that property lists do not have.
+std::optional<QByteArray> toXml(const QVariant& value);
+std::optional<QByteArray> toBinary(const QVariant& value);
+
+/// The old-style text format, one entry a line, indented by four blanks, keys sorted.
+std::optional<QByteArray> toOldStyle(const QVariant& value);
+
+/// Typed reads of a scalar that follow the original platform's string conversions: blanks skipped, the longest numeric
+/// prefix counts, integers saturate, nothing numeric is 0. Numbers and booleans of XML and binary lists are taken as
+/// they are; a value of any other kind reads as 0 or false.
+float toFloat(const QVariant& value);
+qlonglong toInteger(const QVariant& value);
+bool toBoolean(const QVariant& value);
+
+} // namespace propertylist
+
+} // namespace quillon

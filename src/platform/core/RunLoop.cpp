@@ -1,0 +1,115 @@
+#include "RunLoop.h"
+
+#include "TimerState.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+
+using std::chrono::milliseconds;
+using namespace std::chrono_literals;
+
+void RunLoop::enqueue(Block block)
+{
+    queue_.push_back(std::move(block));
+    requestWake();
+}
+
+Timer RunLoop::scheduleOnce(Date fireDate, Block block)
+{
+    auto state = std::make_shared<TimerState>();
+    state->block = std::move(block);
+    state->fireDate = fireDate;
+    state->due = uptime() + std::max(fireDate - now() + 1ms, 0ms);
+    timers_.emplace_back(state);
+    requestWake();
+    return Timer(std::move(state));
+}
+
+Timer RunLoop::scheduleRepeating(Seconds interval, Block block)
+{
+    auto state = std::make_shared<TimerState>();
+    state->block = std::move(block);
+    state->interval = std::max(std::chrono::round<milliseconds>(interval), 1ms);
+    state->due = uptime() + *state->interval;
+    timers_.emplace_back(state);
+    requestWake();
+    return Timer(std::move(state));
+}
+
+void RunLoop::runTurn()
+{
+    runQueuedBlocks();
+    runDueTimers();
+    requestWake();
+}
+
+void RunLoop::runQueuedBlocks()
+{
+    // Blocks queued by these blocks wait for the next turn, so a block that queues itself starves nobody.
+    for (auto remaining = queue_.size(); remaining > 0; --remaining) {
+        const Block block = std::move(queue_.front());
+        queue_.pop_front();
+        block();
+    }
+}
+
+void RunLoop::runDueTimers()
+{
+    std::vector<std::shared_ptr<TimerState>> due;
+    const auto clock = uptime();
+    for (const auto& weak : timers_) {
+        auto timer = weak.lock();
+        if (timer && timer->block && timer->due <= clock)
+            due.push_back(std::move(timer));
+    }
+    std::stable_sort(due.begin(), due.end(), [](const auto& a, const auto& b) { return a->due < b->due; });
+    for (const auto& timer : due)
+        runTimer(timer);
+}
+
+void RunLoop::runTimer(const std::shared_ptr<TimerState>& timer)
+{
+    if (!timer->block)
+        return; // an earlier block of this turn invalidated it
+    if (timer->interval) {
+        timer->due += *timer->interval;
+        if (timer->due <= uptime())
+            timer->due = uptime() + *timer->interval;
+        const Block block = timer->block;
+        block();
+        return;
+    }
+    if (const auto early = timer->fireDate + 1ms - now(); early > 0ms) {
+        timer->due = uptime() + early; // the wall clock was set back meanwhile
+        return;
+    }
+    const Block block = std::exchange(timer->block, nullptr);
+    block();
+}
+
+std::optional<milliseconds> RunLoop::nextDue() const
+{
+    if (!queue_.empty())
+        return uptime();
+    std::optional<milliseconds> next;
+    for (const auto& weak : timers_) {
+        const auto timer = weak.lock();
+        if (timer && timer->block && (!next || timer->due < *next))
+            next = timer->due;
+    }
+    return next;
+}
+
+void RunLoop::requestWake()
+{
+    std::erase_if(timers_, [](const auto& weak) {
+        const auto timer = weak.lock();
+        return !timer || !timer->block;
+    });
+    if (const auto next = nextDue())
+        wakeAt(*next);
+}
+
+} // namespace quillon

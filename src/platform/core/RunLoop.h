@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Date.h"
+#include "Timer.h"
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// The one source of the current time, of timers and of queued blocks. Main thread only.
+///
+/// The rules for timers live here, so that the real run loop and the virtual one of the tests share them; what differs
+/// is the clock and the way of being woken.
+///
+/// - A one-shot timer is due when its time on the uptime clock has come, and its block runs only once now() is later
+///   than its date by at least 1 ms: whoever looks for "the next date that is not earlier than now" inside the block
+///   cannot find the same date again. A wall clock that jumps forward does not make a timer run early; noticing
+///   jumps is ClockWatch's business.
+/// - A repeating timer follows the uptime clock alone, so that no step of the wall clock stalls it. A tick that was
+///   missed is made up once, not once for every period.
+class RunLoop {
+public:
+    using Block = std::function<void()>;
+
+    RunLoop() = default;
+    RunLoop(const RunLoop&) = delete;
+    RunLoop& operator=(const RunLoop&) = delete;
+    virtual ~RunLoop() = default;
+
+    virtual Date now() const = 0;
+
+    /// Time since an arbitrary start. Never steps; stands still while the system sleeps.
+    virtual std::chrono::milliseconds uptime() const = 0;
+
+    /// Runs the block in a later turn, after the blocks queued before it.
+    void enqueue(Block block);
+
+    /// A timer that runs once, at a wall-clock date any time ahead; a date not in the future is due at once.
+    [[nodiscard]] Timer scheduleOnce(Date fireDate, Block block);
+
+    /// A timer that runs every `interval`, the first time one interval from now.
+    [[nodiscard]] Timer scheduleRepeating(Seconds interval, Block block);
+
+protected:
+    /// Asks the implementation to call runTurn() when the uptime clock reaches `uptime`, replacing an earlier request.
+    virtual void wakeAt(std::chrono::milliseconds uptime) = 0;
+
+    /// Runs the blocks queued so far, then every timer that is due, and asks for the next wake-up.
+    void runTurn();
+
+    /// When runTurn() has something to do, on the uptime clock; nothing when it has not.
+    std::optional<std::chrono::milliseconds> nextDue() const;
+
+private:
+    void runQueuedBlocks();
+    void runDueTimers();
+    void runTimer(const std::shared_ptr<TimerState>& timer);
+    void requestWake();
+
+    std::deque<Block> queue_;
+    std::vector<std::weak_ptr<TimerState>> timers_;
+};
+
+} // namespace quillon

@@ -1,0 +1,192 @@
+#include "PropertyListLimits.h"
+#include "UserDefaultsStore.h"
+
+#include <QDateTime>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <iostream>
+#include <type_traits>
+
+namespace quillon {
+
+namespace {
+
+struct Release {
+    void operator()(CFTypeRef object) const { CFRelease(object); }
+};
+
+/// Owns a Core Foundation object that came from a function with "Create" or "Copy" in its name.
+template<typename Reference>
+using Owned = std::unique_ptr<std::remove_pointer_t<Reference>, Release>;
+
+using OwnedObject = std::unique_ptr<const void, Release>;
+
+QVariant fromNumber(CFNumberRef number)
+{
+    if (CFNumberIsFloatType(number)) {
+        double value = 0;
+        CFNumberGetValue(number, kCFNumberDoubleType, &value);
+        return value;
+    }
+    qlonglong value = 0;
+    CFNumberGetValue(number, kCFNumberLongLongType, &value);
+    return value;
+}
+
+QVariant fromObject(CFTypeRef object);
+
+QVariantList fromArray(CFArrayRef array)
+{
+    QVariantList elements;
+    const CFIndex count = CFArrayGetCount(array);
+    elements.reserve(count);
+    for (CFIndex i = 0; i < count; ++i)
+        elements.append(fromObject(CFArrayGetValueAtIndex(array, i)));
+    return elements;
+}
+
+QVariantMap fromDictionary(CFDictionaryRef dictionary)
+{
+    QVariantMap entries;
+    CFDictionaryApplyFunction(
+        dictionary,
+        [](const void* key, const void* value, void* context) {
+            if (CFGetTypeID(key) == CFStringGetTypeID())
+                static_cast<QVariantMap*>(context)->insert(QString::fromCFString(static_cast<CFStringRef>(key)),
+                                                           fromObject(value));
+        },
+        &entries);
+    return entries;
+}
+
+/// Invalid for an object that is no property list.
+QVariant fromObject(CFTypeRef object)
+{
+    const CFTypeID type = CFGetTypeID(object);
+    if (type == CFStringGetTypeID())
+        return QString::fromCFString(static_cast<CFStringRef>(object));
+    if (type == CFBooleanGetTypeID())
+        return static_cast<bool>(CFBooleanGetValue(static_cast<CFBooleanRef>(object)));
+    if (type == CFNumberGetTypeID())
+        return fromNumber(static_cast<CFNumberRef>(object));
+    if (type == CFDateGetTypeID())
+        return QDateTime::fromCFDate(static_cast<CFDateRef>(object)).toUTC();
+    if (type == CFDataGetTypeID())
+        return QByteArray::fromCFData(static_cast<CFDataRef>(object));
+    if (type == CFArrayGetTypeID())
+        return fromArray(static_cast<CFArrayRef>(object));
+    if (type == CFDictionaryGetTypeID())
+        return fromDictionary(static_cast<CFDictionaryRef>(object));
+    return {};
+}
+
+OwnedObject toObject(const QVariant& value, int depth = 0);
+
+OwnedObject toArray(const QVariantList& elements, int depth)
+{
+    Owned<CFMutableArrayRef> array(CFArrayCreateMutable(nullptr, elements.size(), &kCFTypeArrayCallBacks));
+    for (const QVariant& element : elements) {
+        const OwnedObject object = toObject(element, depth);
+        if (!object)
+            return nullptr;
+        CFArrayAppendValue(array.get(), object.get());
+    }
+    return OwnedObject(array.release());
+}
+
+OwnedObject toDictionary(const QVariantMap& entries, int depth)
+{
+    Owned<CFMutableDictionaryRef> dictionary(CFDictionaryCreateMutable(
+        nullptr, entries.size(), &kCFTypeDictionaryKeyCallBacks, &kCFTypeDictionaryValueCallBacks));
+    for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+        const Owned<CFStringRef> key(entry.key().toCFString());
+        const OwnedObject object = toObject(entry.value(), depth);
+        if (!object)
+            return nullptr;
+        CFDictionarySetValue(dictionary.get(), key.get(), object.get());
+    }
+    return OwnedObject(dictionary.release());
+}
+
+/// Null for a value of a kind that property lists do not have.
+OwnedObject toObject(const QVariant& value, int depth)
+{
+    switch (value.typeId()) {
+    case QMetaType::QString:
+        return OwnedObject(value.toString().toCFString());
+    case QMetaType::Bool:
+        return OwnedObject(CFRetain(value.toBool() ? kCFBooleanTrue : kCFBooleanFalse));
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong: {
+        const qlonglong number = value.toLongLong();
+        return OwnedObject(CFNumberCreate(nullptr, kCFNumberLongLongType, &number));
+    }
+    case QMetaType::Float:
+    case QMetaType::Double: {
+        const double number = value.toDouble();
+        return OwnedObject(CFNumberCreate(nullptr, kCFNumberDoubleType, &number));
+    }
+    case QMetaType::QDateTime:
+        return OwnedObject(value.toDateTime().toCFDate());
+    case QMetaType::QByteArray:
+        return OwnedObject(value.toByteArray().toCFData());
+    case QMetaType::QVariantList:
+        return depth < propertylist::maximumNesting ? toArray(value.toList(), depth + 1) : nullptr;
+    case QMetaType::QVariantMap:
+        return depth < propertylist::maximumNesting ? toDictionary(value.toMap(), depth + 1) : nullptr;
+    default:
+        return nullptr;
+    }
+}
+
+/// The preferences of the application, as NSUserDefaults shows them: managed and global domains are looked through too.
+class PreferencesUserDefaults final : public UserDefaults {
+public:
+    explicit PreferencesUserDefaults(DefaultsAccess access)
+        : access_(access)
+    {
+    }
+
+protected:
+    QVariant storedValue(const QString& key) const override
+    {
+        if (const auto unsaved = unsaved_.find(key); unsaved != unsaved_.end())
+            return unsaved.value();
+        const Owned<CFStringRef> name(key.toCFString());
+        const OwnedObject value(CFPreferencesCopyAppValue(name.get(), kCFPreferencesCurrentApplication));
+        return value ? fromObject(value.get()) : QVariant();
+    }
+
+    void storeValue(const QString& key, const QVariant& value) override
+    {
+        if (access_ == DefaultsAccess::ReadOnly) {
+            unsaved_.insert(key, value);
+            return;
+        }
+        const Owned<CFStringRef> name(key.toCFString());
+        const OwnedObject object = value.isValid() ? toObject(value) : nullptr;
+        if (value.isValid() && !object) {
+            std::cerr << "quillon: the value of " << key.toStdString() << " cannot be stored" << std::endl;
+            return;
+        }
+        CFPreferencesSetAppValue(name.get(), object.get(), kCFPreferencesCurrentApplication); // null removes the key
+        if (!CFPreferencesAppSynchronize(kCFPreferencesCurrentApplication))
+            std::cerr << "quillon: the settings could not be written" << std::endl;
+    }
+
+private:
+    const DefaultsAccess access_;
+    QVariantMap unsaved_; ///< what was set on a read-only database
+};
+
+} // namespace
+
+std::unique_ptr<UserDefaults> openUserDefaults(DefaultsAccess access)
+{
+    return std::make_unique<PreferencesUserDefaults>(access);
+}
+
+} // namespace quillon

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "AlertPresenter.h"
+#include "LoginItem.h"
+#include "Workspace.h"
+
+#include <QList>
+#include <QUrl>
+
+#include <utility>
+#include <vector>
+
+namespace quillon {
+
+class FakeWorkspace final : public Workspace {
+public:
+    QList<QUrl> opened;
+
+    void openURL(const QUrl& url, Completion completion) override
+    {
+        opened.append(url);
+        if (completion)
+            completion(true);
+    }
+    void sleep() { Q_EMIT willSleep(); }
+    void wake() { Q_EMIT didWake(); }
+};
+
+/// Keeps every alert and answers it when the test says so.
+class FakeAlerts final : public AlertPresenter {
+public:
+    std::vector<std::pair<AlertRequest, std::function<void(int)>>> presented;
+
+    void present(const AlertRequest& request, std::function<void(int)> answer) override
+    {
+        presented.emplace_back(request, std::move(answer));
+    }
+};
+
+class FakeLoginItem final : public LoginItem {
+public:
+    std::vector<bool> calls;
+
+    bool setEnabled(bool enabled) override
+    {
+        calls.push_back(enabled);
+        return true;
+    }
+};
+
+} // namespace quillon

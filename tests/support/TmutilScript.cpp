@@ -1,0 +1,79 @@
+#include "TmutilScript.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+
+#include <stdexcept>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TmutilScript::Fault readFault(const QString& name)
+{
+    using Fault = TmutilScript::Fault;
+    static const QMap<QString, Fault> faults{{u""_s, Fault::None},           {u"hang"_s, Fault::Hang},
+                                             {u"crash"_s, Fault::Crash},     {u"half"_s, Fault::Half},
+                                             {u"endless"_s, Fault::Endless}, {u"notUtf8"_s, Fault::NotUtf8},
+                                             {u"refused"_s, Fault::Refused}};
+    if (!faults.contains(name))
+        throw std::runtime_error("unknown fault in a tmutil script");
+    return faults.value(name);
+}
+
+QByteArray readOutput(const QJsonObject& call, const QString& folder)
+{
+    if (!call.contains("outputFile"_L1))
+        return call.value("output"_L1).toString().toUtf8();
+    QFile file(folder + u'/' + call.value("outputFile"_L1).toString());
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("an answer of a tmutil script is missing");
+    return file.readAll();
+}
+
+} // namespace
+
+QByteArray TmutilScript::Call::faultyOutput() const
+{
+    switch (fault) {
+    case Fault::Half:
+    case Fault::Crash:
+        return output.left(output.size() / 2);
+    case Fault::NotUtf8:
+        return "\xff\xfe" + output;
+    case Fault::Refused:
+    case Fault::Endless:
+        return {};
+    case Fault::None:
+    case Fault::Hang:
+        break;
+    }
+    return output;
+}
+
+TmutilScript TmutilScript::fromJson(const QByteArray& json, const QString& folder)
+{
+    const auto document = QJsonDocument::fromJson(json);
+    if (!document.isArray())
+        throw std::runtime_error("a tmutil script is a JSON array");
+    TmutilScript script;
+    for (const auto& entry : document.array()) {
+        const QJsonObject object = entry.toObject();
+        Call call;
+        call.expected = object.value("expect"_L1).toVariant().toStringList();
+        call.output = readOutput(object, folder);
+        call.status = object.value("status"_L1).toInt();
+        call.delay = object.value("delay"_L1).toDouble();
+        call.fault = readFault(object.value("fault"_L1).toString());
+        for (int times = object.value("times"_L1).toInt(1); times > 0; --times)
+            script.calls.append(call);
+    }
+    return script;
+}
+
+} // namespace quillon

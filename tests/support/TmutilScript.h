@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace quillon {
+
+/// What a scripted tmutil expects and answers, read from data, so that the same scenario is played inside a test and by
+/// a real process.
+///
+/// JSON: an array of calls { "expect": [words], "output" or "outputFile": text, "status": exit status, "delay":
+/// seconds, "fault": one of Fault's names, "times": how often }.
+struct TmutilScript {
+    enum class Fault {
+        None,
+        Hang,    ///< never ends by itself
+        Crash,   ///< ended by a signal
+        Half,    ///< ends well, in the middle of its output
+        Endless, ///< prints without end
+        NotUtf8, ///< prints bytes that are no UTF-8
+        Refused, ///< cannot be launched; played inside a test only
+    };
+
+    struct Call {
+        QStringList expected;
+        QByteArray output;
+        int status = 0;
+        double delay = 0;
+        Fault fault = Fault::None;
+
+        /// The output as the fault leaves it.
+        QByteArray faultyOutput() const;
+    };
+
+    QList<Call> calls;
+
+    /// Throws std::runtime_error when the text is not such a script. "outputFile" is looked for in `folder`.
+    static TmutilScript fromJson(const QByteArray& json, const QString& folder = {});
+};
+
+} // namespace quillon

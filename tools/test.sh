@@ -1,0 +1,13 @@
+# shellcheck shell=bash disable=SC2154 # root comes from lib.sh
+# Tests by g++ with sanitizers, then by clang++ the fuzzers and the programs, which only have to compile; the tests are
+# compiled by clang++ in ./dev lint.
+install_packages build run test
+configure sanitize
+build sanitize
+configure clang
+build clang fuzzers quillon quillonctl tmutil
+status=0
+(cd "$root" && ctest --preset sanitize) || status=1
+(cd "$root" && ctest --preset fuzz) || status=1
+python3 "$root/tools/lint.py" "$root" || status=1
+exit $status
