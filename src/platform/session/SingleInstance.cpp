@@ -1,0 +1,134 @@
+#include "SingleInstance.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QThread>
+
+#include <cerrno>
+#include <chrono>
+#include <sys/file.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto patience = 2s;
+constexpr auto pauseBetweenTries = 20ms;
+
+constexpr QByteArrayView request("present\n");
+constexpr QByteArrayView confirmation("presenting\n");
+
+/// A name for the folder's socket. The folder's own path may be longer than the 104 bytes (macOS) or 108 bytes (Linux)
+/// that the address of a socket holds, unix(4) and unix(7); the runtime folder is short and the user's alone.
+QString socketName(const QString& folder)
+{
+    const QByteArray path = QDir(folder).canonicalPath().toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex().first(16);
+    const QDir runtime(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    return runtime.filePath("quillon-"_L1 + QLatin1StringView(hash));
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QString& folder)
+    : folder_(folder)
+    , lockFile_(QDir(folder).filePath(u"com.Orvane.Quillon.instance"_s))
+{
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::answerNextClient);
+}
+
+bool SingleInstance::acquire()
+{
+    if (lockFile_.isOpen())
+        return true;
+    if (!lock()) {
+        lockFile_.close();
+        return false;
+    }
+    listen();
+    return true;
+}
+
+bool SingleInstance::lock()
+{
+    // QFile opens close-on-exec: a child that outlives this process does not keep the lock.
+    if (!QDir().mkpath(folder_) || !lockFile_.open(QIODevice::ReadWrite)) {
+        errorString_ = u"cannot write in the folder %1"_s.arg(folder_);
+        return false;
+    }
+    if (flock(lockFile_.handle(), LOCK_EX | LOCK_NB) == 0)
+        return true;
+    const int error = errno;
+    errorString_ = error == EWOULDBLOCK ? u"another instance runs on the folder %1"_s.arg(folder_)
+                                        : u"cannot lock %1: %2"_s.arg(lockFile_.fileName(), qt_error_string(error));
+    return false;
+}
+
+void SingleInstance::listen()
+{
+    const QString name = socketName(folder_);
+    QLocalServer::removeServer(name); // left by a crash: whoever listened there has lost the lock
+    if (!server_.listen(name)) {
+        qWarning("a second start will not bring this one to the front: %ls", qUtf16Printable(server_.errorString()));
+    }
+    lockFile_.resize(0);
+    lockFile_.write(QFile::encodeName(server_.fullServerName()));
+    lockFile_.flush();
+}
+
+void SingleInstance::answerNextClient()
+{
+    QLocalSocket* client = server_.nextPendingConnection();
+    connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
+    connect(client, &QLocalSocket::readyRead, this, [this, client] {
+        if (client->bytesAvailable() < request.size())
+            return;
+        if (client->read(request.size()) != request) {
+            client->abort();
+            return;
+        }
+        // Confirmed before the slots run, which may open a menu and wait for the user.
+        client->write(confirmation.data(), confirmation.size());
+        client->flush();
+        client->disconnectFromServer();
+        Q_EMIT presentRequested();
+    });
+}
+
+bool SingleInstance::askFirstToPresent()
+{
+    const QDeadlineTimer deadline(patience);
+    while (!ask(deadline)) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(pauseBetweenTries.count());
+    }
+    return true;
+}
+
+bool SingleInstance::ask(const QDeadlineTimer& deadline) const
+{
+    const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+    QFile address(lockFile_.fileName());
+    if (!address.open(QIODevice::ReadOnly))
+        return false;
+    QLocalSocket first;
+    first.connectToServer(QFile::decodeName(address.readAll()));
+    if (!first.waitForConnected(remaining()))
+        return false;
+    first.write(request.data(), request.size());
+    while (first.bytesAvailable() < confirmation.size()) {
+        if (!first.waitForReadyRead(remaining()))
+            return false;
+    }
+    return first.readAll() == confirmation;
+}
+
+} // namespace quillon

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QFile>
+#include <QLocalServer>
+#include <QObject>
+#include <QString>
+
+class QDeadlineTimer;
+
+namespace quillon {
+
+/// Sees to it that one instance at most runs on a settings folder. Main thread only.
+///
+/// The claim is a kernel lock on a file in the folder: it ends with the process, however that ends. The file names the
+/// socket over which a later start asks the first instance to present itself.
+class SingleInstance final : public QObject {
+    Q_OBJECT
+
+public:
+    /// The folder is made when it does not exist.
+    explicit SingleInstance(const QString& folder);
+
+    /// True when this is the one instance, until the object is destroyed. False when another one is, or when the folder
+    /// cannot be used: errorString() says which.
+    [[nodiscard]] bool acquire();
+
+    /// Asks the instance that made acquire() fail to come to the front; true when it has confirmed. Blocks for two
+    /// seconds at most and is meant for start-up, ahead of the event loop. After a false the first instance may just
+    /// have ended: acquire() is worth another try.
+    [[nodiscard]] bool askFirstToPresent();
+
+    /// Why the last acquire() returned false: one line in English.
+    QString errorString() const { return errorString_; }
+
+Q_SIGNALS:
+    /// Another start on the same folder asks this one to come to the front.
+    void presentRequested();
+
+private:
+    bool lock();
+    void listen();
+    void answerNextClient();
+    bool ask(const QDeadlineTimer& deadline) const;
+
+    QString folder_;
+    QFile lockFile_;
+    QLocalServer server_; // below the lock file, so that the socket is gone before the lock is free
+    QString errorString_;
+};
+
+} // namespace quillon

@@ -1,0 +1,102 @@
+#include "Workspace_linux.h"
+
+#include "RunLoop.h"
+#include "WorkspaceFactory.h"
+
+#include <QProcess>
+
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// What xdg-open(1) cannot open it refuses within moments; whatever runs for longer is the program that shows the page.
+constexpr Seconds patience = 10s;
+
+// QProcess ends its child when it is destroyed. With a shell in between, that is the shell: a browser that xdg-open
+// runs in the foreground outlives this program.
+constexpr auto openInBackground = "xdg-open \"$1\" & wait \"$!\""_L1;
+
+/// One address on its way; a child of the workspace, gone when the process has ended.
+class Opening final : public QObject {
+public:
+    Opening(RunLoop& runLoop, Workspace::Completion completion, QObject* parent)
+        : QObject(parent)
+        , runLoop_(runLoop)
+        , completion_(std::move(completion))
+    {
+        process_.setStandardInputFile(QProcess::nullDevice());
+        process_.setStandardOutputFile(QProcess::nullDevice());
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        connect(&process_, &QProcess::finished, this,
+                [this](int status, QProcess::ExitStatus exit) { finish(exit == QProcess::NormalExit && status == 0); });
+        connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart)
+                finish(false);
+        });
+    }
+
+    ~Opening() override
+    {
+        process_.disconnect(this);
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+    void start(const QUrl& url)
+    {
+        patience_ = runLoop_.scheduleOnce(dateByAdding(runLoop_.now(), patience), [this] { report(true); });
+        process_.start(u"/bin/sh"_s, {u"-c"_s, openInBackground, u"sh"_s, url.toString(QUrl::FullyEncoded)});
+    }
+
+private:
+    void finish(bool opened)
+    {
+        report(opened);
+        deleteLater();
+    }
+
+    void report(bool opened)
+    {
+        patience_.invalidate();
+        if (auto completion = std::exchange(completion_, {}))
+            runLoop_.enqueue([completion = std::move(completion), opened] { completion(opened); });
+    }
+
+    RunLoop& runLoop_;
+    Workspace::Completion completion_;
+    Timer patience_;
+    QProcess process_;
+};
+
+} // namespace
+
+LinuxWorkspace::LinuxWorkspace(RunLoop& runLoop, const QDBusConnection& systemBus)
+    : runLoop_(runLoop)
+    , sleepWatch_(systemBus)
+{
+    connect(&sleepWatch_, &LogindSleepWatch::willSleep, this, &Workspace::willSleep);
+    connect(&sleepWatch_, &LogindSleepWatch::didWake, this, &Workspace::didWake);
+}
+
+void LinuxWorkspace::openURL(const QUrl& url, Completion completion)
+{
+    // xdg-open would take the text of a relative address for a file name or an option.
+    if (url.isValid() && !url.isRelative()) {
+        auto* opening = new Opening(runLoop_, std::move(completion), this);
+        opening->start(url);
+    } else if (completion) {
+        runLoop_.enqueue([completion = std::move(completion)] { completion(false); });
+    }
+}
+
+std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop)
+{
+    return std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection::systemBus());
+}
+
+} // namespace quillon

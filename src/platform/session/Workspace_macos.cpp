@@ -1,0 +1,68 @@
+#include "Workspace_macos.h"
+
+#include "RunLoop.h"
+#include "WorkspaceFactory.h"
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <CoreServices/CoreServices.h>
+#include <IOKit/IOMessage.h>
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+namespace quillon {
+
+MacWorkspace::MacWorkspace(RunLoop& runLoop)
+    : runLoop_(runLoop)
+{
+    rootPort_ = IORegisterForSystemPower(this, &port_, powerChanged, &notifier_);
+    if (rootPort_ == MACH_PORT_NULL)
+        return;
+    // The common modes: also while a menu is open.
+    CFRunLoopAddSource(CFRunLoopGetMain(), IONotificationPortGetRunLoopSource(port_), kCFRunLoopCommonModes);
+}
+
+MacWorkspace::~MacWorkspace()
+{
+    if (rootPort_ == MACH_PORT_NULL)
+        return;
+    CFRunLoopRemoveSource(CFRunLoopGetMain(), IONotificationPortGetRunLoopSource(port_), kCFRunLoopCommonModes);
+    IODeregisterForSystemPower(&notifier_);
+    IOServiceClose(rootPort_);
+    IONotificationPortDestroy(port_);
+}
+
+void MacWorkspace::openURL(const QUrl& url, Completion completion)
+{
+    const std::unique_ptr<const __CFURL, decltype(&CFRelease)> address(url.toCFURL(), CFRelease);
+    const bool opened = address && LSOpenCFURLRef(address.get(), nullptr) == noErr;
+    if (completion)
+        runLoop_.enqueue([completion = std::move(completion), opened] { completion(opened); });
+}
+
+void MacWorkspace::powerChanged(void* workspace, io_service_t, natural_t message, void* argument)
+{
+    auto* self = static_cast<MacWorkspace*>(workspace);
+    // IOPMLib.h: sleep waits up to 30 s for the answer to each of the first two messages.
+    switch (message) {
+    case kIOMessageCanSystemSleep:
+        IOAllowPowerChange(self->rootPort_, reinterpret_cast<std::intptr_t>(argument));
+        break;
+    case kIOMessageSystemWillSleep:
+        Q_EMIT self->willSleep();
+        IOAllowPowerChange(self->rootPort_, reinterpret_cast<std::intptr_t>(argument));
+        break;
+    case kIOMessageSystemHasPoweredOn:
+        Q_EMIT self->didWake();
+        break;
+    default:
+        break;
+    }
+}
+
+std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop)
+{
+    return std::make_unique<MacWorkspace>(runLoop);
+}
+
+} // namespace quillon

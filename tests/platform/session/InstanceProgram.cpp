@@ -1,0 +1,38 @@
+// A program that runs once for each folder: the first instance stays, any other asks it to present itself.
+
+#include "SingleInstance.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void say(const QString& line)
+{
+    std::printf("%s\n", qPrintable(line));
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    quillon::SingleInstance instance(application.arguments().value(1));
+    if (!instance.acquire()) {
+        say(instance.askFirstToPresent() ? u"presented"_s : u"refused: "_s + instance.errorString());
+        return 0;
+    }
+    QObject::connect(&instance, &quillon::SingleInstance::presentRequested, [] { say(u"present"_s); });
+    if (application.arguments().contains(u"--leave-child"_s)) {
+        qint64 child = 0;
+        QProcess::startDetached(u"sleep"_s, {u"600"_s}, {}, &child);
+        say(QString::number(child));
+    }
+    say(u"first"_s);
+    return QCoreApplication::exec();
+}

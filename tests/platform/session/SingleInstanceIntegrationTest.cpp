@@ -1,0 +1,163 @@
+#include "ScopedEnvironment.h"
+#include "SessionTestSupport.h"
+#include "SingleInstance.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <deque>
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The program, started for real.
+class Instance {
+public:
+    explicit Instance(const QString& folder, const QStringList& options = {})
+    {
+        tieToThisProcess(process_);
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process_.start(QStringLiteral(INSTANCE_PROGRAM), QStringList{folder} + options);
+    }
+    Instance(const Instance&) = delete;
+    Instance& operator=(const Instance&) = delete;
+    ~Instance() { crash(); }
+
+    /// The next line that it says.
+    QString says()
+    {
+        EXPECT_TRUE(eventually([this] { return process_.canReadLine(); }));
+        return QString::fromUtf8(process_.readLine()).trimmed();
+    }
+
+    void signal(int number) { ::kill(static_cast<pid_t>(process_.processId()), number); }
+
+    void crash()
+    {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+private:
+    QProcess process_;
+};
+
+class SingleInstanceIntegrationTest : public testing::Test {
+protected:
+    QFileInfoList sockets() const
+    {
+        return QDir(runtime.path()).entryInfoList(QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir settings;
+    QTemporaryDir runtime;
+    QString folder = settings.filePath(u"Quillon"_s);
+    ScopedEnvironment runtimeFolder{"XDG_RUNTIME_DIR", QFile::encodeName(runtime.path())};
+};
+
+} // namespace
+
+TEST_F(SingleInstanceIntegrationTest, ASecondStartBringsTheFirstToTheFront)
+{
+    Instance first(folder);
+    ASSERT_EQ(first.says(), u"first"_s);
+    for (int start = 0; start < 2; ++start) {
+        Instance second(folder);
+        EXPECT_EQ(second.says(), u"presented"_s);
+        EXPECT_EQ(first.says(), u"present"_s);
+    }
+
+    // A start from elsewhere (cron, another login) has another environment and means the same folder.
+    const ScopedEnvironment elsewhere("XDG_RUNTIME_DIR", QFile::encodeName(settings.path()));
+    Instance third(folder);
+    EXPECT_EQ(third.says(), u"presented"_s);
+}
+
+TEST_F(SingleInstanceIntegrationTest, ACrashLeavesNothingInTheWay)
+{
+    Instance first(folder, {u"--leave-child"_s});
+    const pid_t child = first.says().toInt();
+    ASSERT_EQ(first.says(), u"first"_s);
+    first.crash();
+    ASSERT_EQ(kill(child, 0), 0); // a child that lives on must not hold the claim
+
+    Instance next(folder);
+    EXPECT_EQ(next.says(), u"first"_s);
+    Instance second(folder);
+    EXPECT_EQ(second.says(), u"presented"_s);
+    kill(child, SIGKILL);
+}
+
+TEST_F(SingleInstanceIntegrationTest, FoldersDoNotShareAnInstance)
+{
+    // Paths beyond what the address of a socket holds, alike for longer than that.
+    const QString stem = settings.filePath(QString(150, u'x'));
+    Instance one(stem + u'1');
+    EXPECT_EQ(one.says(), u"first"_s);
+    Instance two(stem + u'2');
+    EXPECT_EQ(two.says(), u"first"_s);
+    Instance again(stem + u'2');
+    EXPECT_EQ(again.says(), u"presented"_s);
+    EXPECT_EQ(two.says(), u"present"_s);
+}
+
+TEST_F(SingleInstanceIntegrationTest, OfManyStartsAtOnceOneRuns)
+{
+    std::deque<Instance> starts;
+    for (int i = 0; i < 8; ++i)
+        starts.emplace_back(folder);
+    QStringList said;
+    for (auto& start : starts)
+        said << start.says();
+    EXPECT_EQ(said.count(u"first"_s), 1) << said.join(u", "_s).toStdString();
+    EXPECT_EQ(said.count(u"presented"_s), 7) << said.join(u", "_s).toStdString();
+}
+
+TEST_F(SingleInstanceIntegrationTest, AFirstInstanceThatHangsKeepsItsClaim)
+{
+    Instance first(folder);
+    ASSERT_EQ(first.says(), u"first"_s);
+    first.signal(SIGSTOP);
+    Instance second(folder);
+    EXPECT_EQ(second.says(), u"refused: another instance runs on the folder "_s + folder);
+}
+
+TEST_F(SingleInstanceIntegrationTest, TheSocketIsTheUsersAloneAndTakesNoOtherWord)
+{
+    SingleInstance first(folder);
+    ASSERT_TRUE(first.acquire());
+    int presents = 0;
+    QObject::connect(&first, &SingleInstance::presentRequested, [&presents] { ++presents; });
+    ASSERT_EQ(sockets().size(), 1);
+    EXPECT_EQ(sockets().first().permissions() &
+                  (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+              QFile::Permissions());
+
+    QLocalSocket stranger;
+    stranger.connectToServer(sockets().first().filePath());
+    stranger.write("GET / HTTP/1.1\r\n\r\n");
+    EXPECT_TRUE(eventually([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
+    EXPECT_EQ(presents, 0);
+
+    Instance second(folder);
+    EXPECT_EQ(second.says(), u"presented"_s);
+    EXPECT_EQ(presents, 1);
+}
+
+TEST_F(SingleInstanceIntegrationTest, AFolderThatCannotBeUsedIsReported)
+{
+    writeScript(folder, {}); // a file where the folder should be
+    SingleInstance instance(folder);
+    EXPECT_FALSE(instance.acquire());
+    EXPECT_EQ(instance.errorString(), u"cannot write in the folder "_s + folder);
+}
+
+} // namespace quillon
