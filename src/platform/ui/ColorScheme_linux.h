@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+
+namespace quillon {
+
+/// Raw values of the portal's setting.
+enum class ColorSchemePreference { None = 0, Dark = 1, Light = 2 };
+
+/// The colour scheme that the user has asked the desktop for, as the settings portal tells it; none without a portal.
+/// Main thread only; asks and listens, never waits.
+class ColorScheme final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ColorScheme(const QDBusConnection& bus);
+
+    ColorSchemePreference preference() const { return preference_; }
+
+Q_SIGNALS:
+    void changed(quillon::ColorSchemePreference preference);
+
+private Q_SLOTS:
+    void settingChanged(const QDBusMessage& message);
+
+private:
+    void ask(const QString& method);
+    void take(const QVariant& value);
+
+    QDBusConnection bus_;
+    ColorSchemePreference preference_ = ColorSchemePreference::None;
+    bool told_ = false; ///< a change was announced; an answer that is still under way is older
+};
+
+/// Gives the application's palette the preferred scheme where the desktop's own palette does not have it already.
+void applyColorScheme(ColorSchemePreference preference);
+
+} // namespace quillon

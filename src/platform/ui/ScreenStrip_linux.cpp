@@ -1,0 +1,48 @@
+#include "ScreenStrip_linux.h"
+
+#include "X11_linux.h"
+
+#include <QScreen>
+
+#include <algorithm>
+#include <array>
+
+namespace quillon {
+
+namespace {
+
+bool hasScreenAbove(const QScreen& screen)
+{
+    const QRect own = screen.geometry();
+    const auto siblings = screen.virtualSiblings();
+    return std::any_of(siblings.begin(), siblings.end(), [&own](const QScreen* other) {
+        const QRect geometry = other->geometry();
+        return geometry.top() < own.top() && geometry.left() <= own.right() && own.left() <= geometry.right();
+    });
+}
+
+} // namespace
+
+void reserveTopStrip(WId window, const QScreen& screen, const QRect& bar)
+{
+    xcb_connection_t* connection = x11Connection();
+    if (!connection || hasScreenAbove(screen))
+        return;
+    // Qt scales sizes and distances inside a screen, but not where a screen begins.
+    const qreal ratio = screen.devicePixelRatio();
+    const QPoint origin = screen.geometry().topLeft();
+    const int depth = origin.y() + qRound((bar.bottom() + 1 - origin.y()) * ratio);
+    const int lastColumn = origin.x() + qRound(screen.geometry().width() * ratio) - 1;
+    // left, right, top, bottom, then where each of them begins and ends: Extended Window Manager Hints 1.5,
+    // _NET_WM_STRUT_PARTIAL.
+    std::array<std::uint32_t, 12> strut{};
+    strut[2] = static_cast<std::uint32_t>(depth);
+    strut[8] = static_cast<std::uint32_t>(origin.x());
+    strut[9] = static_cast<std::uint32_t>(lastColumn);
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window),
+                        internAtom(connection, "_NET_WM_STRUT_PARTIAL"), XCB_ATOM_CARDINAL, 32, strut.size(),
+                        strut.data());
+    xcb_flush(connection);
+}
+
+} // namespace quillon

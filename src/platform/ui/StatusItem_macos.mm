@@ -1,0 +1,115 @@
+#include "StatusItem.h"
+
+#include <QGuiApplication>
+#include <QMenu>
+
+#import <AppKit/AppKit.h>
+
+namespace quillon {
+
+namespace {
+
+NSColor* systemColor(SymbolColor color)
+{
+    switch (color) {
+    case SymbolColor::SystemGreen:
+        return NSColor.systemGreenColor;
+    case SymbolColor::SystemOrange:
+        return NSColor.systemOrangeColor;
+    case SymbolColor::SystemYellow:
+        return NSColor.systemYellowColor;
+    }
+    Q_UNREACHABLE();
+}
+
+/// Nothing before macOS 11, which has no symbols.
+NSImage* systemSymbol(const SymbolImage& symbol)
+{
+    NSImage* image = nil;
+    if (@available(macOS 11.0, *))
+        image = [NSImage imageWithSystemSymbolName:symbol.name.toNSString() accessibilityDescription:nil];
+    if (@available(macOS 12.0, *)) {
+        if (symbol.paletteColor) {
+            NSColor* color = systemColor(*symbol.paletteColor);
+            image = [image imageWithSymbolConfiguration:[NSImageSymbolConfiguration
+                                                            configurationWithPaletteColors:@[ color, color ]]];
+        }
+    }
+    if (symbol.isTemplate) // system symbols are templates by default; this only adds the mark
+        image.template = YES;
+    return image;
+}
+
+NSAttributedString* attributedString(const AttributedTitle& title)
+{
+    NSMutableParagraphStyle* paragraph = [[NSMutableParagraphStyle alloc] init];
+    paragraph.paragraphSpacing = title.paragraphSpacing;
+    paragraph.alignment = NSTextAlignmentRight;
+    return [[NSAttributedString alloc] initWithString:title.text.toNSString()
+                                           attributes:@{
+                                               NSFontAttributeName : [NSFont systemFontOfSize:title.pointSize],
+                                               NSParagraphStyleAttributeName : paragraph,
+                                               NSBaselineOffsetAttributeName : @(title.baselineOffset),
+                                           }];
+}
+
+class MacStatusItem final : public StatusItem {
+public:
+    MacStatusItem()
+        : item_([NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength])
+    {
+        item_.button.imagePosition = NSImageRight;
+        label({});
+    }
+    ~MacStatusItem() override { [NSStatusBar.systemStatusBar removeStatusItem:item_]; }
+
+    void setFontSize(double pointSize) override { item_.button.font = [NSFont systemFontOfSize:pointSize]; }
+
+    void setTitle(const QString& title) override
+    {
+        item_.button.title = title.toNSString();
+        label(title);
+    }
+
+    void setAttributedTitle(const AttributedTitle& title) override
+    {
+        item_.button.attributedTitle = attributedString(title);
+        label(title.text);
+    }
+
+    void setImage(const std::optional<SymbolImage>& image) override
+    {
+        item_.button.image = image ? systemSymbol(*image) : nil;
+    }
+
+    void setMenu(QMenu* menu) override { item_.menu = menu ? menu->toNSMenu() : nil; }
+
+    void present() override
+    {
+        // Qt's activateWindow() does not bring an accessory application to the front.
+        [NSApp activateIgnoringOtherApps:YES];
+        // The click returns only when the menu has been closed.
+        NSStatusBarButton* button = item_.button;
+        dispatch_async(dispatch_get_main_queue(), ^{
+          [button performClick:nil];
+        });
+    }
+
+private:
+    void label(const QString& text)
+    {
+        const QString name = text.isEmpty() ? QGuiApplication::applicationDisplayName() : text;
+        [item_.button setAccessibilityLabel:name.toNSString()];
+    }
+
+    NSStatusItem* item_;
+};
+
+} // namespace
+
+std::unique_ptr<StatusItem> makeStatusItem(StatusItemPlacement /*placement*/)
+{
+    return std::make_unique<MacStatusItem>();
+}
+
+} // namespace quillon

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "StatusItem.h"
+
+#include <QColor>
+#include <QIcon>
+#include <QPalette>
+#include <QPixmap>
+
+namespace quillon {
+
+/// Whether a palette shows light text on a dark ground.
+bool isDark(const QPalette& palette);
+
+/// The colour that a symbol has on the ground of the palette.
+QColor symbolColor(const SymbolImage& symbol, const QPalette& palette);
+
+/// The symbol as a square of `side` logical pixels; transparent where there is no symbol of that name.
+QPixmap symbolPixmap(const QString& name, int side, qreal devicePixelRatio, const QColor& color);
+
+/// The symbol in the sizes that trays ask for, rimmed by the ground of the palette, since a tray's own is not known.
+QIcon symbolIcon(const SymbolImage& symbol, const QPalette& palette);
+
+} // namespace quillon

@@ -1,0 +1,87 @@
+#include "TrayStatusItem_linux.h"
+
+#include "Symbol_linux.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QEvent>
+#include <QMenu>
+#include <QScreen>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+TrayStatusItem::TrayStatusItem()
+{
+    updateIcon();
+    qApp->installEventFilter(this);
+    connect(&icon_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        // The context click is answered by Qt or by the host itself.
+        if (reason == QSystemTrayIcon::Trigger)
+            openMenu();
+    });
+}
+
+TrayStatusItem::~TrayStatusItem() = default;
+
+void TrayStatusItem::setShown(bool shown)
+{
+    icon_.setVisible(shown);
+    // Only an embedded icon knows where it is.
+    if (shown && !protocol_)
+        protocol_ = icon_.geometry().isNull() ? TrayProtocol::StatusNotifier : TrayProtocol::XEmbed;
+}
+
+void TrayStatusItem::setContent(const StatusItemContent& content)
+{
+    icon_.setToolTip(content.title.text);
+    if (image_ == content.image)
+        return;
+    image_ = content.image;
+    updateIcon();
+}
+
+void TrayStatusItem::setMenu(QMenu* menu)
+{
+    menu_ = menu;
+    icon_.setContextMenu(menu);
+}
+
+void TrayStatusItem::present()
+{
+    openMenu();
+}
+
+bool TrayStatusItem::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
+        updateIcon();
+    return QObject::eventFilter(watched, event);
+}
+
+void TrayStatusItem::updateIcon()
+{
+    if (image_) {
+        icon_.setIcon(symbolIcon(*image_, QGuiApplication::palette()));
+        return;
+    }
+    constexpr int side = 22;
+    QPixmap nothing(side, side); // keeps the item's place
+    nothing.fill(Qt::transparent);
+    icon_.setIcon(nothing);
+}
+
+void TrayStatusItem::openMenu()
+{
+    if (!menu_)
+        return;
+    const QRect icon = icon_.geometry();
+    // A StatusNotifier host does not tell where it shows the icon, and Wayland does not tell where the pointer is.
+    const bool pointerKnown = QGuiApplication::platformName() != "wayland"_L1;
+    menu_->popup(!icon.isNull() ? icon.bottomLeft()
+                 : pointerKnown ? QCursor::pos()
+                                : QGuiApplication::primaryScreen()->availableGeometry().topRight());
+}
+
+} // namespace quillon

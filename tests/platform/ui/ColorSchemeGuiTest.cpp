@@ -1,0 +1,63 @@
+#include "ColorScheme_linux.h"
+#include "Symbol_linux.h"
+#include "host/FakeSettingsPortal.h"
+#include "host/PrivateBus.h"
+#include "host/Waiting.h"
+
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+using namespace Qt::StringLiterals;
+using enum ColorSchemePreference;
+using Version = FakeSettingsPortal::Version;
+
+class ColorSchemeTest : public testing::TestWithParam<Version> {
+protected:
+    QDBusConnection connection(const QString& side) { return bus_.connect(u"color scheme "_s + side); }
+    void TearDown() override
+    {
+        QDBusConnection::disconnectFromBus(u"color scheme portal"_s);
+        QDBusConnection::disconnectFromBus(u"color scheme reader"_s);
+    }
+
+private:
+    PrivateBus bus_;
+};
+
+TEST_P(ColorSchemeTest, IsReadFromAndFollowsThePortal)
+{
+    FakeSettingsPortal portal(connection(u"portal"_s), 1, GetParam());
+    ColorScheme scheme(connection(u"reader"_s));
+    EXPECT_TRUE(eventually([&] { return scheme.preference() == Dark; }));
+
+    portal.announce(u"org.freedesktop.appearance"_s, u"contrast"_s, 0);
+    portal.announce(u"org.gnome.desktop.interface"_s, u"color-scheme"_s, 2);
+    portal.setColorScheme(2);
+    EXPECT_TRUE(eventually([&] { return scheme.preference() != Dark; }));
+    EXPECT_EQ(scheme.preference(), Light);
+
+    constexpr uint unheardOf = 7;
+    portal.setColorScheme(unheardOf);
+    EXPECT_TRUE(eventually([&] { return scheme.preference() == None; }));
+}
+
+INSTANTIATE_TEST_SUITE_P(Portals, ColorSchemeTest, testing::Values(Version::Current, Version::Old),
+                         [](const auto& test) { return test.param == Version::Old ? "Old" : "Current"; });
+
+TEST(ApplicationPalette, TakesThePreferredSchemeAndGoesBackToTheDesktopsOwn)
+{
+    const QPalette own = QGuiApplication::palette();
+    for (const auto preference : {Dark, Light, Dark}) {
+        applyColorScheme(preference);
+        EXPECT_EQ(isDark(QGuiApplication::palette()), preference == Dark);
+    }
+    applyColorScheme(None);
+    EXPECT_EQ(QGuiApplication::palette(), own);
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,254 @@
+#include "host/FakeSettingsPortal.h"
+#include "host/FakeStatusNotifierTray.h"
+#include "host/Probe.h"
+#include "host/Waiting.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <set>
+
+namespace quillon {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A desktop with nothing on it yet but a display and a bus.
+class StatusItemTest : public testing::Test {
+protected:
+    ~StatusItemTest() override
+    {
+        for (const QString& name : std::as_const(connections_))
+            QDBusConnection::disconnectFromBus(name);
+    }
+
+    QDBusConnection connection()
+    {
+        connections_.append(u"desktop %1"_s.arg(connections_.size()));
+        return bus_.connect(connections_.last());
+    }
+    std::unique_ptr<FakeStatusNotifierTray> statusNotifierTray(bool withHost = true)
+    {
+        return std::make_unique<FakeStatusNotifierTray>(connection(), withHost);
+    }
+    std::unique_ptr<XEmbedTray> xembedTray() { return std::make_unique<XEmbedTray>(display_); }
+    void start(const QString& placement, const QStringList& environment = {})
+    {
+        probe_ = std::make_unique<Probe>(display_, bus_, placement, environment);
+    }
+
+    bool barComes()
+    {
+        return eventually([this] { return probe_->bar().has_value(); });
+    }
+    bool barGoes()
+    {
+        return eventually([this] { return !probe_->bar(); });
+    }
+    bool menuOpens()
+    {
+        return eventually([this] { return probe_->isMenuOpen(); });
+    }
+    bool menuCloses()
+    {
+        return eventually([this] { return !probe_->isMenuOpen(); });
+    }
+    static bool itemComes(const FakeStatusNotifierTray& tray)
+    {
+        return eventually([&tray] { return tray.items().size() == 1; });
+    }
+    static bool itemComes(const XEmbedTray& tray)
+    {
+        return eventually([&tray] { return tray.holds(Probe::windowName()); });
+    }
+    /// The middle of the item's image, in pixels of the display.
+    QPoint imageInBar(int scale = 1)
+    {
+        const QRect bar = probe_->bar().value_or(QRect());
+        constexpr int fromRight = 18;
+        return {(bar.right() - fromRight) * scale, bar.center().y() * scale};
+    }
+
+    /// Lightness of every pixel of the item, from the darkest to the lightest.
+    std::set<int> itemLightness()
+    {
+        const QRect bar = probe_->bar().value_or(QRect());
+        constexpr int itemWidth = 80;
+        const QImage item =
+            display_.screenshot().copy(bar.right() + 1 - itemWidth, bar.y(), itemWidth, bar.height() - 1);
+        std::set<int> found;
+        for (int y = 0; y < item.height(); ++y)
+            for (int x = 0; x < item.width(); ++x)
+                found.insert(item.pixelColor(x, y).lightness());
+        return found;
+    }
+
+    VirtualDisplay display_;
+    PrivateBus bus_;
+    std::unique_ptr<Probe> probe_;
+
+private:
+    QStringList connections_;
+};
+
+TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayWithTitleIconAndMenu)
+{
+    const auto tray = statusNotifierTray();
+    start(u"auto"_s);
+    ASSERT_TRUE(itemComes(*tray));
+    EXPECT_FALSE(probe_->bar());
+
+    const QString item = tray->items().constFirst();
+    EXPECT_EQ(tray->toolTip(item), u"Next:\n5h 12m"_s);
+    EXPECT_EQ(tray->menuLabels(item), (QStringList{u"Back up now"_s, u"Pause"_s, u"Quit"_s}));
+    const auto idle = tray->iconData(item);
+    EXPECT_FALSE(idle.isEmpty());
+
+    probe_->tell(u"title 45.3%|2m"_s);
+    probe_->tell(u"image clock.arrow.2.circlepath"_s);
+    EXPECT_EQ(tray->toolTip(item), u"45.3%\n2m"_s);
+    EXPECT_NE(tray->iconData(item), idle);
+
+    tray->activate(item);
+    EXPECT_TRUE(menuOpens());
+}
+
+TEST_F(StatusItemTest, GoesIntoAnXEmbedTray)
+{
+    const auto tray = xembedTray();
+    start(u"auto"_s);
+    ASSERT_TRUE(itemComes(*tray));
+    EXPECT_FALSE(probe_->bar());
+    probe_->tell(u"present"_s);
+    EXPECT_TRUE(menuOpens());
+}
+
+TEST_F(StatusItemTest, TheBarGivesWayToAStatusNotifierTrayAndComesBack)
+{
+    start(u"auto"_s);
+    ASSERT_TRUE(barComes());
+
+    auto tray = statusNotifierTray(false);
+    tray->setHost(true);
+    ASSERT_TRUE(itemComes(*tray));
+    EXPECT_TRUE(barGoes());
+
+    tray.reset();
+    ASSERT_TRUE(barComes());
+    display_.click(imageInBar());
+    EXPECT_TRUE(menuOpens()) << "the menu that the tray showed works in the bar";
+    display_.pressKey(u"Escape"_s);
+    ASSERT_TRUE(menuCloses());
+
+    tray = statusNotifierTray();
+    ASSERT_TRUE(itemComes(*tray));
+    EXPECT_TRUE(barGoes());
+    EXPECT_EQ(tray->menuLabels(tray->items().constFirst()).size(), 3);
+
+    tray->setHost(false);
+    EXPECT_TRUE(barComes()) << "a tray without a host shows nothing";
+}
+
+TEST_F(StatusItemTest, TheBarGivesWayToAnXEmbedTrayAndComesBack)
+{
+    start(u"auto"_s);
+    ASSERT_TRUE(barComes());
+    for (int turn = 0; turn < 2; ++turn) {
+        const auto tray = xembedTray();
+        ASSERT_TRUE(itemComes(*tray));
+        EXPECT_TRUE(barGoes());
+        tray->takeDown();
+        EXPECT_TRUE(barComes());
+    }
+}
+
+TEST_F(StatusItemTest, ATrayOfTheOtherKindThatTheIconCannotMoveToLeavesTheBar)
+{
+    auto first = statusNotifierTray();
+    start(u"auto"_s);
+    ASSERT_TRUE(itemComes(*first));
+    first.reset();
+    ASSERT_TRUE(barComes());
+
+    const auto second = xembedTray();
+    ASSERT_TRUE(eventually([&] { return second->isUp(); }));
+    display_.click(imageInBar());
+    EXPECT_TRUE(menuOpens());
+    display_.pressKey(u"Escape"_s);
+    ASSERT_TRUE(menuCloses());
+
+    first = statusNotifierTray();
+    EXPECT_TRUE(itemComes(*first));
+    EXPECT_TRUE(barGoes());
+}
+
+TEST_F(StatusItemTest, StaysWhereItIsTold)
+{
+    const auto tray = statusNotifierTray();
+    start(u"bar"_s);
+    EXPECT_TRUE(barComes());
+    EXPECT_TRUE(tray->items().isEmpty());
+}
+
+TEST_F(StatusItemTest, WaitsForATrayWhereTheBarIsUnwantedAndIsPresentedThen)
+{
+    start(u"tray"_s);
+    probe_->tell(u"present"_s);
+    EXPECT_FALSE(probe_->bar());
+    const auto tray = statusNotifierTray();
+    EXPECT_TRUE(itemComes(*tray));
+    EXPECT_TRUE(menuOpens());
+    EXPECT_FALSE(probe_->bar());
+}
+
+TEST_F(StatusItemTest, ClicksOpenAndCloseTheMenuUnderTheBar)
+{
+    start(u"bar"_s);
+    ASSERT_TRUE(barComes());
+    display_.click(imageInBar());
+    ASSERT_TRUE(menuOpens());
+    display_.click(imageInBar());
+    EXPECT_TRUE(menuCloses()) << "the click that closes the menu does not open it again";
+
+    display_.click(imageInBar());
+    ASSERT_TRUE(menuOpens());
+    display_.pressKey(u"Down"_s);
+    display_.pressKey(u"Return"_s);
+    EXPECT_TRUE(menuCloses());
+    EXPECT_EQ(probe_->tell(u"state"_s)[u"chosen"_s].toString(), u"Back up now"_s);
+}
+
+TEST_F(StatusItemTest, TheBarKeepsOtherWindowsOffItsStrip)
+{
+    const auto panel = xembedTray();
+    for (const int scale : {1, 2}) {
+        start(u"bar"_s, {u"QT_SCALE_FACTOR=%1"_s.arg(scale)});
+        ASSERT_TRUE(barComes());
+        const int bottom = (probe_->bar()->bottom() + 1) * scale;
+        const QString workArea = u"_NET_WORKAREA(CARDINAL) = 0, %1, 1280, "_s.arg(bottom);
+        EXPECT_TRUE(eventually([&] {
+            return display_.ask(u"xprop"_s, {u"-root"_s, u"_NET_WORKAREA"_s}).startsWith(workArea);
+        })) << scale;
+        EXPECT_EQ(probe_->bar()->top(), 0) << "its own strip does not push the bar down";
+        probe_.reset();
+    }
+}
+
+TEST_F(StatusItemTest, TheBarFollowsTheDesktopsColourScheme)
+{
+    constexpr uint dark = 1;
+    constexpr uint light = 2;
+    FakeSettingsPortal portal(connection(), dark);
+    start(u"bar"_s);
+    ASSERT_TRUE(barComes());
+    const auto shows = [this](bool darkGround) {
+        const std::set<int> lightness = itemLightness();
+        return darkGround ? *lightness.begin() > 20 && *lightness.begin() < 60 && *lightness.rbegin() > 220
+                          : *lightness.begin() < 60 && *lightness.rbegin() > 230;
+    };
+    EXPECT_TRUE(eventually([&] { return shows(true); }));
+    portal.setColorScheme(light);
+    EXPECT_TRUE(eventually([&] { return shows(false); }));
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "PrivateBus.h"
+#include "VirtualDisplay.h"
+
+#include <QJsonObject>
+#include <QRect>
+
+#include <optional>
+
+namespace quillon {
+
+/// A running program with a status item, on a display and a bus of its own.
+class Probe {
+public:
+    /// @param placement "auto", "tray" or "bar"
+    Probe(const VirtualDisplay& display, const PrivateBus& bus, const QString& placement,
+          const QStringList& environment = {});
+
+    /// Has the program do something (see StatusItemProbe.cpp) and tells how things stand.
+    QJsonObject tell(const QString& command);
+    /// Where the bar is, in logical pixels; nothing when there is none.
+    std::optional<QRect> bar();
+    bool isMenuOpen();
+
+    /// Name of the program's windows.
+    static QString windowName();
+
+private:
+    ChildProgram program_;
+};
+
+} // namespace quillon

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ChildProgram.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace quillon {
+
+/// An X server without a screen that anybody sees, 1280 by 800 pixels.
+class VirtualDisplay {
+public:
+    VirtualDisplay();
+
+    /// "DISPLAY=..." for children.
+    QString variable() const { return variable_; }
+    /// What is on the screen now.
+    QImage screenshot() const;
+    void click(QPoint position) const;
+    void pressKey(const QString& name) const;
+    /// Output of an X11 client that tells something about the display.
+    QString ask(const QString& program, const QStringList& arguments) const;
+
+private:
+    ChildProgram server_;
+    QString variable_;
+};
+
+/// A window manager and a panel with a tray of the XEmbed kind along the lower edge of the display.
+class XEmbedTray {
+public:
+    explicit XEmbedTray(const VirtualDisplay& display);
+
+    void takeDown();
+    /// Whether the panel has taken the tray's place on the display.
+    bool isUp() const;
+    /// Whether a window of that name sits in the tray.
+    bool holds(const QString& windowName) const;
+
+private:
+    QString panelWindows() const;
+
+    const VirtualDisplay& display_;
+    QTemporaryDir folder_;
+    ChildProgram windowManager_;
+    std::unique_ptr<ChildProgram> panel_;
+};
+
+} // namespace quillon

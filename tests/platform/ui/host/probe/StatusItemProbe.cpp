@@ -1,0 +1,87 @@
+// A program with nothing but a status item. It obeys the lines on its standard input and answers each with one line of
+// JSON about what is on the screen; it ends with its input.
+
+#include "StatusItem.h"
+
+#include <QApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMenu>
+#include <QSocketNotifier>
+
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+quillon::StatusItemPlacement placementNamed(const QString& name)
+{
+    if (name == "tray"_L1)
+        return quillon::StatusItemPlacement::Tray;
+    return name == "bar"_L1 ? quillon::StatusItemPlacement::Bar : quillon::StatusItemPlacement::Automatic;
+}
+
+QJsonObject screenState(const QMenu& menu, const QString& chosen)
+{
+    QJsonObject state{{u"menuOpen"_s, menu.isVisible()}, {u"chosen"_s, chosen}};
+    const auto widgets = QApplication::topLevelWidgets();
+    for (const QWidget* widget : widgets) {
+        if (widget->objectName() == "MenuBarWindow"_L1 && widget->isVisible()) {
+            const QRect bar = widget->geometry();
+            state[u"bar"_s] =
+                QJsonObject{{u"x"_s, bar.x()}, {u"y"_s, bar.y()}, {u"w"_s, bar.width()}, {u"h"_s, bar.height()}};
+        }
+    }
+    return state;
+}
+
+void obey(const QString& line, quillon::StatusItem& item)
+{
+    const QString command = line.section(u' ', 0, 0);
+    const QString argument = line.section(u' ', 1).replace(u'|', u'\n');
+    if (command == "title"_L1)
+        item.setAttributedTitle({.text = argument, .pointSize = 9.5, .paragraphSpacing = -5.0, .baselineOffset = -5.0});
+    else if (command == "image"_L1)
+        item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = {}});
+    else if (command == "orange"_L1)
+        item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = quillon::SymbolColor::SystemOrange});
+    else if (command == "present"_L1)
+        item.present();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationDisplayName(u"Quillon"_s);
+
+    QString chosen;
+    QMenu menu;
+    menu.addAction(u"Back up now"_s, &menu, [&chosen] { chosen = u"Back up now"_s; });
+    menu.addMenu(u"Pause"_s)->addAction(u"1 hour"_s);
+    menu.addAction(u"Quit"_s, &application, &QApplication::quit);
+
+    const auto item = quillon::makeStatusItem(placementNamed(QApplication::arguments().value(1)));
+    item->setAttributedTitle(
+        {.text = u"Next:\n5h 12m"_s, .pointSize = 9.5, .paragraphSpacing = -5.0, .baselineOffset = -5.0});
+    item->setImage(quillon::SymbolImage{.name = u"clock.arrow.circlepath"_s, .paletteColor = {}});
+    item->setMenu(&menu);
+
+    QSocketNotifier input(fileno(stdin), QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &application, [&] {
+        std::string line;
+        if (!std::getline(std::cin, line)) {
+            QApplication::quit();
+            return;
+        }
+        obey(QString::fromStdString(line), *item);
+        const auto answer = QJsonDocument(screenState(menu, chosen)).toJson(QJsonDocument::Compact);
+        std::cout << answer.toStdString() << std::endl;
+    });
+    return QApplication::exec();
+}
