@@ -1,0 +1,266 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>Today</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>Tomorrow</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>Yesterday</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>N/A</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>Not Running</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>Unknown</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>Starting</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>Looking for Backup Disk</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>Connecting to Backup Disk</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>Preparing Backup</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>Copying</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>Cleaning Up</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>Performing Health Check</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>Finishing</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>Provide Permission</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>Permission Required</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>To open the Time Machine preferences, click “%1” and allow %2 to control System Preferences. Then try again.</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>Next</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>Retry</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>Starting</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>Running</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>Stopping</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>Latest Backup</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>Phase</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>copied</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>Backup Disk</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>Next Backup</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>Disabled</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>No backup is scheduled</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>Retry</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>Remaining Time</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>Calculating</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>Back Up Now</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>Skip This Backup</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>Skip This Backup</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>Skip Retry</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Enter Time Machine</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Browse Time Machine Backups</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>Open Time Machine Preferences</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>Open Time Machine Settings</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>Update Available</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>Settings</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>About Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>Quit %1</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>Pause Schedule For</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>Schedule Paused Until</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>Resume Schedule</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 Hour</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 Hours</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 Hours</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 Hours</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 Hours</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 Day</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 Days</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 Days</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 Days</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 Days</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 Days</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 Week</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 Weeks</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 Weeks</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 Weeks</translation>
+    </message>
+</context>
+</TS>
