@@ -1,0 +1,107 @@
+#include "TMStatus.h"
+
+#include "PlistAccess.h"
+#include "PropertyList.h"
+
+#include <QVariantMap>
+
+#include <algorithm>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace propertylist;
+
+namespace {
+
+/// The property list in the tool's text: from the first "{" to the last "}", whatever stands around it.
+QByteArray cutPropertyList(const QByteArray& output)
+{
+    const auto first = output.indexOf('{');
+    const auto last = output.lastIndexOf('}');
+    return first < 0 || last < first ? QByteArray() : output.mid(first, last - first + 1);
+}
+
+/// Read in single precision, as the tool's own clients do, then widened; negative or not a number is 0.
+double fraction(const QVariant& value)
+{
+    const double number = toFloat(value);
+    return number >= 0 ? number : 0.0;
+}
+
+/// Scales the progress of the current stage to the whole backup.
+double scaleToWholeBackup(double stage, const QVariantMap& status)
+{
+    if (const auto event = scalar(status, u"EventFractionOfTotalProgressBar"_s); event.isValid()) {
+        const double e = fraction(event);
+        return (1 - e) * stage + e;
+    }
+    if (const auto share = scalar(status, u"FractionOfProgressBar"_s); share.isValid()) {
+        const double f = fraction(share);
+        return f * stage + (1 - f);
+    }
+    return stage;
+}
+
+void readProgress(const QVariantMap& progress, const QVariantMap& status, TMStatus& result)
+{
+    if (const auto percent = scalar(progress, u"Percent"_s); percent.isValid())
+        result.percent = scaleToWholeBackup(fraction(percent), status);
+    result.timeRemaining = fraction(scalar(progress, u"TimeRemaining"_s));
+    result.bytesCopied = std::max<qlonglong>(toInteger(scalar(progress, u"bytes"_s)), 0);
+}
+
+TMStatus runningStatus(const QVariantMap& status)
+{
+    const auto phase = scalar(status, u"BackupPhase"_s);
+    if (!phase.isValid())
+        return TMStatus::failure();
+    TMStatus result;
+    result.phase = phase.toString();
+    result.destinationID = scalar(status, u"DestinationID"_s).toString();
+    result.state = toBoolean(scalar(status, u"Stopping"_s)) ? TMState::Stopping : TMState::Running;
+    if (const auto progress = dictionary(status, u"Progress"_s)) {
+        readProgress(*progress, status, result);
+    } else {
+        // A missing key reads as 0 and so gives 0, as having only one of the two does.
+        result.percent =
+            fraction(scalar(status, u"FractionOfProgressBar"_s)) * fraction(scalar(status, u"FractionDone"_s));
+    }
+    return result;
+}
+
+} // namespace
+
+TMStatus TMStatus::failure()
+{
+    TMStatus status;
+    status.failed = true;
+    status.state = TMState::Unknown;
+    status.phase = u"Unknown"_s;
+    return status;
+}
+
+TMStatus TMStatus::notRunning()
+{
+    TMStatus status;
+    status.phase = u"Not Running"_s;
+    return status;
+}
+
+TMStatus TMStatus::fromOutput(const std::optional<QByteArray>& output)
+{
+    if (!output)
+        return failure();
+    const auto list = parse(cutPropertyList(*output));
+    if (!list || list->typeId() != QMetaType::QVariantMap)
+        return failure();
+    QVariantMap status = list->toMap();
+    if (const auto report = dictionary(status, u"lastReport"_s))
+        status = *report;
+    const auto running = scalar(status, u"Running"_s);
+    if (!running.isValid())
+        return failure();
+    return toBoolean(running) ? runningStatus(status) : notRunning();
+}
+
+} // namespace quillon

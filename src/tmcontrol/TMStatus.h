@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace quillon {
+
+/// What Time Machine is doing.
+enum class TMState : std::int64_t {
+    Unknown = -1,   ///< the status could not be read
+    NotRunning = 0, ///< no backup runs
+    Running = 1,    ///< a backup runs
+    Stopping = 2,   ///< a backup runs and is being stopped
+    Starting = 3,   ///< the status menu's own: a start was accepted, the run is not reported yet
+};
+
+/// One status report of Time Machine.
+struct TMStatus {
+    bool failed = false;                 ///< the status could not be read
+    TMState state = TMState::NotRunning; ///< never Starting
+    QString phase;                       ///< raw phase word, "Not Running" or "Unknown"
+    double percent = 0;                  ///< progress of the whole backup, a fraction; not bounded from above
+    double timeRemaining = 0;            ///< seconds; 0 when unknown
+    std::int64_t bytesCopied = 0;        ///< 0 when unknown
+    QString destinationID;               ///< empty when not reported
+
+    static TMStatus failure();
+    static TMStatus notRunning();
+
+    /// Reads what "tmutil status" printed; nothing, or anything that cannot be read, gives failure().
+    static TMStatus fromOutput(const std::optional<QByteArray>& output);
+
+    bool operator==(const TMStatus&) const = default;
+};
+
+} // namespace quillon

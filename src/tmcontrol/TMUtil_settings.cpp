@@ -1,0 +1,52 @@
+#include "LocalizedString.h"
+#include "ProcessInfo.h"
+#include "TMUtil.h"
+
+#include <QUrl>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+void TMUtil::openTimeMachineSettings(const QString& applicationName)
+{
+    if (operatingSystemVersion().major >= 13) {
+        workspace_.openURL(QUrl(u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s), {});
+        return;
+    }
+    if (settingsScript_)
+        return; // it is being opened
+    TaskRequest script;
+    script.executable = u"/usr/bin/osascript"_s;
+    script.arguments = {u"-e"_s, u"tell Application \"System Preferences\""_s,
+                        u"-e"_s, u"activate"_s,
+                        u"-e"_s, u"set the current pane to pane id \"com.apple.prefs.backup\""_s,
+                        u"-e"_s, u"end tell"_s};
+    script.environmentName = u"command"_s;
+    script.environmentValue = u"OpenTimeMachinePrefs"_s;
+    script.captureOutput = false;
+    settingsScript_ = launcher_.launch(script, [this, applicationName](const TaskResult& result) {
+        runLoop_.enqueue([this, applicationName, allowed = result.status == 0] {
+            settingsScript_.reset();
+            if (!allowed)
+                presentPermissionAlert(applicationName);
+        });
+    });
+}
+
+void TMUtil::presentPermissionAlert(const QString& applicationName)
+{
+    AlertRequest alert;
+    alert.style = AlertStyle::Critical;
+    alert.messageText = localizedString("permissionRequiredAlertTitle");
+    const QString provide = localizedString("AlertButtonProvidePermission");
+    alert.informativeText = localizedString("timeMachinePermissionRequiredAlertMessage").arg(provide, applicationName);
+    alert.buttons = {localizedString("AlertButtonClose"), provide};
+    alerts_.present(alert, [this](int response) {
+        if (response == alertSecondButtonReturn)
+            workspace_.openURL(QUrl(u"x-apple.systempreferences:com.apple.preference.security?Privacy_Automation"_s),
+                               {});
+    });
+}
+
+} // namespace quillon
