@@ -1,0 +1,53 @@
+#include "CalendarIntervalRule.h"
+
+#include "PropertyList.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+CalendarIntervalRule CalendarIntervalRule::fromDictionary(const QVariantMap& dictionary)
+{
+    CalendarIntervalRule rule;
+    rule.others = dictionary;
+    rule.day = propertylist::toInteger(rule.others.take(u"day"_s));
+    rule.time = propertylist::toInteger(rule.others.take(u"time"_s));
+    return rule;
+}
+
+QVariantMap CalendarIntervalRule::toDictionary() const
+{
+    QVariantMap dictionary = others;
+    dictionary.insert(u"day"_s, day);
+    dictionary.insert(u"time"_s, time);
+    return dictionary;
+}
+
+QList<CalendarIntervalRule> CalendarIntervalRule::listFromArray(const QVariantList& array)
+{
+    QList<CalendarIntervalRule> rules;
+    for (const auto& entry : array) {
+        if (entry.typeId() == QMetaType::QVariantMap)
+            rules.append(fromDictionary(entry.toMap()));
+    }
+    return rules;
+}
+
+QVariantList CalendarIntervalRule::listToArray(const QList<CalendarIntervalRule>& rules)
+{
+    QVariantList array;
+    for (const auto& rule : rules)
+        array.append(rule.toDictionary());
+    return array;
+}
+
+bool CalendarIntervalRule::allowsWeekday(int weekday) const
+{
+    if (day == everyDay)
+        return true;
+    if (day == mondayToFriday)
+        return weekday >= 2 && weekday <= 6;
+    return weekday == day;
+}
+
+} // namespace quillon

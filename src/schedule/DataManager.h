@@ -1,0 +1,109 @@
+#pragma once
+
+#include "BackupInfo.h"
+#include "CalendarIntervalRule.h"
+#include "LoginItem.h"
+#include "NextBackup.h"
+#include "NotificationCenter.h"
+#include "RunLoop.h"
+#include "UserDefaults.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace quillon {
+
+/// The model of settings and schedule: the rules, the date of the next backup with the timer that starts it, and the
+/// latest backup of each disk. Main thread only.
+///
+/// It is the only writer of the rules and of the latest-backup list; every other setting is written by the control that
+/// changes it and read where it is needed.
+class DataManager {
+public:
+    struct Services {
+        RunLoop& runLoop;
+        UserDefaults& defaults;
+        NotificationCenter& notifications;
+        LoginItem& loginItem;
+    };
+
+    /// A scheduled start that is found late by less than this is still made; a later one counts as missed.
+    static constexpr std::chrono::seconds startGrace{60};
+
+    /// Registers the defaults, loads what is stored and plans the next backup.
+    explicit DataManager(const Services& services);
+    DataManager(const DataManager&) = delete;
+    DataManager& operator=(const DataManager&) = delete;
+
+    /// The program's one instance; main creates it before anything asks for it.
+    static DataManager& sharedInstance();
+    static DataManager& createSharedInstance(const Services& services);
+
+    bool isScheduleEnabled() const { return isScheduleEnabled_; }
+    const QList<CalendarIntervalRule>& calendarIntervalSettings() const { return calendarIntervalSettings_; }
+    std::optional<Date> nextScheduledBackupDate() const { return nextScheduledBackupDate_; }
+    std::optional<Date> retryBackupDate() const { return retryBackupDate_; }
+    const QList<BackupInfo>& latestBackupInfo() const { return latestBackupInfo_; }
+    /// Key for the titles of the commands that open Time Machine's system settings.
+    const char* openSystemPreferencesTitleLocaleKey() const { return openSystemPreferencesTitleLocaleKey_; }
+    const Timer& startBackupTimer() const { return startBackupTimer_; }
+
+    /// Does not store the switch: whoever changes the control writes it. An equal value changes nothing.
+    void setIsScheduleEnabled(bool enabled);
+
+    void addNewSchedule();
+    /// `key` is "day" or "time"; the index must be that of a rule.
+    void updateBackupScheduleAtIndex(std::size_t index, qlonglong value, const QString& key);
+    /// The index must be that of a rule.
+    void deleteBackupScheduleAtIndex(std::size_t index);
+    /// Stores the rules and plans the next backup anew, also while the schedule is off; a pending retry stays when it
+    /// is not later than the new date.
+    void saveAndBackupCalendarIntervalSettings();
+
+    /// The next date that the rules give; nothing without rules. A pause that has ended is removed from the settings.
+    std::optional<Date> getNextBackupDate();
+    /// Plans the next backup; with the schedule on, a pending retry is dropped.
+    void scheduleNextBackup();
+    /// Arms the start timer for the date, or disarms it.
+    void setNextScheduledBackupDate(std::optional<Date> date);
+    /// Plans a retry in place of the next regular start, unless that comes first; nothing cancels a pending retry.
+    void setRetryBackupDate(std::optional<Date> date);
+    /// Disarms the start timer before the system sleeps; the date stays.
+    void pauseBackupSchedule();
+    /// The wall clock was set back. After a large step the dates that have fired already count again.
+    void clockWasSetBack(std::chrono::milliseconds step);
+    /// Makes a start now whose date has passed by less than startGrace, as its timer would have.
+    void makeStartThatIsDue();
+    static nextbackup::TimeComponents timeComponentsFromTimeInterval(double seconds);
+
+    /// Notes a completed backup: one record a disk, newest first; stored at once.
+    void recordLatestBackup(const QString& diskIdentifier, const QString& diskName, std::int64_t totalBytes, Date date);
+    void saveLatestBackupInfo();
+    QList<BackupInfo> loadLatestBackupInfo() const;
+    static QVariantList archiveLatestBackInfo(const QList<BackupInfo>& records);
+    static QList<BackupInfo> unArchiveLatestBackupInfo(const QVariantList& archived);
+
+private:
+    void registerUserDefaults();
+    void startTimerFired();
+
+    RunLoop& runLoop_;
+    UserDefaults& defaults_;
+    NotificationCenter& notifications_;
+    LoginItem& loginItem_;
+
+    bool isScheduleEnabled_ = false;
+    std::optional<Date> retryBackupDate_;
+    QList<CalendarIntervalRule> calendarIntervalSettings_;
+    std::optional<Date> nextScheduledBackupDate_;
+    QList<BackupInfo> latestBackupInfo_;
+    const char* openSystemPreferencesTitleLocaleKey_ = nullptr;
+    Timer startBackupTimer_;
+    std::optional<Date> lastFiredDate_;
+};
+
+} // namespace quillon
