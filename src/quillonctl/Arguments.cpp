@@ -1,0 +1,96 @@
+#include "Arguments.h"
+
+#include "Calendar.h"
+
+#include <QDate>
+#include <QRegularExpression>
+#include <QTime>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostDates = 1000;
+
+/// "2026-11-21T12:00", seconds allowed, a blank for the T; on the clock of the current time zone.
+std::optional<Date> readLocalDateTime(const QString& text)
+{
+    static const QRegularExpression form(uR"(^(\d{4}-\d{2}-\d{2})[T ](\d{2}:\d{2}(?::\d{2})?)$)"_s);
+    const auto match = form.match(text);
+    const QDate day = QDate::fromString(match.captured(1), Qt::ISODate);
+    const QTime time = QTime::fromString(match.captured(2), Qt::ISODate);
+    if (!match.hasMatch() || !day.isValid() || !time.isValid())
+        return std::nullopt;
+    return Calendar().date({day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()});
+}
+
+std::optional<Arguments::Command> readCommand(const QString& word)
+{
+    using Command = Arguments::Command;
+    if (word == "status"_L1)
+        return Command::Status;
+    if (word == "destinations"_L1)
+        return Command::Destinations;
+    if (word == "next"_L1)
+        return Command::Next;
+    if (word == "--help"_L1 || word == "-h"_L1)
+        return Command::Help;
+    if (word == "--version"_L1)
+        return Command::Version;
+    return std::nullopt;
+}
+
+/// Reads the option at words[i] and its value; what is wrong with it, or the empty text.
+QString readOption(const QStringList& words, qsizetype& i, Arguments& arguments)
+{
+    const QString& word = words[i];
+    const bool ofNext = arguments.command == Arguments::Command::Next;
+    const bool answers = ofNext || arguments.command == Arguments::Command::Status ||
+                         arguments.command == Arguments::Command::Destinations;
+    if (word == "--json"_L1 && answers) {
+        arguments.json = true;
+        return {};
+    }
+    if ((word != "--count"_L1 && word != "--from"_L1) || !ofNext)
+        return u"unexpected argument \"%1\""_s.arg(word);
+    if (++i == words.size())
+        return u"%1 needs a value"_s.arg(word);
+    if (word == "--from"_L1) {
+        arguments.from = readLocalDateTime(words[i]);
+        return arguments.from
+                   ? QString()
+                   : u"--from takes a local date and time such as 2026-11-21T12:00, not \"%1\""_s.arg(words[i]);
+    }
+    bool isNumber = false;
+    arguments.count = words[i].toInt(&isNumber);
+    return isNumber && arguments.count >= 1 && arguments.count <= mostDates
+               ? QString()
+               : u"--count takes a number from 1 to %1, not \"%2\""_s.arg(QString::number(mostDates), words[i]);
+}
+
+} // namespace
+
+std::optional<Arguments> Arguments::parse(const QStringList& words, QString* error)
+{
+    if (words.isEmpty()) {
+        *error = u"a command is missing: status, destinations or next"_s;
+        return std::nullopt;
+    }
+    const auto command = readCommand(words.first());
+    if (!command) {
+        *error = u"unknown command \"%1\": it is status, destinations or next"_s.arg(words.first());
+        return std::nullopt;
+    }
+    Arguments arguments;
+    arguments.command = *command;
+    for (qsizetype i = 1; i < words.size(); ++i) {
+        *error = readOption(words, i, arguments);
+        if (!error->isEmpty())
+            return std::nullopt;
+    }
+    return arguments;
+}
+
+} // namespace quillon

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Date.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace quillon {
+
+/// What quillonctl was asked for.
+struct Arguments {
+    enum class Command { Help, Version, Status, Destinations, Next };
+
+    Command command = Command::Help;
+    bool json = false;
+    int count = 5;            ///< how many coming dates
+    std::optional<Date> from; ///< look for them from here on instead of from now
+
+    /// Reads the words behind the program's name; nothing, with one clear line in `error`, when they are wrong.
+    static std::optional<Arguments> parse(const QStringList& words, QString* error);
+};
+
+} // namespace quillon

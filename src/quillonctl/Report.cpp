@@ -1,0 +1,83 @@
+#include "Report.h"
+
+#include "Calendar.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstdlib>
+
+namespace quillon::report {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray text(const QString& lines)
+{
+    return lines.toUtf8();
+}
+
+/// ISO 8601 with the offset that holds at that instant, such as "2026-11-21T12:00:00+01:00".
+QString isoDate(Date date)
+{
+    const Calendar calendar;
+    const LocalTime local = calendar.localTime(date);
+    const int offset = calendar.offsetFromUtc(date);
+    const int minutes = std::abs(offset) / 60;
+    return QString::asprintf("%04d-%02d-%02dT%02d:%02d:%02d%c%02d:%02d", local.year, local.month, local.day, local.hour,
+                             local.minute, local.second, offset < 0 ? '-' : '+', minutes / 60, minutes % 60);
+}
+
+} // namespace
+
+QByteArray status(const TMStatus& status, bool json)
+{
+    const auto state = static_cast<qint64>(status.state);
+    if (json) {
+        const QJsonObject object{{u"failed"_s, status.failed},
+                                 {u"state"_s, state},
+                                 {u"phase"_s, status.phase},
+                                 {u"percent"_s, status.percent},
+                                 {u"timeRemaining"_s, status.timeRemaining},
+                                 {u"bytesCopied"_s, static_cast<qint64>(status.bytesCopied)},
+                                 {u"destinationID"_s, status.destinationID}};
+        return QJsonDocument(object).toJson();
+    }
+    const QString lines = u"failed:         %1\n"
+                          "state:          %2\n"
+                          "phase:          %3\n"
+                          "percent:        %4\n"
+                          "timeRemaining:  %5\n"
+                          "bytesCopied:    %6\n"
+                          "destinationID:  %7\n"_s;
+    return text(lines.arg(status.failed ? u"yes"_s : u"no"_s, QString::number(state), status.phase,
+                          QString::number(status.percent), QString::number(status.timeRemaining),
+                          QString::number(status.bytesCopied), status.destinationID));
+}
+
+QByteArray destinations(const QList<BackupDestination>& destinations, bool json)
+{
+    QJsonArray array;
+    QString lines;
+    for (const auto& destination : destinations) {
+        array.append(
+            QJsonObject{{u"id"_s, destination.id}, {u"name"_s, destination.name}, {u"isLast"_s, destination.isLast}});
+        lines += u"%1  %2%3\n"_s.arg(destination.id, destination.name, destination.isLast ? u"  (last used)"_s : u""_s);
+    }
+    return json ? QJsonDocument(array).toJson() : text(lines);
+}
+
+QByteArray starts(const QList<Date>& starts, bool json)
+{
+    QJsonArray array;
+    QString lines;
+    for (const Date start : starts) {
+        array.append(QJsonObject{{u"date"_s, isoDate(start)}});
+        lines += isoDate(start) + u'\n';
+    }
+    return json ? QJsonDocument(array).toJson() : text(lines);
+}
+
+} // namespace quillon::report
