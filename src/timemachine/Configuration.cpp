@@ -1,0 +1,145 @@
+#include "Configuration.h"
+
+#include "Failure.h"
+#include "KeyStore.h"
+#include "ProcessLock.h"
+#include "PropertyListFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QUuid>
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto destinationsKey = "Destinations"_L1;
+constexpr auto sourcesKey = "Sources"_L1;
+
+/// The folder's own path, free of links and of dots.
+QString existingFolder(const QString& path)
+{
+    QString canonical = QFileInfo(path).canonicalFilePath();
+    if (canonical.isEmpty())
+        throw Failure(ExitStatus::NoInput, u"\"%1\" does not exist."_s.arg(path));
+    if (!QFileInfo(canonical).isDir())
+        throw Failure(ExitStatus::NoInput, u"\"%1\" is not a folder."_s.arg(path));
+    return canonical;
+}
+
+QString volumeName(const QString& path)
+{
+    const QString last = QFileInfo(path).fileName();
+    return last.isEmpty() ? path : last;
+}
+
+Destination fromDictionary(const QVariantMap& entry)
+{
+    return {entry.value(u"ID"_s).toString(), entry.value(u"Name"_s).toString(), entry.value(u"Path"_s).toString()};
+}
+
+QVariantMap toDictionary(const Destination& destination)
+{
+    return {{u"ID"_s, destination.id}, {u"Name"_s, destination.name}, {u"Path"_s, destination.path}};
+}
+
+} // namespace
+
+Configuration::Configuration(const Folders& folders)
+    : folders_(folders)
+{
+    read();
+}
+
+QStringList Configuration::sources() const
+{
+    const QStringList named = contents_.value(sourcesKey).toStringList();
+    return named.isEmpty() ? QStringList(folders_.home) : named;
+}
+
+Destination Configuration::setDestination(const QString& path, bool append)
+{
+    const QString folder = existingFolder(path);
+    makePrivateFolder(folders_.configuration);
+    ProcessLock lock(file() + ".lock"_L1);
+    lock.lock();
+    read();
+
+    Destination destination = destinationAt(folder);
+    if (!QDir().mkpath(destination.repository()) ||
+        access(QFile::encodeName(destination.repository()).constData(), W_OK) != 0)
+        throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be written to."_s.arg(folder));
+    KeyStore(folders_.configuration).ensure(destination.id);
+
+    if (!append)
+        destinations_.clear();
+    if (std::ranges::find(destinations_, destination) == destinations_.end())
+        destinations_.push_back(destination);
+    write();
+    return destination;
+}
+
+void Configuration::addSource(const QString& path)
+{
+    const QString folder = existingFolder(path);
+    makePrivateFolder(folders_.configuration);
+    ProcessLock lock(file() + ".lock"_L1);
+    lock.lock();
+    read();
+
+    QStringList named = contents_.value(sourcesKey).toStringList();
+    if (named.contains(folder))
+        return;
+    named.append(folder);
+    contents_.insert(sourcesKey, QVariantList(named.begin(), named.end()));
+    write();
+}
+
+void Configuration::read()
+{
+    const auto contents = readPropertyListFile(file());
+    if (!contents)
+        throw Failure(ExitStatus::Configuration, u"The configuration \"%1\" is damaged."_s.arg(file()));
+    contents_ = *contents;
+    destinations_.clear();
+    for (const QVariant& entry : contents_.value(destinationsKey).toList()) {
+        const Destination destination = fromDictionary(entry.toMap());
+        if (!destination.id.isEmpty() && QDir::isAbsolutePath(destination.path))
+            destinations_.push_back(destination);
+    }
+}
+
+void Configuration::write()
+{
+    QVariantList entries;
+    for (const Destination& destination : destinations_)
+        entries.append(toDictionary(destination));
+    contents_.insert(destinationsKey, entries);
+    if (!writePropertyListFile(file(), contents_))
+        throw Failure(ExitStatus::CannotWrite, u"The configuration \"%1\" cannot be written."_s.arg(file()));
+}
+
+QString Configuration::file() const
+{
+    return folders_.configuration + "/configuration.plist"_L1;
+}
+
+Destination Configuration::destinationAt(const QString& path) const
+{
+    const auto known = std::ranges::find(destinations_, path, &Destination::path);
+    if (known != destinations_.end() && known->isPresent())
+        return *known;
+    const KeyStore keys(folders_.configuration);
+    for (const QString& id : QDir(Destination::backupFolder(path)).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        if (keys.contains(id))
+            return {id, volumeName(path), path};
+    }
+    return {QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(), volumeName(path), path};
+}
+
+} // namespace quillon

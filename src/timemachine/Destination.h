@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// A backup disk: a folder, usually where a disk is mounted, that holds this user's repository.
+struct Destination {
+    QString id;   ///< random UUID in upper case
+    QString name; ///< shown to people
+    QString path; ///< absolute, without links
+
+    bool operator==(const Destination&) const = default;
+
+    /// Where restic keeps the backups. The folder is made when the destination is set and bears its identifier, so
+    /// that the empty mount point of an absent disk, or another disk in its place, is not taken for it.
+    QString repository() const;
+
+    /// Whether the disk is there.
+    bool isPresent() const;
+
+    /// The folder of a disk in which the repositories of all its users lie.
+    static QString backupFolder(const QString& path);
+};
+
+} // namespace quillon

@@ -1,0 +1,39 @@
+#include "DestinationReport.h"
+
+#include "PropertyList.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+QByteArray destinationText(const std::vector<Destination>& destinations, const QString& lastId)
+{
+    if (destinations.empty())
+        return "No destinations configured.\n";
+    QString text;
+    for (const Destination& destination : destinations) {
+        text += destination.id == lastId ? "> "_L1 + QString(50, u'=') : QString(52, u'=');
+        text += "\nName          : "_L1 + destination.name + "\nKind          : Local\n"_L1;
+        if (destination.isPresent())
+            text += "Mount Point   : "_L1 + destination.path + u'\n';
+        text += "ID            : "_L1 + destination.id + u'\n';
+    }
+    return text.toUtf8();
+}
+
+QByteArray destinationXml(const std::vector<Destination>& destinations, const QString& lastId)
+{
+    QVariantList entries;
+    for (const Destination& destination : destinations) {
+        QVariantMap entry{{u"ID"_s, destination.id},
+                          {u"Name"_s, destination.name},
+                          {u"Kind"_s, u"Local"_s},
+                          {u"LastDestination"_s, qlonglong{destination.id == lastId ? 1 : 0}}};
+        if (destination.isPresent())
+            entry.insert(u"MountPoint"_s, destination.path);
+        entries.append(entry);
+    }
+    return propertylist::toXml(QVariantMap{{u"Destinations"_s, entries}}).value_or(QByteArray());
+}
+
+} // namespace quillon

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Destination.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+namespace quillon {
+
+/// What `destinationinfo` says, for people and, as an XML property list, for programs. `lastId` is the destination
+/// used last; a disk that is not there is listed without its mount point.
+QByteArray destinationText(const std::vector<Destination>& destinations, const QString& lastId);
+QByteArray destinationXml(const std::vector<Destination>& destinations, const QString& lastId);
+
+} // namespace quillon

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace quillon {
+
+/// What the exit statuses of tmutil mean; scripts may rely on them. Where sysexits.h has a number, it is taken.
+enum class ExitStatus {
+    Success = 0,
+    Failed = 1,             ///< a backup or restore failed; the line on standard error says why
+    NoDestination = 2,      ///< no backup disk has been set
+    UnknownDestination = 3, ///< no backup disk has the identifier asked for
+    DestinationMissing = 4, ///< the backup disk is not there
+    AlreadyRunning = 5,     ///< a backup is running
+    NoBackup = 6,           ///< there is no such backup, or nothing has been backed up yet
+    PathExists = 7,         ///< a restore would overwrite something
+    Stopped = 8,            ///< the backup that was waited for has been stopped
+    ResticMissing = 9,      ///< restic is not installed
+    Usage = 64,             ///< EX_USAGE: the command line makes no sense
+    NoInput = 66,           ///< EX_NOINPUT: a folder that was named does not exist
+    CannotWrite = 73,       ///< EX_CANTCREAT: a file of tmutil's own cannot be written
+    Configuration = 78,     ///< EX_CONFIG: the configuration file is damaged
+};
+
+} // namespace quillon

@@ -1,0 +1,103 @@
+#include "ResticDiagnosis.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Sign {
+    QLatin1StringView words;
+    bool endsLine; ///< the words are an errno text, which ends its line; a file name may hold them anywhere else
+    ResticProblem problem;
+};
+
+// A wrong key comes first: what goes wrong before a repository is open is said in the same breath as other words.
+constexpr std::array signs{
+    Sign{"wrong password or no key found"_L1, false, ResticProblem::WrongKey},
+    Sign{"repository is already locked"_L1, false, ResticProblem::Locked},
+    Sign{"Is there a repository at the following location?"_L1, false, ResticProblem::NoRepository},
+    Sign{"no space left on device"_L1, true, ResticProblem::NoSpace},
+    Sign{"disk quota exceeded"_L1, true, ResticProblem::NoSpace},
+    Sign{"permission denied"_L1, true, ResticProblem::NoPermission},
+    Sign{"read-only file system"_L1, true, ResticProblem::NoPermission},
+    Sign{"operation not permitted"_L1, true, ResticProblem::NoPermission},
+};
+
+bool shows(const QStringList& lines, const Sign& sign)
+{
+    return std::ranges::any_of(lines, [&sign](const QString& line) {
+        return sign.endsLine ? line.endsWith(sign.words) : line.contains(sign.words);
+    });
+}
+
+QString ownWords(const QStringList& lines, int exitStatus)
+{
+    constexpr auto fatal = "Fatal: "_L1;
+    for (const QString& line : lines) {
+        if (line.startsWith(fatal))
+            return u"restic: "_s + line.mid(fatal.size());
+    }
+    return lines.isEmpty() ? u"restic failed with exit status %1."_s.arg(exitStatus) : u"restic: "_s + lines.first();
+}
+
+QString sentence(ResticProblem problem)
+{
+    switch (problem) {
+    case ResticProblem::Locked:
+        return u"Another process is using the backups on this disk."_s;
+    case ResticProblem::NoRepository:
+        return u"The backups on this disk are missing or damaged."_s;
+    case ResticProblem::WrongKey:
+        return u"The key does not open the backups on this disk."_s;
+    case ResticProblem::NoSpace:
+        return u"The backup disk is full."_s;
+    case ResticProblem::NoPermission:
+        return u"The backup disk cannot be written to."_s;
+    case ResticProblem::Unknown:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+QString ResticDiagnosis::cause() const
+{
+    switch (problem) {
+    case ResticProblem::Locked:
+        return u"Locked"_s;
+    case ResticProblem::NoRepository:
+        return u"NoRepository"_s;
+    case ResticProblem::WrongKey:
+        return u"WrongKey"_s;
+    case ResticProblem::NoSpace:
+        return u"NoSpace"_s;
+    case ResticProblem::NoPermission:
+        return u"NoPermission"_s;
+    case ResticProblem::Unknown:
+        break;
+    }
+    return u"Unknown"_s;
+}
+
+ResticDiagnosis ResticDiagnosis::of(const QString& errorText, int exitStatus)
+{
+    QStringList lines;
+    for (const QString& line : errorText.split(u'\n')) {
+        if (const QString trimmed = line.trimmed(); !trimmed.isEmpty())
+            lines.append(trimmed);
+    }
+    for (const Sign& sign : signs) {
+        if (shows(lines, sign))
+            return {sign.problem, sentence(sign.problem)};
+    }
+    return {ResticProblem::Unknown, ownWords(lines, exitStatus)};
+}
+
+} // namespace quillon

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "BackupProgress.h"
+#include "LastFailure.h"
+
+#include <QString>
+#include <QVariantMap>
+
+#include <optional>
+#include <sys/types.h>
+
+namespace quillon {
+
+/// The words under which a run's steps are known; the system tool's own.
+namespace phase {
+inline constexpr QLatin1StringView starting{"Starting"};
+inline constexpr QLatin1StringView findingBackupVolume{"FindingBackupVol"};
+inline constexpr QLatin1StringView mountingBackupVolume{"MountingBackupVol"};
+inline constexpr QLatin1StringView preparingSourceVolumes{"PreparingSourceVolumes"};
+inline constexpr QLatin1StringView findingChanges{"FindingChanges"};
+inline constexpr QLatin1StringView copying{"Copying"};
+inline constexpr QLatin1StringView thinningPostBackup{"ThinningPostBackup"};
+inline constexpr QLatin1StringView finishing{"Finishing"};
+} // namespace phase
+
+/// A backup that runs. The worker writes it to a file of the state folder; everybody else reads it there.
+struct RunState {
+    QString runId;
+    pid_t worker = 0;
+    QString destinationId;
+    QString mountPoint;
+    QString phase;
+    QString stateChange; ///< when the phase began, a statusDate()
+    bool stopping = false;
+    std::optional<BackupProgress> progress; ///< while copying
+
+    /// The running backup. A file whose worker no longer holds the lock counts for nothing, so that a worker that was
+    /// killed shows as not running at once.
+    static std::optional<RunState> current(const QString& stateFolder);
+
+    /// The run of a worker that died before the backup was complete.
+    static std::optional<RunState> abandoned(const QString& stateFolder);
+
+    /// The lock that the worker holds as long as it lives.
+    static QString lockPath(const QString& stateFolder);
+
+    /// False when it could not be written.
+    bool write(const QString& stateFolder) const;
+    static void remove(const QString& stateFolder);
+
+    /// What is remembered of an abandoned run.
+    LastFailure interruption() const;
+
+    bool isFinishing() const { return phase == phase::finishing; }
+
+    /// The dictionary that `status` prints.
+    QVariantMap toDictionary() const;
+};
+
+} // namespace quillon

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "RunState.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace quillon {
+
+/// What `status` says, in the system tool's words.
+class StatusReport {
+public:
+    explicit StatusReport(const QString& stateFolder);
+
+    /// A heading line and an old-style property list. Progress is there while copying only; the cause of the last
+    /// failure stands under "LastFailure" until a backup has succeeded.
+    QByteArray text() const;
+
+    /// To be called once the caller has the text: the worker waits to be seen before it ends a run.
+    void markReported() const;
+
+private:
+    QVariantMap dictionary() const;
+
+    QString stateFolder_;
+    std::optional<RunState> run_;
+};
+
+} // namespace quillon

@@ -1,0 +1,45 @@
+#include "CommandLine.h"
+#include "Commands.h"
+#include "Failure.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <clocale>
+#include <cstdio>
+#include <memory>
+
+using namespace quillon;
+
+namespace {
+
+/// Whether the command runs restic and so needs an event loop; `status`, run every few seconds, must not pay for one.
+bool needsEventLoop(Command command)
+{
+    return command == Command::RunBackup || command == Command::LatestBackup || command == Command::ListBackups ||
+           command == Command::Restore;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Callers pass no locale, and Qt would complain of that on standard error.
+    qputenv("LC_ALL", "C.UTF-8");
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(QFile::decodeName(argv[index]));
+    try {
+        const CommandLine line = CommandLine::parse(arguments);
+        std::unique_ptr<QCoreApplication> application;
+        if (needsEventLoop(line.command)) {
+            application = std::make_unique<QCoreApplication>(argc, argv);
+            std::setlocale(LC_NUMERIC, "C");
+        }
+        runCommand(line);
+        return static_cast<int>(ExitStatus::Success);
+    } catch (const Failure& failure) {
+        std::fprintf(stderr, "tmutil: %s\n", failure.what());
+        return static_cast<int>(failure.status());
+    }
+}

@@ -1,0 +1,267 @@
+#include "ExitStatus.h"
+#include "PracticeTmutil.h"
+#include "ProcessLock.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+#include <csignal>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Every entry below a folder, one a line: kind, access rights, time of change and contents.
+std::string inventory(const QString& folder)
+{
+    QStringList entries;
+    QDirIterator files(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        struct stat state {};
+        lstat(QFile::encodeName(path).constData(), &state);
+        QByteArray contents;
+        if (S_ISLNK(state.st_mode)) {
+            contents = std::filesystem::read_symlink(path.toStdString()).string().c_str();
+        } else if (QFile file(path); S_ISREG(state.st_mode) && file.open(QIODevice::ReadOnly)) {
+            contents = file.readAll();
+        }
+        entries.append(u"%1 %2 %3 %4 %5"_s.arg(path.mid(folder.size()))
+                           .arg(state.st_mode)
+                           .arg(state.st_mtim.tv_sec)
+                           .arg(state.st_mtim.tv_nsec)
+                           .arg(qHash(contents)));
+    }
+    entries.sort();
+    return entries.join(u'\n').toStdString();
+}
+
+class BackupIntegration : public testing::Test {
+protected:
+    int call(const QStringList& arguments) const { return practice_.run(arguments).status; }
+
+    /// Starts a backup that lasts, and waits until it copies.
+    void startLongBackup()
+    {
+        practice_.writeLargeFile();
+        ASSERT_EQ(call({u"startbackup"_s}), 0);
+        ASSERT_TRUE(eventually([this] { return practice_.phase() == "Copying"_L1; }));
+    }
+
+    bool isRunning() const { return practice_.status().value(u"Running"_s).toString() == "1"_L1; }
+
+    pid_t worker() const { return ProcessLock::holder(practice_.stateFolder() + "/worker.lock"_L1).value_or(0); }
+
+    PracticeTmutil practice_{QStringLiteral(TMUTIL_EXECUTABLE)};
+};
+
+pid_t childOf(pid_t process)
+{
+    QFile children(u"/proc/%1/task/%1/children"_s.arg(process));
+    return children.open(QIODevice::ReadOnly) ? children.readAll().trimmed().toInt() : 0;
+}
+
+} // namespace
+
+TEST_F(BackupIntegration, ATreeComesBackByteForByte)
+{
+    practice_.write(u"source/empty"_s, {});
+    practice_.write(u"source/Grüße 漢字/naïve *[1]?.txt"_s, "unusual name");
+    practice_.write(u"source/Grüße 漢字/plain"_s, QByteArray(3'000'000, 'x') + "end");
+    practice_.write(u"source/locked/inside"_s, "in a folder that its owner may not write");
+    QFile::link(u"Grüße 漢字/plain"_s, practice_.path(u"source/link"_s));
+    QFile::link(u"nowhere"_s, practice_.path(u"source/dangling"_s));
+    chmod(QFile::encodeName(practice_.path(u"source/locked"_s)).constData(), 0555);
+    // The times of the source itself change with the disk that is made in it; it is not in the inventory.
+    const std::string before = inventory(practice_.source());
+    const QString id = practice_.addDisk(u"source/disk *[x]"_s);
+
+    const Answer backup = practice_.backUp();
+    ASSERT_EQ(backup.status, 0) << backup.error.toStdString();
+    EXPECT_TRUE(backup.output.isEmpty());
+    const QString name = QString::fromUtf8(practice_.run({u"latestbackup"_s}).output).trimmed();
+    EXPECT_EQ(practice_.run({u"listbackups"_s}).output.trimmed(), name.toUtf8());
+
+    // The disk itself lies in the source and is no part of the backup.
+    const QString target = practice_.path(u"restored"_s);
+    const Answer restored = practice_.run({u"restore"_s, name + practice_.source(), target});
+    ASSERT_EQ(restored.status, 0) << restored.error.toStdString();
+    EXPECT_EQ(inventory(target), before);
+    ASSERT_EQ(call({u"restore"_s, name + practice_.path(u"source/locked"_s), practice_.path(u"locked"_s)}), 0);
+    EXPECT_EQ(inventory(practice_.path(u"locked"_s)), inventory(practice_.path(u"source/locked"_s)));
+    EXPECT_FALSE(QFileInfo(practice_.path(u"locked"_s)).permissions() & QFile::WriteOwner);
+
+    EXPECT_EQ(call({u"restore"_s, name + practice_.source(), target}), static_cast<int>(ExitStatus::PathExists));
+    EXPECT_EQ(inventory(target), before) << "nothing is overwritten";
+    EXPECT_EQ(call({u"restore"_s, name + "/not/there"_L1, practice_.path(u"other"_s)}),
+              static_cast<int>(ExitStatus::NoBackup));
+    EXPECT_FALSE(QFileInfo::exists(practice_.path(u"other"_s)));
+
+    // restic and the key alone do as well.
+    ASSERT_EQ(
+        practice_
+            .restic(u"source/disk *[x]"_s, id, {u"restore"_s, u"latest"_s, u"--target"_s, practice_.path(u"by-hand"_s)})
+            .status,
+        0);
+    EXPECT_EQ(inventory(practice_.path(u"by-hand"_s) + practice_.source()), before);
+    for (const QString& locked : {u"source/locked"_s, u"restored/locked"_s, u"locked"_s})
+        chmod(QFile::encodeName(practice_.path(locked)).constData(), 0755); // so that they can be removed
+}
+
+TEST_F(BackupIntegration, AStoppedBackupLeavesNoSnapshotAndASoundRepository)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    startLongBackup();
+    ASSERT_EQ(call({u"stopbackup"_s}), 0);
+    ASSERT_TRUE(eventually([this] { return !isRunning(); }));
+    EXPECT_EQ(call({u"latestbackup"_s}), static_cast<int>(ExitStatus::NoBackup));
+    EXPECT_FALSE(practice_.status().contains(u"LastFailure"_s)) << "to stop is not to fail";
+    EXPECT_TRUE(QDir(practice_.repository(u"disk"_s, id) + "/locks"_L1).isEmpty());
+    EXPECT_EQ(practice_.restic(u"disk"_s, id, {u"check"_s}).status, 0);
+}
+
+TEST_F(BackupIntegration, AKilledWorkerIsNotRunningAndTheNextBackupWorks)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    startLongBackup();
+    const pid_t killed = worker();
+    const pid_t restic = childOf(killed);
+    ASSERT_GT(restic, 0);
+    kill(killed, SIGKILL);
+    ASSERT_TRUE(eventually([=] { return ::kill(killed, 0) != 0; }));
+    EXPECT_FALSE(isRunning());
+    EXPECT_EQ(practice_.status().value(u"LastFailure"_s).toMap().value(u"Cause"_s), u"Interrupted"_s);
+    EXPECT_TRUE(eventually([=] { return ::kill(restic, 0) != 0; })) << "restic outlives its worker";
+
+    // As after a power loss: restic had no time to take its lock away. An exclusive lock, as left by an interrupted
+    // prune, would keep the next backup out; forgetting old backups is kept out by any.
+    startLongBackup();
+    const pid_t second = worker();
+    const pid_t secondRestic = childOf(second);
+    kill(second, SIGSTOP);
+    kill(secondRestic, SIGKILL);
+    kill(second, SIGKILL);
+    ASSERT_TRUE(eventually([=] { return ::kill(second, 0) != 0; }));
+    ASSERT_FALSE(QDir(practice_.repository(u"disk"_s, id) + "/locks"_L1).isEmpty());
+
+    QFile::remove(practice_.path(u"source/large"_s));
+    practice_.write(u"source/small"_s, "small");
+    const Answer backup = practice_.backUp();
+    EXPECT_EQ(backup.status, 0) << backup.error.toStdString();
+    EXPECT_FALSE(practice_.status().contains(u"LastFailure"_s));
+    EXPECT_TRUE(QDir(practice_.repository(u"disk"_s, id) + "/locks"_L1).isEmpty());
+    EXPECT_EQ(practice_.restic(u"disk"_s, id, {u"check"_s}).status, 0);
+}
+
+TEST_F(BackupIntegration, UnreadableFilesLeaveACompletedBackupWithARemark)
+{
+    practice_.addDisk(u"disk"_s);
+    practice_.write(u"source/readable"_s, "yes");
+    practice_.write(u"source/secret"_s, "no");
+    QFile::setPermissions(practice_.path(u"source/secret"_s), {});
+
+    // Root reads everything, so the rights are dropped.
+    QString program = practice_.executable();
+    QStringList arguments{u"startbackup"_s, u"-b"_s};
+    if (geteuid() == 0) {
+        ASSERT_EQ(runProgram(u"/usr/bin/chown"_s, {u"-R"_s, u"65534:65534"_s, practice_.path(u"."_s)}).status, 0);
+        arguments = QStringList{u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s, program} + arguments;
+        program = u"/usr/bin/setpriv"_s;
+    }
+    const Answer backup = practice_.watch(program, arguments);
+    EXPECT_EQ(backup.status, 0) << backup.error.toStdString();
+    EXPECT_EQ(backup.output, "One file could not be read.\n");
+    const QVariantMap remark = practice_.status().value(u"LastFailure"_s).toMap();
+    EXPECT_EQ(remark.value(u"UnreadFiles"_s).toInt(), 1);
+    EXPECT_EQ(call({u"latestbackup"_s}), 0);
+}
+
+TEST_F(BackupIntegration, AFullDiskIsAFailureWithAClearLine)
+{
+    // A small file system in a mount namespace of its own; users who are not root get one in a user namespace.
+    practice_.write(u"source/random"_s, {});
+    ASSERT_EQ(runProgram(u"/bin/sh"_s, {u"-c"_s, u"/usr/bin/head -c 20000000 /dev/urandom >'%1'"_s.arg(
+                                                     practice_.path(u"source/random"_s))})
+                  .status,
+              0);
+    QDir().mkpath(practice_.path(u"disk"_s));
+    QStringList arguments{u"--mount"_s};
+    if (geteuid() != 0)
+        arguments << u"--map-root-user"_s;
+    const QString script =
+        u"PATH=/usr/bin:/bin:/usr/sbin:/sbin && mount -t tmpfs -o size=8m none '%1' && "
+        "'%2' setdestination '%1' && '%2' startbackup -b"_s.arg(practice_.path(u"disk"_s), practice_.executable());
+    const Answer backup = practice_.watch(u"/usr/bin/unshare"_s, arguments << u"/bin/sh"_s << u"-c"_s << script);
+    EXPECT_EQ(backup.status, static_cast<int>(ExitStatus::Failed));
+    EXPECT_EQ(backup.error, "tmutil: The backup disk is full.\n");
+    EXPECT_EQ(practice_.status().value(u"LastFailure"_s).toMap().value(u"Cause"_s), u"NoSpace"_s);
+}
+
+TEST_F(BackupIntegration, EveryRefusalHasAStatusAndALineOfItsOwn)
+{
+    const auto refused = [this](const QStringList& arguments, ExitStatus status) {
+        const Answer answer = practice_.run(arguments);
+        EXPECT_EQ(answer.status, static_cast<int>(status)) << arguments.join(u' ').toStdString();
+        EXPECT_TRUE(answer.error.startsWith("tmutil: ") && answer.error.count('\n') == 1) << answer.error.toStdString();
+    };
+    refused({u"startbackup"_s}, ExitStatus::NoDestination);
+    refused({u"listbackups"_s}, ExitStatus::NoDestination);
+    refused({u"setdestination"_s, practice_.path(u"missing"_s)}, ExitStatus::NoInput);
+    refused({u"startbackup"_s, u"--now"_s}, ExitStatus::Usage);
+
+    const QString id = practice_.addDisk(u"disk"_s);
+    refused({u"latestbackup"_s}, ExitStatus::NoBackup);
+    refused({u"startbackup"_s, u"-d"_s, u"unknown"_s}, ExitStatus::UnknownDestination);
+    // An unplugged disk whose mount point stays behind, empty.
+    QDir().rename(practice_.path(u"disk"_s), practice_.path(u"unplugged"_s));
+    QDir().mkpath(practice_.path(u"disk"_s));
+    for (const QStringList& arguments : {QStringList{u"startbackup"_s}, {u"startbackup"_s, u"-d"_s, id}})
+        refused(arguments, ExitStatus::DestinationMissing);
+    EXPECT_TRUE(QDir(practice_.path(u"disk"_s)).isEmpty());
+    EXPECT_TRUE(practice_.run({u"destinationinfo"_s}).output.contains(id.toUtf8())) << "it is still listed";
+
+    practice_.write(u"config/quillon-timemachine/configuration.plist"_s, "<plist><dict>");
+    refused({u"setdestination"_s, practice_.path(u"unplugged"_s)}, ExitStatus::Configuration);
+    refused({u"startbackup"_s}, ExitStatus::Configuration);
+}
+
+TEST_F(BackupIntegration, ARepositoryThatLostItsConfigurationIsNeverMadeAnew)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    practice_.write(u"disk/Quillon.backups/"_s + id + u"/snapshots/0123"_s, "what is left");
+    const Answer backup = practice_.backUp();
+    EXPECT_EQ(backup.status, static_cast<int>(ExitStatus::Failed));
+    EXPECT_TRUE(backup.error.contains("are damaged"));
+    EXPECT_EQ(QDir(practice_.repository(u"disk"_s, id)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList(u"snapshots"_s));
+}
+
+TEST_F(BackupIntegration, TheWorkerHoldsNothingOfItsCaller)
+{
+    practice_.addDisk(u"disk"_s);
+    startLongBackup();
+    const pid_t process = worker();
+    EXPECT_EQ(getsid(process), process);
+    for (const int descriptor : {0, 1, 2})
+        EXPECT_EQ(QFile::symLinkTarget(u"/proc/%1/fd/%2"_s.arg(process).arg(descriptor)), u"/dev/null"_s);
+    QFile environment(u"/proc/%1/environ"_s.arg(childOf(process)));
+    ASSERT_TRUE(environment.open(QIODevice::ReadOnly));
+    QStringList names;
+    for (const QByteArray& variable : environment.readAll().split('\0'))
+        names.append(QString::fromUtf8(variable.left(variable.indexOf('='))));
+    names.removeAll(QString());
+    names.sort();
+    EXPECT_EQ(names, (QStringList{u"HOME"_s, u"PATH"_s, u"RESTIC_CACHE_DIR"_s, u"RESTIC_PASSWORD_FILE"_s,
+                                  u"RESTIC_PROGRESS_FPS"_s, u"TMPDIR"_s}));
+}
+
+} // namespace quillon

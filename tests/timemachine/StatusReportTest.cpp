@@ -1,0 +1,187 @@
+#include "StatusReport.h"
+
+#include "Folders.h"
+#include "History.h"
+#include "PracticeTmutil.h"
+#include "ProcessLock.h"
+#include "PropertyListFile.h"
+#include "ReportMarks.h"
+
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Another process that holds the worker's lock.
+class LockHolder {
+public:
+    explicit LockHolder(const QString& path)
+    {
+        int ready[2] = {-1, -1};
+        EXPECT_EQ(pipe(ready), 0);
+        process_ = fork();
+        if (process_ == 0) {
+            ProcessLock lock(path);
+            [[maybe_unused]] const auto written = write(ready[1], lock.tryLock() ? "y" : "n", 1);
+            pause();
+            _exit(0);
+        }
+        char byte = 0;
+        EXPECT_EQ(read(ready[0], &byte, 1), 1);
+        EXPECT_EQ(byte, 'y');
+        close(ready[0]);
+        close(ready[1]);
+    }
+    LockHolder(const LockHolder&) = delete;
+    LockHolder& operator=(const LockHolder&) = delete;
+    ~LockHolder() { end(); }
+
+    pid_t process() const { return process_; }
+    void end()
+    {
+        if (process_ <= 0)
+            return;
+        kill(process_, SIGKILL);
+        waitpid(process_, nullptr, 0);
+        process_ = 0;
+    }
+
+private:
+    pid_t process_ = 0;
+};
+
+class StatusReportTest : public testing::Test {
+protected:
+    QVariantMap report() const { return parseStatus(StatusReport(state()).text()).value_or(QVariantMap()); }
+    QString state() const { return root_.path(); }
+
+    RunState run(pid_t worker) const
+    {
+        RunState run;
+        run.runId = u"run"_s;
+        run.worker = worker;
+        run.destinationId = u"ID"_s;
+        run.mountPoint = u"/media/Grüne \"Platte\""_s;
+        run.phase = phase::copying;
+        run.stateChange = u"2026-11-21 07:22:58 +0000"_s;
+        run.progress = BackupProgress{
+            .fraction = 0.25, .secondsRemaining = 90, .bytes = 1, .totalBytes = 4, .files = 2, .totalFiles = 8};
+        return run;
+    }
+
+    QTemporaryDir root_;
+};
+
+} // namespace
+
+TEST_F(StatusReportTest, ReadsBackAsItWasWritten)
+{
+    EXPECT_TRUE(StatusReport(state()).text().startsWith("Backup session status:\n{\n"));
+    EXPECT_EQ(report(), (QVariantMap{{u"ClientID"_s, u"com.apple.backupd"_s}, {u"Running"_s, u"0"_s}}));
+
+    const LockHolder worker(RunState::lockPath(state()));
+    RunState copying = run(worker.process());
+    ASSERT_TRUE(copying.write(state()));
+    QVariantMap dictionary = report();
+    EXPECT_EQ(dictionary.value(u"Running"_s), u"1"_s);
+    EXPECT_EQ(dictionary.value(u"Stopping"_s), u"0"_s);
+    EXPECT_EQ(dictionary.value(u"BackupPhase"_s), u"Copying"_s);
+    EXPECT_EQ(dictionary.value(u"DestinationMountPoint"_s), u"/media/Grüne \"Platte\""_s);
+    EXPECT_EQ(dictionary.value(u"Progress"_s).toMap(), (QVariantMap{{u"Percent"_s, u"0.25"_s},
+                                                                    {u"TimeRemaining"_s, u"90"_s},
+                                                                    {u"bytes"_s, u"1"_s},
+                                                                    {u"totalBytes"_s, u"4"_s},
+                                                                    {u"files"_s, u"2"_s},
+                                                                    {u"totalFiles"_s, u"8"_s}}));
+
+    copying.progress->fraction.reset();
+    copying.progress->secondsRemaining.reset();
+    copying.stopping = true;
+    ASSERT_TRUE(copying.write(state()));
+    dictionary = report();
+    EXPECT_EQ(dictionary.value(u"Stopping"_s), u"1"_s);
+    EXPECT_EQ(dictionary.value(u"Progress"_s).toMap().value(u"Percent"_s), u"-1"_s);
+    EXPECT_FALSE(dictionary.contains(u"LastFailure"_s));
+}
+
+TEST_F(StatusReportTest, ARunWhoseWorkerDiedIsOver)
+{
+    LockHolder worker(RunState::lockPath(state()));
+    ASSERT_TRUE(run(worker.process()).write(state()));
+    EXPECT_EQ(report().value(u"Running"_s), u"1"_s);
+    worker.end();
+    EXPECT_EQ(report().value(u"Running"_s), u"0"_s);
+    EXPECT_EQ(report().value(u"LastFailure"_s).toMap().value(u"Cause"_s), u"Interrupted"_s);
+
+    // The next worker holds the lock, but what is there is not its own state.
+    const LockHolder next(RunState::lockPath(state()));
+    EXPECT_EQ(report().value(u"Running"_s), u"0"_s);
+    RunState finished = run(getpid());
+    finished.phase = phase::finishing;
+    ASSERT_TRUE(finished.write(state()));
+    EXPECT_FALSE(report().contains(u"LastFailure"_s)) << "it was complete when its worker died";
+}
+
+TEST_F(StatusReportTest, TheLastFailureStandsUntilTheNextSuccess)
+{
+    History history(state());
+    history.setLastFailure(LastFailure{u"2026-11-21 07:22:58 +0000"_s, u"ID"_s, u"NoSpace"_s, u"The disk is full."_s});
+    ASSERT_TRUE(history.save());
+    EXPECT_EQ(report().value(u"LastFailure"_s).toMap(), (QVariantMap{{u"Date"_s, u"2026-11-21 07:22:58 +0000"_s},
+                                                                     {u"DestinationID"_s, u"ID"_s},
+                                                                     {u"Cause"_s, u"NoSpace"_s},
+                                                                     {u"Description"_s, u"The disk is full."_s}}));
+    history.setLastFailure(std::nullopt);
+    ASSERT_TRUE(history.save());
+    EXPECT_FALSE(report().contains(u"LastFailure"_s));
+}
+
+TEST_F(StatusReportTest, ReportsAreMarkedForTheirOwnRunAndKind)
+{
+    const LockHolder worker(RunState::lockPath(state()));
+    const ReportMarks marks(state());
+    marks.clear();
+    RunState running = run(worker.process());
+    running.write(state());
+    const StatusReport before(state());
+    running.phase = phase::finishing;
+    running.write(state());
+    EXPECT_FALSE(marks.isReported(u"run"_s)) << "not before the caller has it";
+    before.markReported();
+    EXPECT_TRUE(marks.isReported(u"run"_s));
+    EXPECT_FALSE(marks.isFinishingReported(u"run"_s)) << "what a slow caller was told is older";
+    StatusReport(state()).markReported();
+    EXPECT_TRUE(marks.isFinishingReported(u"run"_s));
+    EXPECT_FALSE(marks.isReported(u"another"_s));
+}
+
+TEST_F(StatusReportTest, AReaderNeverSeesHalfAState)
+{
+    const QString file = state() + "/run.plist"_L1;
+    const QVariantMap small{{u"a"_s, QString(10, u'a')}};
+    const QVariantMap large{{u"a"_s, QString(100'000, u'a')}};
+    ASSERT_TRUE(writePropertyListFile(file, small));
+    std::atomic<bool> done = false;
+    std::thread writer([&] {
+        for (int round = 0; round < 100; ++round)
+            writePropertyListFile(file, round % 2 == 0 ? large : small);
+        done = true;
+    });
+    while (!done) {
+        const auto read = readPropertyListFile(file);
+        ASSERT_TRUE(read == small || read == large);
+    }
+    writer.join();
+}
+
+} // namespace quillon
