@@ -1,0 +1,199 @@
+#pragma once
+
+#include "AlertPresenter.h"
+#include "ClockWatch.h"
+#include "DataManager.h"
+#include "DateFormatter.h"
+#include "MenuBarIconState.h"
+#include "NotificationCenter.h"
+#include "RunLoop.h"
+#include "RunProgress.h"
+#include "StatusItem.h"
+#include "StatusMenu.h"
+#include "TMUtil.h"
+#include "UserDefaults.h"
+#include "Workspace.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace quillon {
+
+/// The heart of the program: polls Time Machine, follows its runs, starts scheduled backups, plans retries, and keeps
+/// the menu-bar item and the status menu true. Main thread only.
+///
+/// One file per concern: _polling, _statemachine, _menutitles, _schedule, _wake, _pause, _title, _icon.
+class StatusMenuController final : public QObject {
+    Q_OBJECT
+
+public:
+    struct Services {
+        RunLoop& runLoop;
+        UserDefaults& defaults;
+        NotificationCenter& notifications;
+        Workspace& workspace;
+        TMUtilQueue& tmutilQueue;
+        TaskLauncher& launcher;
+        AlertPresenter& alerts;
+        DataManager& dataManager;
+        StatusItem& statusItem;
+    };
+
+    explicit StatusMenuController(const Services& services);
+    ~StatusMenuController() override;
+
+    /// Sets the item and the menu up, restores a pause, starts polling and observing. Called once, at start.
+    void awakeFromNib();
+
+    TMState tmState() const { return tmState_; }
+    TMState uiState() const { return uiState_; }
+    const QString& tmPhase() const { return tmPhase_; }
+    const RunProgress& progress() const { return progress_; }
+    MenuBarIconState menuBarIconState() const { return menuBarIconState_; }
+    const QList<BackupDestination>& backupDisks() const { return backupDisks_; }
+    const StatusMenu& statusMenu() const { return statusMenu_; }
+    /// What the item shows: the upper line, and the lower one.
+    const QString& statusTitle() const { return statusTitle_; }
+    const QString& statusText() const { return statusText_; }
+
+    /// Polls every `interval` seconds from now on, also while the menu is open.
+    void startTimerWithInterval(double interval);
+    void stopTimer();
+    /// Asks for the status, unless the answer to such a question is still awaited.
+    void requestTimeMachineStatus();
+    /// Queues a step of the state machine and returns at once.
+    void updateStatusBar();
+    /// An idle icon does not replace the mark of a failure or of a missed schedule.
+    void setMenuBarIconState(MenuBarIconState state);
+    std::optional<SymbolImage> getMenuBarIcon() const;
+    void updateStatusBarTitle(const QString& title, const QString& text);
+    QString localisedStringForBackupPhase(const QString& rawPhase) const;
+
+    /// Style 1 is positional ("1:30"), style 2 abbreviated ("1h 30m"); precision adds the second unit from one hour up,
+    /// seconds add it below.
+    static QString getTimeStringFromInterval(double seconds, int style, bool includePrecision, bool includeSeconds);
+    /// In decimal units.
+    static QString stringRepresentationOfBytes(std::int64_t bytes);
+    QString nameForBackupDiskWithIdentifier(const QString& identifier) const;
+    static QString nameForBackupDiskWithName(const QString& name);
+    void updateBackupDiskMenuItem();
+
+    /// Pauses the schedule for a length in seconds, replacing a pause that runs.
+    void pauseForClicked(std::int64_t tag);
+    void resumeScheduleClicked();
+    /// Checks the pause item of that length and no other.
+    void setTogglesForPauseMenuItems(std::int64_t tag);
+    void schedulePauseScheduleExpirationTimer();
+    void stopPauseScheduleExpirationTimer();
+
+Q_SIGNALS:
+    /// A step of the state machine has run: what the item and the menu show may have changed.
+    void statusBarUpdated();
+    /// The icon has changed; within one step of the state machine it may do so more than once.
+    void menuBarIconStateChanged();
+
+private:
+    enum class Wake { FromSleep, ClockJump };
+
+    // Start-up
+    void chooseLocaleKeys();
+    void titleMenuItems();
+    void restorePause();
+    void registerObservers();
+
+    // Polling
+    void pollTimerTicked();
+    void firePollTimer();
+    void handleStatus(const TMStatus& status);
+    void noteRunState(const TMStatus& status);
+    void markCompletion(const TMStatus& status);
+    void requestBackupDisks();
+
+    // State machine
+    bool isActive() const;
+    void runStateMachineStep();
+    void endRun();
+    void recordCompletedRun();
+    void markRunFailed();
+    void beginRun();
+    void closeDeadEnds();
+    void showIdleTitle();
+    void showActiveTitle();
+    QString activeStatusText() const;
+
+    // Menu titles
+    void updateMenuItems();
+    QString lastBackupText() const;
+    QString phaseItemTitle() const;
+    QString remainingTimeItemTitle() const;
+    void updateBackupNowItem();
+    void updatePauseItemTitle();
+    QString dayAndTime(Date date, DateFormatterStyle dayStyle) const;
+
+    // Schedule
+    void startScheduledBackup();
+    void answerScheduledStart(TMState state, bool stillWanted);
+    void startAccepted();
+    void setRetryInFiveMinutesIfEnabled(const QString& enablingKey);
+    Date freshRetryDate() const;
+
+    // Sleep, wake, clock
+    void prepareForSleep();
+    void handleWake(Wake wake);
+    bool scheduleWasMissed() const;
+    void checkClock();
+    ClockWatch::Change takeClockAsItIs();
+    void reviveSchedule();
+
+    // Pause
+    void pauseTimerFired(Date end);
+    void showPaused(Date end, std::int64_t tag);
+    void titlePauseItem(Date end);
+
+    bool switchIsOn(const QString& key) const;
+    bool iconOnly() const;
+    QString updateMarker() const;
+    void setButtonTitle(const QString& title);
+
+    RunLoop& runLoop_;
+    UserDefaults& defaults_;
+    NotificationCenter& notifications_;
+    Workspace& workspace_;
+    DataManager& sharedDataManager_;
+    StatusItem& statusItem_;
+    TMUtil tmutil_;
+    StatusMenu statusMenu_;
+    const char* enterTimeMachineTitleLocaleKey_ = nullptr;
+    const char* skipThisBackupTitleLocaleKey_ = nullptr;
+
+    TMState tmState_ = TMState::Unknown;
+    TMState uiState_ = TMState::NotRunning;
+    QString tmPhase_;
+    QString previousTmPhase_;
+    RunProgress progress_;
+    bool stopBackupConfirmed_ = false;
+    bool shouldEnableMenuButons_ = true;
+    std::optional<Date> backupCompleteDate_;
+    std::optional<QString> activeBackupDiskIdentifier_;
+    QList<BackupDestination> backupDisks_;
+    std::optional<QString> latestAppVersion_;
+    MenuBarIconState menuBarIconState_ = MenuBarIconState::None;
+    QString statusTitle_;
+    QString statusText_;
+
+    Timer repeatingIntervalTimer_;
+    double pollInterval_ = 0;
+    int pollsAwaited_ = 0;
+    std::chrono::milliseconds lastAnswerUptime_{0}; ///< of a status question or an accepted start
+    bool pollIsFired_ = false;
+    Timer checkPauseScheduleExpirationTimer_;
+    ClockWatch clockWatch_;
+    std::optional<std::chrono::milliseconds> asleepSince_; ///< on the uptime clock
+};
+
+} // namespace quillon

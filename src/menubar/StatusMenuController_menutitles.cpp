@@ -1,0 +1,124 @@
+#include "DataHelper.h"
+#include "Format.h"
+#include "LocalizedString.h"
+#include "SettingsKeys.h"
+#include "StatusMenuController.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int abbreviated = 2;
+
+} // namespace
+
+void StatusMenuController::updateMenuItems()
+{
+    StatusMenu::setTitle(statusMenu_.phaseMenuItem, phaseItemTitle());
+    updateBackupDiskMenuItem();
+    StatusMenu::setTitle(statusMenu_.remainingTimeMenuItem, remainingTimeItemTitle());
+    statusMenu_.pauseScheduleMenuItem->setEnabled(sharedDataManager_.isScheduleEnabled() &&
+                                                  tmState_ == TMState::NotRunning);
+    updateBackupNowItem();
+    updatePauseItemTitle();
+    statusMenu_.updateAvailableMenuItem->setVisible(latestAppVersion_.has_value());
+}
+
+QString StatusMenuController::dayAndTime(Date date, DateFormatterStyle dayStyle) const
+{
+    return u"%1, %2"_s.arg(DataHelper::getDayFrom(date, dayStyle, runLoop_.now()),
+                           DataHelper::getDateTimeFrom(date, DateFormatterStyle::None, DateFormatterStyle::Short));
+}
+
+QString StatusMenuController::lastBackupText() const
+{
+    const auto date = defaults_.date(settingskeys::lastBackupDate);
+    if (!date)
+        return localizedString("notAvailableAbbreviation");
+    const auto bytes = defaults_.integer(settingskeys::lastBackupBytesCopied);
+    const QString size = bytes > 0 ? u" (%1)"_s.arg(stringRepresentationOfBytes(bytes)) : QString();
+    return dayAndTime(*date, DateFormatterStyle::Long) + size;
+}
+
+QString StatusMenuController::phaseItemTitle() const
+{
+    if (!isActive())
+        return u"%1: %2"_s.arg(localizedString("latestBackupTitle"), lastBackupText());
+    QString phase = localisedStringForBackupPhase(tmPhase_);
+    if (tmState_ == TMState::Running) {
+        const auto bytes = progress_.bytesCopied();
+        const QString copied =
+            bytes > 0 ? u", %1 %2"_s.arg(stringRepresentationOfBytes(bytes), localizedString("copiedWord")) : QString();
+        phase += u" (%1%2)"_s.arg(format("%.1f%%", progress_.percentage() * 100), copied);
+    }
+    return u"%1: %2"_s.arg(localizedString("phaseTitle"), phase);
+}
+
+QString StatusMenuController::remainingTimeItemTitle() const
+{
+    if (isActive()) {
+        QString remaining = localizedString("notAvailableAbbreviation");
+        if (tmState_ == TMState::Running) {
+            remaining = progress_.timeRemaining() > 0
+                            ? getTimeStringFromInterval(progress_.timeRemaining(), abbreviated, true, true)
+                            : u"%1..."_s.arg(localizedString("calculatingTitle"));
+        }
+        return u"%1: %2"_s.arg(localizedString("remainingTimeTitle"), remaining);
+    }
+    QString next = localizedString("nextBackupDisabled");
+    if (sharedDataManager_.isScheduleEnabled()) {
+        const auto date = sharedDataManager_.nextScheduledBackupDate();
+        next = date ? dayAndTime(*date, DateFormatterStyle::Full) : localizedString("notAvailableAbbreviation");
+    }
+    const QString retry =
+        sharedDataManager_.retryBackupDate() ? u"(%1)"_s.arg(localizedString("retryAttemptTitle")) : QString();
+    return u"%1: %2 %3"_s.arg(localizedString("nextBackupTitle"), next, retry);
+}
+
+void StatusMenuController::updateBackupNowItem()
+{
+    QAction* item = statusMenu_.backupNowMenuItem;
+    QString title = localizedString("backupNowTitle");
+    if (stopBackupConfirmed_ || tmState_ == TMState::Stopping) {
+        title = u"%1..."_s.arg(localizedString("statusStopping"));
+    } else if (tmState_ == TMState::Running || tmState_ == TMState::Starting) {
+        title = localizedString(skipThisBackupTitleLocaleKey_);
+        statusMenu_.phaseMenuItem->setEnabled(false);
+    }
+    statusMenu_.skipRetryAttemptMenuItem->setVisible(sharedDataManager_.retryBackupDate().has_value());
+    StatusMenu::setTitle(item, title);
+    if (shouldEnableMenuButons_)
+        item->setEnabled(!stopBackupConfirmed_ && tmState_ != TMState::Stopping);
+}
+
+void StatusMenuController::updatePauseItemTitle()
+{
+    const auto pauseUntil = defaults_.date(settingskeys::pauseUntilDate);
+    if (pauseUntil && *pauseUntil > runLoop_.now())
+        titlePauseItem(*pauseUntil);
+}
+
+void StatusMenuController::titlePauseItem(Date end)
+{
+    StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem, u"%1: %2"_s.arg(localizedString("pauseScheduleUntilTitle"),
+                                                                            dayAndTime(end, DateFormatterStyle::Full)));
+}
+
+void StatusMenuController::updateBackupDiskMenuItem()
+{
+    QAction* item = statusMenu_.backupDiskMenuItem;
+    if (backupDisks_.size() < 2) {
+        item->setVisible(false);
+        return;
+    }
+    QString identifier = defaults_.string(settingskeys::lastBackupDiskIdentifier);
+    if (tmState_ == TMState::Running || tmState_ == TMState::Stopping)
+        identifier = activeBackupDiskIdentifier_.value_or(QString());
+    const QString name = nameForBackupDiskWithIdentifier(identifier);
+    item->setVisible(!name.isEmpty());
+    StatusMenu::setTitle(item, u"%1: %2"_s.arg(localizedString("backupDiskTitle"), name));
+}
+
+} // namespace quillon

@@ -1,0 +1,95 @@
+#include "LocalizedString.h"
+#include "SettingsKeys.h"
+#include "StatusMenuController.h"
+
+namespace quillon {
+
+namespace {
+
+// Makes sure that the end has passed when the timer runs.
+constexpr Seconds expirationGrace{10.0};
+
+} // namespace
+
+void StatusMenuController::restorePause()
+{
+    const auto end = defaults_.date(settingskeys::pauseUntilDate);
+    if (!end)
+        return;
+    if (*end <= runLoop_.now()) {
+        resumeScheduleClicked();
+        return;
+    }
+    schedulePauseScheduleExpirationTimer();
+    updateStatusBar();
+    showPaused(*end, defaults_.integer(settingskeys::pauseUntilTag));
+}
+
+void StatusMenuController::pauseForClicked(std::int64_t tag)
+{
+    const Date end = runLoop_.now() + std::chrono::seconds(tag);
+    defaults_.setDate(settingskeys::pauseUntilDate, end);
+    defaults_.setObject(settingskeys::pauseUntilTag, static_cast<qlonglong>(tag));
+    sharedDataManager_.setRetryBackupDate(std::nullopt);
+    sharedDataManager_.scheduleNextBackup();
+    schedulePauseScheduleExpirationTimer();
+    updateStatusBar();
+    showPaused(end, tag);
+}
+
+void StatusMenuController::showPaused(Date end, std::int64_t tag)
+{
+    statusMenu_.pauseScheduleMenuItem->setChecked(true);
+    statusMenu_.resumeScheduleMenuItem->setVisible(true);
+    statusMenu_.resumeScheduleSeparator->setVisible(true);
+    titlePauseItem(end);
+    setTogglesForPauseMenuItems(tag);
+}
+
+void StatusMenuController::resumeScheduleClicked()
+{
+    defaults_.setDate(settingskeys::pauseUntilDate, std::nullopt);
+    defaults_.setObject(settingskeys::pauseUntilTag, 0LL);
+    sharedDataManager_.scheduleNextBackup();
+    updateStatusBar();
+    statusMenu_.pauseScheduleMenuItem->setChecked(false);
+    statusMenu_.resumeScheduleMenuItem->setVisible(false);
+    statusMenu_.resumeScheduleSeparator->setVisible(false);
+    StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem, localizedString("pauseScheduleForTitle"));
+    setTogglesForPauseMenuItems(0);
+}
+
+void StatusMenuController::setTogglesForPauseMenuItems(std::int64_t tag)
+{
+    for (QAction* item : statusMenu_.pauseDurationItems())
+        item->setChecked(item->data().toLongLong() == tag);
+}
+
+void StatusMenuController::schedulePauseScheduleExpirationTimer()
+{
+    stopPauseScheduleExpirationTimer();
+    const auto end = defaults_.date(settingskeys::pauseUntilDate);
+    if (!end)
+        return;
+    if (*end <= runLoop_.now()) {
+        resumeScheduleClicked();
+        return;
+    }
+    checkPauseScheduleExpirationTimer_ =
+        runLoop_.scheduleOnce(dateByAdding(*end, expirationGrace), [this, end = *end] { pauseTimerFired(end); });
+}
+
+void StatusMenuController::stopPauseScheduleExpirationTimer()
+{
+    checkPauseScheduleExpirationTimer_.invalidate();
+}
+
+void StatusMenuController::pauseTimerFired(Date end)
+{
+    if (end < runLoop_.now())
+        resumeScheduleClicked();
+    else
+        schedulePauseScheduleExpirationTimer(); // the clock was changed, or the timer was fired early
+}
+
+} // namespace quillon
