@@ -1,0 +1,79 @@
+#include "AlertPresenter.h"
+#include "FakeServices.h"
+#include "MemoryDefaults.h"
+#include "StatusItem.h"
+#include "StatusMenuController.h"
+#include "StatusText.h"
+#include "VirtualRunLoop.h"
+
+#include <QCoreApplication>
+
+#include <benchmark/benchmark.h>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+// Bar: 20 µs.
+void readingOneStatusText(benchmark::State& state)
+{
+    const QByteArray text = "Backup session status:\n" + statusText();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(TMStatus::fromOutput(text));
+}
+BENCHMARK(readingOneStatusText)->Unit(benchmark::kMicrosecond);
+
+/// A tool that takes no time: it has answered as soon as it is asked.
+class InstantLauncher final : public TaskLauncher {
+public:
+    InstantLauncher(RunLoop& runLoop, QByteArray answer)
+        : runLoop_(runLoop)
+        , answer_(std::move(answer))
+    {
+    }
+
+    [[nodiscard]] std::unique_ptr<RunningTask> launch(const TaskRequest&, Completion completion) override
+    {
+        class Ended final : public RunningTask {
+            void kill() override {}
+        };
+        runLoop_.enqueue([completion = std::move(completion), answer = answer_] { completion({0, answer}); });
+        return std::make_unique<Ended>();
+    }
+
+private:
+    RunLoop& runLoop_;
+    QByteArray answer_;
+};
+
+// Bar: 1 ms of the main thread. All that a poll makes it do, drawing included, but for starting the child process.
+void onePoll(benchmark::State& state, const QByteArray& answer)
+{
+    VirtualRunLoop runLoop(Date(std::chrono::hours(24 * 20778)));
+    MemoryDefaults defaults;
+    NotificationCenter notifications;
+    FakeWorkspace workspace;
+    FakeAlerts alerts;
+    FakeLoginItem loginItem;
+    InstantLauncher launcher(runLoop, answer);
+    TMUtilQueue queue(launcher, runLoop, QStringLiteral("tmutil"));
+    DataManager manager({runLoop, defaults, notifications, loginItem});
+    const auto item = makeStatusItem(StatusItemPlacement::Bar);
+    StatusMenuController controller(
+        {runLoop, defaults, notifications, workspace, queue, launcher, alerts, manager, *item});
+    controller.awakeFromNib();
+    runLoop.advance(Seconds(60));
+    for (auto _ : state) {
+        runLoop.stepWallClock(Seconds(1)); // so that what is shown changes
+        controller.requestTimeMachineStatus();
+        runLoop.settle();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK_CAPTURE(onePoll, whileIdle, "{ Running = 0; }")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(onePoll, whileABackupRuns, statusText())->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace quillon

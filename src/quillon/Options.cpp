@@ -1,0 +1,61 @@
+#include "Options.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::optional<StatusItemPlacement> placementNamed(QStringView name)
+{
+    if (name == "auto"_L1)
+        return StatusItemPlacement::Automatic;
+    if (name == "tray"_L1)
+        return StatusItemPlacement::Tray;
+    if (name == "bar"_L1)
+        return StatusItemPlacement::Bar;
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Options> Options::parse(const QStringList& words, QString* error)
+{
+    constexpr auto placementOption = "--menu-bar="_L1;
+    Options options;
+    for (const auto& word : words) {
+        if (word == "--help"_L1 || word == "-h"_L1) {
+            options.help = true;
+        } else if (word == "--version"_L1) {
+            options.version = true;
+        } else if (word == "--print-changes"_L1) {
+            options.printChanges = true;
+        } else if (word.startsWith(placementOption)) {
+            const auto placement = placementNamed(QStringView(word).mid(placementOption.size()));
+            if (!placement) {
+                *error = u"--menu-bar takes auto, tray or bar, not \"%1\""_s.arg(word.mid(placementOption.size()));
+                return std::nullopt;
+            }
+            options.placement = *placement;
+        } else {
+            *error = u"unknown option \"%1\"; --help lists them"_s.arg(word);
+            return std::nullopt;
+        }
+    }
+    return options;
+}
+
+QString Options::helpText()
+{
+    return u"Usage: quillon [OPTION]...\n"
+           "Puts Time Machine backups on a schedule of your choosing.\n\n"
+           "  --menu-bar=auto|tray|bar  where the menu-bar item is shown (Linux): in the tray\n"
+           "                            when there is one and else in a slim bar, or always in\n"
+           "                            one of them\n"
+           "  --print-changes           print a line for each change of the menu-bar item\n"
+           "  --version                 print the version and end\n"
+           "  -h, --help                print this text and end\n\n"
+           "Environment: QUILLON_TMUTIL names the tmutil tool to use.\n"_s;
+}
+
+} // namespace quillon

@@ -1,0 +1,104 @@
+#include "AlertBox.h"
+#include "Bundle.h"
+#include "ChangePrinter.h"
+#include "DataManager.h"
+#include "LocalizedString.h"
+#include "LoginItemFactory.h"
+#include "NotificationCenter.h"
+#include "Options.h"
+#include "QtRunLoop.h"
+#include "SingleInstance.h"
+#include "StatusMenuController.h"
+#include "TMUtilPath.h"
+#include "TMUtilQueue.h"
+#include "Task.h"
+#include "UserDefaultsStore.h"
+#include "WorkspaceFactory.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+
+#include <clocale>
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+using namespace quillon;
+using namespace Qt::StringLiterals;
+
+constexpr int exitFailed = 1;
+constexpr int exitUsage = 2;
+
+void printLine(std::FILE* stream, const QString& text)
+{
+    std::fputs((text + u'\n').toLocal8Bit().constData(), stream);
+}
+
+/// Creates the services, joins the parts and runs until the user quits.
+int runApplication(const Options& options, SingleInstance& instance)
+{
+    QtRunLoop runLoop;
+    Task launcher;
+    NotificationCenter notifications;
+    AlertBox alerts;
+    const auto defaults = openUserDefaults(DefaultsAccess::ReadWrite);
+    const auto workspace = makeWorkspace(runLoop);
+    const auto loginItem = makeLoginItem(QCoreApplication::applicationFilePath());
+    TMUtilQueue tmutilQueue(launcher, runLoop, tmutilPath());
+    DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});
+    const auto statusItem = makeStatusItem(options.placement);
+    StatusMenuController controller(
+        {runLoop, *defaults, notifications, *workspace, tmutilQueue, launcher, alerts, dataManager, *statusItem});
+
+    std::unique_ptr<ChangePrinter> printer;
+    if (options.printChanges)
+        printer = std::make_unique<ChangePrinter>(controller, runLoop);
+    controller.awakeFromNib();
+    QObject::connect(&instance, &SingleInstance::presentRequested, statusItem.get(), &StatusItem::present);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [&tmutilQueue] { tmutilQueue.shutDown(); });
+    return QApplication::exec();
+}
+
+/// Two instances on one settings folder never run: a second start brings the first one to the front.
+int runAsOnlyInstance(const Options& options)
+{
+    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    if (instance.acquire())
+        return runApplication(options, instance);
+    if (instance.askFirstToPresent())
+        return 0;
+    // The other one may just have ended.
+    if (instance.acquire())
+        return runApplication(options, instance);
+    printLine(stderr, u"quillon: %1"_s.arg(instance.errorString()));
+    return exitFailed;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    QString error;
+    const auto options = Options::parse(words, &error);
+    if (!options) {
+        printLine(stderr, u"quillon: %1"_s.arg(error));
+        return exitUsage;
+    }
+    // Answered ahead of the application object, which needs a display.
+    if (options->help || options->version) {
+        printLine(stdout, options->help ? Options::helpText() : u"Quillon %1"_s.arg(bundleShortVersion()));
+        return 0;
+    }
+    QApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName(u"Quillon"_s);
+    QApplication::setApplicationVersion(bundleShortVersion());
+    QApplication::setDesktopFileName(u"com.Orvane.Quillon"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
+    installStringTable();
+    return runAsOnlyInstance(*options);
+}

@@ -1,0 +1,175 @@
+#include "Calendar.h"
+#include "EventLoop.h"
+#include "FileUserDefaults.h"
+#include "PracticeTmutil.h"
+#include "SettingsKeys.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int secondsOfADay = 86400;
+
+/// Seconds since local midnight, `ahead` seconds from now.
+qlonglong timeOfDay(int ahead)
+{
+    const auto local = Calendar().localTime(Date(std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch())));
+    return (local.hour * 3600 + local.minute * 60 + local.second + ahead) % secondsOfADay;
+}
+
+} // namespace
+
+class Application : public testing::Test {
+protected:
+    Application()
+    {
+        practice.write(u"source/letter"_s, "Dear reader");
+        environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_CONFIG_HOME"_s, practice.path(u"settings"_s));
+        environment.insert(u"XDG_RUNTIME_DIR"_s, practice.path(u"runtime"_s));
+        environment.insert(u"QUILLON_TMUTIL"_s, practice.executable());
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        // The session's own buses are none of this test's business.
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
+        environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
+        for (const auto& folder : {u"settings"_s, u"runtime"_s})
+            QDir().mkpath(practice.path(folder));
+        QFile::setPermissions(practice.path(u"runtime"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    ~Application() override
+    {
+        application.terminate();
+        application.waitForFinished();
+    }
+
+    FileUserDefaults settings(DefaultsAccess access = DefaultsAccess::ReadOnly) const
+    {
+        return FileUserDefaults(settingsFile(), access);
+    }
+    QString settingsFile() const { return practice.path(u"settings/com.Orvane.Quillon.plist"_s); }
+
+    void start(QProcess& process, const QStringList& options = {u"--menu-bar=bar"_s, u"--print-changes"_s})
+    {
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(QUILLON_EXECUTABLE), options);
+        ASSERT_TRUE(process.waitForStarted());
+    }
+
+    bool hasPrinted(const QByteArray& text)
+    {
+        return runUntil([&] {
+                   printed += application.readAllStandardOutput();
+                   return printed.contains(text) || application.state() == QProcess::NotRunning;
+               }) &&
+               printed.contains(text);
+    }
+
+    Answer quillonctl(const QStringList& arguments)
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(QUILLONCTL_EXECUTABLE), arguments);
+        process.waitForFinished(60'000);
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    PracticeTmutil practice{QStringLiteral(TMUTIL_EXECUTABLE)};
+    QProcessEnvironment environment;
+    QProcess application;
+    QByteArray printed;
+};
+
+TEST_F(Application, ARuleThatFallsDueBacksUpForRealAndIsRecorded)
+{
+    const QString disk = practice.addDisk(u"Backup Disk"_s);
+    settings(DefaultsAccess::ReadWrite)
+        .setObject(settingskeys::calendarIntervals,
+                   QVariantList{QVariantMap{{u"day"_s, 0LL}, {u"time"_s, timeOfDay(5)}}});
+    start(application);
+    ASSERT_TRUE(hasPrinted("icon=2 ")) << printed.toStdString();
+    ASSERT_TRUE(hasPrinted("icon=3 ")) << printed.toStdString();
+    EXPECT_FALSE(printed.contains("icon=5"));
+    EXPECT_TRUE(runUntil([&] { return settings().object(settingskeys::latestBackupInfo).isValid(); }));
+    EXPECT_EQ(settings().string(settingskeys::lastBackupDiskIdentifier), disk);
+    EXPECT_FALSE(settings().boolean(settingskeys::firstLaunch));
+    EXPECT_TRUE(QFile::exists(practice.path(u"settings/autostart/com.Orvane.Quillon.desktop"_s)));
+
+    const auto answer = practice.run({u"latestbackup"_s});
+    const QString copy = QString::fromUtf8(answer.output.trimmed()) + practice.source() + u"/letter"_s;
+    ASSERT_EQ(practice.run({u"restore"_s, copy, practice.path(u"restored"_s)}).status, 0);
+    QFile restored(practice.path(u"restored"_s));
+    ASSERT_TRUE(restored.open(QIODevice::ReadOnly));
+    EXPECT_EQ(restored.readAll(), "Dear reader");
+}
+
+TEST_F(Application, ASecondStartBringsTheFirstToTheFrontAndEnds)
+{
+    start(application);
+    ASSERT_TRUE(hasPrinted("Not Running"));
+    QProcess second;
+    start(second, {u"--menu-bar=bar"_s});
+    EXPECT_TRUE(runUntil([&] { return second.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(second.exitCode(), 0);
+    EXPECT_EQ(application.state(), QProcess::Running);
+}
+
+TEST_F(Application, DamagedSettingsAreSetAsideWithAWarningAndAToolThatIsMissingIsSurvived)
+{
+    practice.write(u"settings/com.Orvane.Quillon.plist"_s, "<plist><dict><key>half");
+    environment.insert(u"QUILLON_TMUTIL"_s, u"/nonexistent"_s);
+    start(application);
+    ASSERT_TRUE(hasPrinted("Unknown"));
+    EXPECT_TRUE(application.readAllStandardError().contains("com.Orvane.Quillon.plist"));
+    EXPECT_EQ(QDir(practice.path(u"settings"_s)).entryList({u"*damaged*"_s}).size(), 1);
+    EXPECT_EQ(application.state(), QProcess::Running);
+}
+
+TEST_F(Application, UnknownOptionsEndWithOneClearLine)
+{
+    for (const auto& option : {u"--nonsense"_s, u"--menu-bar=dock"_s, u"file"_s}) {
+        QProcess process;
+        start(process, {option});
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitCode(), 2);
+        const auto error = process.readAllStandardError();
+        EXPECT_TRUE(error.startsWith("quillon: ")) << error.toStdString();
+        EXPECT_EQ(error.count('\n'), 1);
+    }
+}
+
+TEST_F(Application, QuillonctlReadsTheSameAnswersAndWritesNothing)
+{
+    const QString disk = practice.addDisk(u"50%1 & Disk"_s);
+    environment.insert(u"TZ"_s, u"America/New_York"_s);
+    const auto status = quillonctl({u"status"_s, u"--json"_s});
+    EXPECT_EQ(status.status, 0);
+    const auto record = QJsonDocument::fromJson(status.output).object();
+    EXPECT_EQ(record.value(u"phase"_s).toString(), u"Not Running"_s);
+    EXPECT_EQ(record.size(), 7);
+    const auto disks = QJsonDocument::fromJson(quillonctl({u"destinations"_s, u"--json"_s}).output).array();
+    ASSERT_EQ(disks.size(), 1);
+    EXPECT_EQ(disks[0].toObject().value(u"id"_s).toString(), disk);
+    EXPECT_EQ(disks[0].toObject().value(u"name"_s).toString(), u"50%1 & Disk"_s);
+    EXPECT_EQ(quillonctl({u"next"_s, u"--count"_s, u"2"_s, u"--from"_s, u"2026-10-31T12:00"_s}).output,
+              "2026-10-31T12:00:00-04:00\n2026-11-01T12:00:00-05:00\n");
+    EXPECT_EQ(quillonctl({u"next"_s, u"--count"_s}).status, 2);
+    environment.insert(u"QUILLON_TMUTIL"_s, u"/nonexistent"_s);
+    EXPECT_EQ(quillonctl({u"status"_s}).status, 1);
+    EXPECT_TRUE(QDir(practice.path(u"settings"_s)).isEmpty());
+}
+
+} // namespace quillon
