@@ -7,6 +7,7 @@
 #include "NotificationCenter.h"
 #include "Options.h"
 #include "QtRunLoop.h"
+#include "QuitSignals.h"
 #include "SingleInstance.h"
 #include "StatusMenuController.h"
 #include "TMUtilPath.h"
@@ -100,5 +101,6 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(u"com.Orvane.Quillon"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     installStringTable();
+    const QuitSignals quitSignals;
     return runAsOnlyInstance(*options);
 }

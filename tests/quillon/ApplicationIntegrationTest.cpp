@@ -138,6 +138,24 @@ TEST_F(Application, DamagedSettingsAreSetAsideWithAWarningAndAToolThatIsMissingI
     EXPECT_EQ(application.state(), QProcess::Running);
 }
 
+TEST_F(Application, EndsInOrderWhenItIsToldToAndTakesAReadingChildAlong)
+{
+    practice.write(u"hanging"_s, "#!/bin/sh\necho $$ > \"$0.pid\"\nexec sleep 1000\n");
+    QFile::setPermissions(practice.path(u"hanging"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    environment.insert(u"QUILLON_TMUTIL"_s, practice.path(u"hanging"_s));
+    start(application);
+    QFile pidFile(practice.path(u"hanging.pid"_s));
+    ASSERT_TRUE(runUntil([&] { return pidFile.size() > 1; }));
+    ASSERT_TRUE(pidFile.open(QIODevice::ReadOnly));
+    const QString child = u"/proc/"_s + QString::fromUtf8(pidFile.readAll().trimmed());
+    EXPECT_TRUE(QFile::exists(child));
+    application.terminate();
+    ASSERT_TRUE(application.waitForFinished());
+    EXPECT_EQ(application.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(application.exitCode(), 0);
+    EXPECT_TRUE(runUntil([&] { return !QFile::exists(child); }));
+}
+
 TEST_F(Application, UnknownOptionsEndWithOneClearLine)
 {
     for (const auto& option : {u"--nonsense"_s, u"--menu-bar=dock"_s, u"file"_s}) {
