@@ -1,8 +1,4 @@
-#include "AlertPresenter.h"
-#include "FakeServices.h"
-#include "MemoryDefaults.h"
-#include "StatusItem.h"
-#include "StatusMenuController.h"
+#include "ProgramUnderTest.h"
 #include "StatusText.h"
 #include "VirtualRunLoop.h"
 
@@ -51,22 +47,14 @@ private:
 void onePoll(benchmark::State& state, const QByteArray& answer)
 {
     VirtualRunLoop runLoop(Date(std::chrono::hours(24 * 20778)));
-    MemoryDefaults defaults;
-    NotificationCenter notifications;
-    FakeWorkspace workspace;
-    FakeAlerts alerts;
-    FakeLoginItem loginItem;
     InstantLauncher launcher(runLoop, answer);
-    TMUtilQueue queue(launcher, runLoop, QStringLiteral("tmutil"));
-    DataManager manager({runLoop, defaults, notifications, loginItem});
     const auto item = makeStatusItem(StatusItemPlacement::Bar);
-    StatusMenuController controller(
-        {runLoop, defaults, notifications, workspace, queue, launcher, alerts, manager, *item});
-    controller.awakeFromNib();
+    ProgramUnderTest program(runLoop, launcher, QStringLiteral("tmutil"));
+    program.startShowing(*item);
     runLoop.advance(Seconds(60));
     for (auto _ : state) {
         runLoop.stepWallClock(Seconds(1)); // so that what is shown changes
-        controller.requestTimeMachineStatus();
+        program.controller->requestTimeMachineStatus();
         runLoop.settle();
         QCoreApplication::processEvents();
     }

@@ -13,28 +13,16 @@ namespace {
 using Fault = TmutilScript::Fault;
 
 /// The whole program in front of a Time Machine one of whose calls goes wrong.
-struct World {
-    explicit World(const SimulatedTimeMachine::Injection& injection, const QList<SimulatedTimeMachine::Phase>& phases)
+struct World : PlayedProgram {
+    World(const SimulatedTimeMachine::Injection& injection, const QList<SimulatedTimeMachine::Phase>& phases)
+        : PlayedProgram(local(2026, 11, 21, 11, 59))
     {
         machine.injection = injection;
         if (!phases.isEmpty())
             machine.phases = phases;
         machine.destinations = {{u"A"_s, u"First"_s}, {u"B"_s, u"Second"_s}};
-        controller.awakeFromNib();
+        launch();
     }
-
-    VirtualRunLoop runLoop{local(2026, 11, 21, 11, 59)};
-    MemoryDefaults defaults;
-    NotificationCenter notifications;
-    FakeWorkspace workspace;
-    FakeAlerts alerts;
-    FakeLoginItem loginItem;
-    FakeStatusItem item;
-    SimulatedTimeMachine machine{runLoop};
-    TMUtilQueue queue{machine, runLoop, u"tmutil"_s};
-    DataManager manager{{runLoop, defaults, notifications, loginItem}};
-    StatusMenuController controller{
-        {runLoop, defaults, notifications, workspace, queue, machine, alerts, manager, item}};
 };
 
 struct Scenario {
@@ -46,12 +34,12 @@ struct Scenario {
 void checkEnd(World& world, const std::string& what)
 {
     EXPECT_EQ(world.machine.liveChildren(), 0) << what << ": a process is left";
-    EXPECT_TRUE(world.manager.nextScheduledBackupDate()) << what << ": no next date";
-    EXPECT_TRUE(world.manager.startBackupTimer().isValid()) << what << ": the next start is not armed";
-    EXPECT_EQ(world.controller.tmState(), TMState::NotRunning) << what << ": the state shown is not true";
-    EXPECT_NE(world.controller.uiState(), TMState::Running) << what;
+    EXPECT_TRUE(world.manager->nextScheduledBackupDate()) << what << ": no next date";
+    EXPECT_TRUE(world.manager->startBackupTimer().isValid()) << what << ": the next start is not armed";
+    EXPECT_EQ(world.controller->tmState(), TMState::NotRunning) << what << ": the state shown is not true";
+    EXPECT_NE(world.controller->uiState(), TMState::Running) << what;
     EXPECT_NE(world.item.title, u""_s) << what << ": nothing is shown";
-    EXPECT_TRUE(world.controller.statusMenu().backupNowMenuItem->isEnabled()) << what;
+    EXPECT_TRUE(world.controller->statusMenu().backupNowMenuItem->isEnabled()) << what;
     // Every start stands for a date of its own: the scheduled one, or a retry minutes later.
     const auto& starts = world.machine.startUptimes();
     for (qsizetype i = 1; i < starts.size(); ++i)
@@ -70,7 +58,7 @@ TEST_P(FaultSweep, AnyOneCallThatFailsLeavesNoProcessNoSecondStartAndATrueState)
         int calls = 1;
         for (int k = 1; k <= calls; ++k) {
             World world({k, fault, fault == Fault::None ? 2 : 0, {}}, GetParam().phases);
-            world.runLoop.advance(Seconds(91));
+            world.runLoop.advance(Seconds(90));
             GetParam().meanwhile(world);
             world.runLoop.advance(Seconds(130));
             calls = static_cast<int>(world.machine.launched().size());

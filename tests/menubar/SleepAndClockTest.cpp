@@ -179,20 +179,12 @@ TEST_F(SleepAndClock, APauseThatEndsInSleepEndsOnWake)
 TEST_F(SleepAndClock, EveryDayStartsOnceAcrossBothChangesOfTheClocks)
 {
     for (const Date begin : {local(2026, 10, 24, 9), local(2027, 3, 27, 9)}) {
-        VirtualRunLoop loop{begin};
-        SimulatedTimeMachine timeMachine{loop};
-        TMUtilQueue tmutilQueue{timeMachine, loop, u"tmutil"_s};
-        MemoryDefaults settings;
-        settings.stored[settingskeys::calendarIntervals] =
-            CalendarIntervalRule::listToArray({{0, 2 * 3600 + 1800}, {2, 8 * 3600}});
-        DataManager model({loop, settings, notifications, loginItem});
-        FakeStatusItem bar;
-        StatusMenuController program(
-            {loop, settings, notifications, workspace, tmutilQueue, timeMachine, alerts, model, bar});
-        program.awakeFromNib();
-        loop.advance(49h);
-        EXPECT_EQ(timeMachine.starts(), 3) << "Sunday and Monday at half past two, Monday at eight";
-        EXPECT_EQ(timeMachine.liveChildren(), 0);
+        PlayedProgram program(begin);
+        program.setRules({{0, 2 * 3600 + 1800}, {2, 8 * 3600}});
+        program.launch();
+        program.runLoop.advance(49h);
+        EXPECT_EQ(program.machine.starts(), 3) << "Sunday and Monday at half past two, Monday at eight";
+        EXPECT_EQ(program.machine.liveChildren(), 0);
     }
 }
 

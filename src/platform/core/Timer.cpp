@@ -47,9 +47,4 @@ void Timer::fire()
     block();
 }
 
-Date Timer::fireDate() const
-{
-    return state_->fireDate;
-}
-
 } // namespace quillon

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Date.h"
-
 #include <memory>
 
 namespace quillon {
@@ -29,9 +27,6 @@ public:
     /// Runs the block now. A repeating timer keeps its schedule, a one-shot timer is invalidated; an invalid timer
     /// does nothing.
     void fire();
-
-    /// Wall-clock date of a one-shot timer. Only for a valid one-shot timer.
-    Date fireDate() const;
 
 private:
     friend class RunLoop;

@@ -38,7 +38,6 @@ TEST_F(RunLoopTest, AOneShotTimerRunsOnceAndOnlyWhenNowIsPastItsDate)
 {
     std::vector<Date> runs;
     const Timer timer = loop.scheduleOnce(start + 10s, [&] { runs.push_back(loop.now()); });
-    EXPECT_EQ(timer.fireDate(), start + 10s);
     loop.advance(10s);
     EXPECT_TRUE(runs.empty()) << "now equals the date";
     loop.advance(1h);
