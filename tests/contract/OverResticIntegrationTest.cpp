@@ -1,4 +1,3 @@
-#include "PracticeTmutil.h"
 #include "TmutilContract.h"
 
 #include <QFile>
@@ -12,7 +11,7 @@ namespace {
 /// Our tmutil over a real restic.
 class OverRestic final : public ContractSubject {
 public:
-    QString executable() const override { return practice_.executable(); }
+    Answer call(const QStringList& arguments) override { return practice_.run(arguments); }
     QString addDisk(const QString& name) override { return practice_.addDisk(name); }
     void makeBackupLong() override { practice_.writeLargeFile(); }
     void makeBackupFail(const QString& id) override { QFile::remove(practice_.keyFile(id)); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PracticeTmutil.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -12,7 +14,7 @@
 
 namespace quillon {
 
-/// A tmutil under test, on ground of its own that goes with it. Its executable needs no environment.
+/// A tmutil under test, on ground of its own that goes with it.
 class ContractSubject {
 public:
     ContractSubject() = default;
@@ -20,7 +22,7 @@ public:
     ContractSubject& operator=(const ContractSubject&) = delete;
     virtual ~ContractSubject() = default;
 
-    virtual QString executable() const = 0;
+    virtual Answer call(const QStringList& arguments) = 0;
 
     /// Adds a backup disk of that name; gives its identifier.
     virtual QString addDisk(const QString& name) = 0;

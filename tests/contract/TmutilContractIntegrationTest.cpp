@@ -1,4 +1,3 @@
-#include "PracticeTmutil.h"
 #include "PropertyList.h"
 #include "TmutilContract.h"
 
@@ -19,12 +18,12 @@ const QStringList phases{
 
 int TmutilContract::call(const QStringList& arguments) const
 {
-    return runProgram(subject_->executable(), arguments).status;
+    return subject_->call(arguments).status;
 }
 
 QVariantMap TmutilContract::status() const
 {
-    const Answer answer = runProgram(subject_->executable(), {u"status"_s});
+    const Answer answer = subject_->call({u"status"_s});
     EXPECT_EQ(answer.status, 0) << answer.error.toStdString();
     const auto dictionary = parseStatus(answer.output);
     EXPECT_TRUE(dictionary) << answer.output.toStdString();
@@ -54,7 +53,7 @@ QStringList TmutilContract::phasesUntilEnd() const
 
 QVariantList TmutilContract::destinations() const
 {
-    const Answer answer = runProgram(subject_->executable(), {u"destinationinfo"_s, u"-X"_s});
+    const Answer answer = subject_->call({u"destinationinfo"_s, u"-X"_s});
     EXPECT_EQ(answer.status, 0);
     const QVariantMap dictionary = propertylist::parse(answer.output).value_or(QVariant()).toMap();
     EXPECT_TRUE(dictionary.contains(u"Destinations"_s));

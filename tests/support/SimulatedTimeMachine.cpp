@@ -22,7 +22,7 @@ void SimulatedTimeMachine::start(const QString& destination)
 {
     begun_ = Date(runLoop_.uptime());
     stoppedAfter_.reset();
-    destination_ = destination;
+    used_.append(destination);
     ++starts_;
     startDates_.append(runLoop_.now());
     startUptimes_.append(runLoop_.uptime());
@@ -69,14 +69,34 @@ TmutilScript::Call SimulatedTimeMachine::behaviour(const TaskRequest& request)
     } else if (command == "destinationinfo"_L1) {
         call.output = destinationInfo();
     } else if (command == "startbackup"_L1 && takesEffect) {
-        if (isRunning())
-            call.status = 1;
-        else
-            start(request.arguments.contains(u"-d"_s) ? request.arguments.last() : destinations.first().id);
+        call.status = startBackup(request.arguments);
     } else if (command == "stopbackup"_L1 && takesEffect) {
         stop();
     }
     return call;
+}
+
+int SimulatedTimeMachine::startBackup(const QStringList& arguments)
+{
+    const QString chosen = chosenDestination(arguments);
+    if (isRunning() || chosen.isEmpty())
+        return 1;
+    start(chosen);
+    return 0;
+}
+
+QString SimulatedTimeMachine::chosenDestination(const QStringList& arguments) const
+{
+    QStringList ids;
+    for (const auto& destination : destinations)
+        ids.append(destination.id);
+    if (const auto option = arguments.indexOf("-d"_L1); option >= 0)
+        return ids.contains(arguments.value(option + 1)) ? arguments.value(option + 1) : QString();
+    if (arguments.contains("-r"_L1)) // the one whose last run is longest ago
+        std::ranges::stable_sort(ids, {}, [this](const QString& id) { return used_.lastIndexOf(id); });
+    else if (!used_.isEmpty())
+        return used_.last();
+    return ids.value(0);
 }
 
 bool SimulatedTimeMachine::isInjected() const
@@ -92,7 +112,7 @@ bool SimulatedTimeMachine::isInjected() const
 QByteArray SimulatedTimeMachine::status() const
 {
     if (!isRunning())
-        return "Backup session status:\n{\n    ClientID = \"com.apple.backupd\";\n    Running = 0;\n}\n";
+        return idleStatus();
     double into = stoppedAfter_ ? std::min(elapsed(), *stoppedAfter_) : elapsed();
     Phase current = phases.last();
     for (const auto& phase : phases) {
@@ -103,7 +123,7 @@ QByteArray SimulatedTimeMachine::status() const
         into -= phase.seconds;
     }
     QString text = u"Backup session status:\n{\n    BackupPhase = %1;\n    DestinationID = \"%2\";\n    Running = 1;\n"
-                   "    Stopping = %3;\n"_s.arg(current.word, destination_, stoppedAfter_ ? u"1"_s : u"0"_s);
+                   "    Stopping = %3;\n"_s.arg(current.word, used_.last(), stoppedAfter_ ? u"1"_s : u"0"_s);
     if (current.reportsProgress) {
         const double fraction = into / current.seconds;
         text +=
@@ -114,12 +134,23 @@ QByteArray SimulatedTimeMachine::status() const
     return (text + u"}\n"_s).toUtf8();
 }
 
+QByteArray SimulatedTimeMachine::idleStatus() const
+{
+    QByteArray failure;
+    if (begun_ && !stoppedAfter_ && phases.last().word != "Finishing"_L1)
+        failure = "    LastFailure =     {\n        Description = \"The disk is full.\";\n        DestinationID = \"" +
+                  used_.last().toUtf8() + "\";\n    };\n";
+    return "Backup session status:\n{\n    ClientID = \"com.apple.backupd\";\n" + failure + "    Running = 0;\n}\n";
+}
+
 QByteArray SimulatedTimeMachine::destinationInfo() const
 {
     QByteArray list;
     for (const auto& destination : destinations) {
         list += "<dict><key>ID</key><string>" + destination.id.toUtf8() + "</string><key>Name</key><string>" +
-                destination.name.toHtmlEscaped().toUtf8() + "</string><key>Kind</key><string>Local</string></dict>";
+                destination.name.toHtmlEscaped().toUtf8() +
+                "</string><key>Kind</key><string>Local</string><key>LastDestination</key><integer>" +
+                QByteArray(!used_.isEmpty() && used_.last() == destination.id ? "1" : "0") + "</integer></dict>";
     }
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict><key>Destinations</key><array>" +
            list + "</array></dict></plist>";

@@ -53,7 +53,10 @@ protected:
     TmutilScript::Call behaviour(const TaskRequest& request) override;
 
 private:
+    int startBackup(const QStringList& arguments);
+    QString chosenDestination(const QStringList& arguments) const;
     QByteArray status() const;
+    QByteArray idleStatus() const;
     QByteArray destinationInfo() const;
     double elapsed() const;
     double runLength() const;
@@ -62,7 +65,7 @@ private:
     VirtualRunLoop& runLoop_;
     std::optional<Date> begun_;
     std::optional<double> stoppedAfter_;
-    QString destination_;
+    QStringList used_; ///< disk of each run, the latest last
     int starts_ = 0;
     QList<Date> startDates_;
     QList<std::chrono::milliseconds> startUptimes_;
