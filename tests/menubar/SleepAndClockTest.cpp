@@ -7,15 +7,6 @@ using namespace std::chrono_literals;
 
 class SleepAndClock : public ControllerFixture {
 protected:
-    void sleepUntil(Date date)
-    {
-        workspace.sleep();
-        const Seconds slept = date - runLoop.now();
-        runLoop.stepWallClock(slept); // the uptime clock stands still
-        workspace.wake();
-        runLoop.settle();
-    }
-
     void completeABackup()
     {
         machine.start(u"A"_s);
@@ -174,18 +165,6 @@ TEST_F(SleepAndClock, APauseThatEndsInSleepEndsOnWake)
     EXPECT_EQ(defaults.integer(settingskeys::pauseUntilTag), 0);
     EXPECT_FALSE(menu().pauseScheduleMenuItem->isChecked());
     EXPECT_FALSE(menu().resumeScheduleMenuItem->isVisible());
-}
-
-TEST_F(SleepAndClock, EveryDayStartsOnceAcrossBothChangesOfTheClocks)
-{
-    for (const Date begin : {local(2026, 10, 24, 9), local(2027, 3, 27, 9)}) {
-        PlayedProgram program(begin);
-        program.setRules({{0, 2 * 3600 + 1800}, {2, 8 * 3600}});
-        program.launch();
-        program.runLoop.advance(49h);
-        EXPECT_EQ(program.machine.starts(), 3) << "Sunday and Monday at half past two, Monday at eight";
-        EXPECT_EQ(program.machine.liveChildren(), 0);
-    }
 }
 
 } // namespace quillon

@@ -26,6 +26,14 @@ struct PlayedProgram : PlayedSystem, ProgramUnderTest {
         start();
         runLoop.advance(Seconds(1));
     }
+
+    void sleepUntil(Date date)
+    {
+        workspace.sleep();
+        runLoop.stepWallClock(date - runLoop.now()); // the uptime clock stands still
+        workspace.wake();
+        runLoop.settle();
+    }
 };
 
 } // namespace quillon
