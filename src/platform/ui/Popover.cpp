@@ -1,0 +1,274 @@
+#include "Popover.h"
+
+#include "PopoverFrame.h"
+#include "WindowSystem.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr int fadeMilliseconds = 130;
+
+QRect pointerOrCorner()
+{
+    const QPoint pointer = QCursor::pos();
+    if (QGuiApplication::screenAt(pointer))
+        return {pointer, QSize(1, 1)};
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    return primary ? QRect(primary->availableGeometry().topRight(), QSize(1, 1)) : QRect();
+}
+
+} // namespace
+
+Popover::Popover(QWidget* parent)
+    : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint | Qt::WindowStaysOnTopHint)
+{
+    setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+    setAttribute(Qt::WA_TranslucentBackground);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    fade_.setDuration(fadeMilliseconds);
+    connect(&fade_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& opacity) { setWindowOpacity(opacity.toReal()); });
+    connect(&fade_, &QVariantAnimation::finished, this, [this] { setVisible(shown_); });
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive)
+            closeIfLeft();
+    });
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Popover::place);
+}
+
+void Popover::setContentView(QWidget* content)
+{
+    delete content_;
+    content_ = content;
+    if (content)
+        layout()->addWidget(content);
+}
+
+void Popover::showRelativeTo(const PopoverAnchor& anchor, RectEdge preferredEdge)
+{
+    if (!shown_ && isVisible()) // still fading out
+        hide();
+    anchor_ = anchor;
+    if (!anchor_.view && anchor_.screenRect.isEmpty())
+        anchor_.screenRect = pointerOrCorner();
+    preferredEdge_ = preferredEdge;
+    const bool appears = !shown_;
+    shown_ = true;
+    if (appears)
+        adaptToDisplay();
+    layout()->activate();
+    place();
+    if (appears)
+        appear();
+    bringToFront(*this);
+    if (appears)
+        Q_EMIT didShow();
+}
+
+void Popover::close()
+{
+    if (!shown_)
+        return;
+    shown_ = false;
+    if (!animates_ || !windowsFade()) {
+        hide();
+        return;
+    }
+    fade_.stop();
+    fade_.setStartValue(windowOpacity());
+    fade_.setEndValue(0.0);
+    fade_.start();
+}
+
+/// A compositor may have come or gone since the popover was shown last, and windows don't change their kind.
+void Popover::adaptToDisplay()
+{
+    const bool translucent = windowsAreTranslucent();
+    if (translucent != translucent_) {
+        destroy();
+        translucent_ = translucent;
+        setAttribute(Qt::WA_TranslucentBackground, translucent);
+        clearMask();
+    }
+    margin_ = translucent ? popoverShadowExtent : popoverArrowLength;
+    constexpr int line = 1;
+    const int inset = margin_ + line;
+    layout()->setContentsMargins(inset, inset, inset, inset);
+}
+
+void Popover::appear()
+{
+    winId(); // makes the window
+    const QWidget* owner = anchor_.view ? anchor_.view->window() : parentWidget();
+    windowHandle()->setTransientParent(owner ? owner->window()->windowHandle() : nullptr);
+    const bool fades = animates_ && windowsFade();
+    if (windowsFade())
+        setWindowOpacity(fades ? 0 : 1);
+    qApp->installEventFilter(this);
+    show();
+    if (fades) {
+        fade_.setStartValue(0.0);
+        fade_.setEndValue(1.0);
+        fade_.start();
+    }
+    if (!focusWidget())
+        focusNextChild();
+}
+
+void Popover::place()
+{
+    if (!shown_ || !windowsCanBePlaced())
+        return;
+    const QRect anchor = currentAnchor();
+    const QScreen* screen = screenOfAnchor(anchor);
+    if (!screen) // for a moment, while monitors are exchanged
+        return;
+    connect(screen, &QScreen::availableGeometryChanged, this, &Popover::place, Qt::UniqueConnection);
+    const QRect own = body();
+    const auto [target, arrow] = popoverPlacement(anchor, own.size(), screen->availableGeometry(), preferredEdge_);
+    arrow_ = arrow;
+    move(target.topLeft() - own.topLeft());
+    if (!translucent_)
+        setMask(QRegion(popoverOutline(own, arrow_).toFillPolygon().toPolygon()));
+    update();
+}
+
+/// A view that goes away leaves the place behind where it was last.
+QRect Popover::currentAnchor()
+{
+    if (anchor_.view && anchor_.view->isVisible())
+        anchor_.screenRect = QRect(anchor_.view->mapToGlobal(QPoint()), anchor_.view->size());
+    return anchor_.screenRect;
+}
+
+QScreen* Popover::screenOfAnchor(const QRect& anchor) const
+{
+    const QPoint middle(anchor.x() + anchor.width() / 2, anchor.y() + anchor.height() / 2);
+    if (QScreen* screen = QGuiApplication::screenAt(middle))
+        return screen;
+    return anchor_.view ? anchor_.view->screen() : QGuiApplication::primaryScreen();
+}
+
+/// In the window's own coordinates.
+QRect Popover::body() const
+{
+    return rect().adjusted(margin_, margin_, -margin_, -margin_);
+}
+
+bool Popover::contains(const QWidget* widget) const
+{
+    while (widget && widget != this)
+        widget = widget->parentWidget();
+    return widget;
+}
+
+/// Whether something that belongs to the popover is in front of it.
+bool Popover::isOccupied() const
+{
+    if (QApplication::activeModalWidget() || contains(QApplication::activePopupWidget()))
+        return true;
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [this](const QWidget* window) {
+        const auto* popover = qobject_cast<const Popover*>(window);
+        return popover && popover->isShown() && popover->anchor_.view && popover != this &&
+               contains(popover->anchor_.view);
+    });
+}
+
+/// The user has turned to something else.
+void Popover::closeIfLeft()
+{
+    if (shown_ && behavior_ == PopoverBehavior::Transient && !isOccupied())
+        close();
+}
+
+bool Popover::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (watched->isWidgetType() && !contains(static_cast<QWidget*>(watched)))
+            closeIfLeft();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (anchor_.view && (watched == anchor_.view || watched == anchor_.view->window()))
+            place();
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Popover::closeEvent(QCloseEvent* event)
+{
+    // The program's own end closes every window, and that is no spontaneous event.
+    if (!event->spontaneous())
+        return;
+    event->ignore();
+    closeIfLeft();
+}
+
+void Popover::hideEvent(QHideEvent* event)
+{
+    if (event->spontaneous())
+        return;
+    shown_ = false;
+    fade_.stop();
+    qApp->removeEventFilter(this);
+    Q_EMIT didClose();
+}
+
+void Popover::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        closeIfLeft();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void Popover::mousePressEvent(QMouseEvent* event)
+{
+    // Shadow and arrow are part of the window and yet outside of the popover.
+    if (!body().contains(event->position().toPoint()))
+        closeIfLeft();
+}
+
+void Popover::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    // Most of what is painted again lies amid the body.
+    constexpr int edge = popoverCornerRadius + 1;
+    if (body().adjusted(edge, edge, -edge, -edge).contains(event->rect())) {
+        painter.fillRect(event->rect(), palette().color(QPalette::Window));
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    constexpr qreal halfLine = 0.5;
+    const QRectF bodyLine = QRectF(body()).adjusted(halfLine, halfLine, -halfLine, -halfLine);
+    const QPainterPath outline = popoverOutline(bodyLine, arrow_);
+    if (translucent_)
+        paintPopoverShadow(painter, outline);
+    paintPopoverGround(painter, outline, palette());
+}
+
+void Popover::resizeEvent(QResizeEvent* /*event*/)
+{
+    place();
+}
+
+} // namespace quillon

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+namespace quillon {
+
+/// Sides of a rectangle, in a coordinate system whose y axis points up: MinY is the lower side, MaxY the upper one.
+enum class RectEdge { MinX = 0, MinY = 1, MaxX = 2, MaxY = 3 };
+
+/// From a popover's body to the tip of its arrow, in logical pixels.
+inline constexpr int popoverArrowLength = 9;
+/// Half of the arrow's base.
+inline constexpr int popoverArrowHalfWidth = 9;
+inline constexpr int popoverCornerRadius = 9;
+
+/// The arrow of a popover: on which side of the anchor the body lies, and how far from the body's left or upper side
+/// the tip is.
+struct PopoverArrow {
+    RectEdge edge = RectEdge::MinY;
+    int tip = 0;
+
+    bool operator==(const PopoverArrow&) const = default;
+};
+
+struct PopoverPlacement {
+    QRect body; ///< without arrow and shadow
+    PopoverArrow arrow;
+
+    bool operator==(const PopoverPlacement&) const = default;
+};
+
+/// Where a popover goes. It lies on the preferred side of its anchor, on the opposite side where the preferred one has
+/// no room for it, or else on one of the other two; it slides along the anchor to stay inside `available` while the
+/// arrow stays on the anchor's middle. Where no side has room it covers the anchor, and one that is larger than
+/// `available` keeps its upper left corner there.
+/// @param anchor may be empty, and may lie outside of `available`
+PopoverPlacement popoverPlacement(const QRect& anchor, const QSize& size, const QRect& available, RectEdge preferred);
+
+} // namespace quillon

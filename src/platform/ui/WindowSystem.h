@@ -1,0 +1,20 @@
+#pragma once
+
+class QWidget;
+
+namespace quillon {
+
+/// Whether what lies under a window shines through where the window is transparent; black shows there otherwise. May
+/// change while the program runs.
+bool windowsAreTranslucent();
+
+/// Whether a window's opacity has an effect.
+bool windowsFade();
+
+/// Whether a program decides where its windows lie.
+bool windowsCanBePlaced();
+
+/// Brings the application and its window, which is shown, to the front and gives the window the keyboard.
+void bringToFront(QWidget& window);
+
+} // namespace quillon
