@@ -1,6 +1,6 @@
+#include "BackupFixture.h"
 #include "ExitStatus.h"
-#include "PracticeTmutil.h"
-#include "ProcessLock.h"
+#include "History.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -9,13 +9,10 @@
 
 #include <csignal>
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -43,31 +40,6 @@ std::string inventory(const QString& folder)
     }
     entries.sort();
     return entries.join(u'\n').toStdString();
-}
-
-class BackupIntegration : public testing::Test {
-protected:
-    int call(const QStringList& arguments) const { return practice_.run(arguments).status; }
-
-    /// Starts a backup that lasts, and waits until it copies.
-    void startLongBackup()
-    {
-        practice_.writeLargeFile();
-        ASSERT_EQ(call({u"startbackup"_s}), 0);
-        ASSERT_TRUE(eventually([this] { return practice_.phase() == "Copying"_L1; }));
-    }
-
-    bool isRunning() const { return practice_.status().value(u"Running"_s).toString() == "1"_L1; }
-
-    pid_t worker() const { return ProcessLock::holder(practice_.stateFolder() + "/worker.lock"_L1).value_or(0); }
-
-    PracticeTmutil practice_{QStringLiteral(TMUTIL_EXECUTABLE)};
-};
-
-pid_t childOf(pid_t process)
-{
-    QFile children(u"/proc/%1/task/%1/children"_s.arg(process));
-    return children.open(QIODevice::ReadOnly) ? children.readAll().trimmed().toInt() : 0;
 }
 
 } // namespace
@@ -168,42 +140,13 @@ TEST_F(BackupIntegration, UnreadableFilesLeaveACompletedBackupWithARemark)
     practice_.write(u"source/readable"_s, "yes");
     practice_.write(u"source/secret"_s, "no");
     QFile::setPermissions(practice_.path(u"source/secret"_s), {});
-
-    // Root reads everything, so the rights are dropped.
-    QString program = practice_.executable();
-    QStringList arguments{u"startbackup"_s, u"-b"_s};
-    if (geteuid() == 0) {
-        ASSERT_EQ(runProgram(u"/usr/bin/chown"_s, {u"-R"_s, u"65534:65534"_s, practice_.path(u"."_s)}).status, 0);
-        arguments = QStringList{u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s, program} + arguments;
-        program = u"/usr/bin/setpriv"_s;
-    }
-    const Answer backup = practice_.watch(program, arguments);
+    giveToOrdinaryUser(practice_);
+    const Answer backup = callAsOrdinaryUser(practice_, {u"startbackup"_s, u"-b"_s});
     EXPECT_EQ(backup.status, 0) << backup.error.toStdString();
     EXPECT_EQ(backup.output, "One file could not be read.\n");
     const QVariantMap remark = practice_.status().value(u"LastFailure"_s).toMap();
     EXPECT_EQ(remark.value(u"UnreadFiles"_s).toInt(), 1);
     EXPECT_EQ(call({u"latestbackup"_s}), 0);
-}
-
-TEST_F(BackupIntegration, AFullDiskIsAFailureWithAClearLine)
-{
-    // A small file system in a mount namespace of its own; users who are not root get one in a user namespace.
-    practice_.write(u"source/random"_s, {});
-    ASSERT_EQ(runProgram(u"/bin/sh"_s, {u"-c"_s, u"/usr/bin/head -c 20000000 /dev/urandom >'%1'"_s.arg(
-                                                     practice_.path(u"source/random"_s))})
-                  .status,
-              0);
-    QDir().mkpath(practice_.path(u"disk"_s));
-    QStringList arguments{u"--mount"_s};
-    if (geteuid() != 0)
-        arguments << u"--map-root-user"_s;
-    const QString script =
-        u"PATH=/usr/bin:/bin:/usr/sbin:/sbin && mount -t tmpfs -o size=8m none '%1' && "
-        "'%2' setdestination '%1' && '%2' startbackup -b"_s.arg(practice_.path(u"disk"_s), practice_.executable());
-    const Answer backup = practice_.watch(u"/usr/bin/unshare"_s, arguments << u"/bin/sh"_s << u"-c"_s << script);
-    EXPECT_EQ(backup.status, static_cast<int>(ExitStatus::Failed));
-    EXPECT_EQ(backup.error, "tmutil: The backup disk is full.\n");
-    EXPECT_EQ(practice_.status().value(u"LastFailure"_s).toMap().value(u"Cause"_s), u"NoSpace"_s);
 }
 
 TEST_F(BackupIntegration, EveryRefusalHasAStatusAndALineOfItsOwn)
