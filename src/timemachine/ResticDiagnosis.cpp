@@ -36,14 +36,25 @@ bool shows(const QStringList& lines, const Sign& sign)
     });
 }
 
+/// File names may hold anything, and what is not a character of XML could not be remembered.
+QString printable(QString text)
+{
+    for (QChar& character : text) {
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
 QString ownWords(const QStringList& lines, int exitStatus)
 {
     constexpr auto fatal = "Fatal: "_L1;
     for (const QString& line : lines) {
         if (line.startsWith(fatal))
-            return u"restic: "_s + line.mid(fatal.size());
+            return u"restic: "_s + printable(line.mid(fatal.size()));
     }
-    return lines.isEmpty() ? u"restic failed with exit status %1."_s.arg(exitStatus) : u"restic: "_s + lines.first();
+    return lines.isEmpty() ? u"restic failed with exit status %1."_s.arg(exitStatus)
+                           : u"restic: "_s + printable(lines.first());
 }
 
 QString sentence(ResticProblem problem)

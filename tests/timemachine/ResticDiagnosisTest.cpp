@@ -54,6 +54,9 @@ TEST(ResticDiagnosis, WhatIsUnknownIsToldInResticsOwnWords)
 {
     EXPECT_EQ(ResticDiagnosis::of(unknown, 1).description, u"restic: all target directories/files do not exist"_s);
     EXPECT_EQ(ResticDiagnosis::of(u"\n  panic: oh\nmore"_s, 2).description, u"restic: panic: oh"_s);
+    EXPECT_EQ(ResticDiagnosis::of(u"Fatal: open /a/\x1b[2J\x01\uFFFE\U0001F5BF b: bad"_s, 1).description,
+              u"restic: open /a/\uFFFD[2J\uFFFD\uFFFD\U0001F5BF b: bad"_s)
+        << "file names may hold what neither a terminal nor the history should get";
     EXPECT_TRUE(ResticDiagnosis::of({}, 77).description.contains(u"77"_s));
 }
 
