@@ -10,6 +10,8 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -36,6 +38,19 @@ QString volumeName(const QString& path)
 {
     const QString last = QFileInfo(path).fileName();
     return last.isEmpty() ? path : last;
+}
+
+/// Folders that this user shares with the others who back up to the same disk: everyone may add to the outer one,
+/// nobody may touch what is another's. A file system without rights of its own has its mount options.
+void makeRepositoryFolder(const Destination& destination)
+{
+    const QByteArray shared = QFile::encodeName(Destination::backupFolder(destination.path));
+    const QByteArray own = QFile::encodeName(destination.repository());
+    if (mkdir(shared.constData(), S_IRWXU) == 0)
+        chmod(shared.constData(), S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO);
+    if ((mkdir(own.constData(), S_IRWXU) != 0 && errno != EEXIST) || access(own.constData(), W_OK) != 0)
+        throw Failure(ExitStatus::CannotWrite,
+                      u"\"%1\" cannot be written to: %2."_s.arg(destination.repository(), qt_error_string(errno)));
 }
 
 Destination fromDictionary(const QVariantMap& entry)
@@ -71,9 +86,7 @@ Destination Configuration::setDestination(const QString& path, bool append)
     read();
 
     Destination destination = destinationAt(folder);
-    if (!QDir().mkpath(destination.repository()) ||
-        access(QFile::encodeName(destination.repository()).constData(), W_OK) != 0)
-        throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be written to."_s.arg(folder));
+    makeRepositoryFolder(destination);
     KeyStore(folders_.configuration).ensure(destination.id);
 
     if (!append)

@@ -134,6 +134,36 @@ TEST_F(BackupIntegration, AKilledWorkerIsNotRunningAndTheNextBackupWorks)
     EXPECT_EQ(practice_.restic(u"disk"_s, id, {u"check"_s}).status, 0);
 }
 
+TEST_F(BackupIntegration, TwoUsersBackUpToOneDisk)
+{
+    const QString first = practice_.addDisk(u"disk"_s);
+    practice_.write(u"source/mine"_s, "mine");
+    ASSERT_EQ(practice_.backUp().status, 0);
+
+    const PracticeTmutil other(QStringLiteral(TMUTIL_EXECUTABLE));
+    other.write(u"source/theirs"_s, "theirs");
+    giveToOrdinaryUser(other);
+    // Whoever mounts a disk for all lets all in.
+    QFile::setPermissions(practice_.path(u"."_s),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeOther);
+    const Answer set = callAsOrdinaryUser(other, {u"setdestination"_s, practice_.path(u"disk"_s)});
+    ASSERT_EQ(set.status, 0) << set.error.toStdString();
+    const Answer backup = callAsOrdinaryUser(other, {u"startbackup"_s, u"-b"_s});
+    EXPECT_EQ(backup.status, 0) << backup.error.toStdString();
+    EXPECT_EQ(QDir(practice_.path(u"disk/Quillon.backups"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
+    EXPECT_EQ(practice_.run({u"listbackups"_s}).output.count('\n'), 1) << "each sees their own";
+
+    chmod(QFile::encodeName(practice_.path(u"disk/Quillon.backups"_s)).constData(), 0755);
+    const PracticeTmutil third(QStringLiteral(TMUTIL_EXECUTABLE));
+    if (geteuid() != 0)
+        chmod(QFile::encodeName(practice_.path(u"disk/Quillon.backups"_s)).constData(), 0555);
+    giveToOrdinaryUser(third);
+    const Answer refused = callAsOrdinaryUser(third, {u"setdestination"_s, practice_.path(u"disk"_s)});
+    EXPECT_EQ(refused.status, static_cast<int>(ExitStatus::CannotWrite));
+    EXPECT_TRUE(refused.error.contains("/disk/Quillon.backups/") && refused.error.contains("Permission denied"))
+        << refused.error.toStdString();
+}
+
 TEST_F(BackupIntegration, UnreadableFilesLeaveACompletedBackupWithARemark)
 {
     practice_.addDisk(u"disk"_s);

@@ -86,6 +86,22 @@ TEST_F(ConfigurationTest, AKeyIsRandomKeptAndForTheUserOnly)
     EXPECT_EQ(state.st_mode & ALLPERMS, 0600U);
 }
 
+TEST_F(ConfigurationTest, ADiskIsOpenToAllUsersAndEachRepositoryToItsOwn)
+{
+    const auto mode = [](const QString& path) {
+        struct stat state {};
+        return stat(QFile::encodeName(path).constData(), &state) == 0 ? state.st_mode & ALLPERMS : 0U;
+    };
+    const mode_t mask = umask(0077);
+    const Destination disk = set(u"Disk"_s, false);
+    umask(mask);
+    EXPECT_EQ(mode(Destination::backupFolder(disk.path)), 01777U) << "others may add, and remove only their own";
+    EXPECT_EQ(mode(disk.repository()), 0700U);
+    chmod(QFile::encodeName(Destination::backupFolder(disk.path)).constData(), 0700);
+    set(u"Disk"_s, false);
+    EXPECT_EQ(mode(Destination::backupFolder(disk.path)), 0700U) << "what its owner has decided since stays";
+}
+
 TEST_F(ConfigurationTest, SourcesAreTheHomeFolderUntilOneIsNamed)
 {
     EXPECT_EQ(Configuration(folders_).sources(), QStringList(root_.path()));
