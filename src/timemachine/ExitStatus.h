@@ -12,9 +12,10 @@ enum class ExitStatus {
     AlreadyRunning = 5,     ///< a backup is running
     NoBackup = 6,           ///< there is no such backup, or nothing has been backed up yet
     PathExists = 7,         ///< a restore would overwrite something
-    Stopped = 8,            ///< the backup that was waited for has been stopped
+    Stopped = 8,            ///< the backup that was waited for, or the restore, has been stopped
     ResticMissing = 9,      ///< restic is not installed
     Usage = 64,             ///< EX_USAGE: the command line makes no sense
+    StateDamaged = 65,      ///< EX_DATAERR: what tmutil remembers of runs cannot be read
     NoInput = 66,           ///< EX_NOINPUT: a folder that was named does not exist
     CannotWrite = 73,       ///< EX_CANTCREAT: a file of tmutil's own cannot be written
     Configuration = 78,     ///< EX_CONFIG: the configuration file is damaged

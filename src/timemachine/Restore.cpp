@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "Restic.h"
 #include "Snapshot.h"
+#include "StopRequest.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,9 +12,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace quillon {
@@ -86,6 +88,36 @@ void move(const QString& from, const QString& to)
         throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be made: %2."_s.arg(to, qt_error_string(error)));
 }
 
+/// Where restic restores to: beside the target, so that moving it there is one step.
+class WorkFolder {
+public:
+    explicit WorkFolder(const QString& target)
+        : folder_(QFileInfo(target).path() + "/.tmutil-restore-XXXXXX"_L1)
+    {
+        if (!folder_.isValid())
+            throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be made: %2."_s.arg(target, folder_.errorString()));
+    }
+    WorkFolder(const WorkFolder&) = delete;
+    WorkFolder& operator=(const WorkFolder&) = delete;
+
+    /// Folders that came back read-only, or half of what was wanted, don't stay behind.
+    ~WorkFolder()
+    {
+        namespace fs = std::filesystem;
+        std::error_code error;
+        fs::recursive_directory_iterator entry(QFile::encodeName(folder_.path()).constData(), error);
+        for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error)) {
+            if (entry->symlink_status(error).type() == fs::file_type::directory)
+                fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, error);
+        }
+    }
+
+    QString path() const { return folder_.path(); }
+
+private:
+    QTemporaryDir folder_;
+};
+
 } // namespace
 
 void restore(const QString& source, const QString& target, const std::vector<Destination>& destinations,
@@ -93,20 +125,17 @@ void restore(const QString& source, const QString& target, const std::vector<Des
 {
     const QString free = freeTarget(target);
     const Wanted wanted = find(source, destinations, folders);
-    // Beside the target, so that moving it there is one step.
-    QTemporaryDir work(QFileInfo(free).path() + "/.tmutil-restore-XXXXXX"_L1);
-    if (!work.isValid())
-        throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be made: %2."_s.arg(target, work.errorString()));
-
-    // An interrupt at the terminal reaches restic too; what it has restored by then is still to be cleared away.
-    std::signal(SIGINT, [](int) {});
+    const StopRequest stop; // while there is a folder to be cleared away
+    const WorkFolder work(free);
     const QString tree = work.path() + "/tree"_L1;
     QStringList arguments{u"restore"_s, wanted.snapshot.id, u"--target"_s, tree};
     if (!wanted.path.isEmpty())
         arguments << u"--include"_s << Restic::literalPattern(wanted.path);
     if (!QFileInfo(wanted.destination.repository() + "/locks"_L1).isWritable())
         arguments << u"--no-lock"_s; // a disk that is mounted read-only
-    const auto outcome = Restic(wanted.destination, folders, nullptr).run(arguments);
+    const auto outcome = Restic(wanted.destination, folders, &stop).run(arguments);
+    if (stop.isMade())
+        throw Failure(ExitStatus::Stopped, u"The restore was stopped; nothing was restored."_s);
     if (outcome.exitStatus != 0)
         throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
     move(tree + wanted.path, free);

@@ -164,6 +164,38 @@ TEST_F(BackupIntegration, TwoUsersBackUpToOneDisk)
         << refused.error.toStdString();
 }
 
+TEST_F(BackupIntegration, ARestoreLeavesNothingBesideItsTarget)
+{
+    practice_.addDisk(u"disk"_s);
+    practice_.write(u"source/locked/locked too/file"_s, "found again");
+    for (const QString& folder : {u"source/locked/locked too"_s, u"source/locked"_s})
+        chmod(QFile::encodeName(practice_.path(folder)).constData(), 0555);
+    practice_.writeLargeFile();
+    giveToOrdinaryUser(practice_);
+    ASSERT_EQ(callAsOrdinaryUser(practice_, {u"startbackup"_s, u"-b"_s}).status, 0);
+    const QString name = QString::fromUtf8(practice_.run({u"latestbackup"_s}).output).trimmed() + practice_.source();
+
+    const Answer restored = callAsOrdinaryUser(
+        practice_, {u"restore"_s, name + "/locked/locked too/file"_L1, practice_.path(u"restored"_s)});
+    EXPECT_EQ(restored.status, 0) << restored.error.toStdString();
+    EXPECT_EQ(hiddenFolders(), QStringList());
+
+    for (const int signal : {SIGTERM, SIGHUP}) {
+        const QStringList command = commandOf(practice_, {u"restore"_s, name, practice_.path(u"whole"_s)});
+        QProcess restore;
+        restore.start(command.first(), command.mid(1));
+        ASSERT_TRUE(eventually([this] { return hiddenFolders().size() == 1; }));
+        ::kill(static_cast<pid_t>(restore.processId()), signal);
+        ASSERT_TRUE(restore.waitForFinished(60'000));
+        EXPECT_EQ(restore.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(restore.exitCode(), static_cast<int>(ExitStatus::Stopped));
+        EXPECT_EQ(hiddenFolders(), QStringList());
+        EXPECT_FALSE(QFileInfo::exists(practice_.path(u"whole"_s)));
+    }
+    chmod(QFile::encodeName(practice_.path(u"source/locked"_s)).constData(), 0755); // so that they can be removed
+    chmod(QFile::encodeName(practice_.path(u"source/locked/locked too"_s)).constData(), 0755);
+}
+
 TEST_F(BackupIntegration, UnreadableFilesLeaveACompletedBackupWithARemark)
 {
     practice_.addDisk(u"disk"_s);
