@@ -157,11 +157,12 @@ void Backup::copy(const QStringList& sourceArguments)
             },
             [&](const QByteArray& line) { output.readMessage(line); });
         snapshotId_ = output.snapshotId();
-        result_.snapshotWritten = !snapshotId_.isEmpty();
         unreadFiles_ = output.unreadFiles();
+        if (!snapshotId_.isEmpty())
+            remember();
         if (stop_.isMade())
             throw Stopped();
-        if (result_.snapshotWritten && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
+        if (!snapshotId_.isEmpty() && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
             return;
         const auto problem = outcome.diagnosis().problem;
         if (problem == ResticProblem::Locked && !unlocked) {
@@ -172,6 +173,14 @@ void Backup::copy(const QStringList& sourceArguments)
             makeRoom();
         throw Problem::of(outcome);
     }
+}
+
+/// Before anything else is done: whatever ends this process while it cleans up, the backup counts.
+void Backup::remember()
+{
+    history_.setLastBackup(destination_.id, QDateTime::currentDateTimeUtc());
+    history_.setLastFailure(remark());
+    history_.save();
 }
 
 /// The backup is complete by now: what keeps old ones from being thinned is worth a remark, unless the disk is full.

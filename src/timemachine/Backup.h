@@ -21,7 +21,6 @@ struct BackupResult {
     enum class End { Completed, Failed, Stopped };
 
     End end = End::Completed;
-    bool snapshotWritten = false;       ///< also of a run that failed or was stopped while it cleaned up
     std::optional<LastFailure> failure; ///< why it failed, or what a completed backup lacks
 };
 
@@ -45,6 +44,7 @@ private:
     void prepareRepository();
     QStringList findSources();
     void copy(const QStringList& sourceArguments);
+    void remember();
     void cleanUp();
     bool newestBackupIsDatedLast() const;
     void thin();

@@ -46,7 +46,10 @@ void status(const Folders& folders)
 void destinationInfo(const Folders& folders, bool xml)
 {
     const Configuration configuration(folders);
-    const QString last = History(folders.state).lastDestination();
+    const History history(folders.state);
+    if (!history.isReadable())
+        throw Failure(ExitStatus::StateDamaged, history.lastFailure().value(u"Description"_s).toString());
+    const QString last = history.lastDestination();
     print(xml ? destinationXml(configuration.destinations(), last)
               : destinationText(configuration.destinations(), last));
 }

@@ -1,5 +1,6 @@
 #include "DestinationReport.h"
 
+#include "Failure.h"
 #include "PropertyList.h"
 
 namespace quillon {
@@ -33,7 +34,10 @@ QByteArray destinationXml(const std::vector<Destination>& destinations, const QS
             entry.insert(u"MountPoint"_s, destination.path);
         entries.append(entry);
     }
-    return propertylist::toXml(QVariantMap{{u"Destinations"_s, entries}}).value_or(QByteArray());
+    const auto xml = propertylist::toXml(QVariantMap{{u"Destinations"_s, entries}});
+    if (!xml)
+        throw Failure(ExitStatus::Configuration, u"The name of a backup disk cannot be written as XML."_s);
+    return *xml;
 }
 
 } // namespace quillon

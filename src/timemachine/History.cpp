@@ -2,15 +2,22 @@
 
 #include "PropertyListFile.h"
 
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-// A damaged file costs the memory of past runs, not a backup: it counts as empty.
 History::History(const QString& stateFolder)
     : file_(stateFolder + "/history.plist"_L1)
-    , contents_(readPropertyListFile(file_).value_or(QVariantMap()))
+    , damagedFile_(stateFolder + "/history-damaged.plist"_L1)
 {
+    const auto contents = readPropertyListFile(file_);
+    readable_ = contents.has_value();
+    contents_ = contents.value_or(QVariantMap());
 }
 
 QString History::lastDestination() const
@@ -45,6 +52,12 @@ void History::setLastPrune(const QString& destinationId, const QDateTime& date)
 
 QVariantMap History::lastFailure() const
 {
+    if (!readable_)
+        return LastFailure{statusDate(QFileInfo(file_).lastModified()),
+                           {},
+                           u"HistoryUnreadable"_s,
+                           u"The history \"%1\" cannot be read."_s.arg(file_)}
+            .toDictionary();
     return contents_.value(u"LastFailure"_s).toMap();
 }
 
@@ -56,8 +69,12 @@ void History::setLastFailure(const std::optional<LastFailure>& failure)
         contents_.remove(u"LastFailure"_s);
 }
 
-bool History::save() const
+bool History::save()
 {
+    if (!readable_) {
+        std::rename(QFile::encodeName(file_).constData(), QFile::encodeName(damagedFile_).constData());
+        readable_ = true;
+    }
     return writePropertyListFile(file_, contents_);
 }
 

@@ -16,6 +16,10 @@ class History {
 public:
     explicit History(const QString& stateFolder);
 
+    /// False when the file is damaged or cannot be read. Past runs are then forgotten, which must not keep the next
+    /// backup from being made: save() sets the file aside.
+    bool isReadable() const { return readable_; }
+
     /// The destination of the last run that was begun; empty before the first.
     QString lastDestination() const;
     void setLastDestination(const QString& id);
@@ -27,19 +31,22 @@ public:
     QDateTime lastPrune(const QString& destinationId) const;
     void setLastPrune(const QString& destinationId, const QDateTime& date);
 
-    /// As it stands in the status: empty when the last backup was without fault.
+    /// As it stands in the status: empty when the last backup was without fault; a history that is not readable is a
+    /// failure of its own.
     QVariantMap lastFailure() const;
     void setLastFailure(const std::optional<LastFailure>& failure);
 
     /// False when it could not be written; the old contents then stand.
-    bool save() const;
+    bool save();
 
 private:
     QVariant ofDestination(const QString& id, const QString& key) const;
     void setOfDestination(const QString& id, const QString& key, const QVariant& value);
 
     QString file_;
+    QString damagedFile_;
     QVariantMap contents_;
+    bool readable_;
 };
 
 } // namespace quillon

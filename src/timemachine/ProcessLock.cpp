@@ -60,8 +60,11 @@ bool ProcessLock::set(int command)
 std::optional<pid_t> ProcessLock::holder(const QString& path)
 {
     const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
+    if (descriptor < 0 && errno == ENOENT)
         return std::nullopt;
+    if (descriptor < 0)
+        throw Failure(ExitStatus::StateDamaged,
+                      u"The lock \"%1\" cannot be read: %2."_s.arg(path, qt_error_string(errno)));
     struct flock request = wholeFile;
     const bool held = fcntl(descriptor, F_GETLK, &request) == 0 && request.l_type != F_UNLCK;
     close(descriptor);

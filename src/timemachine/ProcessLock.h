@@ -25,7 +25,8 @@ public:
     /// Waits until nobody else holds it. Throws Failure as tryLock() does.
     void lock();
 
-    /// The process that holds the lock of that file; nothing when it is free.
+    /// The process that holds the lock of that file; nothing when it is free. Throws Failure
+    /// where that cannot be told.
     static std::optional<pid_t> holder(const QString& path);
 
 private:

@@ -15,4 +15,8 @@ std::optional<QVariantMap> readPropertyListFile(const QString& path);
 /// old contents or the new. False when it could not be written; the old contents then stand.
 bool writePropertyListFile(const QString& path, const QVariantMap& contents);
 
+/// The same for what changes several times a second: it is not flushed to the disk, so that a power failure may leave
+/// damaged contents. One writer at a time.
+bool replacePropertyListFile(const QString& path, const QVariantMap& contents);
+
 } // namespace quillon

@@ -1,5 +1,6 @@
 #include "RunState.h"
 
+#include "Failure.h"
 #include "ProcessLock.h"
 #include "PropertyListFile.h"
 
@@ -35,9 +36,8 @@ std::optional<BackupProgress> readProgress(const QVariantMap& entry)
     return progress;
 }
 
-std::optional<RunState> read(const QString& stateFolder)
+std::optional<RunState> fromDictionary(const std::optional<QVariantMap>& contents)
 {
-    const auto contents = readPropertyListFile(file(stateFolder));
     if (!contents || contents->isEmpty())
         return std::nullopt;
     const QVariantMap status = contents->value(statusKey).toMap();
@@ -58,7 +58,11 @@ std::optional<RunState> RunState::current(const QString& stateFolder)
     const auto holder = ProcessLock::holder(lockPath(stateFolder));
     if (!holder)
         return std::nullopt;
-    auto state = read(stateFolder);
+    const auto contents = readPropertyListFile(file(stateFolder));
+    if (!contents)
+        throw Failure(ExitStatus::StateDamaged,
+                      u"The state of the backup, \"%1\", cannot be read."_s.arg(file(stateFolder)));
+    auto state = fromDictionary(contents);
     // A worker that has the lock but not yet a state, or no longer, has not begun or is done.
     if (!state || state->worker != *holder)
         return std::nullopt;
@@ -67,12 +71,13 @@ std::optional<RunState> RunState::current(const QString& stateFolder)
 
 std::optional<RunState> RunState::abandoned(const QString& stateFolder)
 {
-    const auto state = read(stateFolder);
+    // One that a power failure has damaged tells nothing any more.
+    const auto state = fromDictionary(readPropertyListFile(file(stateFolder)));
     if (!state || ProcessLock::holder(lockPath(stateFolder)) == state->worker)
         return std::nullopt;
     // A worker that ends takes its file away before it gives up the lock: one that is still there was left behind.
-    auto again = read(stateFolder);
-    if (!again || again->runId != state->runId || again->isFinishing())
+    auto again = fromDictionary(readPropertyListFile(file(stateFolder)));
+    if (!again || again->runId != state->runId || again->isComplete())
         return std::nullopt;
     return again;
 }
@@ -89,7 +94,7 @@ QString RunState::lockPath(const QString& stateFolder)
 
 bool RunState::write(const QString& stateFolder) const
 {
-    return writePropertyListFile(
+    return replacePropertyListFile(
         file(stateFolder),
         {{runIdKey, runId}, {workerKey, static_cast<qlonglong>(worker)}, {statusKey, toDictionary()}});
 }

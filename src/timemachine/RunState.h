@@ -35,10 +35,10 @@ struct RunState {
     std::optional<BackupProgress> progress; ///< while copying
 
     /// The running backup. A file whose worker no longer holds the lock counts for nothing, so that a worker that was
-    /// killed shows as not running at once.
+    /// killed shows as not running at once. Throws Failure where it cannot be told.
     static std::optional<RunState> current(const QString& stateFolder);
 
-    /// The run of a worker that died before the backup was complete.
+    /// The run of a worker that died before its snapshot was whole.
     static std::optional<RunState> abandoned(const QString& stateFolder);
 
     /// The lock that the worker holds as long as it lives.
@@ -51,6 +51,8 @@ struct RunState {
     /// What is remembered of an abandoned run.
     LastFailure interruption() const;
 
+    /// Whether the snapshot is whole, and remembered as the last backup.
+    bool isComplete() const { return phase == phase::thinningPostBackup || isFinishing(); }
     bool isFinishing() const { return phase == phase::finishing; }
 
     /// The dictionary that `status` prints.

@@ -1,5 +1,6 @@
 #include "StatusReport.h"
 
+#include "Failure.h"
 #include "History.h"
 #include "PropertyList.h"
 #include "ReportMarks.h"
@@ -16,7 +17,10 @@ StatusReport::StatusReport(const QString& stateFolder)
 
 QByteArray StatusReport::text() const
 {
-    return "Backup session status:\n" + propertylist::toOldStyle(dictionary()).value_or("{\n}").trimmed() + '\n';
+    const auto list = propertylist::toOldStyle(dictionary());
+    if (!list)
+        throw Failure(ExitStatus::StateDamaged, u"The state of the backup cannot be written as a property list."_s);
+    return "Backup session status:\n" + list->trimmed() + '\n';
 }
 
 void StatusReport::markReported() const

@@ -6,7 +6,6 @@
 #include "History.h"
 #include "ReportMarks.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QEventLoop>
 #include <QThread>
@@ -33,6 +32,9 @@ constexpr auto longestWait = 10s;
 
 // For a predecessor to let go of the lock that it no longer needs.
 constexpr auto lockWait = 5s;
+
+// Nobody looks more often than five times a second.
+constexpr auto progressInterval = 200ms;
 
 /// Best effort, but last in line: in the idle class the disk's other users could keep even `status` from an answer.
 void lowerPriority()
@@ -155,18 +157,19 @@ void Worker::connectStop()
 
 bool Worker::show(QLatin1StringView phase, const std::optional<BackupProgress>& progress)
 {
+    state_.progress = progress;
     if (state_.phase != phase) {
         state_.phase = phase;
         state_.stateChange = statusDate(QDateTime::currentDateTimeUtc());
+    } else if (!nextProgress_.hasExpired()) {
+        return true;
     }
-    state_.progress = progress;
+    nextProgress_.setRemainingTime(progressInterval);
     return state_.write(folders_.state);
 }
 
 void Worker::record(const BackupResult& result, History& history) const
 {
-    if (result.snapshotWritten)
-        history.setLastBackup(state_.destinationId, QDateTime::currentDateTimeUtc());
     if (result.end != BackupResult::End::Stopped)
         history.setLastFailure(result.failure);
     history.save();

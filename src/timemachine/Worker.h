@@ -7,6 +7,8 @@
 #include "RunState.h"
 #include "StopRequest.h"
 
+#include <QDeadlineTimer>
+
 #include <optional>
 
 namespace quillon {
@@ -33,6 +35,7 @@ private:
     std::optional<ProcessLock> lock_;
     StopRequest stop_;
     RunState state_;
+    QDeadlineTimer nextProgress_; ///< not before then
 };
 
 } // namespace quillon

@@ -134,6 +134,23 @@ TEST_F(BackupIntegration, AKilledWorkerIsNotRunningAndTheNextBackupWorks)
     EXPECT_EQ(practice_.restic(u"disk"_s, id, {u"check"_s}).status, 0);
 }
 
+TEST_F(BackupIntegration, AWorkerKilledWhileItCleansUpHasMadeABackup)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    practice_.write(u"state/quillon-timemachine/history.plist"_s, "left by a damaged disk");
+    startLongBackup();
+    // The list of snapshots is read next: a pipe among them, which nobody writes to, holds restic there.
+    const QString pipe = practice_.repository(u"disk"_s, id) + "/snapshots/"_L1 + QString(64, u'0');
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    ASSERT_TRUE(eventually([this] { return practice_.phase() == "ThinningPostBackup"_L1; }));
+    kill(worker(), SIGKILL);
+    ASSERT_TRUE(eventually([this] { return !isRunning(); }));
+    EXPECT_FALSE(practice_.status().contains(u"LastFailure"_s));
+    EXPECT_TRUE(History(practice_.stateFolder()).lastBackup(id).isValid());
+    QFile::remove(pipe);
+    EXPECT_EQ(call({u"latestbackup"_s}), 0);
+}
+
 TEST_F(BackupIntegration, TwoUsersBackUpToOneDisk)
 {
     const QString first = practice_.addDisk(u"disk"_s);

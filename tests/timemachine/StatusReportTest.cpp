@@ -1,5 +1,6 @@
 #include "StatusReport.h"
 
+#include "Failure.h"
 #include "Folders.h"
 #include "History.h"
 #include "PracticeTmutil.h"
@@ -7,6 +8,8 @@
 #include "PropertyListFile.h"
 #include "ReportMarks.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <atomic>
@@ -126,10 +129,41 @@ TEST_F(StatusReportTest, ARunWhoseWorkerDiedIsOver)
     // The next worker holds the lock, but what is there is not its own state.
     const LockHolder next(RunState::lockPath(state()));
     EXPECT_EQ(report().value(u"Running"_s), u"0"_s);
-    RunState finished = run(getpid());
-    finished.phase = phase::finishing;
-    ASSERT_TRUE(finished.write(state()));
-    EXPECT_FALSE(report().contains(u"LastFailure"_s)) << "it was complete when its worker died";
+    RunState complete = run(getpid());
+    for (const auto& step : {phase::thinningPostBackup, phase::finishing}) {
+        complete.phase = step;
+        ASSERT_TRUE(complete.write(state()));
+        EXPECT_FALSE(report().contains(u"LastFailure"_s)) << "its snapshot was whole when its worker died";
+    }
+}
+
+TEST_F(StatusReportTest, WhatCannotBeReadIsNeverToldAsAnEmptyAnswer)
+{
+    const auto damage = [this](const QString& name) {
+        QFile file(state() + u'/' + name);
+        return file.open(QIODevice::WriteOnly) && file.write("<plist><dict>") > 0;
+    };
+    ASSERT_TRUE(damage(u"run.plist"_s));
+    EXPECT_EQ(report().value(u"Running"_s), u"0"_s) << "left behind by a power failure: nobody holds the lock";
+    {
+        const LockHolder worker(RunState::lockPath(state()));
+        EXPECT_THROW(StatusReport{state()}, Failure) << "a backup may be running";
+    }
+    ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
+    ASSERT_TRUE(QFile::link(u"worker.lock"_s, state() + "/worker.lock"_L1));
+    EXPECT_THROW(StatusReport{state()}, Failure) << "a link to itself cannot be opened";
+    ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
+
+    // What is forgotten of past backups keeps neither the state from being told nor the next backup from being made.
+    ASSERT_TRUE(damage(u"history.plist"_s));
+    EXPECT_EQ(report().value(u"Running"_s), u"0"_s);
+    EXPECT_EQ(report().value(u"LastFailure"_s).toMap().value(u"Cause"_s), u"HistoryUnreadable"_s);
+    History history(state());
+    history.setLastDestination(u"ID"_s);
+    ASSERT_TRUE(history.save());
+    EXPECT_FALSE(report().contains(u"LastFailure"_s));
+    EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
+    EXPECT_TRUE(QFile::exists(state() + "/history-damaged.plist"_L1)) << "set aside, not overwritten";
 }
 
 TEST_F(StatusReportTest, TheLastFailureStandsUntilTheNextSuccess)
@@ -165,7 +199,7 @@ TEST_F(StatusReportTest, ReportsAreMarkedForTheirOwnRunAndKind)
     EXPECT_FALSE(marks.isReported(u"another"_s));
 }
 
-TEST_F(StatusReportTest, AReaderNeverSeesHalfAState)
+TEST_F(StatusReportTest, AReaderNeverSeesHalfAFile)
 {
     const QString file = state() + "/run.plist"_L1;
     const QVariantMap small{{u"a"_s, QString(10, u'a')}};
@@ -174,7 +208,7 @@ TEST_F(StatusReportTest, AReaderNeverSeesHalfAState)
     std::atomic<bool> done = false;
     std::thread writer([&] {
         for (int round = 0; round < 100; ++round)
-            writePropertyListFile(file, round % 2 == 0 ? large : small);
+            (round < 50 ? writePropertyListFile : replacePropertyListFile)(file, round % 2 == 0 ? large : small);
         done = true;
     });
     while (!done) {
