@@ -132,7 +132,9 @@ bool FileUserDefaults::saveLocked()
     if (!values)
         return false;
     apply(unsaved_, *values);
-    const auto text = propertylist::toXml(*values);
+    auto text = propertylist::toXml(*values);
+    if (!text) // what others put into a binary file may be more than XML can hold
+        text = propertylist::toBinary(*values);
     if (!text)
         return complain(u"%1 holds values that cannot be stored; settings are not saved"_s.arg(path_));
     QSaveFile file(path_);

@@ -7,7 +7,8 @@
 
 namespace quillon {
 
-/// User defaults in an XML property list.
+/// User defaults in an XML property list, which is read in any format; it is written as a binary list where it holds
+/// foreign values that XML cannot.
 ///
 /// Every change is on disk when the setter returns: a crash at any instant leaves the file as it was or as it is to be.
 /// What others changed in the file since is kept. A file that is no property list is set aside under a name of its own,

@@ -59,7 +59,10 @@ std::optional<QVariant> stringFromNode(plist_t node)
 {
     uint64_t length = 0;
     const char* const text = plist_get_string_ptr(node, &length);
-    return strictUtf8(QByteArrayView(text, text ? static_cast<qsizetype>(length) : 0));
+    const QByteArrayView view(text, text ? static_cast<qsizetype>(length) : 0);
+    if (view.contains('\0')) // libplist could never write it again
+        return std::nullopt;
+    return strictUtf8(view);
 }
 
 std::optional<QVariant> arrayFromNode(plist_t node)
@@ -149,8 +152,8 @@ std::optional<QVariant> convert(const Node& root, propertylist::ParseError& erro
 
 bool isXmlCharacter(char16_t unit)
 {
-    // Extensible Markup Language 1.0, production Char; a carriage return would come back as a line feed.
-    return unit >= 0x20 ? unit < 0xFFFE : unit == u'\t' || unit == u'\n';
+    // Extensible Markup Language 1.0, production Char.
+    return unit >= 0x20 ? unit < 0xFFFE : unit == u'\t' || unit == u'\n' || unit == u'\r';
 }
 
 /// Makes libplist's tree of a value for one format.
@@ -173,7 +176,7 @@ public:
             return Node(plist_new_uint(static_cast<uint64_t>(value.toLongLong())));
         case QMetaType::Float:
         case QMetaType::Double:
-            return Node(std::isfinite(value.toDouble()) ? plist_new_real(value.toDouble()) : nullptr);
+            return Node(plist_new_real(value.toDouble()));
         case QMetaType::QString: {
             const auto text = utf8(value.toString());
             return Node(text ? plist_new_string(text->constData()) : nullptr);
@@ -293,7 +296,8 @@ std::optional<QByteArray> writeXml(const QVariant& value)
     uint32_t length = 0;
     plist_to_xml(root.get(), &text, &length);
     const CString owner(text);
-    return QByteArray(text, static_cast<qsizetype>(length));
+    // libplist writes a carriage return as it is, and XML readers take that for a line feed.
+    return QByteArray(text, static_cast<qsizetype>(length)).replace('\r', "&#13;");
 }
 
 std::optional<QByteArray> writeBinary(const QVariant& value)

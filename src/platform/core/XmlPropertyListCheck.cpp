@@ -27,6 +27,9 @@ bool isInteger(QStringView text)
 
 bool isReal(QStringView text)
 {
+    // Core Foundation and libplist write these beside "nan", which QString knows.
+    if (text == u"+infinity" || text == u"-infinity")
+        return true;
     bool fits = false;
     std::ignore = text.toDouble(&fits);
     return fits;

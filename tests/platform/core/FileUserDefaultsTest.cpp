@@ -123,6 +123,17 @@ TEST_F(FileUserDefaultsTest, UnknownKeysAndValuesOfAWrongKindSurviveASave)
     EXPECT_EQ(stored(), expected);
 }
 
+TEST_F(FileUserDefaultsTest, ForeignValuesThatXmlCannotHoldSurviveASaveToo)
+{
+    const QVariantMap foreign{{u"bell"_s, u"ring \a"_s}, {u"lines"_s, u"one\r\ntwo"_s}};
+    write(propertylist::toBinary(foreign).value_or(""));
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    defaults.setObject(u"new"_s, true);
+    QVariantMap expected = foreign;
+    expected.insert(u"new"_s, true);
+    EXPECT_EQ(stored(), expected);
+}
+
 TEST_F(FileUserDefaultsTest, WhatAnotherProgramChangedMeanwhileIsKept)
 {
     write("{ mine = 1; theirs = 1; }");

@@ -102,12 +102,22 @@ TEST(PropertyList, WritersRefuseWhatTheFormatCannotHold)
         EXPECT_FALSE(propertylist::toOldStyle(value)) << value.typeName();
     }
     for (const QVariant& value :
-         std::initializer_list<QVariant>{u"a\0b"_s, std::nan(""), utc(u"4001-01-01T00:00:00Z"_s), QDateTime()}) {
+         std::initializer_list<QVariant>{u"a\0b"_s, utc(u"4001-01-01T00:00:00Z"_s), QDateTime()}) {
         EXPECT_FALSE(propertylist::toXml(value)) << value.typeName();
         EXPECT_FALSE(propertylist::toBinary(value)) << value.typeName();
     }
     EXPECT_FALSE(propertylist::toXml(u"bell \a"_s));
     EXPECT_EQ(read(propertylist::toBinary(u"bell \a"_s).value_or("")), QVariant(u"bell \a"_s));
+}
+
+TEST(PropertyList, CarriageReturnsAndRealsThatAreNoNumbersSurvive)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const QVariantMap odd{{u"a\r\nb"_s, u"\rc\n"_s}, {u"most"_s, infinity}, {u"least"_s, -infinity}};
+    for (const auto& write : {&propertylist::toXml, &propertylist::toBinary}) {
+        EXPECT_EQ(read(write(odd).value_or("")), QVariant(odd));
+        EXPECT_TRUE(std::isnan(read(write(std::nan("")).value_or("")).toDouble()));
+    }
 }
 
 TEST(PropertyList, EveryFormatIsRecognisedByItsBeginning)
@@ -177,6 +187,7 @@ TEST(PropertyList, DamagedBinaryListsAreRefused)
     EXPECT_FALSE(propertylist::parse(binary({QByteArray("\xD1\x01\x02"), QByteArray("\x52k\0", 3), value})));
     EXPECT_FALSE(propertylist::parse(binary({QByteArray("\xD1\x01\x02"), QByteArray("\x61\0\0", 3), value})));
     EXPECT_FALSE(propertylist::parse(binary({QByteArray("\xD1\x01\x02"), value, value}))) << "a key that is no text";
+    EXPECT_FALSE(propertylist::parse(binary({QByteArray("\x62\0a\0\0", 5)}))) << "a text that could not be written";
 }
 
 TEST(PropertyList, ListsThatNestOrGrowWithoutEndAreRefusedInEveryFormat)
