@@ -29,8 +29,10 @@ void TrayStatusItem::setShown(bool shown)
 {
     icon_.setVisible(shown);
     // Only an embedded icon knows where it is.
-    if (shown && !protocol_)
+    if (shown && !protocol_) {
         protocol_ = icon_.geometry().isNull() ? TrayProtocol::StatusNotifier : TrayProtocol::XEmbed;
+        attachMenu();
+    }
 }
 
 void TrayStatusItem::setContent(const StatusItemContent& content)
@@ -45,7 +47,15 @@ void TrayStatusItem::setContent(const StatusItemContent& content)
 void TrayStatusItem::setMenu(QMenu* menu)
 {
     menu_ = menu;
-    icon_.setContextMenu(menu);
+    attachMenu();
+}
+
+void TrayStatusItem::attachMenu()
+{
+    const bool hostDrawsIt = protocol_ == TrayProtocol::StatusNotifier;
+    auto exported = hostDrawsIt && menu_ ? std::make_unique<ExportedMenu>(*menu_) : nullptr;
+    icon_.setContextMenu(exported ? exported.get() : menu_.data());
+    exported_ = std::move(exported);
 }
 
 void TrayStatusItem::present()

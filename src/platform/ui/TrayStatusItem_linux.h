@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ExportedMenu_linux.h"
 #include "StatusItemFace_linux.h"
 
 #include <QPointer>
@@ -35,12 +36,14 @@ protected:
 
 private:
     void updateIcon();
+    void attachMenu();
     void openMenu();
 
     QSystemTrayIcon icon_;
     std::optional<TrayProtocol> protocol_;
     std::optional<SymbolImage> image_;
     QPointer<QMenu> menu_;
+    std::unique_ptr<ExportedMenu> exported_;
 };
 
 } // namespace quillon

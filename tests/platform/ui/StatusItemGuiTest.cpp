@@ -99,7 +99,8 @@ TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayWithTitleIconAndMenu)
 
     const QString item = tray->items().constFirst();
     EXPECT_EQ(tray->toolTip(item), u"Next:\n5h 12m"_s);
-    EXPECT_EQ(tray->menuLabels(item), (QStringList{u"Back up now"_s, u"Pause"_s, u"Quit"_s}));
+    EXPECT_EQ(tray->menuLabels(item),
+              (QStringList{u"Back up now"_s, u"Pause"_s, u"Browse A_B & C & __D"_s, u"Quit"_s}));
     const auto idle = tray->iconData(item);
     EXPECT_FALSE(idle.isEmpty());
 
@@ -142,7 +143,7 @@ TEST_F(StatusItemTest, TheBarGivesWayToAStatusNotifierTrayAndComesBack)
     tray = statusNotifierTray();
     ASSERT_TRUE(itemComes(*tray));
     EXPECT_TRUE(barGoes());
-    EXPECT_EQ(tray->menuLabels(tray->items().constFirst()).size(), 3);
+    EXPECT_EQ(tray->menuLabels(tray->items().constFirst()).size(), 4);
 
     tray->setHost(false);
     EXPECT_TRUE(barComes()) << "a tray without a host shows nothing";

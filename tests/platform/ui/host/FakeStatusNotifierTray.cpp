@@ -17,6 +17,19 @@ namespace {
 constexpr auto service = "org.kde.StatusNotifierWatcher"_L1;
 constexpr auto path = "/StatusNotifierWatcher"_L1;
 
+/// Two underscores are displayed as one, a single one is not displayed (com.canonical.dbusmenu, property "label").
+QString displayed(const QString& label)
+{
+    QString text;
+    bool marked = false;
+    for (const QChar c : label) {
+        marked = c == u'_' && !marked;
+        if (!marked)
+            text += c;
+    }
+    return text;
+}
+
 } // namespace
 
 FakeStatusNotifierTray::FakeStatusNotifierTray(const QDBusConnection& bus, bool withHost)
@@ -127,7 +140,7 @@ QStringList FakeStatusNotifierTray::menuLabels(const QString& item)
         fields >> identifier >> properties;
         fields.asVariant(); // no grandchildren were asked for
         fields.endStructure();
-        labels.append(properties.value(u"label"_s).toString());
+        labels.append(displayed(properties.value(u"label"_s).toString()));
     }
     layout.endArray();
     layout.endStructure();

@@ -29,7 +29,7 @@ public:
     QString toolTip(const QString& item);
     /// The pixels of the item's icon, all sizes one after the other.
     QByteArray iconData(const QString& item);
-    /// The labels of the item's exported menu, top level.
+    /// The labels of the item's exported menu, top level, as the host shows them.
     QStringList menuLabels(const QString& item);
     void activate(const QString& item);
 

@@ -64,6 +64,7 @@ int main(int argc, char** argv)
     QMenu menu;
     menu.addAction(u"Back up now"_s, &menu, [&chosen] { chosen = u"Back up now"_s; });
     menu.addMenu(u"Pause"_s)->addAction(u"1 hour"_s);
+    menu.addAction(u"Browse A_B && C && __D"_s);
     menu.addAction(u"Quit"_s, &application, &QApplication::quit);
 
     const auto item = quillon::makeStatusItem(placementNamed(QApplication::arguments().value(1)));
