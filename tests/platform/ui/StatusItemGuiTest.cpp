@@ -1,7 +1,9 @@
 #include "host/FakeSettingsPortal.h"
 #include "host/FakeStatusNotifierTray.h"
 #include "host/Probe.h"
+#include "host/VirtualDisplay.h"
 #include "host/Waiting.h"
+#include "host/WaylandCompositor.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -33,7 +35,7 @@ protected:
     std::unique_ptr<XEmbedTray> xembedTray() { return std::make_unique<XEmbedTray>(display_); }
     void start(const QString& placement, const QStringList& environment = {})
     {
-        probe_ = std::make_unique<Probe>(display_, bus_, placement, environment);
+        probe_ = std::make_unique<Probe>(bus_, placement, display_.variables() + environment);
     }
 
     bool barComes()
@@ -249,6 +251,32 @@ TEST_F(StatusItemTest, TheBarFollowsTheDesktopsColourScheme)
     EXPECT_TRUE(eventually([&] { return shows(true); }));
     portal.setColorScheme(light);
     EXPECT_TRUE(eventually([&] { return shows(false); }));
+}
+
+TEST(StatusItemOnWayland, IsASmallWindowWithATitleUntilThereIsATray)
+{
+    const PrivateBus bus;
+    const WaylandCompositor compositor;
+    Probe probe(bus, u"auto"_s, compositor.variables());
+    ASSERT_TRUE(eventually([&] { return probe.bar().has_value(); }));
+    constexpr int smallWidth = 200;
+    const QRect window = *probe.bar();
+    EXPECT_LT(window.width(), smallWidth);
+    EXPECT_TRUE(eventually([&] { return compositor.messages().contains(R"(set_title("Quillon"))"); }));
+    // A window that draws its own frame counts it in.
+    const QByteArray bare = "set_window_geometry(0, 0, " + QByteArray::number(window.width()) + ", " +
+                            QByteArray::number(window.height()) + ')';
+    EXPECT_TRUE(eventually([&] { return compositor.messages().contains("set_window_geometry"); }));
+    EXPECT_FALSE(compositor.messages().contains(bare));
+
+    probe.tell(u"title 1|2"_s);
+    EXPECT_TRUE(eventually([&] { return probe.bar() && probe.bar()->width() < window.width(); })) << "no empty ground";
+    probe.tell(u"present"_s);
+    EXPECT_TRUE(eventually([&] { return probe.isMenuOpen(); }));
+
+    FakeStatusNotifierTray tray(bus.connect(u"desktop"_s));
+    EXPECT_TRUE(eventually([&] { return tray.items().size() == 1 && !probe.bar(); }));
+    QDBusConnection::disconnectFromBus(u"desktop"_s);
 }
 
 } // namespace

@@ -6,10 +6,8 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-Probe::Probe(const VirtualDisplay& display, const PrivateBus& bus, const QString& placement,
-             const QStringList& environment)
-    : program_(QStringLiteral(STATUS_ITEM_PROBE), {placement},
-               QStringList{u"QT_QPA_PLATFORM=xcb"_s, display.variable(), bus.variable()} + environment)
+Probe::Probe(const PrivateBus& bus, const QString& placement, const QStringList& environment)
+    : program_(QStringLiteral(STATUS_ITEM_PROBE), {placement}, environment + QStringList{bus.variable()})
 {
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "PrivateBus.h"
-#include "VirtualDisplay.h"
 
 #include <QJsonObject>
 #include <QRect>
@@ -14,8 +13,8 @@ namespace quillon {
 class Probe {
 public:
     /// @param placement "auto", "tray" or "bar"
-    Probe(const VirtualDisplay& display, const PrivateBus& bus, const QString& placement,
-          const QStringList& environment = {});
+    /// @param environment a list of "NAME=value"; the variables of the display are among them
+    Probe(const PrivateBus& bus, const QString& placement, const QStringList& environment);
 
     /// Has the program do something (see StatusItemProbe.cpp) and tells how things stand.
     QJsonObject tell(const QString& command);

@@ -16,6 +16,8 @@ public:
 
     /// "DISPLAY=..." for children.
     QString variable() const { return variable_; }
+    /// The environment of its clients that use Qt.
+    QStringList variables() const { return {QStringLiteral("QT_QPA_PLATFORM=xcb"), variable_}; }
     /// What is on the screen now.
     QImage screenshot() const;
     void click(QPoint position) const;

@@ -2,12 +2,11 @@
 
 #include <QTest>
 
-#include <functional>
-
 namespace quillon {
 
 /// Runs the event loop until the condition holds; false when it does not come true within half a minute.
-inline bool eventually(const std::function<bool()>& condition)
+template<typename Condition>
+bool eventually(Condition condition)
 {
     constexpr int patienceMs = 30'000;
     return QTest::qWaitFor(condition, patienceMs);
