@@ -3,6 +3,7 @@
 #include "FileUserDefaults.h"
 #include "PracticeTmutil.h"
 #include "SettingsKeys.h"
+#include "VirtualDisplay.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -118,12 +119,24 @@ TEST_F(Application, ARuleThatFallsDueBacksUpForRealAndIsRecorded)
 
 TEST_F(Application, ASecondStartBringsTheFirstToTheFrontAndEnds)
 {
+    const VirtualDisplay display;
+    for (const QString& variable : display.variables())
+        environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+    settings(DefaultsAccess::ReadWrite).setObject(settingskeys::firstLaunch, 0);
     start(application);
     ASSERT_TRUE(hasPrinted("Not Running"));
+    const auto windows = [&] {
+        return display
+            .ask(u"xdotool"_s,
+                 {u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(application.processId())})
+            .count(u'\n');
+    };
+    const auto before = windows();
     QProcess second;
     start(second, {u"--menu-bar=bar"_s});
     EXPECT_TRUE(runUntil([&] { return second.state() == QProcess::NotRunning; }));
     EXPECT_EQ(second.exitCode(), 0);
+    EXPECT_TRUE(runUntil([&] { return windows() > before; })) << "the menu opens";
     EXPECT_EQ(application.state(), QProcess::Running);
 }
 

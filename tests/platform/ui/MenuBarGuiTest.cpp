@@ -163,6 +163,10 @@ TEST_F(MenuBarTest, OutlivesItsMenu)
 
 TEST_F(MenuBarTest, IsClosedByTheProgramsEndOnly)
 {
+    QCloseEvent byUser;
+    QSpontaneKeyEvent::setSpontaneous(&byUser);
+    QCoreApplication::instance()->notify(&bar_, &byUser); // sendEvent() would make it the program's again
+    EXPECT_FALSE(byUser.isAccepted());
     QCloseEvent byProgram;
     QCoreApplication::sendEvent(&bar_, &byProgram);
     EXPECT_TRUE(byProgram.isAccepted());

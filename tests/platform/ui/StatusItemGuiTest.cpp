@@ -5,9 +5,10 @@
 #include "host/Waiting.h"
 #include "host/WaylandCompositor.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
-#include <set>
 
 namespace quillon {
 namespace {
@@ -70,17 +71,17 @@ protected:
         return {(bar.right() - fromRight) * scale, bar.center().y() * scale};
     }
 
-    /// Lightness of every pixel of the item, from the darkest to the lightest.
-    std::set<int> itemLightness()
+    /// How many pixels of the item have each lightness.
+    std::map<int, int> itemLightness()
     {
         const QRect bar = probe_->bar().value_or(QRect());
         constexpr int itemWidth = 80;
         const QImage item =
             display_.screenshot().copy(bar.right() + 1 - itemWidth, bar.y(), itemWidth, bar.height() - 1);
-        std::set<int> found;
+        std::map<int, int> found;
         for (int y = 0; y < item.height(); ++y)
             for (int x = 0; x < item.width(); ++x)
-                found.insert(item.pixelColor(x, y).lightness());
+                ++found[item.pixelColor(x, y).lightness()];
         return found;
     }
 
@@ -244,9 +245,10 @@ TEST_F(StatusItemTest, TheBarFollowsTheDesktopsColourScheme)
     start(u"bar"_s);
     ASSERT_TRUE(barComes());
     const auto shows = [this](bool darkGround) {
-        const std::set<int> lightness = itemLightness();
-        return darkGround ? *lightness.begin() > 20 && *lightness.begin() < 60 && *lightness.rbegin() > 220
-                          : *lightness.begin() < 60 && *lightness.rbegin() > 230;
+        const auto lightness = itemLightness();
+        const int ground = std::ranges::max_element(lightness, {}, &std::pair<const int, int>::second)->first;
+        const int farthest = darkGround ? lightness.rbegin()->first : lightness.begin()->first;
+        return darkGround ? ground > 20 && ground < 60 && farthest > 220 : ground > 230 && farthest < 60;
     };
     EXPECT_TRUE(eventually([&] { return shows(true); }));
     portal.setColorScheme(light);
