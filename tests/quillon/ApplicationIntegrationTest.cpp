@@ -1,4 +1,5 @@
 #include "Calendar.h"
+#include "DecimalCommaLocale.h"
 #include "EventLoop.h"
 #include "FileUserDefaults.h"
 #include "PracticeTmutil.h"
@@ -68,6 +69,14 @@ protected:
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(QUILLON_EXECUTABLE), options);
         ASSERT_TRUE(process.waitForStarted());
+    }
+
+    /// Has the programs call a shell script in place of our tmutil.
+    void useTool(const QByteArray& script)
+    {
+        practice.write(u"tool"_s, "#!/bin/sh\n" + script);
+        QFile::setPermissions(practice.path(u"tool"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        environment.insert(u"QUILLON_TMUTIL"_s, practice.path(u"tool"_s));
     }
 
     bool hasPrinted(const QByteArray& text)
@@ -153,11 +162,9 @@ TEST_F(Application, DamagedSettingsAreSetAsideWithAWarningAndAToolThatIsMissingI
 
 TEST_F(Application, EndsInOrderWhenItIsToldToAndTakesAReadingChildAlong)
 {
-    practice.write(u"hanging"_s, "#!/bin/sh\necho $$ > \"$0.pid\"\nexec sleep 1000\n");
-    QFile::setPermissions(practice.path(u"hanging"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    environment.insert(u"QUILLON_TMUTIL"_s, practice.path(u"hanging"_s));
+    useTool("echo $$ > \"$0.pid\"\nexec sleep 1000\n");
     start(application);
-    QFile pidFile(practice.path(u"hanging.pid"_s));
+    QFile pidFile(practice.path(u"tool.pid"_s));
     ASSERT_TRUE(runUntil([&] { return pidFile.size() > 1; }));
     ASSERT_TRUE(pidFile.open(QIODevice::ReadOnly));
     const QString child = u"/proc/"_s + QString::fromUtf8(pidFile.readAll().trimmed());
@@ -167,6 +174,23 @@ TEST_F(Application, EndsInOrderWhenItIsToldToAndTakesAReadingChildAlong)
     EXPECT_EQ(application.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(application.exitCode(), 0);
     EXPECT_TRUE(runUntil([&] { return !QFile::exists(child); }));
+}
+
+TEST_F(Application, NumbersKeepTheirPointWhereTheLocaleHasAComma)
+{
+    const DecimalCommaLocale comma;
+    environment.insert(u"LOCPATH"_s, comma.folder());
+    environment.insert(u"LC_ALL"_s, QString::fromLatin1(DecimalCommaLocale::name));
+    useTool("echo '{ Running = 1; BackupPhase = Copying; DestinationID = A;"
+            " Progress = { Percent = \"0.125\"; TimeRemaining = \"60.5\"; bytes = 4; }; }'\n");
+    start(application);
+    EXPECT_TRUE(hasPrinted("\"12.5%\"")) << printed.toStdString();
+
+    const auto json = quillonctl({u"status"_s, u"--json"_s}).output;
+    const auto record = QJsonDocument::fromJson(json).object();
+    EXPECT_EQ(record.value(u"percent"_s), 0.125) << json.toStdString();
+    EXPECT_EQ(record.value(u"timeRemaining"_s), 60.5);
+    EXPECT_TRUE(quillonctl({u"status"_s}).output.contains(" 0.125\n"));
 }
 
 TEST_F(Application, UnknownOptionsEndWithOneClearLine)
