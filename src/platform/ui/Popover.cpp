@@ -30,6 +30,20 @@ QRect pointerOrCorner()
     return primary ? QRect(primary->availableGeometry().topRight(), QSize(1, 1)) : QRect();
 }
 
+bool isInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::KeyPress:
+    case QEvent::Shortcut:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 Popover::Popover(QWidget* parent)
@@ -40,6 +54,8 @@ Popover::Popover(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     fade_.setDuration(fadeMilliseconds);
+    fade_.setStartValue(0.0);
+    fade_.setEndValue(1.0);
     connect(&fade_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& opacity) { setWindowOpacity(opacity.toReal()); });
     connect(&fade_, &QVariantAnimation::finished, this, [this] { setVisible(shown_); });
@@ -63,7 +79,7 @@ void Popover::showRelativeTo(const PopoverAnchor& anchor, RectEdge preferredEdge
     if (!shown_ && isVisible()) // still fading out
         hide();
     anchor_ = anchor;
-    if (!anchor_.view && anchor_.screenRect.isEmpty())
+    if (currentAnchor().isEmpty())
         anchor_.screenRect = pointerOrCorner();
     preferredEdge_ = preferredEdge;
     const bool appears = !shown_;
@@ -84,14 +100,16 @@ void Popover::close()
     if (!shown_)
         return;
     shown_ = false;
+    auto* parent = anchor_.view ? qobject_cast<Popover*>(anchor_.view->window()) : nullptr;
+    if (parent && parent->isShown() && QApplication::activeWindow() == this)
+        parent->activateWindow();
     if (!animates_ || !windowsFade()) {
         hide();
         return;
     }
-    fade_.stop();
-    fade_.setStartValue(windowOpacity());
-    fade_.setEndValue(0.0);
-    fade_.start();
+    fade_.setDirection(QAbstractAnimation::Backward); // from where it is, while it runs
+    if (fade_.state() != QAbstractAnimation::Running)
+        fade_.start();
 }
 
 /// A compositor may have come or gone since the popover was shown last, and windows don't change their kind.
@@ -102,6 +120,7 @@ void Popover::adaptToDisplay()
         destroy();
         translucent_ = translucent;
         setAttribute(Qt::WA_TranslucentBackground, translucent);
+        setAttribute(Qt::WA_NoSystemBackground, translucent); // comes with the other one, and doesn't go with it
         clearMask();
     }
     margin_ = translucent ? popoverShadowExtent : popoverArrowLength;
@@ -121,8 +140,7 @@ void Popover::appear()
     qApp->installEventFilter(this);
     show();
     if (fades) {
-        fade_.setStartValue(0.0);
-        fade_.setEndValue(1.0);
+        fade_.setDirection(QAbstractAnimation::Forward);
         fade_.start();
     }
     if (!focusWidget())
@@ -147,7 +165,7 @@ void Popover::place()
     update();
 }
 
-/// A view that goes away leaves the place behind where it was last.
+/// A view that goes away leaves behind where it was last.
 QRect Popover::currentAnchor()
 {
     if (anchor_.view && anchor_.view->isVisible())
@@ -198,6 +216,9 @@ void Popover::closeIfLeft()
 
 bool Popover::eventFilter(QObject* watched, QEvent* event)
 {
+    // What fades out takes no second click.
+    if (!shown_)
+        return isInput(event->type()) && watched->isWidgetType() && contains(static_cast<QWidget*>(watched));
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         if (watched->isWidgetType() && !contains(static_cast<QWidget*>(watched)))
@@ -260,10 +281,9 @@ void Popover::paintEvent(QPaintEvent* event)
     painter.setRenderHint(QPainter::Antialiasing);
     constexpr qreal halfLine = 0.5;
     const QRectF bodyLine = QRectF(body()).adjusted(halfLine, halfLine, -halfLine, -halfLine);
-    const QPainterPath outline = popoverOutline(bodyLine, arrow_);
     if (translucent_)
-        paintPopoverShadow(painter, outline);
-    paintPopoverGround(painter, outline, palette());
+        paintPopoverShadow(painter, bodyLine);
+    paintPopoverGround(painter, popoverOutline(bodyLine, arrow_), palette());
 }
 
 void Popover::resizeEvent(QResizeEvent* /*event*/)

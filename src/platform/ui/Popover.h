@@ -18,10 +18,10 @@ enum class PopoverBehavior { ApplicationDefined = 0, Transient = 1 };
 
 /// What a popover points at.
 struct PopoverAnchor {
-    QPointer<QWidget> view; ///< the whole of it
+    QPointer<QWidget> view{}; ///< the whole of it
     /// Where there is no view: a rectangle on the screen, in logical pixels. An empty one stands for the pointer, or
     /// for the upper right corner of the screen where the pointer is unknown.
-    QRect screenRect;
+    QRect screenRect{};
 };
 
 /// A window with an arrow to its anchor. It lies on the side of the anchor that is asked for, or on another one where

@@ -50,12 +50,12 @@ QPainterPath popoverOutline(const QRectF& body, const std::optional<PopoverArrow
     return outline.united(triangle);
 }
 
-void paintPopoverShadow(QPainter& painter, const QPainterPath& outline)
+void paintPopoverShadow(QPainter& painter, const QRectF& body)
 {
-    // Light comes from above. Ever wider strokes on top of each other come close to a blurred copy of the outline.
+    // Light comes from above. Ever wider strokes on top of each other come close to a blurred copy.
     constexpr qreal drop = 3;
     constexpr int reach = popoverShadowExtent - static_cast<int>(drop);
-    const QPainterPath lowered = outline.translated(0, drop);
+    const QPainterPath lowered = popoverOutline(body.translated(0, drop), std::nullopt);
     for (int distance = reach; distance > 0; --distance) {
         constexpr qreal darkest = 0.035;
         const qreal nearness = 1 - static_cast<qreal>(distance) / (reach + 1);

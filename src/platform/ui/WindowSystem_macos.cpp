@@ -44,7 +44,7 @@ void bringToFront(QWidget& window)
     send<void>(send<id>(view, "window"), "setCollectionBehavior:", canJoinAllSpaces | fullScreenAuxiliary);
     // Qt's activateWindow() does not bring an accessory application to the front.
     const id application = send<id>(reinterpret_cast<id>(objc_getClass("NSApplication")), "sharedApplication");
-    send<void>(application, "activateIgnoringOtherApps:", static_cast<BOOL>(YES));
+    send<void>(application, "activateIgnoringOtherApps:", static_cast<BOOL>(true));
     window.raise();
     window.activateWindow();
 }

@@ -45,11 +45,17 @@ protected:
     }
     void show(PopoverBehavior behavior = PopoverBehavior::Transient, RectEdge edge = RectEdge::MinY)
     {
+        if (!popover_.isShown())
+            window_.activateWindow(); // there is no window manager here to do it
         popover_.setBehavior(behavior);
-        popover_.showRelativeTo({.view = button_, .screenRect = {}}, edge);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&popover_));
+        popover_.showRelativeTo({.view = button_}, edge);
+        ASSERT_TRUE(becomesActive(popover_));
     }
-    QRect onScreen(const QWidget* widget) const { return {widget->mapToGlobal(QPoint()), widget->size()}; }
+    static bool becomesActive(const Popover& popover)
+    {
+        return eventually([&popover] { return QApplication::activeWindow() == &popover; });
+    }
+    static QRect onScreen(const QWidget* widget) { return {widget->mapToGlobal(QPoint()), widget->size()}; }
     QRect content() const { return onScreen(popover_.contentView()); }
     void clickOutside() { QTest::mouseClick(&window_, Qt::LeftButton, {}, QPoint(5, 5)); }
     static void leaveApplication() { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); }
@@ -69,7 +75,7 @@ TEST_F(PopoverTest, LiesBesideItsAnchorAndTakesTheKeyboard)
     QTest::keyClicks(QApplication::focusWidget(), u"typed"_s);
     EXPECT_EQ(popover_.findChild<QLineEdit*>()->text(), u"typed"_s);
 
-    popover_.showRelativeTo({.view = button_, .screenRect = {}}, RectEdge::MaxX);
+    popover_.showRelativeTo({.view = button_}, RectEdge::MaxX);
     EXPECT_GT(content().left(), anchor.right()) << "one that is shown moves";
 }
 
@@ -92,7 +98,7 @@ TEST_F(PopoverTest, KeepsOnTheScreenAtEveryBorder)
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     for (const QPoint corner : {screen.topLeft(), screen.topRight(), screen.bottomLeft(), screen.bottomRight()})
         for (const RectEdge edge : {RectEdge::MinX, RectEdge::MinY, RectEdge::MaxX, RectEdge::MaxY}) {
-            popover_.showRelativeTo({.view = {}, .screenRect = QRect(corner - QPoint(2, 2), QSize(4, 4))}, edge);
+            popover_.showRelativeTo({.screenRect = QRect(corner - QPoint(2, 2), QSize(4, 4))}, edge);
             EXPECT_TRUE(screen.contains(content())) << static_cast<int>(edge);
         }
 }
@@ -188,8 +194,9 @@ TEST_F(PopoverTest, TransientOneStaysAsLongAsItsChildrenDo)
     Popover grandchild;
     for (Popover* popover : {&child, &grandchild})
         fill(*popover);
-    child.showRelativeTo({.view = popover_.findChild<QComboBox*>(), .screenRect = {}}, RectEdge::MaxX);
-    grandchild.showRelativeTo({.view = child.findChild<QComboBox*>(), .screenRect = {}}, RectEdge::MaxX);
+    child.showRelativeTo({.view = popover_.findChild<QComboBox*>()}, RectEdge::MaxX);
+    grandchild.showRelativeTo({.view = child.findChild<QComboBox*>()}, RectEdge::MaxX);
+    ASSERT_TRUE(becomesActive(grandchild));
     QTest::mouseClick(child.contentView(), Qt::LeftButton);
     clickOutside();
     leaveApplication();
@@ -197,6 +204,7 @@ TEST_F(PopoverTest, TransientOneStaysAsLongAsItsChildrenDo)
     grandchild.close();
     clickOutside();
     EXPECT_TRUE(popover_.isShown());
+    EXPECT_TRUE(becomesActive(child)) << "the keyboard goes back to where it was";
     child.close();
     clickOutside();
     EXPECT_FALSE(popover_.isShown());
