@@ -1,9 +1,9 @@
-#include "AlertBox.h"
 #include "Bundle.h"
 #include "ChangePrinter.h"
 #include "DataManager.h"
 #include "LocalizedString.h"
 #include "LoginItemFactory.h"
+#include "ModalAlertPresenter.h"
 #include "NotificationCenter.h"
 #include "Options.h"
 #include "QtRunLoop.h"
@@ -42,7 +42,7 @@ int runApplication(const Options& options, SingleInstance& instance)
     QtRunLoop runLoop;
     Task launcher;
     NotificationCenter notifications;
-    AlertBox alerts;
+    ModalAlertPresenter alerts;
     const auto defaults = openUserDefaults(DefaultsAccess::ReadWrite);
     const auto workspace = makeWorkspace(runLoop);
     const auto loginItem = makeLoginItem(QCoreApplication::applicationFilePath());

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace quillon {
 
@@ -14,7 +15,11 @@ struct AlertRequest {
     AlertStyle style = AlertStyle::Informational;
     QString messageText;
     QString informativeText;
-    QStringList buttons; ///< the first one is the default
+    QStringList buttons; ///< the first one is the default; none stands for "OK"
+    /// Place of the button that destroys something; it is marked.
+    std::optional<int> destructiveButton = std::nullopt;
+    /// Place of the button that Escape and closing the window stand for; otherwise the last one that destroys nothing.
+    std::optional<int> escapeButton = std::nullopt;
 };
 
 /// Response code of the first button; the following ones count up from it.
@@ -29,7 +34,8 @@ public:
     AlertPresenter& operator=(const AlertPresenter&) = delete;
     virtual ~AlertPresenter() = default;
 
-    /// Shows the alert application-modally and returns at once; `answer` gets the response code when it is closed.
+    /// Shows the alert application-modally and returns at once; `answer` gets the response code when it is closed. One
+    /// that comes while another is open waits for it.
     virtual void present(const AlertRequest& request, std::function<void(int response)> answer) = 0;
 };
 

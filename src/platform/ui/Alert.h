@@ -1,0 +1,43 @@
+#pragma once
+
+#include "AlertPresenter.h"
+
+#include <QList>
+#include <QWidget>
+
+class QAbstractButton;
+class QHBoxLayout;
+class QPushButton;
+
+namespace quillon {
+
+/// What an alert shows: an icon, a bold message, a text below it and the buttons. Return presses the button that has
+/// the keyboard, which is the first one to begin with; Escape presses the one that leaves things as they are. It stands
+/// in a window of its own or in a popover, whose business it is what a click on a button does. Main thread only.
+class Alert final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Alert(const AlertRequest& request, QWidget* parent = nullptr);
+
+    /// In the order of the request, at least one.
+    const QList<QPushButton*>& buttons() const { return buttons_; }
+    QPushButton* escapeButton() const { return escapeButton_; }
+    /// alertFirstButtonReturn for the first of the buttons, counting up from there.
+    int responseOf(const QAbstractButton* button) const;
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void addButtons(const AlertRequest& request, QHBoxLayout& row);
+    void tintDestructiveButton();
+
+    QList<QPushButton*> buttons_;
+    QPushButton* escapeButton_ = nullptr;
+    QPushButton* destructiveButton_ = nullptr;
+};
+
+} // namespace quillon

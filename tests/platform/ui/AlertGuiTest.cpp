@@ -1,0 +1,151 @@
+#include "Alert.h"
+#include "host/Waiting.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextEdit>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace quillon {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class AlertTest : public testing::Test {
+protected:
+    void show(const AlertRequest& request)
+    {
+        chosen_ = 0;
+        alert_ = std::make_unique<Alert>(request);
+        for (const QPushButton* button : alert_->buttons())
+            QObject::connect(button, &QPushButton::clicked, alert_.get(),
+                             [this, button] { chosen_ = alert_->responseOf(button); });
+        alert_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(alert_.get()));
+    }
+    void showButtons(const QStringList& buttons)
+    {
+        show({.messageText = u"A"_s, .informativeText = {}, .buttons = buttons});
+    }
+    int afterKey(Qt::Key key)
+    {
+        chosen_ = 0;
+        QTest::keyClick(QApplication::focusWidget(), key);
+        return chosen_;
+    }
+    QTextEdit* text(const QString& name) const { return alert_->findChild<QTextEdit*>(name); }
+
+    std::unique_ptr<Alert> alert_;
+    int chosen_ = 0;
+};
+
+TEST_F(AlertTest, SaysItsTextsAsTheyAre)
+{
+    show({.messageText = u"<b>Disk & \"50%1\"</b>"_s,
+          .informativeText = u"<i>a & b</i>\nsecond line"_s,
+          .buttons = {u"Save & quit"_s, u"Cancel"_s}});
+    EXPECT_EQ(text(u"messageText"_s)->toPlainText(), u"<b>Disk & \"50%1\"</b>"_s);
+    EXPECT_TRUE(text(u"messageText"_s)->font().bold());
+    EXPECT_EQ(text(u"informativeText"_s)->toPlainText(), u"<i>a & b</i>\nsecond line"_s);
+    EXPECT_FALSE(text(u"informativeText"_s)->font().bold());
+    EXPECT_EQ(alert_->buttons().first()->text(), u"Save && quit"_s);
+    EXPECT_EQ(alert_->buttons().first()->accessibleName(), u"Save & quit"_s);
+    EXPECT_EQ(alert_->accessibleName(), u"<b>Disk & \"50%1\"</b>"_s);
+}
+
+TEST_F(AlertTest, LeavesOutTheTextThatIsEmpty)
+{
+    show({.messageText = {}, .informativeText = u"Only this."_s, .buttons = {u"Close"_s}});
+    EXPECT_EQ(text(u"messageText"_s), nullptr);
+    EXPECT_EQ(alert_->accessibleName(), u"Only this."_s);
+    showButtons({});
+    EXPECT_EQ(alert_->buttons().size(), 1) << "there is always a way out";
+    EXPECT_EQ(afterKey(Qt::Key_Escape), 1000);
+}
+
+TEST_F(AlertTest, ReturnPressesTheFirstButtonOrTheOneChosenWithTab)
+{
+    showButtons({u"Open"_s, u"Later"_s, u"Cancel"_s});
+    EXPECT_TRUE(alert_->buttons().first()->isDefault());
+    EXPECT_EQ(afterKey(Qt::Key_Return), 1000);
+    EXPECT_EQ(afterKey(Qt::Key_Enter), 1000);
+    afterKey(Qt::Key_Tab);
+    EXPECT_EQ(afterKey(Qt::Key_Return), 1001);
+    QTest::mouseClick(text(u"messageText"_s)->viewport(), Qt::LeftButton);
+    EXPECT_EQ(afterKey(Qt::Key_Return), 1000) << "with the keyboard in the text";
+    EXPECT_EQ(afterKey(Qt::Key_Escape), 1002);
+}
+
+TEST_F(AlertTest, EscapeDestroysNothing)
+{
+    const QStringList two{u"Cancel"_s, u"Delete"_s};
+    showButtons(two);
+    EXPECT_EQ(afterKey(Qt::Key_Escape), 1001);
+    show({.messageText = u"A"_s, .informativeText = {}, .buttons = two, .destructiveButton = 1});
+    EXPECT_EQ(afterKey(Qt::Key_Escape), 1000);
+    show({.messageText = u"A"_s, .informativeText = {}, .buttons = {u"Close"_s, u"Help"_s}, .escapeButton = 0});
+    EXPECT_EQ(afterKey(Qt::Key_Escape), 1000);
+    show({.messageText = u"A"_s, .informativeText = {}, .buttons = {u"Delete"_s}, .destructiveButton = 0});
+    EXPECT_EQ(afterKey(Qt::Key_Escape), 1000) << "the only button";
+}
+
+TEST_F(AlertTest, MarksTheDestructiveButtonInLightAndDark)
+{
+    const QPalette before = QApplication::palette();
+    show({.messageText = u"A"_s, .informativeText = {}, .buttons = {u"Cancel"_s, u"Delete"_s}, .destructiveButton = 1});
+    for (const QColor& ground : {QColor(0xe9, 0xe9, 0xeb), QColor(0x3a, 0x3a, 0x3c)}) {
+        QPalette palette = before;
+        palette.setColor(QPalette::Button, ground);
+        QApplication::setPalette(palette);
+        const auto textColor = [this](int place) {
+            return alert_->buttons()[place]->palette().color(QPalette::ButtonText);
+        };
+        EXPECT_TRUE(eventually([&] {
+            const QColor mark = textColor(1);
+            return mark.red() > 2 * mark.green() - 10 && std::abs(mark.lightness() - ground.lightness()) > 80;
+        }));
+        EXPECT_NE(textColor(0), textColor(1));
+    }
+    QApplication::setPalette(before);
+}
+
+TEST_F(AlertTest, CopiesWhatIsSelectedAsItStands)
+{
+    const QString command =
+        u"tmutil restore /home/somebody/a-rather-long-folder-name/%1/ & more"_s.arg(QString(90, u'x'));
+    show({.messageText = u"A"_s, .informativeText = command, .buttons = {u"Close"_s}});
+    QTextEdit* paragraph = text(u"informativeText"_s);
+    const QPoint start(1, 2);
+    QTest::mousePress(paragraph->viewport(), Qt::LeftButton, {}, start);
+    QTest::mouseMove(paragraph->viewport(), paragraph->viewport()->rect().bottomRight());
+    QTest::mouseRelease(paragraph->viewport(), Qt::LeftButton, {}, paragraph->viewport()->rect().bottomRight());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), command);
+}
+
+TEST_F(AlertTest, ShowsAllOfALongText)
+{
+    const auto contentFits = [](const QTextEdit* paragraph) {
+        return paragraph->document()->size().height() <= paragraph->viewport()->height() &&
+               paragraph->document()->idealWidth() <= paragraph->viewport()->width() + 1;
+    };
+    show({.messageText = u"/one/word/"_s + QString(300, u'm'),
+          .informativeText = u"Several words. "_s.repeated(40),
+          .buttons = {u"A rather long title of a button"_s, u"Another title that is long"_s}});
+    EXPECT_TRUE(contentFits(text(u"messageText"_s)));
+    EXPECT_TRUE(contentFits(text(u"informativeText"_s)));
+    for (const QWidget* child : alert_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        EXPECT_TRUE(alert_->rect().contains(child->geometry()));
+
+    show({.messageText = u"A"_s, .informativeText = u"Line.\n"_s.repeated(400), .buttons = {u"Close"_s}});
+    EXPECT_LT(alert_->height(), alert_->screen()->availableGeometry().height());
+    EXPECT_TRUE(text(u"informativeText"_s)->verticalScrollBar()->isVisible());
+}
+
+} // namespace
+} // namespace quillon
