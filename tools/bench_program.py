@@ -19,13 +19,13 @@ def start(programs, folder):
     wrapper.write_text(
         "#!/bin/sh\n"
         f"export XDG_CONFIG_HOME='{folder}' XDG_STATE_HOME='{folder}' XDG_CACHE_HOME='{folder}'\n"
-        f"exec '{programs}/src/timemachine/program/tmutil' \"$@\"\n"
+        f"exec '{programs}/libexec/quillon/tmutil' \"$@\"\n"
     )
     wrapper.chmod(0o755)
     environment = dict(os.environ, XDG_CONFIG_HOME=str(folder), QUILLON_TMUTIL=str(wrapper))
     begun = time.monotonic()
     process = subprocess.Popen(
-        [f"{programs}/src/quillon/quillon", "--menu-bar=bar", "--print-changes"],
+        [f"{programs}/bin/quillon", "--menu-bar=bar", "--print-changes"],
         env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     for line in process.stdout:
         if 'title=""' not in line:

@@ -44,7 +44,8 @@ int runApplication(const Options& options, SingleInstance& instance)
     NotificationCenter notifications;
     ModalAlertPresenter alerts;
     const auto defaults = openUserDefaults(DefaultsAccess::ReadWrite);
-    const auto workspace = makeWorkspace(runLoop);
+    const auto workspace = makeWorkspace(
+        runLoop, {{TMUtil::settingsAddress(), QCoreApplication::applicationDirPath() + "/quillon-disks"_L1}});
     const auto loginItem = makeLoginItem(QCoreApplication::applicationFilePath());
     TMUtilQueue tmutilQueue(launcher, runLoop, tmutilPath());
     DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});

@@ -6,6 +6,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 #include <memory>
 
@@ -32,6 +33,9 @@ public:
     /// Brings up the system's Time Machine settings. Before version 13 that takes a script, and the user is told how to
     /// permit it when it fails; `applicationName` is the name used in that alert.
     void openTimeMachineSettings(const QString& applicationName);
+
+    /// Address of the system's Time Machine settings, from version 13 on.
+    static QUrl settingsAddress();
 
     /// English phrase of a raw phase word; "N/A" for none.
     QString stringForBackupPhase(const QString& rawPhase) const;

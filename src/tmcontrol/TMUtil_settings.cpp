@@ -2,16 +2,19 @@
 #include "ProcessInfo.h"
 #include "TMUtil.h"
 
-#include <QUrl>
-
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+QUrl TMUtil::settingsAddress()
+{
+    return QUrl(u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s);
+}
+
 void TMUtil::openTimeMachineSettings(const QString& applicationName)
 {
     if (operatingSystemVersion().major >= 13) {
-        workspace_.openURL(QUrl(u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s), {});
+        workspace_.openURL(settingsAddress(), {});
         return;
     }
     if (settingsScript_)
@@ -42,6 +45,7 @@ void TMUtil::presentPermissionAlert(const QString& applicationName)
     const QString provide = localizedString("AlertButtonProvidePermission");
     alert.informativeText = localizedString("timeMachinePermissionRequiredAlertMessage").arg(provide, applicationName);
     alert.buttons = {localizedString("AlertButtonClose"), provide};
+    alert.escapeButton = 0;
     alerts_.present(alert, [this](int response) {
         if (response == alertSecondButtonReturn)
             workspace_.openURL(QUrl(u"x-apple.systempreferences:com.apple.preference.security?Privacy_Automation"_s),

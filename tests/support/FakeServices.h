@@ -15,12 +15,20 @@ namespace quillon {
 class FakeWorkspace final : public Workspace {
 public:
     QList<QUrl> opened;
+    QStringList openedApplications;
+    bool opens = true; ///< whether there is a program for what is to be opened
 
     void openURL(const QUrl& url, Completion completion) override
     {
         opened.append(url);
         if (completion)
-            completion(true);
+            completion(opens);
+    }
+    void openApplication(const QString& bundleIdentifier, Completion completion) override
+    {
+        openedApplications.append(bundleIdentifier);
+        if (completion)
+            completion(opens);
     }
     void sleep() { Q_EMIT willSleep(); }
     void wake() { Q_EMIT didWake(); }

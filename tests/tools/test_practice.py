@@ -18,8 +18,8 @@ class PracticeTest(unittest.TestCase):
         self.addCleanup(scratch.cleanup)
         self.folder = Path(scratch.name)
         self.programs = self.folder / "programs"
-        for program in ("quillon/quillon", "quillonctl/quillonctl", "timemachine/program/tmutil"):
-            (self.programs / program).parent.mkdir(parents=True)
+        for program in ("bin/quillon", "bin/quillonctl", "libexec/quillon/tmutil"):
+            (self.programs / program).parent.mkdir(parents=True, exist_ok=True)
             (self.programs / program).symlink_to(HERE / "practice_fakes.py")
 
     def start(self, fault=""):

@@ -26,7 +26,7 @@ def arguments():
     parser.add_argument("--shots", type=Path, metavar="DIR", help="folder for pictures of the screen")
     parser.add_argument("--megabytes", type=int, default=900, help="size of the large sample files (%(default)s)")
     parser.add_argument("--folder", type=Path, default=BUILD / "practice", help="where the practice disk lies")
-    parser.add_argument("--programs", type=Path, default=BUILD / "release" / "src", help="where the programs lie")
+    parser.add_argument("--programs", type=Path, default=BUILD / "release", help="where the programs lie")
     parser.add_argument("quillon", nargs="*", metavar="-- OPTION", help="options for quillon itself")
     chosen = parser.parse_args()
     if chosen.once and not chosen.shots:
@@ -41,7 +41,7 @@ def main():
     signal.signal(signal.SIGTERM, interrupt)
     signal.signal(signal.SIGHUP, interrupt)
     signal.signal(signal.SIGALRM, give_up)
-    disk = PracticeDisk(chosen.folder, chosen.programs / "timemachine" / "program" / "tmutil")
+    disk = PracticeDisk(chosen.folder, chosen.programs / "libexec" / "quillon" / "tmutil")
     processes.adopt_orphans()
     with open(chosen.folder / "lock", "w") as lock, tempfile.TemporaryDirectory(prefix="quillon-practice-") as runtime:
         try:
@@ -71,12 +71,12 @@ def run(chosen, disk, runtime):
     if chosen.shots and not desktop.pictures:
         say("no pictures: Wayland keeps programs from taking any")
 
-    backup = FirstBackup(disk, chosen.programs / "quillonctl" / "quillonctl", environment,
+    backup = FirstBackup(disk, chosen.programs / "bin" / "quillonctl", environment,
                          desktop.take_picture if desktop.pictures else None, chosen.shots)
     due = disk.write_settings(time.time())
     say(f"{desktop.name}; the first backup is due at {time.strftime('%H:%M', due)}; Ctrl-C ends the practice")
     quillon = subprocess.Popen(
-        [chosen.programs / "quillon" / "quillon", "--print-changes", *chosen.quillon],
+        [chosen.programs / "bin" / "quillon", "--print-changes", *chosen.quillon],
         env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, start_new_session=True)
     try:
         if chosen.once:

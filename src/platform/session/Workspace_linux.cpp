@@ -1,7 +1,6 @@
 #include "Workspace_linux.h"
 
 #include "RunLoop.h"
-#include "WorkspaceFactory.h"
 
 #include <QProcess>
 
@@ -75,8 +74,9 @@ private:
 
 } // namespace
 
-LinuxWorkspace::LinuxWorkspace(RunLoop& runLoop, const QDBusConnection& systemBus)
+LinuxWorkspace::LinuxWorkspace(RunLoop& runLoop, const QDBusConnection& systemBus, OwnPrograms ownPrograms)
     : runLoop_(runLoop)
+    , ownPrograms_(std::move(ownPrograms))
     , sleepWatch_(systemBus)
 {
     connect(&sleepWatch_, &LogindSleepWatch::willSleep, this, &Workspace::willSleep);
@@ -85,18 +85,33 @@ LinuxWorkspace::LinuxWorkspace(RunLoop& runLoop, const QDBusConnection& systemBu
 
 void LinuxWorkspace::openURL(const QUrl& url, Completion completion)
 {
+    if (const QString program = ownPrograms_.value(url); !program.isEmpty()) {
+        report(QProcess::startDetached(program, {}), std::move(completion));
+        return;
+    }
     // xdg-open would take the text of a relative address for a file name or an option.
     if (url.isValid() && !url.isRelative()) {
         auto* opening = new Opening(runLoop_, std::move(completion), this);
         opening->start(url);
-    } else if (completion) {
-        runLoop_.enqueue([completion = std::move(completion)] { completion(false); });
+    } else {
+        report(false, std::move(completion));
     }
 }
 
-std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop)
+void LinuxWorkspace::openApplication(const QString& /*bundleIdentifier*/, Completion completion)
 {
-    return std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection::systemBus());
+    report(false, std::move(completion));
+}
+
+void LinuxWorkspace::report(bool opened, Completion completion)
+{
+    if (completion)
+        runLoop_.enqueue([completion = std::move(completion), opened] { completion(opened); });
+}
+
+std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop, const OwnPrograms& ownPrograms)
+{
+    return std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection::systemBus(), ownPrograms);
 }
 
 } // namespace quillon

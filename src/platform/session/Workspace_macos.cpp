@@ -35,7 +35,25 @@ MacWorkspace::~MacWorkspace()
 void MacWorkspace::openURL(const QUrl& url, Completion completion)
 {
     const std::unique_ptr<const __CFURL, decltype(&CFRelease)> address(url.toCFURL(), CFRelease);
-    const bool opened = address && LSOpenCFURLRef(address.get(), nullptr) == noErr;
+    report(address && LSOpenCFURLRef(address.get(), nullptr) == noErr, std::move(completion));
+}
+
+void MacWorkspace::openApplication(const QString& bundleIdentifier, Completion completion)
+{
+    const std::unique_ptr<const __CFString, decltype(&CFRelease)> identifier(bundleIdentifier.toCFString(), CFRelease);
+    // LSInfo.h: the best application comes first.
+    const CFArrayRef found = LSCopyApplicationURLsForBundleIdentifier(identifier.get(), nullptr);
+    bool opened = false;
+    if (found) {
+        const auto* application = static_cast<CFURLRef>(CFArrayGetValueAtIndex(found, 0));
+        opened = LSOpenCFURLRef(application, nullptr) == noErr;
+        CFRelease(found);
+    }
+    report(opened, std::move(completion));
+}
+
+void MacWorkspace::report(bool opened, Completion completion)
+{
     if (completion)
         runLoop_.enqueue([completion = std::move(completion), opened] { completion(opened); });
 }
@@ -60,7 +78,7 @@ void MacWorkspace::powerChanged(void* workspace, io_service_t, natural_t message
     }
 }
 
-std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop)
+std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop, const OwnPrograms& /*ownPrograms*/)
 {
     return std::make_unique<MacWorkspace>(runLoop);
 }

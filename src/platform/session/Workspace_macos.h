@@ -16,8 +16,10 @@ public:
 
     /// The completion gets true when LaunchServices has found and started the program.
     void openURL(const QUrl& url, Completion completion) override;
+    void openApplication(const QString& bundleIdentifier, Completion completion) override;
 
 private:
+    void report(bool opened, Completion completion);
     static void powerChanged(void* workspace, io_service_t, natural_t message, void* argument);
 
     RunLoop& runLoop_;

@@ -116,6 +116,28 @@ TEST_F(WorkspaceIntegrationTest, AnOpenerThatStaysHasOpenedTheAddressAndOutlives
     EXPECT_EQ(reports, 1);
 }
 
+TEST_F(WorkspaceIntegrationTest, AnAddressOfOurOwnStartsItsProgramAndApplicationsByIdentifierAreUnknown)
+{
+    playOpener(u"touch \"$NOTE\""_s);
+    const QUrl address(u"x-settings:disks"_s);
+    for (const bool exists : {true, false}) {
+        const QString program = folder.filePath(exists ? u"disks"_s : u"gone"_s);
+        writeScript(folder.filePath(u"disks"_s), u"printf '%s' \"$#\" >\"$NOTE\""_s);
+        workspace = std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection(u"no such connection"_s),
+                                                     OwnPrograms{{address, program}});
+        reports = 0;
+        workspace->openURL(address, keepResult());
+        ASSERT_TRUE(reported());
+        EXPECT_EQ(result, exists);
+    }
+    EXPECT_TRUE(eventually([this] { return note() == "0"_L1; }));
+    reports = 0;
+    result = true;
+    workspace->openApplication(u"com.example.application"_s, keepResult());
+    ASSERT_TRUE(reported());
+    EXPECT_FALSE(result);
+}
+
 TEST_F(WorkspaceIntegrationTest, TheSessionTellsOfSleepAndWake)
 {
     const PrivateBus bus;
