@@ -262,5 +262,80 @@
         <source></source>
         <translation>4 Weeks</translation>
     </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Let Time Machine Choose</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>most recent</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>Latest Backup of Each Disk</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>This list shows the latest backup that Quillon has seen complete on each of your backup disks. A disk without a date has not been backed up to since Quillon was installed.</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>Help</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>Warning</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>The backup could not be started. Time Machine answered with error code %1.</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1 is available</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>You have version %1. The download page will be opened in your browser, and Quillon will quit so that it can be replaced.</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>Get Update</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>Restoring from Your Backups</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>Latest backup of each disk:
+%1
+
+List all backups:
+%2
+
+Restore a folder from the latest one, as a copy in your home folder:
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>Restored</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>Version</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 the Quillon authors</translation>
+    </message>
 </context>
 </TS>

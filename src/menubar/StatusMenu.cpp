@@ -1,7 +1,13 @@
 #include "StatusMenu.h"
 
+#include "EmojiFont.h"
 #include "LocalizedString.h"
 #include "PauseDurations.h"
+
+#include <QEvent>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -10,14 +16,18 @@ using namespace Qt::StringLiterals;
 StatusMenu::StatusMenu()
     : phaseMenuItem(addItem(u"phaseMenuItem"_s))
     , backupDiskMenuItem(addItem(u"backupDiskMenuItem"_s))
-    , remainingTimeMenuItem(addItem(u"remainingTimeMenuItem"_s))
-    , skipRetryAttemptMenuItem(addItem(u"skipRetryAttemptMenuItem"_s))
-    , backupNowMenuItem((addSeparator(), addItem(u"backupNowMenuItem"_s)))
-    , pauseScheduleMenuItem(addItem(u"pauseScheduleMenuItem"_s))
+    , pauseScheduleMenuItem(addGroup(u"pauseScheduleMenuItem"_s))
     , resumeScheduleMenuItem(addItem(u"resumeScheduleMenuItem"_s))
     , resumeScheduleSeparator(addSeparator())
-    , updateAvailableMenuItem(addItem(u"updateAvailableMenuItem"_s))
-    , quitMenuItem((addSeparator(), addItem(u"quitMenuItem"_s)))
+    , remainingTimeMenuItem(addItem(u"remainingTimeMenuItem"_s))
+    , skipRetryAttemptMenuItem(addItem(u"skipRetryAttemptMenuItem"_s))
+    , backupNowMenuItem(addGroup(u"backupNowMenuItem"_s))
+    , enterTimeMachineMenuItem(addItem(u"enterTimeMachineMenuItem"_s))
+    , updateAvailableMenuItem(addGroup(u"updateAvailableMenuItem"_s))
+    , openSystemPreferencesMenuItem(addItem(u"openSystemPreferencesMenuItem"_s))
+    , preferencesMenuItem(addItem(u"preferencesMenuItem"_s))
+    , aboutMenuItem(addItem(u"aboutMenuItem"_s))
+    , quitMenuItem(addGroup(u"quitMenuItem"_s))
 {
     // These only inform.
     for (QAction* item : {phaseMenuItem, backupDiskMenuItem, remainingTimeMenuItem})
@@ -25,8 +35,38 @@ StatusMenu::StatusMenu()
     for (QAction* item : {backupDiskMenuItem, skipRetryAttemptMenuItem, resumeScheduleMenuItem, resumeScheduleSeparator,
                           updateAvailableMenuItem})
         item->setVisible(false);
-    pauseScheduleMenuItem->setCheckable(true);
     addPauseDurations();
+    setFont(withColorEmoji(font()));
+    dimInformation();
+}
+
+void StatusMenu::dimInformation()
+{
+    // Items that only inform are disabled, but people read them: paler than the others, at least 4.5:1 to the ground.
+    constexpr float strength = 0.7F;
+    QPalette dimmed = palette();
+    QColor text = dimmed.color(QPalette::Active, QPalette::WindowText);
+    text.setAlphaF(strength);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dimmed.setColor(QPalette::Disabled, role, text);
+    if (dimmed != palette())
+        setPalette(dimmed);
+}
+
+void StatusMenu::changeEvent(QEvent* event)
+{
+    QMenu::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        dimInformation();
+}
+
+void StatusMenu::resizeEvent(QResizeEvent* event)
+{
+    QMenu::resizeEvent(event);
+    // Titles grow and submenus appear while the menu is open.
+    const QRect available = screen()->availableGeometry();
+    if (isVisible() && geometry().right() > available.right())
+        move(std::max(available.left(), available.right() + 1 - width()), y());
 }
 
 void StatusMenu::addPauseDurations()
@@ -36,7 +76,6 @@ void StatusMenu::addPauseDurations()
         QAction* item = durations->addAction(QString());
         setTitle(item, localizedString(duration.titleKey));
         item->setData(static_cast<qlonglong>(duration.seconds));
-        item->setCheckable(true);
         item->setMenuRole(QAction::NoRole);
     }
     pauseScheduleMenuItem->setMenu(durations);
@@ -47,12 +86,35 @@ QList<QAction*> StatusMenu::pauseDurationItems() const
     return pauseScheduleMenuItem->menu()->actions();
 }
 
+void StatusMenu::setSubmenu(QAction* item, QMenu* submenu)
+{
+    QMenu* current = item->menu();
+    if (current == submenu)
+        return;
+    if (current)
+        current->hide();
+    item->setMenu(submenu);
+}
+
+void StatusMenu::setState(QAction* item, bool on)
+{
+    // An item that can be checked shows an empty box while it is not.
+    item->setCheckable(on);
+    item->setChecked(on);
+}
+
 QAction* StatusMenu::addItem(const QString& objectName)
 {
     QAction* item = addAction(QString());
     item->setObjectName(objectName);
     item->setMenuRole(QAction::NoRole);
     return item;
+}
+
+QAction* StatusMenu::addGroup(const QString& objectName)
+{
+    addSeparator();
+    return addItem(objectName);
 }
 
 void StatusMenu::setTitle(QAction* item, const QString& title)

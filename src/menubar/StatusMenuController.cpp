@@ -1,14 +1,14 @@
 #include "StatusMenuController.h"
 
+#include "AboutViewController.h"
 #include "DataHelper.h"
 #include "LocalizedString.h"
 #include "Notifications.h"
 #include "PollIntervals.h"
 #include "ProcessInfo.h"
 #include "SettingsKeys.h"
+#include "SettingsViewController.h"
 #include "TextComparison.h"
-
-#include <QCoreApplication>
 
 namespace quillon {
 
@@ -29,6 +29,7 @@ StatusMenuController::StatusMenuController(const Services& services)
     , defaults_(services.defaults)
     , notifications_(services.notifications)
     , workspace_(services.workspace)
+    , alerts_(services.alerts)
     , sharedDataManager_(services.dataManager)
     , statusItem_(services.statusItem)
     , tmutil_(services.tmutilQueue, services.launcher, services.runLoop, services.workspace, services.alerts)
@@ -47,13 +48,14 @@ void StatusMenuController::awakeFromNib()
     statusItem_.setFontSize(buttonFontSize(operatingSystemVersion()));
     statusItem_.setMenu(&statusMenu_);
     StatusMenu::setTitle(statusMenu_.quitMenuItem, localizedString("quitApplicationTitle").arg(u"Quillon"_s));
-    connect(statusMenu_.quitMenuItem, &QAction::triggered, this, [] { QCoreApplication::quit(); });
+    connectCommands();
     updateStatusBar();
     chooseLocaleKeys();
     titleMenuItems();
     restorePause();
     startTimerWithInterval(pollintervals::idle);
     firePollTimer();
+    createPopovers();
     registerObservers();
 }
 
@@ -67,17 +69,42 @@ void StatusMenuController::chooseLocaleKeys()
 
 void StatusMenuController::titleMenuItems()
 {
-    StatusMenu::setTitle(statusMenu_.skipRetryAttemptMenuItem, localizedString("skipRetryAttemptTitle"));
-    StatusMenu::setTitle(statusMenu_.updateAvailableMenuItem,
-                         u"🟢 %1..."_s.arg(localizedString("updateAvailableMenuTitle")));
-    StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem, localizedString("pauseScheduleForTitle"));
-    StatusMenu::setTitle(statusMenu_.resumeScheduleMenuItem, localizedString("resumeScheduleTitle"));
-    connect(statusMenu_.resumeScheduleMenuItem, &QAction::triggered, this,
-            &StatusMenuController::resumeScheduleClicked);
-    for (QAction* item : statusMenu_.pauseDurationItems()) {
-        const auto tag = item->data().toLongLong();
-        connect(item, &QAction::triggered, this, [this, tag] { pauseForClicked(tag); });
-    }
+    const auto title = [](QAction* item, const char* key, const QString& pattern = u"%1"_s) {
+        StatusMenu::setTitle(item, pattern.arg(localizedString(key)));
+    };
+    const QString opens = u"%1..."_s;
+    title(statusMenu_.skipRetryAttemptMenuItem, "skipRetryAttemptTitle");
+    title(statusMenu_.enterTimeMachineMenuItem, enterTimeMachineTitleLocaleKey_);
+    title(statusMenu_.updateAvailableMenuItem, "updateAvailableMenuTitle", u"🟢 %1..."_s);
+    title(statusMenu_.preferencesMenuItem, "preferencesMenuTitle", opens);
+    title(statusMenu_.openSystemPreferencesMenuItem, sharedDataManager_.openSystemPreferencesTitleLocaleKey(), opens);
+    title(statusMenu_.aboutMenuItem, "aboutMenuTitle", opens);
+    title(statusMenu_.pauseScheduleMenuItem, "pauseScheduleForTitle");
+    title(statusMenu_.resumeScheduleMenuItem, "resumeScheduleTitle");
+}
+
+void StatusMenuController::enableMenuButtons(bool enable)
+{
+    shouldEnableMenuButons_ = enable;
+    for (QAction* item : {statusMenu_.skipRetryAttemptMenuItem, statusMenu_.pauseScheduleMenuItem,
+                          statusMenu_.backupNowMenuItem, statusMenu_.enterTimeMachineMenuItem,
+                          statusMenu_.preferencesMenuItem, statusMenu_.openSystemPreferencesMenuItem})
+        item->setEnabled(enable);
+    if (enable)
+        updateStatusBar();
+}
+
+void StatusMenuController::createPopovers()
+{
+    const auto create = [](std::unique_ptr<QWidget> content) {
+        auto popover = std::make_unique<Popover>();
+        popover->setContentView(content.release());
+        popover->setBehavior(PopoverBehavior::Transient);
+        popover->setAnimates(true);
+        return popover;
+    };
+    aboutPopover_ = create(std::make_unique<AboutViewController>(runLoop_));
+    preferencesPopover_ = create(std::make_unique<SettingsViewController>(runLoop_, sharedDataManager_));
 }
 
 void StatusMenuController::registerObservers()

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "AlertPresenter.h"
+#include "BackupDisksMenu.h"
 #include "ClockWatch.h"
 #include "DataManager.h"
 #include "DateFormatter.h"
+#include "HistoryMenu.h"
 #include "MenuBarIconState.h"
 #include "NotificationCenter.h"
+#include "Popover.h"
 #include "RunLoop.h"
 #include "RunProgress.h"
 #include "StatusItem.h"
@@ -27,7 +30,8 @@ namespace quillon {
 /// The heart of the program: polls Time Machine, follows its runs, starts scheduled backups, plans retries, and keeps
 /// the menu-bar item and the status menu true. Main thread only.
 ///
-/// One file per concern: _polling, _statemachine, _menutitles, _schedule, _wake, _pause, _title, _icon.
+/// One file per concern: _polling, _statemachine, _menutitles, _schedule, _wake, _pause, _title, _icon, and for the
+/// menu _refresh (as it opens), _history, _commands and _backupnow.
 class StatusMenuController final : public QObject {
     Q_OBJECT
 
@@ -56,7 +60,7 @@ public:
     const RunProgress& progress() const { return progress_; }
     MenuBarIconState menuBarIconState() const { return menuBarIconState_; }
     const QList<BackupDestination>& backupDisks() const { return backupDisks_; }
-    const StatusMenu& statusMenu() const { return statusMenu_; }
+    StatusMenu& statusMenu() { return statusMenu_; }
     /// What the item shows: the upper line, and the lower one.
     const QString& statusTitle() const { return statusTitle_; }
     const QString& statusText() const { return statusText_; }
@@ -83,6 +87,26 @@ public:
     static QString nameForBackupDiskWithName(const QString& name);
     void updateBackupDiskMenuItem();
 
+    /// Brings the menu up to date as it opens: the disks to back up to and the latest backup of each. The menu is not
+    /// delayed; its submenus follow when Time Machine has answered.
+    void menuWillOpen();
+    /// Enables or disables the items that change settings or start something.
+    void enableMenuButtons(bool enable);
+
+    /// Starts a backup, or stops the one that runs. Ignored while an earlier click is under way.
+    void backupNowClicked();
+    /// Starts a backup to that destination. Ignored while an earlier click is under way.
+    void backupNowSubMenuItemClicked(const QString& identifier);
+    void skipRetryAttemptClicked();
+    void enterTimeMachineClicked();
+    void openSystemPreferences();
+    void preferencesClicked();
+    void aboutClicked();
+    void updateAvailableClicked();
+    void quitClicked();
+    /// Explains the history of backups in a popover.
+    void allBackupInfoHelpButtonPressed();
+
     /// Pauses the schedule for a length in seconds, replacing a pause that runs.
     void pauseForClicked(std::int64_t tag);
     void resumeScheduleClicked();
@@ -96,6 +120,8 @@ Q_SIGNALS:
     void statusBarUpdated();
     /// The icon has changed; within one step of the state machine it may do so more than once.
     void menuBarIconStateChanged();
+    /// The program is to end.
+    void terminate();
 
 private:
     enum class Wake { FromSleep, ClockJump };
@@ -103,6 +129,8 @@ private:
     // Start-up
     void chooseLocaleKeys();
     void titleMenuItems();
+    void connectCommands();
+    void createPopovers();
     void restorePause();
     void registerObservers();
 
@@ -113,6 +141,8 @@ private:
     void noteRunState(const TMStatus& status);
     void markCompletion(const TMStatus& status);
     void requestBackupDisks();
+    /// Asks what Time Machine does now and acts once, however many reports the answer brings.
+    void askForState(std::function<void(TMState state)> act);
 
     // State machine
     bool isActive() const;
@@ -128,12 +158,28 @@ private:
 
     // Menu titles
     void updateMenuItems();
+    QString backupText(std::optional<Date> date, std::int64_t bytes) const;
     QString lastBackupText() const;
     QString phaseItemTitle() const;
     QString remainingTimeItemTitle() const;
     void updateBackupNowItem();
     void updatePauseItemTitle();
     QString dayAndTime(Date date, DateFormatterStyle dayStyle) const;
+
+    // The open menu
+    void refreshMenu(const QList<BackupDestination>& disks);
+    void withdrawSubmenus();
+    void offerBackupDisks();
+    void carryLegacyRecordOver();
+    QList<HistoryMenu::Row> historyRows() const;
+    void showHistory();
+
+    // Commands
+    void requestStart(const QString& identifier, bool rotateBackupDisks);
+    void requestStop();
+    void tellOfFailedStart(std::int32_t exitStatus);
+    void showPopover(Popover& popover);
+    void openDownloadPage();
 
     // Schedule
     void startScheduledBackup();
@@ -164,10 +210,15 @@ private:
     UserDefaults& defaults_;
     NotificationCenter& notifications_;
     Workspace& workspace_;
+    AlertPresenter& alerts_;
     DataManager& sharedDataManager_;
     StatusItem& statusItem_;
     TMUtil tmutil_;
     StatusMenu statusMenu_;
+    BackupDisksMenu backupDisksMenu_{&statusMenu_};
+    HistoryMenu historyMenu_{&statusMenu_};
+    std::unique_ptr<Popover> aboutPopover_;
+    std::unique_ptr<Popover> preferencesPopover_;
     const char* enterTimeMachineTitleLocaleKey_ = nullptr;
     const char* skipThisBackupTitleLocaleKey_ = nullptr;
 
@@ -178,6 +229,8 @@ private:
     RunProgress progress_;
     bool stopBackupConfirmed_ = false;
     bool shouldEnableMenuButons_ = true;
+    bool commandIsUnderWay_ = false;   ///< a start or a stop that the user asked for
+    bool menuDisksAreAwaited_ = false; ///< the menu has been opened and not yet filled
     std::optional<Date> backupCompleteDate_;
     std::optional<QString> activeBackupDiskIdentifier_;
     QList<BackupDestination> backupDisks_;

@@ -32,14 +32,18 @@ QString StatusMenuController::dayAndTime(Date date, DateFormatterStyle dayStyle)
                            DataHelper::getDateTimeFrom(date, DateFormatterStyle::None, DateFormatterStyle::Short));
 }
 
-QString StatusMenuController::lastBackupText() const
+QString StatusMenuController::backupText(std::optional<Date> date, std::int64_t bytes) const
 {
-    const auto date = defaults_.date(settingskeys::lastBackupDate);
     if (!date)
         return localizedString("notAvailableAbbreviation");
-    const auto bytes = defaults_.integer(settingskeys::lastBackupBytesCopied);
     const QString size = bytes > 0 ? u" (%1)"_s.arg(stringRepresentationOfBytes(bytes)) : QString();
     return dayAndTime(*date, DateFormatterStyle::Long) + size;
+}
+
+QString StatusMenuController::lastBackupText() const
+{
+    return backupText(defaults_.date(settingskeys::lastBackupDate),
+                      defaults_.integer(settingskeys::lastBackupBytesCopied));
 }
 
 QString StatusMenuController::phaseItemTitle() const
@@ -85,7 +89,7 @@ void StatusMenuController::updateBackupNowItem()
         title = u"%1..."_s.arg(localizedString("statusStopping"));
     } else if (tmState_ == TMState::Running || tmState_ == TMState::Starting) {
         title = localizedString(skipThisBackupTitleLocaleKey_);
-        statusMenu_.phaseMenuItem->setEnabled(false);
+        withdrawSubmenus();
     }
     statusMenu_.skipRetryAttemptMenuItem->setVisible(sharedDataManager_.retryBackupDate().has_value());
     StatusMenu::setTitle(item, title);

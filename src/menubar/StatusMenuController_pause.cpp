@@ -13,14 +13,10 @@ constexpr Seconds expirationGrace{10.0};
 
 void StatusMenuController::restorePause()
 {
+    schedulePauseScheduleExpirationTimer(); // a pause that has ended meanwhile is over with this
     const auto end = defaults_.date(settingskeys::pauseUntilDate);
     if (!end)
         return;
-    if (*end <= runLoop_.now()) {
-        resumeScheduleClicked();
-        return;
-    }
-    schedulePauseScheduleExpirationTimer();
     updateStatusBar();
     showPaused(*end, defaults_.integer(settingskeys::pauseUntilTag));
 }
@@ -39,7 +35,7 @@ void StatusMenuController::pauseForClicked(std::int64_t tag)
 
 void StatusMenuController::showPaused(Date end, std::int64_t tag)
 {
-    statusMenu_.pauseScheduleMenuItem->setChecked(true);
+    StatusMenu::setState(statusMenu_.pauseScheduleMenuItem, true);
     statusMenu_.resumeScheduleMenuItem->setVisible(true);
     statusMenu_.resumeScheduleSeparator->setVisible(true);
     titlePauseItem(end);
@@ -52,7 +48,7 @@ void StatusMenuController::resumeScheduleClicked()
     defaults_.setObject(settingskeys::pauseUntilTag, 0LL);
     sharedDataManager_.scheduleNextBackup();
     updateStatusBar();
-    statusMenu_.pauseScheduleMenuItem->setChecked(false);
+    StatusMenu::setState(statusMenu_.pauseScheduleMenuItem, false);
     statusMenu_.resumeScheduleMenuItem->setVisible(false);
     statusMenu_.resumeScheduleSeparator->setVisible(false);
     StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem, localizedString("pauseScheduleForTitle"));
@@ -62,7 +58,7 @@ void StatusMenuController::resumeScheduleClicked()
 void StatusMenuController::setTogglesForPauseMenuItems(std::int64_t tag)
 {
     for (QAction* item : statusMenu_.pauseDurationItems())
-        item->setChecked(item->data().toLongLong() == tag);
+        StatusMenu::setState(item, item->data().toLongLong() == tag);
 }
 
 void StatusMenuController::schedulePauseScheduleExpirationTimer()

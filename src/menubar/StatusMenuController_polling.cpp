@@ -92,4 +92,18 @@ void StatusMenuController::requestBackupDisks()
     });
 }
 
+void StatusMenuController::askForState(std::function<void(TMState state)> act)
+{
+    struct Answer {
+        TMState lastReport = TMState::Unknown;
+        bool reported = false;
+    };
+    const auto answer = std::make_shared<Answer>();
+    tmutil_.getStatusWithCompletionHandler([this, answer, act = std::move(act)](const TMStatus& status) {
+        answer->lastReport = status.state;
+        if (!std::exchange(answer->reported, true))
+            runLoop_.enqueue([answer, act] { act(answer->lastReport); }); // a second report comes before this
+    });
+}
+
 } // namespace quillon

@@ -3,9 +3,6 @@
 #include "SettingsKeys.h"
 #include "StatusMenuController.h"
 
-#include <memory>
-#include <utility>
-
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -25,24 +22,12 @@ std::optional<Date> runningPause(const UserDefaults& defaults, Date now)
 
 void StatusMenuController::startScheduledBackup()
 {
-    struct Question {
-        bool wasEnabled;
-        std::optional<Date> pauseUntil;
-        TMState lastReport = TMState::Unknown;
-        bool reported = false;
-    };
-    const auto question = std::make_shared<Question>(
-        Question{sharedDataManager_.isScheduleEnabled(), runningPause(defaults_, runLoop_.now())});
-    tmutil_.getStatusWithCompletionHandler([this, question](const TMStatus& status) {
-        question->lastReport = status.state;
-        if (std::exchange(question->reported, true))
-            return;
-        // One answer may bring two reports: act once, on the last one.
-        runLoop_.enqueue([this, question] {
-            const bool stillWanted = question->wasEnabled == sharedDataManager_.isScheduleEnabled() &&
-                                     question->pauseUntil == runningPause(defaults_, runLoop_.now());
-            answerScheduledStart(question->lastReport, stillWanted);
-        });
+    const bool wasEnabled = sharedDataManager_.isScheduleEnabled();
+    const auto pauseUntil = runningPause(defaults_, runLoop_.now());
+    askForState([this, wasEnabled, pauseUntil](TMState state) {
+        const bool stillWanted = wasEnabled == sharedDataManager_.isScheduleEnabled() &&
+                                 pauseUntil == runningPause(defaults_, runLoop_.now());
+        answerScheduledStart(state, stillWanted);
     });
 }
 
@@ -54,8 +39,10 @@ void StatusMenuController::answerScheduledStart(TMState state, bool stillWanted)
         return;
     tmutil_.startBackupOnDiskWithIdentifier({}, switchIsOn(settingskeys::rotateBackupDisks),
                                             [this](std::int32_t, bool success) {
-                                                if (success)
-                                                    startAccepted();
+                                                if (!success)
+                                                    return;
+                                                requestBackupDisks();
+                                                startAccepted();
                                             });
 }
 
@@ -64,7 +51,6 @@ void StatusMenuController::startAccepted()
     tmState_ = TMState::Starting;
     tmPhase_ = u"Starting"_s;
     lastAnswerUptime_ = runLoop_.uptime();
-    requestBackupDisks();
     runLoop_.enqueue([this] {
         firePollTimer();
         startTimerWithInterval(pollintervals::starting);

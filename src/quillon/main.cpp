@@ -57,6 +57,7 @@ int runApplication(const Options& options, SingleInstance& instance)
     if (options.printChanges)
         printer = std::make_unique<ChangePrinter>(controller, runLoop);
     controller.awakeFromNib();
+    QObject::connect(&controller, &StatusMenuController::terminate, qApp, &QCoreApplication::quit);
     QObject::connect(&instance, &SingleInstance::presentRequested, statusItem.get(), &StatusItem::present);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [&tmutilQueue] { tmutilQueue.shutDown(); });
     return QApplication::exec();

@@ -1,12 +1,15 @@
 #include "ColorScheme_linux.h"
 
-#include "Symbol_linux.h"
+#include "MenuStyle_linux.h"
+#include "SystemColor.h"
 
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+
+#include <memory>
 
 namespace quillon {
 
@@ -125,6 +128,8 @@ void applyColorScheme(ColorSchemePreference preference)
     QApplication::setPalette(QPalette()); // the desktop's own again
     if (preference == ColorSchemePreference::None)
         return;
+    if (!qobject_cast<MenuStyle*>(QApplication::style()))
+        QApplication::setStyle(std::make_unique<MenuStyle>().release()); // owned by the application
     const bool dark = preference == ColorSchemePreference::Dark;
     if (isDark(QGuiApplication::palette()) != dark)
         QApplication::setPalette(dark ? darkPalette() : lightPalette());

@@ -1,5 +1,6 @@
 #include "MenuBarButton_linux.h"
 
+#include "EmojiFont.h"
 #include "Symbol_linux.h"
 
 #include <QEvent>
@@ -104,9 +105,7 @@ void MenuBarButton::keyPressEvent(QKeyEvent* event)
 
 QFont MenuBarButton::titleFont() const
 {
-    QFont font = QGuiApplication::font();
-    // Qt 6.4 prefers any font that has a glyph to the one that has it in colour.
-    font.setFamilies({QFontInfo(font).family(), u"Noto Color Emoji"_s});
+    QFont font = withColorEmoji(QGuiApplication::font());
     if (content_.title.pointSize > 0)
         font.setPointSizeF(content_.title.pointSize);
     return font;

@@ -47,6 +47,11 @@ void MenuBarWindow::setMenu(QMenu* menu)
     button_->setPopupMenu(menu);
 }
 
+PopoverAnchor MenuBarWindow::anchor() const
+{
+    return {button_, {}};
+}
+
 void MenuBarWindow::present()
 {
     showNormal();

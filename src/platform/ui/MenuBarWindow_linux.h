@@ -21,6 +21,7 @@ public:
 
     void setContent(const StatusItemContent& content) override;
     void setMenu(QMenu* menu) override;
+    PopoverAnchor anchor() const override;
     void present() override;
 
 protected:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Popover.h"
+
 #include <QObject>
 #include <QString>
 
@@ -47,6 +49,8 @@ public:
     virtual void setImage(const std::optional<SymbolImage>& image) = 0;
     /// The menu stays the caller's.
     virtual void setMenu(QMenu* menu) = 0;
+    /// Where popovers that belong to the item point.
+    virtual PopoverAnchor anchor() const = 0;
     /// Makes the item known to the user, opening its menu: what a second start of the program asks of the first.
     virtual void present() = 0;
 };

@@ -21,6 +21,7 @@ public:
     virtual void setContent(const StatusItemContent& content) = 0;
     /// The menu stays the caller's.
     virtual void setMenu(QMenu* menu) = 0;
+    virtual PopoverAnchor anchor() const = 0;
     /// Opens the menu where the user sees that it belongs to the item.
     virtual void present() = 0;
 };

@@ -22,6 +22,7 @@ public:
     void setAttributedTitle(const AttributedTitle& title) override;
     void setImage(const std::optional<SymbolImage>& image) override;
     void setMenu(QMenu* menu) override;
+    PopoverAnchor anchor() const override;
     void present() override;
 
 private:
@@ -80,6 +81,11 @@ void LinuxStatusItem::setMenu(QMenu* menu)
     menu_ = menu;
     if (face())
         face()->setMenu(menu_);
+}
+
+PopoverAnchor LinuxStatusItem::anchor() const
+{
+    return face() ? face()->anchor() : PopoverAnchor();
 }
 
 void LinuxStatusItem::present()

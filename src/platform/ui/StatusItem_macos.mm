@@ -84,6 +84,15 @@ public:
 
     void setMenu(QMenu* menu) override { item_.menu = menu ? menu->toNSMenu() : nil; }
 
+    PopoverAnchor anchor() const override
+    {
+        const NSRect button = [item_.button.window convertRectToScreen:[item_.button convertRect:item_.button.bounds
+                                                                                          toView:nil]];
+        // NSScreen.h: the first screen has the origin, and y grows upward from its lower edge.
+        const CGFloat top = NSMaxY(NSScreen.screens.firstObject.frame) - NSMaxY(button);
+        return {nullptr, QRectF(NSMinX(button), top, NSWidth(button), NSHeight(button)).toRect()};
+    }
+
     void present() override
     {
         // Qt's activateWindow() does not bring an accessory application to the front.

@@ -1,5 +1,7 @@
 #include "Symbol_linux.h"
 
+#include "SystemColor.h"
+
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -34,11 +36,6 @@ void paintHalo(QPainter& painter, const QPixmap& shape)
 }
 
 } // namespace
-
-bool isDark(const QPalette& palette)
-{
-    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
-}
 
 QColor symbolColor(const SymbolImage& symbol, const QPalette& palette)
 {

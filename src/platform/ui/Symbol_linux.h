@@ -9,9 +9,6 @@
 
 namespace quillon {
 
-/// Whether a palette shows light text on a dark ground.
-bool isDark(const QPalette& palette);
-
 /// The colour that a symbol has on the ground of the palette.
 QColor symbolColor(const SymbolImage& symbol, const QPalette& palette);
 

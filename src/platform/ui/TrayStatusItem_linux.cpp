@@ -58,6 +58,11 @@ void TrayStatusItem::attachMenu()
     exported_ = std::move(exported);
 }
 
+PopoverAnchor TrayStatusItem::anchor() const
+{
+    return {nullptr, icon_.geometry()};
+}
+
 void TrayStatusItem::present()
 {
     openMenu();

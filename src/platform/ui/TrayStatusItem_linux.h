@@ -29,6 +29,7 @@ public:
     void setShown(bool shown);
     void setContent(const StatusItemContent& content) override;
     void setMenu(QMenu* menu) override;
+    PopoverAnchor anchor() const override;
     void present() override;
 
 protected:

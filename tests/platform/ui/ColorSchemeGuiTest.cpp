@@ -1,5 +1,5 @@
 #include "ColorScheme_linux.h"
-#include "Symbol_linux.h"
+#include "SystemColor.h"
 #include "host/FakeSettingsPortal.h"
 #include "host/PrivateBus.h"
 #include "host/Waiting.h"

@@ -1,0 +1,102 @@
+#include "Bundle.h"
+#include "LocalizedString.h"
+#include "MakerSite.h"
+#include "RestoreGuide.h"
+#include "SettingsKeys.h"
+#include "StatusMenuController.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+void StatusMenuController::connectCommands()
+{
+    connect(&statusMenu_, &QMenu::aboutToShow, this, &StatusMenuController::menuWillOpen);
+    const auto onClick = [this](QAction* item, auto command) { connect(item, &QAction::triggered, this, command); };
+    onClick(statusMenu_.backupNowMenuItem, [this] {
+        if (!statusMenu_.backupNowMenuItem->menu()) // with a submenu the item only opens it
+            backupNowClicked();
+    });
+    connect(&backupDisksMenu_, &BackupDisksMenu::systemChoiceClicked, this, &StatusMenuController::backupNowClicked);
+    connect(&backupDisksMenu_, &BackupDisksMenu::diskClicked, this, &StatusMenuController::backupNowSubMenuItemClicked);
+    connect(&historyMenu_, &HistoryMenu::helpButtonPressed, this,
+            &StatusMenuController::allBackupInfoHelpButtonPressed);
+    onClick(statusMenu_.resumeScheduleMenuItem, &StatusMenuController::resumeScheduleClicked);
+    onClick(statusMenu_.skipRetryAttemptMenuItem, &StatusMenuController::skipRetryAttemptClicked);
+    onClick(statusMenu_.enterTimeMachineMenuItem, &StatusMenuController::enterTimeMachineClicked);
+    onClick(statusMenu_.updateAvailableMenuItem, &StatusMenuController::updateAvailableClicked);
+    onClick(statusMenu_.openSystemPreferencesMenuItem, &StatusMenuController::openSystemPreferences);
+    onClick(statusMenu_.preferencesMenuItem, &StatusMenuController::preferencesClicked);
+    onClick(statusMenu_.aboutMenuItem, &StatusMenuController::aboutClicked);
+    onClick(statusMenu_.quitMenuItem, &StatusMenuController::quitClicked);
+    const auto durations = statusMenu_.pauseDurationItems();
+    for (QAction* item : durations)
+        onClick(item, [this, item] { pauseForClicked(item->data().toLongLong()); });
+}
+
+void StatusMenuController::skipRetryAttemptClicked()
+{
+    sharedDataManager_.setRetryBackupDate(std::nullopt);
+    updateStatusBar();
+}
+
+void StatusMenuController::enterTimeMachineClicked()
+{
+    workspace_.openApplication(u"com.apple.backup.launcher"_s, [this](bool opened) {
+        if (opened)
+            return;
+        QStringList latestBackups;
+        for (const auto& row : historyRows())
+            latestBackups.append(row.title());
+        if (const auto guide = restoreGuide(latestBackups))
+            alerts_.present(*guide, {});
+    });
+}
+
+void StatusMenuController::openSystemPreferences()
+{
+    tmutil_.openTimeMachineSettings(u"Quillon"_s);
+}
+
+void StatusMenuController::preferencesClicked()
+{
+    showPopover(*preferencesPopover_);
+}
+
+void StatusMenuController::aboutClicked()
+{
+    showPopover(*aboutPopover_);
+}
+
+void StatusMenuController::showPopover(Popover& popover)
+{
+    popover.showRelativeTo(statusItem_.anchor(), RectEdge::MinY);
+}
+
+void StatusMenuController::updateAvailableClicked()
+{
+    AlertRequest update;
+    update.messageText = localizedString("appUpdateAvailableAlertTitle").arg(latestAppVersion_.value_or(QString()));
+    update.informativeText = localizedString("appUpdateAvailableAlertMessage").arg(bundleShortVersion());
+    update.buttons = {localizedString("AlertButtonGetUpdate"), localizedString("AlertButtonCancel")};
+    alerts_.present(update, [this](int response) {
+        if (response == alertFirstButtonReturn)
+            openDownloadPage();
+    });
+}
+
+void StatusMenuController::openDownloadPage()
+{
+    // The program makes way for the one that is about to replace it.
+    workspace_.openURL(makersite::page(u"/quillon/download/"_s), [this](bool opened) {
+        if (opened)
+            runLoop_.enqueue([this] { quitClicked(); });
+    });
+}
+
+void StatusMenuController::quitClicked()
+{
+    Q_EMIT terminate();
+}
+
+} // namespace quillon

@@ -1,0 +1,56 @@
+#include "HelpButton.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int verticalPadding = 3;
+constexpr qreal rim = 1;
+
+} // namespace
+
+HelpButton::HelpButton(QWidget* parent)
+    : QAbstractButton(parent)
+{
+    setText(u"?"_s);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize HelpButton::sizeHint() const
+{
+    const int diameter = fontMetrics().height() + 2 * verticalPadding;
+    return {diameter, diameter};
+}
+
+bool HelpButton::hitButton(const QPoint& position) const
+{
+    const QPointF offset = QPointF(position) - QRectF(rect()).center();
+    return std::hypot(offset.x(), offset.y()) <= width() / 2.0;
+}
+
+void HelpButton::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor ground = palette().color(QPalette::ButtonText);
+    ground.setAlphaF(isDown() ? 0.30F : underMouse() ? 0.18F : 0.08F);
+    QColor edge = palette().color(hasFocus() ? QPalette::Highlight : QPalette::ButtonText);
+    if (!hasFocus())
+        edge.setAlphaF(0.45F);
+    painter.setBrush(ground);
+    painter.setPen(QPen(edge, hasFocus() ? 2 * rim : rim));
+    painter.drawEllipse(QRectF(rect()).adjusted(rim, rim, -rim, -rim));
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}
+
+} // namespace quillon

@@ -1,0 +1,206 @@
+#include "ControllerFixture.h"
+#include "EventLoop.h"
+#include "ExportedMenu_linux.h"
+#include "HelpButton.h"
+#include "Popover.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QWidgetAction>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+/// The real menu on the screen, clicked and typed into, in front of a played Time Machine.
+class StatusMenuGui : public ControllerFixture {
+protected:
+    void SetUp() override { machine.destinations = {{u"A"_s, u"First"_s}, {u"B"_s, u"Second"_s}}; }
+
+    void TearDown() override
+    {
+        statusMenu().close();
+        controller.reset();
+    }
+
+    StatusMenu& statusMenu() { return controller->statusMenu(); }
+
+    void openMenu()
+    {
+        statusMenu().popup({20, 20});
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&statusMenu()));
+    }
+
+    void answer() { runLoop.advance(Seconds(0.5)); }
+
+    static void click(QMenu& menu, QAction* item)
+    {
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(item).center());
+    }
+
+    static QMenu& openSubmenu(QMenu& menu, QAction* item)
+    {
+        click(menu, item);
+        EXPECT_TRUE(runUntil([&] { return item->menu()->isVisible(); }));
+        return *item->menu();
+    }
+
+    /// The popover that is up, or nothing.
+    static Popover* popover()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget* window : windows) {
+            if (auto* found = qobject_cast<Popover*>(window); found && found->isShown())
+                return found;
+        }
+        return nullptr;
+    }
+
+    /// Waits for the help and answers it with its button.
+    static void closeHelp()
+    {
+        ASSERT_TRUE(runUntil([&] { return popover(); }));
+        auto* close = popover()->findChild<QPushButton*>();
+        ASSERT_TRUE(close);
+        EXPECT_EQ(close->text(), u"Close"_s);
+        QTest::mouseClick(close, Qt::LeftButton);
+        EXPECT_TRUE(runUntil([&] { return !popover(); }));
+    }
+};
+
+TEST_F(StatusMenuGui, ADiskChosenWithTheMouseIsBackedUpTo)
+{
+    launch();
+    openMenu();
+    answer();
+    QMenu& disks = openSubmenu(statusMenu(), menu().backupNowMenuItem);
+    EXPECT_EQ(machine.starts(), 0) << "the item only opens its submenu";
+    click(disks, disks.actions().at(3));
+    answer();
+    EXPECT_EQ(machine.starts(), 1);
+    EXPECT_FALSE(statusMenu().isVisible());
+    answer();
+    EXPECT_EQ(controller->nameForBackupDiskWithIdentifier(u"B"_s), u"Second"_s);
+    EXPECT_EQ(text(menu().backupDiskMenuItem), u"Backup Disk: Second"_s);
+}
+
+TEST_F(StatusMenuGui, EverythingIsReachedByKeyboard)
+{
+    launch();
+    openMenu();
+    answer();
+    // From above: the history opens to the right, and its help button takes the keyboard.
+    QTest::keyClick(&statusMenu(), Qt::Key_Down);
+    EXPECT_EQ(statusMenu().activeAction(), menu().phaseMenuItem);
+    QTest::keyClick(&statusMenu(), Qt::Key_Right);
+    QMenu* history = menu().phaseMenuItem->menu();
+    ASSERT_TRUE(runUntil([&] { return history->isVisible(); }));
+    QTest::keyClick(history, Qt::Key_Left);
+    EXPECT_TRUE(runUntil([&] { return !history->isVisible(); }));
+    QTest::keyClick(&statusMenu(), Qt::Key_Down);
+    EXPECT_EQ(statusMenu().activeAction(), menu().pauseScheduleMenuItem);
+    QTest::keyClick(&statusMenu(), Qt::Key_Right);
+    QMenu* durations = menu().pauseScheduleMenuItem->menu();
+    ASSERT_TRUE(runUntil([&] { return durations->isVisible(); }));
+    QTest::keyClick(durations, Qt::Key_Down);
+    QTest::keyClick(durations, Qt::Key_Return);
+    EXPECT_EQ(defaults.integer(settingskeys::pauseUntilTag), 7200) << "two hours";
+    EXPECT_TRUE(menu().pauseScheduleMenuItem->isChecked());
+    EXPECT_TRUE(menu().resumeScheduleMenuItem->isVisible());
+}
+
+TEST_F(StatusMenuGui, TheHistorysHelpClosesTheMenuAndOpensAPopoverThatItsButtonCloses)
+{
+    launch();
+    openMenu();
+    answer();
+    QMenu& history = openSubmenu(statusMenu(), menu().phaseMenuItem);
+    auto* help = history.findChild<HelpButton*>();
+    ASSERT_TRUE(help);
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->accessibleName(), u"Help"_s);
+    QTest::mouseClick(help, Qt::LeftButton);
+    EXPECT_FALSE(statusMenu().isVisible()) << "it would hold the pointer";
+    EXPECT_FALSE(history.isVisible());
+    closeHelp();
+}
+
+TEST_F(StatusMenuGui, RowsOfTheHistoryShowNamesAsHeadingsAndTellAssistiveTechnology)
+{
+    machine.destinations = {{u"A"_s, u"<b>Bold</b> & %20"_s}, {u"B"_s, u"Second"_s}};
+    launch();
+    openMenu();
+    answer();
+    QMenu& history = openSubmenu(statusMenu(), menu().phaseMenuItem);
+    auto* row = qobject_cast<QWidgetAction*>(history.actions().at(2))->defaultWidget();
+    EXPECT_EQ(row->accessibleName(), u"<b>Bold</b> &  : N/A"_s);
+    auto* heading = row->findChild<QLabel*>();
+    EXPECT_EQ(heading->textFormat(), Qt::PlainText);
+    EXPECT_TRUE(heading->font().bold());
+    EXPECT_GE(heading->width(), heading->fontMetrics().horizontalAdvance(heading->text())) << "nothing is clipped";
+}
+
+TEST_F(StatusMenuGui, ATrayThatDrawsTheMenuGetsPlainRowsAndHelpAsAnItem)
+{
+    launch();
+    ExportedMenu exported(statusMenu());
+    Q_EMIT exported.aboutToShow();
+    answer();
+    const QMenu* history = exported.actions().constFirst()->menu();
+    ASSERT_TRUE(history);
+    EXPECT_EQ(history->actions().at(2)->text(), u"First: N/A"_s);
+    EXPECT_EQ(history->actions().at(0)->text(), u"Latest Backup of Each Disk"_s);
+    history->actions().at(0)->trigger();
+    closeHelp();
+}
+
+TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
+{
+    launch();
+    openMenu();
+    EXPECT_FALSE(menu().backupNowMenuItem->menu()) << "nothing waits for the answer";
+    answer();
+    QMenu& disks = openSubmenu(statusMenu(), menu().backupNowMenuItem);
+    machine.destinations.append({u"C"_s, u"Third"_s});
+    controller->menuWillOpen();
+    answer();
+    EXPECT_TRUE(disks.isVisible()) << "more disks do not close it";
+    EXPECT_EQ(disks.actions().size(), 5);
+    machine.start(u"A"_s);
+    runLoop.advance(Seconds(16));
+    EXPECT_FALSE(menu().backupNowMenuItem->menu());
+    EXPECT_FALSE(disks.isVisible()) << "a backup has begun: there is nothing to choose";
+    EXPECT_TRUE(statusMenu().isVisible());
+    click(statusMenu(), menu().backupNowMenuItem);
+    answer();
+    EXPECT_EQ(controller->tmState(), TMState::Stopping);
+}
+
+TEST_F(StatusMenuGui, AHangingToolDoesNotFreezeTheMenu)
+{
+    launch();
+    machine.injection = {int(machine.launched().size()) + 1, TmutilScript::Fault::Hang, 0, {}};
+    openMenu();
+    answer();
+    EXPECT_EQ(statusMenu().actionAt(statusMenu().actionGeometry(menu().quitMenuItem).center()), menu().quitMenuItem);
+    click(statusMenu(), menu().preferencesMenuItem);
+    EXPECT_TRUE(runUntil([&] { return popover(); }));
+}
+
+TEST_F(StatusMenuGui, SettingsAndAboutHangBelowTheItemAndGoWithAClickElsewhere)
+{
+    launch();
+    for (QAction* command : {menu().preferencesMenuItem, menu().aboutMenuItem}) {
+        openMenu();
+        click(statusMenu(), command);
+        ASSERT_TRUE(runUntil([&] { return popover(); }));
+        EXPECT_GE(popover()->contentView()->mapToGlobal(QPoint()).y(), item.anchor().screenRect.bottom());
+        QTest::keyClick(popover(), Qt::Key_Escape);
+        EXPECT_TRUE(runUntil([&] { return !popover(); }));
+    }
+}
+
+} // namespace quillon
