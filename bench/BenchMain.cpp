@@ -1,3 +1,5 @@
+#include "LocalizedString.h"
+
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
@@ -7,6 +9,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
+    quillon::installStringTable();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

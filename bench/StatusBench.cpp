@@ -11,7 +11,6 @@ namespace quillon {
 
 namespace {
 
-// Bar: 20 µs.
 void readingOneStatusText(benchmark::State& state)
 {
     const QByteArray text = "Backup session status:\n" + statusText();
@@ -43,7 +42,7 @@ private:
     QByteArray answer_;
 };
 
-// Bar: 1 ms of the main thread. All that a poll makes it do, drawing included, but for starting the child process.
+// All that a poll makes it do, drawing included, but for starting the child process.
 void onePoll(benchmark::State& state, const QByteArray& answer)
 {
     VirtualRunLoop runLoop(Date(std::chrono::hours(24 * 20778)));
