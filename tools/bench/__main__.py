@@ -19,6 +19,7 @@ REPETITIONS = 3
 ROWS = {
     "status poll, main thread, idle": ("ms", "at most", 1),
     "status poll, main thread, backup running": ("ms", "at most", 1),
+    "opening the menu while the tool hangs": ("ms", "at most", 50),
     "reading one status text": ("us", "at most", 20),
     "next backup date, 5 rules, 4-week pause": ("us", "at most", 50),
     "property list, 16 MB string": ("MB/s", "at least", 200),
@@ -84,6 +85,7 @@ def core_figures(runs):
     return {
         "status poll, main thread, idle": time("onePoll/whileIdle", "ms"),
         "status poll, main thread, backup running": time("onePoll/whileABackupRuns", "ms"),
+        "opening the menu while the tool hangs": time("openingTheMenu", "ms", "real_time"),
         "reading one status text": time("readingOneStatusText", "us"),
         "next backup date, 5 rules, 4-week pause": time("nextBackupDateOfFiveRulesAfterAPauseOfFourWeeks", "us"),
         "property list, 16 MB string": rate("one string/16777216"),
