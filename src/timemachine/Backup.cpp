@@ -135,10 +135,13 @@ void Backup::prepareRepository()
 
 QStringList Backup::findSources()
 {
-    const SourceSet set = SourceSet::of(configuration_.sources(), configuration_.destinations(), folders_);
-    missingSources_ = set.missing;
+    const SourceSet set = SourceSet::of(configuration_, folders_);
+    for (const QString& source : set.missing)
+        lackingSources_.append(u"The folder \"%1\" is not there."_s.arg(source));
+    for (const QString& source : set.leftOut)
+        lackingSources_.append(u"The folder \"%1\" is left out by an exclusion."_s.arg(source));
     if (set.folders.isEmpty())
-        throw Problem{u"NoSource"_s, u"None of the folders to back up is there."_s};
+        throw Problem{u"NoSource"_s, lackingSources_.join(u' ')};
     return set.arguments();
 }
 
@@ -256,9 +259,9 @@ std::optional<LastFailure> Backup::remark() const
         cause = u"Thinning"_s;
         sentences.append(u"Old backups could not be thinned: %1"_s.arg(thinningProblem_));
     }
-    for (const QString& source : missingSources_) {
+    if (!lackingSources_.isEmpty()) {
         cause = u"MissingSource"_s;
-        sentences.prepend(u"The folder \"%1\" is not there."_s.arg(source));
+        sentences = lackingSources_ + sentences;
     }
     if (unreadFiles_ > 0) {
         cause = u"UnreadFiles"_s;

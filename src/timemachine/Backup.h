@@ -59,7 +59,7 @@ private:
     History& history_;
     const StopRequest& stop_;
     Observer observer_;
-    QStringList missingSources_;
+    QStringList lackingSources_; ///< sentences on those that are not there or left out
     QString snapshotId_;
     qlonglong unreadFiles_ = 0;
     QString thinningProblem_;

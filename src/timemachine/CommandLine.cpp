@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace quillon {
 
@@ -16,22 +17,31 @@ struct Syntax {
     Command command;
     QLatin1StringView options; ///< the letters taken
     QLatin1StringView operands;
-    int operandCount;
+    qsizetype leastOperands;
+    qsizetype mostOperands;
 };
 
+constexpr qsizetype any = std::numeric_limits<qsizetype>::max();
+
 constexpr std::array syntaxes{
-    Syntax{"status"_L1, Command::Status, ""_L1, ""_L1, 0},
-    Syntax{"destinationinfo"_L1, Command::DestinationInfo, "X"_L1, "[-X]"_L1, 0},
-    Syntax{"setdestination"_L1, Command::SetDestination, "a"_L1, "[-a] PATH"_L1, 1},
-    Syntax{"startbackup"_L1, Command::StartBackup, "bdr"_L1, "[-b | --block] [-d ID | -r | --rotation]"_L1, 0},
-    Syntax{"stopbackup"_L1, Command::StopBackup, ""_L1, ""_L1, 0},
-    Syntax{"latestbackup"_L1, Command::LatestBackup, ""_L1, ""_L1, 0},
-    Syntax{"listbackups"_L1, Command::ListBackups, ""_L1, ""_L1, 0},
-    Syntax{"restore"_L1, Command::Restore, ""_L1, "SRC DST"_L1, 2},
-    Syntax{"addsource"_L1, Command::AddSource, ""_L1, "PATH"_L1, 1},
-    Syntax{"listsources"_L1, Command::ListSources, ""_L1, ""_L1, 0},
-    Syntax{"runbackup"_L1, Command::RunBackup, "d"_L1, ""_L1, 0},
-    Syntax{"help"_L1, Command::Help, ""_L1, ""_L1, 0},
+    Syntax{"status"_L1, Command::Status, ""_L1, ""_L1, 0, 0},
+    Syntax{"destinationinfo"_L1, Command::DestinationInfo, "X"_L1, "[-X]"_L1, 0, 0},
+    Syntax{"setdestination"_L1, Command::SetDestination, "a"_L1, "[-a] PATH"_L1, 1, 1},
+    Syntax{"removedestination"_L1, Command::RemoveDestination, ""_L1, "ID"_L1, 1, 1},
+    Syntax{"startbackup"_L1, Command::StartBackup, "bdr"_L1, "[-b | --block] [-d ID | -r | --rotation]"_L1, 0, 0},
+    Syntax{"stopbackup"_L1, Command::StopBackup, ""_L1, ""_L1, 0, 0},
+    Syntax{"latestbackup"_L1, Command::LatestBackup, ""_L1, ""_L1, 0, 0},
+    Syntax{"listbackups"_L1, Command::ListBackups, ""_L1, ""_L1, 0, 0},
+    Syntax{"restore"_L1, Command::Restore, ""_L1, "SRC DST"_L1, 2, 2},
+    Syntax{"addsource"_L1, Command::AddSource, ""_L1, "PATH"_L1, 1, 1},
+    Syntax{"removesource"_L1, Command::RemoveSource, ""_L1, "PATH"_L1, 1, 1},
+    Syntax{"listsources"_L1, Command::ListSources, "X"_L1, "[-X]"_L1, 0, 0},
+    Syntax{"addexclusion"_L1, Command::AddExclusion, ""_L1, "PATH..."_L1, 1, any},
+    Syntax{"removeexclusion"_L1, Command::RemoveExclusion, ""_L1, "PATH..."_L1, 1, any},
+    Syntax{"listexclusions"_L1, Command::ListExclusions, "X"_L1, "[-X]"_L1, 0, 0},
+    Syntax{"isexcluded"_L1, Command::IsExcluded, ""_L1, "PATH..."_L1, 1, any},
+    Syntax{"runbackup"_L1, Command::RunBackup, "d"_L1, ""_L1, 0, 0},
+    Syntax{"help"_L1, Command::Help, ""_L1, ""_L1, 0, 0},
 };
 
 [[noreturn]] void refuse(const QString& message)
@@ -107,8 +117,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             break;
         }
     }
-    if (line.operands.size() != syntax.operandCount || line.operands.contains(QString()) ||
-        (line.rotate && !line.destination.isEmpty()))
+    if (line.operands.size() < syntax.leastOperands || line.operands.size() > syntax.mostOperands ||
+        line.operands.contains(QString()) || (line.rotate && !line.destination.isEmpty()))
         refuse(syntax);
     return line;
 }

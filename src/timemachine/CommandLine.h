@@ -14,8 +14,14 @@ enum class Command {
     LatestBackup,
     ListBackups,
     Restore,
+    RemoveDestination,
     AddSource,
+    RemoveSource,
     ListSources,
+    AddExclusion,
+    RemoveExclusion,
+    ListExclusions,
+    IsExcluded,
     RunBackup, ///< the worker that startbackup starts; not for people
     Help,
 };

@@ -7,12 +7,17 @@
 #include "Failure.h"
 #include "Folders.h"
 #include "History.h"
+#include "Paths.h"
+#include "PropertyList.h"
 #include "Restic.h"
 #include "Restore.h"
 #include "Snapshot.h"
+#include "SourceSet.h"
 #include "StatusReport.h"
 #include "Worker.h"
 #include "WorkerProcess.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cstdio>
@@ -49,9 +54,40 @@ void destinationInfo(const Folders& folders, bool xml)
     const History history(folders.state);
     if (!history.isReadable())
         throw Failure(ExitStatus::StateDamaged, history.lastFailure().value(u"Description"_s).toString());
-    const QString last = history.lastDestination();
-    print(xml ? destinationXml(configuration.destinations(), last)
-              : destinationText(configuration.destinations(), last));
+    print(xml ? destinationXml(configuration.destinations(), history)
+              : destinationText(configuration.destinations(), history));
+}
+
+void removeDestination(const Folders& folders, const QString& id)
+{
+    const auto run = RunState::current(folders.state);
+    if (run && run->destinationId.compare(id, Qt::CaseInsensitive) == 0)
+        throw Failure(ExitStatus::AlreadyRunning, u"A backup to this disk is running. Stop it first."_s);
+    Configuration(folders).removeDestination(id);
+}
+
+/// For people a path a line; for programs, since a path may hold line breaks, an XML property list.
+void printPaths(const QStringList& paths, bool xml)
+{
+    if (!xml)
+        return print(paths);
+    const auto list = propertylist::toXml(QVariantList(paths.begin(), paths.end()));
+    if (!list)
+        throw Failure(ExitStatus::Configuration, u"A path cannot be written as XML."_s);
+    print(*list);
+}
+
+void isExcluded(const Folders& folders, const QStringList& paths)
+{
+    const SourceSet set = SourceSet::of(Configuration(folders), folders);
+    QStringList lines;
+    for (const QString& path : paths) {
+        const QString own = ownPath(path);
+        if (const QFileInfo file(own); !file.exists() && !file.isSymLink())
+            throw Failure(ExitStatus::NoInput, u"\"%1\" does not exist."_s.arg(path));
+        lines.append((set.contains(own) ? "[Included]    "_L1 : "[Excluded]    "_L1) + own);
+    }
+    print(lines);
 }
 
 void startBackup(const Folders& folders, const CommandLine& line)
@@ -119,6 +155,8 @@ void runCommand(const CommandLine& line)
     case Command::SetDestination:
         Configuration(folders).setDestination(line.operands.first(), line.append);
         return;
+    case Command::RemoveDestination:
+        return removeDestination(folders, line.operands.first());
     case Command::StartBackup:
         return startBackup(folders, line);
     case Command::StopBackup:
@@ -131,8 +169,18 @@ void runCommand(const CommandLine& line)
         return restore(line.operands[0], line.operands[1], Configuration(folders).destinations(), folders);
     case Command::AddSource:
         return Configuration(folders).addSource(line.operands.first());
+    case Command::RemoveSource:
+        return Configuration(folders).removeSource(line.operands.first());
     case Command::ListSources:
-        return print(Configuration(folders).sources());
+        return printPaths(Configuration(folders).sources(), line.xml);
+    case Command::AddExclusion:
+        return Configuration(folders).addExclusions(line.operands);
+    case Command::RemoveExclusion:
+        return Configuration(folders).removeExclusions(line.operands);
+    case Command::ListExclusions:
+        return printPaths(Configuration(folders).exclusions(), line.xml);
+    case Command::IsExcluded:
+        return isExcluded(folders, line.operands);
     case Command::RunBackup:
         return runBackup(folders, line.destination);
     case Command::Help:

@@ -2,7 +2,9 @@
 
 #include "Failure.h"
 #include "KeyStore.h"
+#include "Paths.h"
 #include "ProcessLock.h"
+#include "PropertyList.h"
 #include "PropertyListFile.h"
 
 #include <QDir>
@@ -22,6 +24,13 @@ namespace {
 
 constexpr auto destinationsKey = "Destinations"_L1;
 constexpr auto sourcesKey = "Sources"_L1;
+constexpr auto exclusionsKey = "Exclusions"_L1;
+
+void requireStorable(const QString& path)
+{
+    if (!propertylist::toXml(path))
+        throw Failure(ExitStatus::NoInput, u"\"%1\" has characters that a configuration cannot hold."_s.arg(path));
+}
 
 /// The folder's own path, free of links and of dots.
 QString existingFolder(const QString& path)
@@ -31,7 +40,19 @@ QString existingFolder(const QString& path)
         throw Failure(ExitStatus::NoInput, u"\"%1\" does not exist."_s.arg(path));
     if (!QFileInfo(canonical).isDir())
         throw Failure(ExitStatus::NoInput, u"\"%1\" is not a folder."_s.arg(path));
+    requireStorable(canonical);
     return canonical;
+}
+
+/// The path of a file, folder or link itself, which is what a backup meets on its way.
+QString existingPath(const QString& path)
+{
+    const QFileInfo file(absolutePath(path));
+    if (!file.exists() && !file.isSymLink())
+        throw Failure(ExitStatus::NoInput, u"\"%1\" does not exist."_s.arg(path));
+    QString own = ownPath(path);
+    requireStorable(own);
+    return own;
 }
 
 QString volumeName(const QString& path)
@@ -80,37 +101,104 @@ QStringList Configuration::sources() const
 Destination Configuration::setDestination(const QString& path, bool append)
 {
     const QString folder = existingFolder(path);
-    makePrivateFolder(folders_.configuration);
-    ProcessLock lock(file() + ".lock"_L1);
-    lock.lock();
-    read();
-
-    Destination destination = destinationAt(folder);
-    makeRepositoryFolder(destination);
-    KeyStore(folders_.configuration).ensure(destination.id);
-
-    if (!append)
-        destinations_.clear();
-    if (std::ranges::find(destinations_, destination) == destinations_.end())
-        destinations_.push_back(destination);
-    write();
+    Destination destination;
+    change([&] {
+        destination = destinationAt(folder);
+        makeRepositoryFolder(destination);
+        KeyStore(folders_.configuration).ensure(destination.id);
+        if (!append)
+            destinations_.clear();
+        if (std::ranges::find(destinations_, destination) == destinations_.end())
+            destinations_.push_back(destination);
+    });
     return destination;
+}
+
+void Configuration::removeDestination(const QString& id)
+{
+    change([&] {
+        const auto removed = std::erase_if(destinations_, [&id](const Destination& destination) {
+            return destination.id.compare(id, Qt::CaseInsensitive) == 0;
+        });
+        if (removed == 0)
+            throw Failure(ExitStatus::UnknownDestination, u"No backup disk has the identifier \"%1\"."_s.arg(id));
+    });
 }
 
 void Configuration::addSource(const QString& path)
 {
     const QString folder = existingFolder(path);
+    change([&] {
+        const QStringList excluded = exclusions();
+        const auto cover = std::ranges::find_if(excluded, [&](const QString& one) { return covers(one, folder); });
+        if (cover != excluded.end())
+            throw Failure(ExitStatus::LeftOut, u"\"%1\" is left out of backups."_s.arg(*cover));
+        QStringList named = contents_.value(sourcesKey).toStringList();
+        if (!named.contains(folder))
+            setPaths(sourcesKey, named << folder);
+    });
+}
+
+void Configuration::removeSource(const QString& path)
+{
+    change([&] {
+        QStringList named = contents_.value(sourcesKey).toStringList();
+        if (named.removeAll(absolutePath(path)) + named.removeAll(QFileInfo(path).canonicalFilePath()) == 0)
+            throw Failure(ExitStatus::NotListed,
+                          named.isEmpty() ? u"No folder has been added; the home folder is backed up until one is."_s
+                                          : u"\"%1\" is none of the folders to back up."_s.arg(path));
+        setPaths(sourcesKey, named);
+    });
+}
+
+QStringList Configuration::exclusions() const
+{
+    return contents_.value(exclusionsKey).toStringList();
+}
+
+void Configuration::addExclusions(const QStringList& paths)
+{
+    change([&] {
+        QStringList all = exclusions();
+        for (const QString& path : paths) {
+            const QString own = existingPath(path);
+            const QStringList read = sources();
+            if (std::ranges::any_of(read, [&own](const QString& source) { return covers(own, source); }))
+                throw Failure(ExitStatus::LeftOut,
+                              u"\"%1\" is to be backed up, or a folder in it is. Remove that first."_s.arg(path));
+            if (!all.contains(own))
+                all.append(own);
+        }
+        setPaths(exclusionsKey, all);
+    });
+}
+
+void Configuration::removeExclusions(const QStringList& paths)
+{
+    change([&] {
+        QStringList left = exclusions();
+        for (const QString& path : paths) {
+            if (left.removeAll(absolutePath(path)) + left.removeAll(ownPath(path)) == 0)
+                throw Failure(ExitStatus::NotListed, u"\"%1\" is not left out by itself."_s.arg(path));
+        }
+        setPaths(exclusionsKey, left);
+    });
+}
+
+/// On the newest contents, under the lock. What throws changes nothing.
+void Configuration::change(const std::function<void()>& edit)
+{
     makePrivateFolder(folders_.configuration);
     ProcessLock lock(file() + ".lock"_L1);
     lock.lock();
     read();
-
-    QStringList named = contents_.value(sourcesKey).toStringList();
-    if (named.contains(folder))
-        return;
-    named.append(folder);
-    contents_.insert(sourcesKey, QVariantList(named.begin(), named.end()));
+    edit();
     write();
+}
+
+void Configuration::setPaths(const QString& key, const QStringList& paths)
+{
+    contents_.insert(key, QVariantList(paths.begin(), paths.end()));
 }
 
 void Configuration::read()

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <functional>
 #include <vector>
 
 namespace quillon {
@@ -25,10 +26,25 @@ public:
     /// this user becomes the same destination again. Gives the destination.
     Destination setDestination(const QString& path, bool append);
 
+    /// Its backups stay on the disk, and its key is kept: setting that folder again brings both together.
+    void removeDestination(const QString& id);
+
     /// Adds a folder to back up; the first one replaces the home folder.
     void addSource(const QString& path);
 
+    /// A folder that no longer exists can be removed too. Without any, the home folder is backed up again.
+    void removeSource(const QString& path);
+
+    /// What is left out of backups: files and folders, by their paths.
+    QStringList exclusions() const;
+
+    /// All of them or, where one is refused, none.
+    void addExclusions(const QStringList& paths);
+    void removeExclusions(const QStringList& paths);
+
 private:
+    void change(const std::function<void()>& edit);
+    void setPaths(const QString& key, const QStringList& paths);
     void read();
     void write();
     QString file() const;

@@ -1,19 +1,20 @@
 #include "DestinationReport.h"
 
 #include "Failure.h"
+#include "History.h"
 #include "PropertyList.h"
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-QByteArray destinationText(const std::vector<Destination>& destinations, const QString& lastId)
+QByteArray destinationText(const std::vector<Destination>& destinations, const History& history)
 {
     if (destinations.empty())
         return "No destinations configured.\n";
     QString text;
     for (const Destination& destination : destinations) {
-        text += destination.id == lastId ? "> "_L1 + QString(50, u'=') : QString(52, u'=');
+        text += destination.id == history.lastDestination() ? "> "_L1 + QString(50, u'=') : QString(52, u'=');
         text += "\nName          : "_L1 + destination.name + "\nKind          : Local\n"_L1;
         if (destination.isPresent())
             text += "Mount Point   : "_L1 + destination.path + u'\n';
@@ -22,16 +23,19 @@ QByteArray destinationText(const std::vector<Destination>& destinations, const Q
     return text.toUtf8();
 }
 
-QByteArray destinationXml(const std::vector<Destination>& destinations, const QString& lastId)
+QByteArray destinationXml(const std::vector<Destination>& destinations, const History& history)
 {
     QVariantList entries;
     for (const Destination& destination : destinations) {
         QVariantMap entry{{u"ID"_s, destination.id},
                           {u"Name"_s, destination.name},
                           {u"Kind"_s, u"Local"_s},
-                          {u"LastDestination"_s, qlonglong{destination.id == lastId ? 1 : 0}}};
+                          {u"Path"_s, destination.path},
+                          {u"LastDestination"_s, qlonglong{destination.id == history.lastDestination() ? 1 : 0}}};
         if (destination.isPresent())
             entry.insert(u"MountPoint"_s, destination.path);
+        if (const QDateTime last = history.lastBackup(destination.id); last.isValid())
+            entry.insert(u"LastBackup"_s, last);
         entries.append(entry);
     }
     const auto xml = propertylist::toXml(QVariantMap{{u"Destinations"_s, entries}});

@@ -14,9 +14,11 @@ enum class ExitStatus {
     PathExists = 7,         ///< a restore would overwrite something
     Stopped = 8,            ///< the backup that was waited for, or the restore, has been stopped
     ResticMissing = 9,      ///< restic is not installed
+    NotListed = 10,         ///< what was to be removed is not among the sources or exclusions
+    LeftOut = 11,           ///< a folder would be backed up and left out at once
     Usage = 64,             ///< EX_USAGE: the command line makes no sense
     StateDamaged = 65,      ///< EX_DATAERR: what tmutil remembers of runs cannot be read
-    NoInput = 66,           ///< EX_NOINPUT: a folder that was named does not exist
+    NoInput = 66,           ///< EX_NOINPUT: a file or folder that was named does not exist, or cannot be one
     CannotWrite = 73,       ///< EX_CANTCREAT: a file of tmutil's own cannot be written
     Configuration = 78,     ///< EX_CONFIG: the configuration file is damaged
 };

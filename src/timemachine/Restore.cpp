@@ -1,6 +1,7 @@
 #include "Restore.h"
 
 #include "Failure.h"
+#include "Paths.h"
 #include "Restic.h"
 #include "Snapshot.h"
 #include "StopRequest.h"
@@ -31,20 +32,14 @@ struct Wanted {
     QString path; ///< absolute; empty for everything
 };
 
-bool startsWithPath(const QString& path, const QString& start)
-{
-    return path == start || path.startsWith(start + u'/');
-}
-
 Wanted find(const QString& source, const std::vector<Destination>& destinations, const Folders& folders)
 {
     const QString clean = QDir::cleanPath(source);
     for (const Destination& destination : destinations) {
-        if (!startsWithPath(clean, destination.path == "/"_L1 ? QString() : destination.path) ||
-            !destination.isPresent())
+        if (!covers(destination.path, clean) || !destination.isPresent())
             continue;
         const auto snapshots = snapshotsOn(destination, Restic(destination, folders, nullptr));
-        const auto named = [&clean](const Snapshot& snapshot) { return startsWithPath(clean, snapshot.name()); };
+        const auto named = [&clean](const Snapshot& snapshot) { return covers(snapshot.name(), clean); };
         const auto found = std::ranges::find_if(snapshots, named);
         if (found == snapshots.end())
             continue;

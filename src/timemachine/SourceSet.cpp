@@ -1,5 +1,7 @@
 #include "SourceSet.h"
 
+#include "Configuration.h"
+#include "Paths.h"
 #include "Restic.h"
 
 #include <QFileInfo>
@@ -12,38 +14,38 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isWithin(const QString& path, const QString& folder)
+bool coveredByAny(const QStringList& folders, const QString& path)
 {
-    return path != folder && path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+    return std::ranges::any_of(folders, [&path](const QString& folder) { return covers(folder, path); });
 }
 
 /// A backup disk that lies in a source is left out whole, unless a source lies in it in turn: then only the backups.
 QString excludedFolder(const Destination& destination, const QStringList& sources)
 {
-    const bool inSource =
-        std::ranges::any_of(sources, [&](const QString& source) { return isWithin(destination.path, source); });
-    const bool holdsSource = std::ranges::any_of(sources, [&](const QString& source) {
-        return source == destination.path || isWithin(source, destination.path);
-    });
-    return inSource && !holdsSource ? destination.path : Destination::backupFolder(destination.path);
+    const bool holdsSource =
+        std::ranges::any_of(sources, [&](const QString& source) { return covers(destination.path, source); });
+    return coveredByAny(sources, destination.path) && !holdsSource ? destination.path
+                                                                   : Destination::backupFolder(destination.path);
 }
 
 } // namespace
 
-SourceSet SourceSet::of(const QStringList& sources, const std::vector<Destination>& destinations,
-                        const Folders& folders)
+SourceSet SourceSet::of(const Configuration& configuration, const Folders& folders)
 {
     SourceSet set;
-    for (const QString& source : sources) {
+    set.excluded = configuration.exclusions();
+    for (const QString& source : configuration.sources()) {
         const QString canonical = QFileInfo(source).canonicalFilePath();
         if (canonical.isEmpty())
             set.missing.append(source);
+        else if (coveredByAny(set.excluded, canonical))
+            set.leftOut.append(source);
         else
             set.folders.append(canonical);
     }
     set.folders.removeDuplicates();
 
-    for (const Destination& destination : destinations)
+    for (const Destination& destination : configuration.destinations())
         set.excluded.append(excludedFolder(destination, set.folders));
     for (const QString& own : {folders.cache, folders.state}) {
         const QString canonical = QFileInfo(own).canonicalFilePath();
@@ -51,6 +53,11 @@ SourceSet SourceSet::of(const QStringList& sources, const std::vector<Destinatio
     }
     set.excluded.removeDuplicates();
     return set;
+}
+
+bool SourceSet::contains(const QString& path) const
+{
+    return coveredByAny(folders, path) && !coveredByAny(excluded, path);
 }
 
 QStringList SourceSet::arguments() const

@@ -1,6 +1,7 @@
 #include "BackupFixture.h"
 #include "ExitStatus.h"
 #include "History.h"
+#include "PropertyList.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -239,6 +240,11 @@ TEST_F(BackupIntegration, EveryRefusalHasAStatusAndALineOfItsOwn)
     refused({u"listbackups"_s}, ExitStatus::NoDestination);
     refused({u"setdestination"_s, practice_.path(u"missing"_s)}, ExitStatus::NoInput);
     refused({u"startbackup"_s, u"--now"_s}, ExitStatus::Usage);
+    refused({u"removedestination"_s, u"unknown"_s}, ExitStatus::UnknownDestination);
+    refused({u"removesource"_s, practice_.path(u"other"_s)}, ExitStatus::NotListed);
+    refused({u"removeexclusion"_s, practice_.source()}, ExitStatus::NotListed);
+    refused({u"addexclusion"_s, practice_.source()}, ExitStatus::LeftOut);
+    refused({u"isexcluded"_s, practice_.source(), practice_.path(u"missing"_s)}, ExitStatus::NoInput);
 
     const QString id = practice_.addDisk(u"disk"_s);
     refused({u"latestbackup"_s}, ExitStatus::NoBackup);
@@ -265,6 +271,50 @@ TEST_F(BackupIntegration, ARepositoryThatLostItsConfigurationIsNeverMadeAnew)
     EXPECT_TRUE(backup.error.contains("are damaged"));
     EXPECT_EQ(QDir(practice_.repository(u"disk"_s, id)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList(u"snapshots"_s));
+}
+
+TEST_F(BackupIntegration, WhatIsExcludedIsLeftOutAndNothingElse)
+{
+    practice_.addDisk(u"disk"_s);
+    const QStringList excluded{u"a*b [c]?"_s, u"two\nlines "_s, u"$HOME"_s, u"back\\slash"_s, u"!no"_s};
+    const QStringList kept{u"a*b [c]?d"_s, u"axb c1"_s, u"two"_s, u"backslash"_s, u"no"_s};
+    QStringList paths;
+    for (const QString& name : excluded) {
+        practice_.write(u"source/"_s + name + "/file"_L1, "left out");
+        paths.append(practice_.path(u"source/"_s + name));
+    }
+    for (const QString& name : kept)
+        practice_.write(u"source/"_s + name + "/file"_L1, "kept");
+    ASSERT_EQ(call(QStringList{u"addexclusion"_s} + paths), 0);
+    const auto list = propertylist::parse(practice_.run({u"listexclusions"_s, u"-X"_s}).output);
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->toStringList(), paths);
+    const QString inside = practice_.path(u"source/$HOME/file"_s);
+    const QString beside = practice_.path(u"source/two"_s);
+    EXPECT_EQ(
+        QString::fromUtf8(practice_.run({u"isexcluded"_s, inside, beside, practice_.path(u"disk"_s)}).output),
+        u"[Excluded]    %1\n[Included]    %2\n[Excluded]    %3\n"_s.arg(inside, beside, practice_.path(u"disk"_s)));
+
+    ASSERT_EQ(practice_.backUp().status, 0);
+    const QString name = QString::fromUtf8(practice_.run({u"latestbackup"_s}).output).trimmed();
+    ASSERT_EQ(call({u"restore"_s, name + practice_.source(), practice_.path(u"restored"_s)}), 0);
+    QStringList restored = QDir(practice_.path(u"restored"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    QStringList expected = kept;
+    restored.sort();
+    expected.sort();
+    EXPECT_EQ(restored, expected);
+}
+
+TEST_F(BackupIntegration, ADiskIsNotRemovedWhileABackupRunsToIt)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    practice_.addDisk(u"other"_s);
+    startLongBackup();
+    const Answer refused = practice_.run({u"removedestination"_s, id});
+    EXPECT_EQ(refused.status, static_cast<int>(ExitStatus::AlreadyRunning));
+    EXPECT_TRUE(refused.error.startsWith("tmutil: ")) << refused.error.toStdString();
+    EXPECT_TRUE(practice_.run({u"destinationinfo"_s}).output.contains(id.toUtf8()));
+    EXPECT_TRUE(isRunning());
 }
 
 TEST_F(BackupIntegration, TheWorkerHoldsNothingOfItsCaller)

@@ -23,6 +23,8 @@ TEST(CommandLine, TakesWhatTheSystemToolTakes)
     }
     EXPECT_EQ(CommandLine::parse({u"startbackup"_s, u"-d"_s, u"ID"_s}).destination, u"ID"_s);
     EXPECT_EQ(CommandLine::parse({u"addsource"_s, u"--"_s, u"-folder"_s}).operands, QStringList(u"-folder"_s));
+    EXPECT_EQ(CommandLine::parse({u"isexcluded"_s, u"/a"_s, u"/b"_s, u"--"_s, u"-c"_s}).operands,
+              (QStringList{u"/a"_s, u"/b"_s, u"-c"_s}));
     EXPECT_EQ(CommandLine::parse({u"--help"_s}).command, Command::Help);
 }
 
@@ -40,6 +42,8 @@ TEST(CommandLine, RefusesEverythingElse)
                                          {u"startbackup"_s, u"-x"_s},
                                          {u"startbackup"_s, u"-"_s},
                                          {u"startbackup"_s, u"-br"_s},
+                                         {u"addexclusion"_s},
+                                         {u"removedestination"_s, u"ID"_s, u"another"_s},
                                          {u"restore"_s, u"only one"_s}}) {
         try {
             CommandLine::parse(arguments);

@@ -112,6 +112,93 @@ TEST_F(ConfigurationTest, SourcesAreTheHomeFolderUntilOneIsNamed)
               ExitStatus::NoInput);
 }
 
+TEST_F(ConfigurationTest, ARemovedDiskKeepsItsBackupsAndItsKey)
+{
+    const Destination first = set(u"1"_s, true);
+    const Destination second = set(u"2"_s, true);
+    EXPECT_EQ(statusOf([&] { Configuration(folders_).removeDestination(u"x"_s); }), ExitStatus::UnknownDestination);
+    Configuration(folders_).removeDestination(first.id.toLower());
+    EXPECT_EQ(destinations(), std::vector{second});
+    EXPECT_TRUE(first.isPresent()) << "its backups are on the disk";
+    EXPECT_EQ(set(u"1"_s, true), first) << "and its key opens them";
+    unplug(second);
+    Configuration(folders_).removeDestination(second.id);
+    EXPECT_EQ(destinations(), std::vector{first});
+}
+
+TEST_F(ConfigurationTest, ASourceIsRemovedEvenWhenItIsGone)
+{
+    const auto remove = [this](const QString& path) {
+        return statusOf([&] { Configuration(folders_).removeSource(path); });
+    };
+    EXPECT_EQ(remove(root_.path()), ExitStatus::NotListed) << "the home folder, which nobody has added";
+    Configuration(folders_).addSource(folder(u"a"_s));
+    Configuration(folders_).addSource(folder(u"b"_s));
+    const QString gone = folder(u"a"_s);
+    QDir().rmdir(gone);
+    EXPECT_EQ(remove(gone + u'/'), ExitStatus::Success);
+    EXPECT_EQ(remove(gone), ExitStatus::NotListed);
+    QFile::link(folder(u"b"_s), root_.filePath(u"link"_s));
+    EXPECT_EQ(remove(root_.filePath(u"link"_s)), ExitStatus::Success);
+    EXPECT_EQ(Configuration(folders_).sources(), QStringList(root_.path()));
+}
+
+TEST_F(ConfigurationTest, ExclusionsAreTakenAllOrNone)
+{
+    const auto add = [this](const QStringList& paths) {
+        return statusOf([&] { Configuration(folders_).addExclusions(paths); });
+    };
+    const auto remove = [this](const QStringList& paths) {
+        return statusOf([&] { Configuration(folders_).removeExclusions(paths); });
+    };
+    const QString one = folder(u"home/line\nbreak"_s);
+    const QString two = folder(u"home/b [*] "_s);
+    EXPECT_EQ(add({one, root_.filePath(u"missing"_s)}), ExitStatus::NoInput);
+    EXPECT_EQ(add({folder(u"return\r"_s)}), ExitStatus::NoInput) << "no XML holds it";
+    EXPECT_EQ(Configuration(folders_).exclusions(), QStringList());
+    EXPECT_EQ(add({one, two, one}), ExitStatus::Success);
+    EXPECT_EQ(Configuration(folders_).exclusions(), (QStringList{one, two}));
+
+    QFile::link(two, root_.filePath(u"home/link"_s));
+    QFile::link(folder(u"home"_s), root_.filePath(u"linked home"_s));
+    EXPECT_EQ(add({root_.filePath(u"linked home/link"_s)}), ExitStatus::Success);
+    EXPECT_EQ(Configuration(folders_).exclusions().last(), folder(u"home"_s) + "/link"_L1)
+        << "the link itself, as a backup meets it";
+
+    EXPECT_EQ(remove({one, folder(u"other"_s)}), ExitStatus::NotListed);
+    EXPECT_EQ(Configuration(folders_).exclusions().size(), 3);
+    QDir().rmdir(two);
+    EXPECT_EQ(remove({one, two}), ExitStatus::Success) << "one that is gone, too";
+    EXPECT_EQ(Configuration(folders_).exclusions().size(), 1);
+}
+
+TEST_F(ConfigurationTest, NothingIsBackedUpAndLeftOutAtOnce)
+{
+    const QString source = folder(u"home/source"_s);
+    const auto exclude = [this](const QString& path) {
+        return statusOf([&] { Configuration(folders_).addExclusions({path}); });
+    };
+    const auto addSource = [this](const QString& path) {
+        return statusOf([&] { Configuration(folders_).addSource(path); });
+    };
+    EXPECT_EQ(exclude(root_.path()), ExitStatus::LeftOut) << "the home folder";
+    ASSERT_EQ(addSource(source), ExitStatus::Success);
+    EXPECT_EQ(exclude(source), ExitStatus::LeftOut);
+    EXPECT_EQ(exclude(folder(u"home"_s)), ExitStatus::LeftOut);
+    ASSERT_EQ(exclude(folder(u"home/source/tmp"_s)), ExitStatus::Success);
+    EXPECT_EQ(addSource(folder(u"home/source/tmp/inner"_s)), ExitStatus::LeftOut);
+    EXPECT_EQ(addSource(folder(u"home/source/tmp2"_s)), ExitStatus::Success);
+
+    // The home folder comes back as the source when no other is named.
+    ASSERT_EQ(exclude(folder(u"other"_s)), ExitStatus::Success);
+    Configuration(folders_).removeSource(source);
+    Configuration(folders_).removeSource(folder(u"home/source/tmp2"_s));
+    const Folders moved{folder(u"other/home"_s), folders_.configuration, folders_.state, folders_.cache};
+    const SourceSet set = SourceSet::of(Configuration(moved), moved);
+    EXPECT_TRUE(set.folders.isEmpty());
+    EXPECT_EQ(set.leftOut, QStringList(moved.home));
+}
+
 TEST_F(ConfigurationTest, WhatAnotherVersionWroteSurvivesAndDamageIsNotOverwritten)
 {
     const QString file = folder(u"config"_s) + "/configuration.plist"_L1;
@@ -164,18 +251,26 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     const Destination first = set(u"1 & <2>"_s, true);
     const Destination second = set(u"2"_s, true);
     unplug(second);
-    const auto xml = propertylist::parse(destinationXml(destinations(), first.id));
+    History history(folders_.state);
+    history.setLastDestination(first.id);
+    const QDateTime date(QDate(2026, 11, 21), QTime(7, 22, 58), Qt::UTC);
+    history.setLastBackup(second.id, date);
+    const auto xml = propertylist::parse(destinationXml(destinations(), history));
     ASSERT_TRUE(xml);
     const QVariantList entries = xml->toMap().value(u"Destinations"_s).toList();
     ASSERT_EQ(entries.size(), 2);
     EXPECT_EQ(entries[0].toMap(), (QVariantMap{{u"ID"_s, first.id},
                                                {u"Name"_s, u"1 & <2>"_s},
                                                {u"Kind"_s, u"Local"_s},
+                                               {u"Path"_s, first.path},
                                                {u"MountPoint"_s, first.path},
                                                {u"LastDestination"_s, qlonglong{1}}}));
     EXPECT_FALSE(entries[1].toMap().contains(u"MountPoint"_s)) << "it is not there";
+    EXPECT_EQ(entries[1].toMap().value(u"Path"_s), second.path);
+    EXPECT_EQ(entries[1].toMap().value(u"LastBackup"_s), date);
     EXPECT_EQ(entries[1].toMap().value(u"LastDestination"_s), qlonglong{0});
-    EXPECT_EQ(destinationText({second}, second.id),
+    history.setLastDestination(second.id);
+    EXPECT_EQ(destinationText({second}, history),
               "> " + QByteArray(50, '=') +
                   "\nName          : 2\nKind          : Local\nID            : " + second.id.toUtf8() + '\n');
 }
@@ -184,10 +279,15 @@ TEST_F(ConfigurationTest, OwnFilesAndDisksAreNeverBackedUp)
 {
     const Destination inside = set(u"home/disk *"_s, true);
     const Destination around = set(u"outer"_s, true);
-    const QStringList sources{folder(u"home"_s), folder(u"outer/photos"_s), root_.filePath(u"missing"_s)};
-    QFile::link(folder(u"home"_s), root_.filePath(u"alias"_s));
+    const QStringList sources{folder(u"home"_s), folder(u"outer/photos"_s), folder(u"missing"_s)};
+    for (const QString& source : sources)
+        Configuration(folders_).addSource(source);
+    Configuration(folders_).addSource(folder(u"linked"_s));
+    QDir(root_.path()).rmdir(u"missing"_s);
+    QDir(root_.path()).rmdir(u"linked"_s);
+    QFile::link(folder(u"home"_s), root_.filePath(u"linked"_s));
 
-    const SourceSet set = SourceSet::of(QStringList(sources) << root_.filePath(u"alias"_s), {inside, around}, folders_);
+    const SourceSet set = SourceSet::of(Configuration(folders_), folders_);
     EXPECT_EQ(set.folders, sources.mid(0, 2)) << "a link would be stored as a link";
     EXPECT_EQ(set.missing, sources.mid(2));
     EXPECT_EQ(set.excluded,
