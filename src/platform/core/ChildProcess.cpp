@@ -51,7 +51,7 @@ ChildProcess::ChildProcess(const TaskRequest& request, TaskLauncher::Completion 
 {
     setProgram(request.executable);
     setInputChannelMode(ForwardedInputChannel);
-    setProcessChannelMode(ForwardedErrorChannel);
+    setProcessChannelMode(request.captureErrors ? SeparateChannels : ForwardedErrorChannel);
     if (!request.captureOutput)
         setStandardOutputFile(nullDevice());
     // QProcess hands LD_LIBRARY_PATH down whatever environment it is given, hence the exec of our own.
@@ -60,6 +60,7 @@ ChildProcess::ChildProcess(const TaskRequest& request, TaskLauncher::Completion 
         image->exec();
     });
     connect(this, &QProcess::readyReadStandardOutput, this, &ChildProcess::collectOutput);
+    connect(this, &QProcess::readyReadStandardError, this, &ChildProcess::collectErrors);
     connect(this, &QProcess::finished, this, &ChildProcess::reportLater); // after a signal the status is its number
     connect(this, &QProcess::errorOccurred, this, [this](ProcessError error) {
         if (error == FailedToStart)
@@ -83,6 +84,11 @@ void ChildProcess::collectOutput()
     }
 }
 
+void ChildProcess::collectErrors()
+{
+    errors_ = (errors_ + readAllStandardError()).left(Task::errorBound);
+}
+
 void ChildProcess::reportLater(int status)
 {
     // Queued, so that the completion may destroy the handle or the launcher: QProcess is out of the way by then.
@@ -90,7 +96,7 @@ void ChildProcess::reportLater(int status)
         this,
         [this, status] {
             const auto completion = std::exchange(completion_, nullptr);
-            const TaskResult result{status, outputBoundExceeded_ ? std::nullopt : std::optional(output_)};
+            const TaskResult result{status, outputBoundExceeded_ ? std::nullopt : std::optional(output_), errors_};
             deleteLater();
             if (completion)
                 completion(result);

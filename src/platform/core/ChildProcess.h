@@ -20,10 +20,12 @@ public:
 
 private:
     void collectOutput();
+    void collectErrors();
     void reportLater(int status);
 
     TaskLauncher::Completion completion_;
     QByteArray output_;
+    QByteArray errors_;
     bool outputBoundExceeded_ = false;
 };
 

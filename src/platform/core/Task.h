@@ -13,6 +13,9 @@ public:
     /// Output beyond this ends the child, and the read counts as failed.
     static constexpr qsizetype outputBound = qsizetype{16} * 1024 * 1024;
 
+    /// Captured complaints beyond this are dropped.
+    static constexpr qsizetype errorBound = qsizetype{64} * 1024;
+
     [[nodiscard]] std::unique_ptr<RunningTask> launch(const TaskRequest& request, Completion completion) override;
 
 private:

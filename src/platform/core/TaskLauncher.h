@@ -11,7 +11,7 @@
 
 namespace quillon {
 
-/// A child process to be run. Standard input and error stay those of this program.
+/// A child process to be run. Standard input stays that of this program, and standard error unless it is captured.
 struct TaskRequest {
     QString executable;
     QStringList arguments;
@@ -20,6 +20,8 @@ struct TaskRequest {
     QString environmentValue;
     /// Standard output is collected; when false it is discarded.
     bool captureOutput = true;
+    /// Standard error is collected, for a program that shows what the child complains of.
+    bool captureErrors = false;
 };
 
 /// How a child process ended.
@@ -30,6 +32,8 @@ struct TaskResult {
     int status = 0;
     /// Everything the child wrote to standard output; nothing when it wrote more than Task's bound and was ended.
     std::optional<QByteArray> output;
+    /// What the child wrote to standard error, up to Task's bound for it, where that was asked for.
+    QByteArray errors = {};
 };
 
 /// A child process that runs. Destroying this lets the child live on; its completion is then never called.

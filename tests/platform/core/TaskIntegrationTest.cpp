@@ -106,6 +106,21 @@ TEST_F(TaskIntegrationTest, ExitStatusAndSignalAreBothReportedAsStatus)
     EXPECT_EQ(run(shell(u"kill -TERM $$"_s)).status, SIGTERM);
 }
 
+TEST_F(TaskIntegrationTest, ComplaintsAreCollectedUpToABoundWhereAskedFor)
+{
+    auto request = shell(u"echo answer; echo complaint >&2; exit 3"_s);
+    request.captureErrors = true;
+    const auto result = run(request);
+    EXPECT_EQ(result.errors, "complaint\n");
+    EXPECT_EQ(result.output, "answer\n") << "kept apart";
+    EXPECT_EQ(result.status, 3);
+    results.clear();
+    request = shell(u"head -c 1000000 /dev/zero >&2"_s);
+    request.captureErrors = true;
+    EXPECT_EQ(run(request).errors.size(), Task::errorBound);
+    EXPECT_EQ(results.front().status, 0) << "dropped, not blocked on";
+}
+
 TEST_F(TaskIntegrationTest, ARefusedLaunchEndsWithStatus127)
 {
     const QString plainFile = folder.filePath(u"plain"_s);
