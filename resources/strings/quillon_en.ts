@@ -337,5 +337,138 @@ Restore a folder from the latest one, as a copy in your home folder:
         <source></source>
         <translation>© %1 the Quillon authors</translation>
     </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>Backup Disks</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>Folders</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>Left Out</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>Backups are made to these disks. Everything on them is encrypted; the keys are kept in your home folder.</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>These folders are backed up, with everything in them.</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>These files and folders are left out of every backup.</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>There is no backup disk yet. Add a disk or a folder on one to begin.</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>No folder is backed up.</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>Nothing is left out. Add what needs no backup, such as downloads that you can get again.</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>Reading the settings …</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>Connected</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>Not connected</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>Last backup: %1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>No backup yet</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>Add Disk</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>Add Folder</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>Add File</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>Remove</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>Try Again</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1 (%2 free)</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>No other disk is connected</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>“%1” could not be added.</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>“%1” could not be removed.</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>Stop backing up to “%1”?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>The backups on it are kept, and so is their key. Add the same folder again to go on with them.</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>The settings could not be read: %1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutil does not answer.</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>The tool “%1” cannot be started.</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutil ended with exit status %1.</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>The answer of tmutil makes no sense.</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,75 @@
+#include "AlertBox.h"
+#include "Bundle.h"
+#include "ColorScheme_linux.h"
+#include "DisksWindow.h"
+#include "LocalizedString.h"
+#include "QtRunLoop.h"
+#include "QuitSignals.h"
+#include "SingleInstance.h"
+#include "Symbol_linux.h"
+#include "TMUtilPath.h"
+#include "Task.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDBusConnection>
+#include <QStandardPaths>
+
+#include <clocale>
+#include <cstdio>
+
+namespace {
+
+using namespace quillon;
+using namespace Qt::StringLiterals;
+
+int runWindow(const SingleInstance& instance)
+{
+    QtRunLoop runLoop;
+    Task launcher;
+    AlertBox alerts;
+    const ColorScheme colors(QDBusConnection::sessionBus());
+    QObject::connect(&colors, &ColorScheme::changed, qApp, applyColorScheme);
+    DisksWindow window({launcher, runLoop, alerts, tmutilPath(), u"/usr/bin/lsblk"_s});
+    QObject::connect(&instance, &SingleInstance::presentRequested, &window, [&window] {
+        window.showNormal();
+        window.raise();
+        window.activateWindow();
+    });
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName(u"quillon-disks"_s);
+    QApplication::setApplicationVersion(bundleShortVersion());
+    installStringTable();
+    QApplication::setApplicationDisplayName(localizedString("disksWindowTitle"));
+    QApplication::setWindowIcon(
+        symbolIcon({.name = u"clock.arrow.circlepath"_s, .paletteColor = {}}, QApplication::palette()));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"The settings of Time Machine: backup disks, folders, exclusions."_s);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(application);
+
+    // A second start brings the first window to the front.
+    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                            "/quillon-disks"_L1);
+    if (!instance.acquire()) {
+        if (instance.askFirstToPresent())
+            return 0;
+        if (!instance.acquire()) {
+            std::fputs(u"quillon-disks: %1\n"_s.arg(instance.errorString()).toLocal8Bit().constData(), stderr);
+            return 1;
+        }
+    }
+    const QuitSignals quitSignals;
+    return runWindow(instance);
+}
