@@ -1,13 +1,12 @@
+#include "EventLoop.h"
 #include "ScopedEnvironment.h"
 #include "Task.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <csignal>
-#include <functional>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -19,17 +18,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-bool waitUntil(const std::function<bool()>& condition)
-{
-    const QDeadlineTimer limit(60s);
-    while (!condition()) {
-        if (limit.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    }
-    return true;
-}
 
 TaskRequest shell(const QString& script)
 {
@@ -63,7 +51,7 @@ protected:
     {
         const auto handle = launch(request);
         EXPECT_TRUE(results.empty()) << "reported before launch returned";
-        EXPECT_TRUE(waitUntil([this] { return !results.empty(); }));
+        EXPECT_TRUE(runUntil([this] { return !results.empty(); }));
         QCoreApplication::processEvents();
         EXPECT_EQ(results.size(), 1u) << "reported more than once";
         return results.empty() ? TaskResult{} : results.front();
@@ -71,7 +59,7 @@ protected:
 
     void TearDown() override
     {
-        EXPECT_TRUE(waitUntil([] { return !hasChildren(); })) << "a child was left behind";
+        EXPECT_TRUE(runUntil([] { return !hasChildren(); })) << "a child was left behind";
     }
 
     QTemporaryDir folder;
@@ -185,7 +173,7 @@ TEST_F(TaskIntegrationTest, KillEndsTheChildAndReportsItsEnd)
 {
     const auto handle = launch(shell(u"echo begun; exec /usr/bin/sleep 600"_s));
     handle->kill();
-    ASSERT_TRUE(waitUntil([this] { return !results.empty(); }));
+    ASSERT_TRUE(runUntil([this] { return !results.empty(); }));
     EXPECT_EQ(results.front().status, SIGKILL);
     handle->kill();
 }
@@ -198,8 +186,8 @@ TEST_F(TaskIntegrationTest, WithoutItsHandleAChildRunsToItsEndUnreported)
         launch(shell(u"until [ -e '%1' ]; do /usr/bin/sleep 0.02; done; echo finished > '%2'"_s.arg(gate, mark)));
     handle.reset();
     ASSERT_TRUE(QFile(gate).open(QIODevice::WriteOnly));
-    EXPECT_TRUE(waitUntil([&] { return contents(mark) == u"finished\n"_s; }));
-    EXPECT_TRUE(waitUntil([] { return !hasChildren(); }));
+    EXPECT_TRUE(runUntil([&] { return contents(mark) == u"finished\n"_s; }));
+    EXPECT_TRUE(runUntil([] { return !hasChildren(); }));
     EXPECT_TRUE(results.empty());
 }
 
@@ -214,7 +202,7 @@ TEST_F(TaskIntegrationTest, AChildOutlivesItsLauncher)
     launcher.reset();
     handle->kill(); // no longer anybody's child to end
     ASSERT_TRUE(QFile(gate).open(QIODevice::WriteOnly));
-    EXPECT_TRUE(waitUntil([&] { return contents(mark) == u"finished\n"_s; }));
+    EXPECT_TRUE(runUntil([&] { return contents(mark) == u"finished\n"_s; }));
     EXPECT_GT(wait(nullptr), 0); // at quit, the system's first process does this
 }
 
@@ -231,7 +219,7 @@ TEST_F(TaskIntegrationTest, TheCompletionMayDestroyHandleAndLauncher)
                 launcher.reset();
                 reported = true;
             });
-        EXPECT_TRUE(waitUntil([&] { return reported; })) << executable.toStdString();
+        EXPECT_TRUE(runUntil([&] { return reported; })) << executable.toStdString();
     }
 }
 

@@ -1,3 +1,4 @@
+#include "EventLoop.h"
 #include "LoginItem.h"
 #include "LoginItemFactory.h"
 #include "ScopedEnvironment.h"
@@ -60,7 +61,7 @@ TEST_F(LoginItemIntegrationTest, TheEntryIsValidAndStartsTheProgramWhateverItsPa
         EXPECT_EQ(validated.output, QString()) << contentOf(entry()).toStdString();
         const auto launched = launch(entry());
         EXPECT_EQ(launched.status, 0) << launched.output.toStdString();
-        EXPECT_TRUE(eventually([&] { return QFile::exists(note); })) << contentOf(entry()).toStdString();
+        EXPECT_TRUE(runUntil([&] { return QFile::exists(note); })) << contentOf(entry()).toStdString();
         EXPECT_EQ(contentOf(note), u"0|"_s + program);
     }
 }

@@ -1,3 +1,4 @@
+#include "EventLoop.h"
 #include "LogindSleepWatch_linux.h"
 #include "PlayedLogind.h"
 #include "SessionTestSupport.h"
@@ -20,11 +21,11 @@ class LogindSleepWatchIntegrationTest : public testing::Test {
 protected:
     bool holdsLock()
     {
-        return eventually([this] { return logind->locks() == held; });
+        return runUntil([this] { return logind->locks() == held; });
     }
     bool holdsNoLock()
     {
-        return eventually([this] { return logind->locks() == none; });
+        return runUntil([this] { return logind->locks() == none; });
     }
 
     /// Announces sleep; the locks that the handlers saw.
@@ -34,7 +35,7 @@ protected:
         const auto connection =
             QObject::connect(&watch, &LogindSleepWatch::willSleep, &watch, [&] { seen = logind->locks(); });
         logind->prepareForSleep(true);
-        EXPECT_TRUE(eventually([&] { return seen.has_value(); }));
+        EXPECT_TRUE(runUntil([&] { return seen.has_value(); }));
         QObject::disconnect(connection);
         return seen.value_or(none);
     }
@@ -61,7 +62,7 @@ TEST_F(LogindSleepWatchIntegrationTest, SleepWaitsForTheHandlersEachTime)
         EXPECT_EQ(locksSeenBySleepHandlers(watch), held);
         EXPECT_TRUE(holdsNoLock());
         logind->prepareForSleep(false);
-        EXPECT_TRUE(eventually([&] { return woke.size() == round; }));
+        EXPECT_TRUE(runUntil([&] { return woke.size() == round; }));
     }
     EXPECT_EQ(slept.size(), 2);
 }
@@ -76,7 +77,7 @@ TEST_F(LogindSleepWatchIntegrationTest, ALogindThatComesLateOrRestartsIsTakenUp)
         ASSERT_TRUE(holdsLock());
         EXPECT_EQ(locksSeenBySleepHandlers(watch), held);
         logind->prepareForSleep(false);
-        EXPECT_TRUE(eventually([&] { return woke.size() == start; }));
+        EXPECT_TRUE(runUntil([&] { return woke.size() == start; }));
         logind.reset();
     }
 }
@@ -89,7 +90,7 @@ TEST_F(LogindSleepWatchIntegrationTest, ALogindThatIsGoneWhenTheSystemWakesDoesN
     locksSeenBySleepHandlers(watch);
 
     logind.reset();
-    EXPECT_TRUE(eventually([&] { return woke.size() == 1; }));
+    EXPECT_TRUE(runUntil([&] { return woke.size() == 1; }));
     logind.emplace(bus);
     EXPECT_TRUE(holdsLock());
     EXPECT_EQ(woke.size(), 1);
@@ -99,7 +100,7 @@ TEST_F(LogindSleepWatchIntegrationTest, ABusThatIsLostOrNeverWasDoesNoHarm)
 {
     const LogindSleepWatch earlier(client);
     bus.crash();
-    ASSERT_TRUE(eventually([this] { return !client.isConnected(); }));
+    ASSERT_TRUE(runUntil([this] { return !client.isConnected(); }));
     const LogindSleepWatch later(client);
     const LogindSleepWatch never(QDBusConnection(u"no such connection"_s));
 }

@@ -1,5 +1,6 @@
 #include "PlayedLogind.h"
 
+#include "EventLoop.h"
 #include "SessionTestSupport.h"
 
 #include <QDBusArgument>
@@ -26,7 +27,7 @@ PrivateBus::PrivateBus()
     tieToThisProcess(daemon_);
     daemon_.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s,
                                      u"--address=unix:path="_s + folder_.filePath(u"bus"_s)});
-    EXPECT_TRUE(eventually([this] { return daemon_.canReadLine(); })) << "no dbus-daemon";
+    EXPECT_TRUE(runUntil([this] { return daemon_.canReadLine(); })) << "no dbus-daemon";
     address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
     EXPECT_TRUE(QDBusConnection::connectToBus(address_, address_).isConnected());
 }
@@ -53,14 +54,14 @@ PlayedLogind::PlayedLogind(const PrivateBus& bus)
     mock_.setStandardOutputFile(QProcess::nullDevice());
     mock_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     mock_.start(u"/usr/bin/python3"_s, {u"-m"_s, u"dbusmock"_s, u"--template"_s, u"logind"_s});
-    EXPECT_TRUE(eventually([this] { return hasOwner(); })) << "no python3-dbusmock";
+    EXPECT_TRUE(runUntil([this] { return hasOwner(); })) << "no python3-dbusmock";
 }
 
 PlayedLogind::~PlayedLogind()
 {
     mock_.kill();
     mock_.waitForFinished();
-    EXPECT_TRUE(eventually([this] { return !hasOwner(); }));
+    EXPECT_TRUE(runUntil([this] { return !hasOwner(); }));
 }
 
 bool PlayedLogind::hasOwner() const

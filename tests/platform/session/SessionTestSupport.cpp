@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QProcess>
-#include <QTest>
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -17,11 +16,6 @@ namespace {
 constexpr int bound = 30'000;
 
 } // namespace
-
-bool eventually(const std::function<bool()>& condition)
-{
-    return QTest::qWaitFor(condition, bound);
-}
 
 void writeScript(const QString& path, const QString& body)
 {

@@ -5,12 +5,7 @@
 
 class QProcess;
 
-#include <functional>
-
 namespace quillon {
-
-/// Runs the event loop until the condition holds; false when it does not within 30 s.
-bool eventually(const std::function<bool()>& condition);
 
 /// Makes an executable shell script of this body.
 void writeScript(const QString& path, const QString& body);

@@ -1,3 +1,4 @@
+#include "EventLoop.h"
 #include "ScopedEnvironment.h"
 #include "SessionTestSupport.h"
 #include "SingleInstance.h"
@@ -34,7 +35,7 @@ public:
     /// The next line that it says.
     QString says()
     {
-        EXPECT_TRUE(eventually([this] { return process_.canReadLine(); }));
+        EXPECT_TRUE(runUntil([this] { return process_.canReadLine(); }));
         return QString::fromUtf8(process_.readLine()).trimmed();
     }
 
@@ -144,7 +145,7 @@ TEST_F(SingleInstanceIntegrationTest, TheSocketIsTheUsersAloneAndTakesNoOtherWor
     QLocalSocket stranger;
     stranger.connectToServer(sockets().first().filePath());
     stranger.write("GET / HTTP/1.1\r\n\r\n");
-    EXPECT_TRUE(eventually([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
+    EXPECT_TRUE(runUntil([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
     EXPECT_EQ(presents, 0);
 
     Instance second(folder);

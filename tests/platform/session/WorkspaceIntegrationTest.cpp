@@ -1,3 +1,4 @@
+#include "EventLoop.h"
 #include "PlayedLogind.h"
 #include "ScopedEnvironment.h"
 #include "SessionTestSupport.h"
@@ -35,7 +36,7 @@ protected:
 
     bool reported()
     {
-        return eventually([this] {
+        return runUntil([this] {
             runLoop.settle();
             return reports > 0;
         });
@@ -63,7 +64,7 @@ TEST_F(WorkspaceIntegrationTest, AnOpenedAddressReachesTheOpenerUnchanged)
     EXPECT_EQ(note(), u"1|https://example.org/a%20b?x=1&y=$(id)#'%22;%60z"_s);
 
     workspace->openURL(QUrl(u"mailto:a@example.org?subject=b"_s), {});
-    EXPECT_TRUE(eventually([this] { return note() == "1|mailto:a@example.org?subject=b"_L1; }));
+    EXPECT_TRUE(runUntil([this] { return note() == "1|mailto:a@example.org?subject=b"_L1; }));
 }
 
 TEST_F(WorkspaceIntegrationTest, AnOpenerThatFailsIsReported)
@@ -103,7 +104,7 @@ TEST_F(WorkspaceIntegrationTest, AnOpenerThatStaysHasOpenedTheAddressAndOutlives
 {
     playOpener(u"echo $$ >\"$NOTE\"; exec sleep 600"_s);
     workspace->openURL(QUrl(u"https://example.org"_s), keepResult());
-    ASSERT_TRUE(eventually([this] { return note().endsWith(u'\n'); }));
+    ASSERT_TRUE(runUntil([this] { return note().endsWith(u'\n'); }));
     const pid_t opener = note().trimmed().toInt();
     runLoop.advance(9s);
     EXPECT_EQ(reports, 0);
@@ -146,9 +147,9 @@ TEST_F(WorkspaceIntegrationTest, TheSessionTellsOfSleepAndWake)
     const QSignalSpy slept(workspace.get(), &Workspace::willSleep);
     const QSignalSpy woke(workspace.get(), &Workspace::didWake);
     logind.prepareForSleep(true);
-    EXPECT_TRUE(eventually([&] { return slept.size() == 1; }));
+    EXPECT_TRUE(runUntil([&] { return slept.size() == 1; }));
     logind.prepareForSleep(false);
-    EXPECT_TRUE(eventually([&] { return woke.size() == 1; }));
+    EXPECT_TRUE(runUntil([&] { return woke.size() == 1; }));
     QDBusConnection::disconnectFromBus(u"session"_s);
 }
 
