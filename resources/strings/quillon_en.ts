@@ -328,6 +328,206 @@ Restore a folder from the latest one, as a copy in your home folder:
         <source></source>
         <translation>Restored</translation>
     </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>Scheduled Backups</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>Schedule backups by</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>day and time</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>interval</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>Schedule</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>Warning about automatic backups</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>Add Rule</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>Delete Rule</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>Back up</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>every day</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>Monday to Friday</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>every Monday</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>every Tuesday</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>every Wednesday</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>every Thursday</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>every Friday</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>every Saturday</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>every Sunday</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>at</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>Back up every</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>h</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>The interval is not in use yet: backups start on the days and at the times of the rules.</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>Retry</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>Retry after a missed backup</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>Retry after a failed backup</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>Menu Bar</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>Show detailed times</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>From an hour on, times also show minutes; from a day on, they also show hours.</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>Show only the icon</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>Color the icon when it needs your attention</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>Disks and Login</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>Rotate between backup disks</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>Open Quillon at login</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>No More Rules Can Be Added</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>A schedule has at most %1 rules. Change or delete one of them instead.</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>Delete This Rule?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>Backups will no longer start at its times.</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>Retry After a Missed Backup</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>When your computer sleeps through a scheduled backup, that backup starts about five minutes after the computer wakes. While the schedule is paused, nothing is retried.</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>Retry After a Failed Backup</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>When a backup ends before it is complete, Quillon tries again about five minutes later. Backups that you stop yourself are not retried, and nothing is while the schedule is paused.</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>Welcome to %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2 is in the menu bar. It starts your backups at the times that you choose in its settings.
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>If Time Machine also backs up automatically, switch that off, so that backups start only when you have scheduled them. On a Mac, open System Preferences, click Time Machine, and deselect “Back Up Automatically”.</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>If Time Machine also backs up automatically, switch that off, so that backups start only when you have scheduled them. On a Mac, open System Settings, choose General &gt; Time Machine &gt; Options, and set “Back up frequency” to “Manually”.</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>Help</translation>
+    </message>
     <!-- The about panel -->
     <message id="versionTitle">
         <source></source>
@@ -336,6 +536,46 @@ Restore a folder from the latest one, as a copy in your home folder:
     <message id="copyrightTitle">
         <source></source>
         <translation>© %1 the Quillon authors</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>Questions, ideas, or something that does not work? Write to us.</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Website</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>Credits</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>App Icon</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillon sends nothing about you or your files.</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>Terms of Use</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>Privacy Policy</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1 keeps your settings and the record of your backups on this computer. To learn of new versions, %1 asks a service of its maker; the request names %1, not you. The whole privacy policy of %1 is on the website.</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>Read More</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>No mail application could be opened. Please write to %1.</translation>
     </message>
     <!-- Window of the Time Machine settings on Linux -->
     <message id="disksWindowTitle">
