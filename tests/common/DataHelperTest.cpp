@@ -1,11 +1,7 @@
 #include "DataHelper.h"
 
 #include "Calendar.h"
-#include "LocalizedString.h"
 #include "ScopedEnvironment.h"
-
-#include <QCoreApplication>
-#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -18,9 +14,6 @@ namespace {
 
 class DataHelperTest : public testing::Test {
 protected:
-    static void SetUpTestSuite() { installStringTable(); }
-    static void TearDownTestSuite() { qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>()); }
-
     ScopedEnvironment zone{"TZ", "Europe/Berlin"};
     ScopedEnvironment locale{"LC_ALL", "en_US.UTF-8"};
 };

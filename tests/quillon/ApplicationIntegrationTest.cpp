@@ -44,6 +44,7 @@ protected:
         environment.insert(u"QUILLON_TMUTIL"_s, practice.executable());
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        environment.remove(u"LANGUAGE"_s);
         // The session's own buses are none of this test's business.
         environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
         environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);

@@ -9,7 +9,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    quillon::installStringTable(); // of the tests that link one
+    quillon::installStringTable(QStringLiteral("en")); // of the tests that link one
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

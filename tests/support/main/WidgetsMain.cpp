@@ -12,7 +12,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     std::setlocale(LC_NUMERIC, "C");
-    quillon::installStringTable(); // of the tests that link one
+    quillon::installStringTable(QStringLiteral("en")); // of the tests that link one
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>Heute</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>Morgen</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>Gestern</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>k. A.</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>Nicht aktiv</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>Wird gestartet</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>Backup-Volume wird gesucht</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>Verbindung zum Backup-Volume wird hergestellt</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>Backup wird vorbereitet</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>Aufräumen</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>Backup wird überprüft</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>Wird abgeschlossen</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>Zugriff erlauben</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>Zugriff erforderlich</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>Die Time Machine-Einstellungen lassen sich erst öffnen, wenn %2 die Systemeinstellungen steuern darf. Dies lässt sich über „%1“ festlegen; danach kann der Vorgang wiederholt werden.</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>Nächstes</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>Erneut</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>Startet</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>Läuft</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>Wird gestoppt</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>Letztes Backup</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>Phase</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>kopiert</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>Backup-Volume</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>Nächstes Backup</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>Kein Backup geplant</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>Neuer Versuch</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>Verbleibende Zeit</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>Wird berechnet</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>Backup jetzt erstellen</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>Dieses Backup überspringen</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>Dieses Backup überspringen</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>Neuen Versuch überspringen</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Time Machine öffnen</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Time Machine-Backups durchsuchen</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>Systemeinstellung „Time Machine“ öffnen</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>Time Machine-Einstellungen öffnen</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>Update verfügbar</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>Über Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>%1 beenden</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>Zeitplan pausieren für</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>Zeitplan pausiert bis</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>Zeitplan fortsetzen</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 Stunden</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 Stunden</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 Stunden</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 Stunden</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 Tag</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 Tage</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 Tage</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 Tage</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 Tage</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 Tage</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 Woche</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 Wochen</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 Wochen</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 Wochen</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Time Machine entscheiden lassen</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>zuletzt verwendet</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>Letztes Backup auf jedem Volume</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>Diese Liste zeigt für jedes Backup-Volume das letzte Backup, dessen Abschluss Quillon beobachtet hat. Auf einem Volume ohne Datum wurde kein Backup abgeschlossen, seit Quillon installiert ist.</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>Hilfe</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>Achtung</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>Das Backup konnte nicht gestartet werden. Time Machine meldete den Fehlercode %1.</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1 ist verfügbar</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>Installiert ist Version %1. Die Download-Seite wird im Browser geöffnet, und Quillon wird beendet, damit es ersetzt werden kann.</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>Update laden</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>Aus Backups wiederherstellen</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>Letztes Backup auf jedem Volume:
+%1
+
+Alle Backups auflisten:
+%2
+
+Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen:
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>Wiederhergestellt</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>Geplante Backups</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>Backups planen nach</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>Tag und Uhrzeit</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>Intervall</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>Zeitplan</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>Warnung zu automatischen Backups</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>Regel hinzufügen</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>Regel löschen</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>Backup</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>jeden Tag</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>Montag bis Freitag</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>jeden Montag</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>jeden Dienstag</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>jeden Mittwoch</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>jeden Donnerstag</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>jeden Freitag</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>jeden Samstag</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>jeden Sonntag</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>um</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>Backup alle</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>Std.</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>Das Intervall wird noch nicht verwendet: Backups starten an den Tagen und zu den Zeiten der Regeln.</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>Neuer Versuch</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>Neuer Versuch nach verpasstem Backup</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>Neuer Versuch nach fehlgeschlagenem Backup</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>Menüleiste</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>Genaue Zeiten anzeigen</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>Ab einer Stunde werden auch die Minuten angezeigt, ab einem Tag auch die Stunden.</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>Nur das Symbol anzeigen</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>Symbol farbig hervorheben, wenn es Aufmerksamkeit verlangt</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>Volumes und Anmeldung</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>Zwischen Backup-Volumes wechseln</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>Quillon bei der Anmeldung öffnen</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>Keine weiteren Regeln möglich</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>Ein Zeitplan hat höchstens %1 Regeln. Stattdessen kann eine davon geändert oder gelöscht werden.</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>Diese Regel löschen?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>Zu ihren Zeiten werden keine Backups mehr gestartet.</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>Neuer Versuch nach verpasstem Backup</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>Verpasst der Computer ein geplantes Backup im Ruhezustand, startet dieses etwa fünf Minuten nach dem Aufwachen. Solange der Zeitplan pausiert ist, gibt es keine neuen Versuche.</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>Neuer Versuch nach fehlgeschlagenem Backup</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>Endet ein Backup vorzeitig, versucht Quillon es etwa fünf Minuten später noch einmal. Selbst gestoppte Backups werden nicht wiederholt; solange der Zeitplan pausiert ist, gibt es keine neuen Versuche.</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>Willkommen bei %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2 befindet sich in der Menüleiste und startet Backups zu den Zeiten, die in den Einstellungen gewählt sind.
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>Falls Time Machine auch automatisch Backups erstellt, sollte dies ausgeschaltet werden, damit Backups nur nach Zeitplan starten. Auf dem Mac: „Systemeinstellungen“ &gt; „Time Machine“ öffnen und „Automatische Backups erstellen“ deaktivieren.</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>Falls Time Machine auch automatisch Backups erstellt, sollte dies ausgeschaltet werden, damit Backups nur nach Zeitplan starten. Auf dem Mac: „Systemeinstellungen“ &gt; „Allgemein“ &gt; „Time Machine“ &gt; „Optionen“ öffnen und die „Backup-Häufigkeit“ auf „Manuell“ setzen.</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>Hilfe</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>Version</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 die Autoren von Quillon</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>Fragen, Ideen oder ein Problem? Wir freuen uns über jede Nachricht.</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Website</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>Danksagung</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>App-Symbol</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillon sendet nichts über seine Benutzer oder deren Dateien.</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>Nutzungsbedingungen</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>Datenschutzrichtlinie</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1 bewahrt Einstellungen und Angaben zu Backups auf diesem Computer auf. Um von neuen Versionen zu erfahren, fragt %1 einen Dienst des Herstellers; die Anfrage nennt %1, aber keine Person. Die vollständige Datenschutzrichtlinie von %1 steht auf der Website.</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>Weitere Infos</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>Es konnte kein Mail-Programm geöffnet werden. Die Adresse lautet %1.</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>Backup-Volumes</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>Ordner</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>Ausgenommen</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>Backups werden auf diesen Volumes erstellt. Alles darauf ist verschlüsselt; die Schlüssel liegen im Benutzerordner.</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>Diese Ordner werden samt Inhalt gesichert.</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>Diese Dateien und Ordner werden nie gesichert.</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>Es gibt noch kein Backup-Volume. Zum Beginnen ein Volume oder einen Ordner darauf hinzufügen.</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>Es wird kein Ordner gesichert.</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>Nichts ist ausgenommen. Hier kann hinzugefügt werden, was kein Backup braucht, zum Beispiel Downloads, die sich erneut laden lassen.</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>Einstellungen werden gelesen …</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>Verbunden</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>Letztes Backup: %1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>Noch kein Backup</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>Volume hinzufügen</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>Datei hinzufügen</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>Entfernen</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1 (%2 frei)</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>Kein anderes Volume ist verbunden</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>„%1“ konnte nicht hinzugefügt werden.</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>„%1“ konnte nicht entfernt werden.</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>Keine Backups mehr auf „%1“ erstellen?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>Die Backups darauf bleiben erhalten, ebenso ihr Schlüssel. Wird derselbe Ordner erneut hinzugefügt, werden sie fortgesetzt.</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>Die Einstellungen konnten nicht gelesen werden: %1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutil antwortet nicht.</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>Das Programm „%1“ kann nicht gestartet werden.</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutil endete mit dem Exit-Status %1.</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>Die Antwort von tmutil ist nicht lesbar.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>Hoy</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>Mañana</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>Ayer</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>N/D</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>Inactivo</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>Desconocido</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>Iniciando</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>Buscando el disco de copia de seguridad</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>Conectando con el disco de copia de seguridad</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>Preparando la copia de seguridad</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>Copiando</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>Haciendo limpieza</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>Comprobando la copia de seguridad</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>Finalizando</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>Dar permiso</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>Se necesita permiso</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>Para abrir las preferencias de Time Machine, haz clic en “%1” y permite que %2 controle Preferencias del Sistema. Después, vuelve a intentarlo.</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>Próxima</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>Reintento</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>Iniciando</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>En curso</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>Deteniendo</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>Última copia</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>Fase</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>copiados</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>Disco de copia de seguridad</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>Próxima copia</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>Desactivada</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>No hay ninguna copia programada</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>Reintento</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>Tiempo restante</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>Calculando</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>Realizar copia de seguridad ahora</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>Omitir esta copia de seguridad</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>Omitir esta copia de seguridad</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>Omitir reintento</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Entrar en Time Machine</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Explorar copias de seguridad de Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>Abrir preferencias de Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>Abrir ajustes de Time Machine</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>Actualización disponible</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>Ajustes</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>Acerca de Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>Salir de %1</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>Pausar la programación durante</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>Programación en pausa hasta</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>Reanudar la programación</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 hora</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 horas</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 horas</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 horas</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 horas</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 día</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 días</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 días</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 días</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 días</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 días</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 semana</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 semanas</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 semanas</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 semanas</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Dejar que Time Machine elija</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>el más reciente</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>Última copia de cada disco</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>Esta lista muestra, para cada disco de copia de seguridad, la última copia que Quillon ha visto finalizar. Un disco sin fecha no ha recibido ninguna copia completa desde que se instaló Quillon.</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>Ayuda</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>Advertencia</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>No se ha podido iniciar la copia de seguridad. Time Machine ha respondido con el código de error %1.</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1 está disponible</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>Tienes la versión %1. Se abrirá la página de descarga en el navegador y se cerrará Quillon para poder sustituirlo.</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>Obtener actualización</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>Restaurar desde tus copias de seguridad</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>Última copia de cada disco:
+%1
+
+Ver la lista de todas las copias:
+%2
+
+Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio:
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>Restaurado</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>Copias programadas</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>Programar copias de seguridad por</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>día y hora</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>intervalo</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>Programación</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>Advertencia sobre las copias automáticas</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>Añadir regla</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>Eliminar regla</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>Hacer copia</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>todos los días</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>de lunes a viernes</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>todos los lunes</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>todos los martes</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>todos los miércoles</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>todos los jueves</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>todos los viernes</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>todos los sábados</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>todos los domingos</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>a las</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>Hacer copia cada</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>h</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>El intervalo aún no se utiliza: las copias se inician los días y a las horas de las reglas.</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>Reintento</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>Reintentar si se pierde una copia</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>Reintentar si falla una copia</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>Barra de menús</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>Mostrar tiempos detallados</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>A partir de una hora se muestran también los minutos; a partir de un día, también las horas.</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>Mostrar solo el icono</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>Colorear el icono cuando requiera atención</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>Discos e inicio de sesión</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>Alternar entre los discos de copia de seguridad</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>Abrir Quillon al iniciar sesión</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>No se pueden añadir más reglas</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>Una programación admite como máximo %1 reglas. En su lugar, cambia o elimina una de ellas.</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>¿Eliminar esta regla?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>Ya no se iniciarán copias a las horas que indica.</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>Reintentar si se pierde una copia</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>Si el equipo está en reposo a la hora de una copia programada, la copia se inicia unos cinco minutos después de que se active. Mientras la programación está en pausa no hay reintentos.</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>Reintentar si falla una copia</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>Si una copia termina antes de completarse, Quillon vuelve a intentarlo unos cinco minutos después. Las copias que detienes tú no se reintentan, y mientras la programación está en pausa no hay reintentos.</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>Eliminar</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>Te damos la bienvenida a %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2 está en la barra de menús. Inicia tus copias de seguridad a las horas que elijas en sus ajustes.
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>Si Time Machine también hace copias automáticas, desactívalas para que las copias solo se inicien cuando las hayas programado. En un Mac, abre Preferencias del Sistema, haz clic en Time Machine y desmarca “Realizar copias de seguridad automáticamente”.</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>Si Time Machine también hace copias automáticas, desactívalas para que las copias solo se inicien cuando las hayas programado. En un Mac, abre Ajustes del Sistema, selecciona General &gt; Time Machine &gt; Opciones y elige “Manualmente” en “Frecuencia de copia de seguridad”.</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>Ayuda</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>Versión</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 los autores de Quillon</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>¿Alguna pregunta, idea o problema? Escríbenos.</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Sitio web</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>Créditos</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>Icono de la app</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillon no envía nada sobre ti ni sobre tus archivos.</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>Condiciones de uso</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>Política de privacidad</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1 guarda tus ajustes y el registro de tus copias en este equipo. Para saber si hay versiones nuevas, %1 consulta un servicio de su fabricante; la petición identifica a %1, no a ti. La política de privacidad completa de %1 está en el sitio web.</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>Leer más</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>No se ha podido abrir ninguna app de correo. Escribe a %1.</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>Discos de copia de seguridad</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>Carpetas</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>Exclusiones</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>Las copias de seguridad se hacen en estos discos. Todo su contenido está cifrado; las claves se guardan en tu carpeta personal.</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>Se hace copia de seguridad de estas carpetas con todo su contenido.</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>Estos archivos y carpetas se excluyen de todas las copias de seguridad.</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>Aún no hay ningún disco de copia de seguridad. Para empezar, añade un disco o una carpeta de un disco.</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>No se hace copia de seguridad de ninguna carpeta.</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>No hay exclusiones. Añade lo que no necesite copia de seguridad, como descargas que puedas volver a obtener.</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>Leyendo los ajustes…</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>Conectado</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>No conectado</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>Última copia: %1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>Aún no hay copias</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>Añadir disco</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>Añadir archivo</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>Quitar</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>Reintentar</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1 (%2 libres)</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>No hay ningún otro disco conectado</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>No se ha podido añadir “%1”.</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>No se ha podido quitar “%1”.</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>¿Dejar de hacer copias de seguridad en “%1”?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>Las copias que contiene se conservan, y también su clave. Para continuarlas, vuelve a añadir la misma carpeta.</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>No se han podido leer los ajustes: %1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutil no responde.</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>No se puede iniciar la herramienta “%1”.</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutil ha terminado con el estado de salida %1.</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>La respuesta de tmutil no se entiende.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; titles with a colon end in the no-break space that goes before it. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>Demain</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>Hier</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>N/D</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>Inactif</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>Inconnu</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>Démarrage</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>Recherche du disque de sauvegarde</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>Connexion au disque de sauvegarde</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>Préparation de la sauvegarde</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>Copie</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>Nettoyage</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>Vérification de la sauvegarde</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>Finalisation</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>Donner l’autorisation</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>Autorisation requise</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>Pour ouvrir les préférences Time Machine, cliquez sur « %1 » et autorisez %2 à contrôler Préférences Système. Réessayez ensuite.</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>Prochaine </translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>Réessai </translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>Démarrage</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>En cours</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>Arrêt</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>Dernière sauvegarde </translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>Phase </translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>copiés</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>Disque de sauvegarde </translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>Prochaine sauvegarde </translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>Désactivée</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>Aucune sauvegarde n’est programmée</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>Nouvel essai</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>Temps restant </translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>Calcul en cours</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>Sauvegarder maintenant</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>Ignorer cette sauvegarde</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>Ignorer cette sauvegarde</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>Ignorer le nouvel essai</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Accéder à Time Machine</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Parcourir les sauvegardes Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>Ouvrir les préférences Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>Ouvrir les réglages Time Machine</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>Mise à jour disponible</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>Réglages</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>À propos de Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>Quitter %1</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>Suspendre la programmation pendant</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>Programmation suspendue jusqu’à </translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>Reprendre la programmation</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 heure</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 heures</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 heures</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 heures</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 heures</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 jour</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 jours</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 jours</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 jours</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 jours</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 jours</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 semaine</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 semaines</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 semaines</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 semaines</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Laisser Time Machine choisir</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>le plus récent</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>Dernière sauvegarde de chaque disque</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>Cette liste indique, pour chacun de vos disques de sauvegarde, la dernière sauvegarde que Quillon a vue se terminer. Un disque sans date n’a reçu aucune sauvegarde complète depuis l’installation de Quillon.</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>Aide</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>Attention</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>La sauvegarde n’a pas pu démarrer. Time Machine a répondu par le code d’erreur %1.</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1 est disponible</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>Vous disposez de la version %1. La page de téléchargement va s’ouvrir dans votre navigateur et Quillon va quitter afin de pouvoir être remplacé.</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>Obtenir la mise à jour</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>Restaurer à partir de vos sauvegardes</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>Dernière sauvegarde de chaque disque :
+%1
+
+Lister toutes les sauvegardes :
+%2
+
+Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier personnel :
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>Restauration</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>Sauvegardes programmées</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>Programmer les sauvegardes par</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>jour et heure</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>intervalle</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>Programmation</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>Avertissement sur les sauvegardes automatiques</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>Ajouter une règle</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>Supprimer la règle</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>Sauvegarder</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>tous les jours</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>du lundi au vendredi</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>tous les lundis</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>tous les mardis</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>tous les mercredis</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>tous les jeudis</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>tous les vendredis</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>tous les samedis</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>tous les dimanches</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>à</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>Sauvegarder toutes les</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>h</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>L’intervalle n’est pas encore utilisé : les sauvegardes démarrent aux jours et aux heures des règles.</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>Nouvel essai</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>Réessayer après une sauvegarde manquée</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>Réessayer après l’échec d’une sauvegarde</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>Barre des menus</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>Afficher les durées détaillées</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>À partir d’une heure, les minutes s’affichent aussi ; à partir d’un jour, les heures aussi.</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>Afficher uniquement l’icône</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>Colorer l’icône quand elle requiert votre attention</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>Disques et ouverture de session</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>Alterner entre les disques de sauvegarde</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>Ouvrir Quillon avec la session</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>Impossible d’ajouter d’autres règles</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>Une programmation comporte au plus %1 règles. Modifiez ou supprimez plutôt l’une d’elles.</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>Supprimer cette règle ?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>Les sauvegardes ne démarreront plus aux heures qu’elle indique.</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>Réessayer après une sauvegarde manquée</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>Si l’ordinateur est en veille à l’heure d’une sauvegarde programmée, celle-ci démarre environ cinq minutes après son réveil. Tant que la programmation est suspendue, il n’y a pas de nouvel essai.</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>Réessayer après l’échec d’une sauvegarde</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>Si une sauvegarde s’interrompt avant la fin, Quillon réessaie environ cinq minutes plus tard. Il n’y a pas de nouvel essai pour les sauvegardes que vous arrêtez vous-même, ni tant que la programmation est suspendue.</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>Supprimer</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>Bienvenue dans %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2 se trouve dans la barre des menus. Il lance vos sauvegardes aux heures que vous choisissez dans ses réglages.
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>Si Time Machine effectue aussi des sauvegardes automatiques, désactivez-les afin que les sauvegardes ne démarrent qu’aux heures programmées. Sur un Mac, ouvrez Préférences Système, cliquez sur « Time Machine » et décochez « Sauvegarder automatiquement ».</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>Si Time Machine effectue aussi des sauvegardes automatiques, désactivez-les afin que les sauvegardes ne démarrent qu’aux heures programmées. Sur un Mac, ouvrez Réglages Système, choisissez Général &gt; Time Machine &gt; Options et réglez « Fréquence des sauvegardes » sur « Manuellement ».</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>Aide</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>Version </translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 les auteurs de Quillon</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>Une question, une idée, un problème ? Écrivez-nous.</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Site web</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>Remerciements</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>Icône de l’app</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillon n’envoie rien sur vous ni sur vos fichiers.</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>Conditions d’utilisation</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>Politique de confidentialité</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1 conserve vos réglages et l’historique de vos sauvegardes sur cet ordinateur. Pour connaître les nouvelles versions, %1 interroge un service de son éditeur ; la requête nomme %1, pas vous. La politique de confidentialité complète de %1 se trouve sur le site web.</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>En savoir plus</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>Aucune app de messagerie n’a pu être ouverte. Écrivez à %1.</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>Disques de sauvegarde</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>Dossiers</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>Exclusions</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>Les sauvegardes sont effectuées sur ces disques. Tout y est chiffré ; les clés se trouvent dans votre dossier personnel.</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>Ces dossiers sont sauvegardés avec tout leur contenu.</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>Ces fichiers et dossiers sont exclus de toutes les sauvegardes.</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>Il n’y a pas encore de disque de sauvegarde. Pour commencer, ajoutez un disque ou un dossier sur un disque.</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>Aucun dossier n’est sauvegardé.</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>Rien n’est exclu. Ajoutez ce qui n’a pas besoin d’être sauvegardé, par exemple des téléchargements que vous pouvez refaire.</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>Lecture des réglages…</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>Connecté</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>Non connecté</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>Dernière sauvegarde : %1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>Pas encore de sauvegarde</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>Ajouter un disque</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>Ajouter un fichier</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>Retirer</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>Réessayer</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1 (%2 libres)</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>Aucun autre disque n’est connecté</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>« %1 » n’a pas pu être ajouté.</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>« %1 » n’a pas pu être retiré.</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>Ne plus sauvegarder sur « %1 » ?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>Les sauvegardes qui s’y trouvent sont conservées, ainsi que leur clé. Ajoutez à nouveau le même dossier pour les poursuivre.</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>Les réglages n’ont pas pu être lus : %1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutil ne répond pas.</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>L’outil « %1 » ne peut pas être lancé.</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutil s’est terminé avec le code de sortie %1.</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>La réponse de tmutil est incompréhensible.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>Oggi</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>Domani</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>Ieri</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>N/D</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>Non attivo</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>Sconosciuto</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>Avvio</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>Ricerca del disco di backup</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>Connessione al disco di backup</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>Preparazione del backup</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>Copia</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>Pulizia</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>Verifica del backup</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>Completamento</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>Chiudi</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>Consenti</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>Autorizzazione richiesta</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>Per aprire le preferenze di Time Machine, fai clic su “%1” e consenti a %2 di controllare Preferenze di Sistema. Quindi riprova.</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>Prossimo</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>Riprova</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>Avvio</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>In corso</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>Arresto</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>Ultimo backup</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>Fase</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>copiati</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>Disco di backup</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>Prossimo backup</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>Disattivato</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>Nessun backup programmato</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>Nuovo tentativo</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>Tempo rimanente</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>Calcolo in corso</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>Esegui backup adesso</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>Salta questo backup</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>Salta questo backup</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>Salta nuovo tentativo</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Entra in Time Machine</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Sfoglia i backup di Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>Apri preferenze Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>Apri impostazioni Time Machine</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>Aggiornamento disponibile</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>Informazioni su Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>Esci da %1</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>Sospendi programmazione per</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>Programmazione sospesa fino a</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>Riprendi programmazione</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 ora</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 ore</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 ore</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 ore</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 ore</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 giorno</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 giorni</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 giorni</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 giorni</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 giorni</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 giorni</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 settimana</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 settimane</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 settimane</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 settimane</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Lascia scegliere a Time Machine</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>più recente</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>Ultimo backup di ogni disco</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>Questo elenco mostra, per ogni disco di backup, l’ultimo backup che Quillon ha visto completarsi. Su un disco senza data non è stato completato alcun backup da quando è installato Quillon.</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>Aiuto</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>Attenzione</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>Impossibile avviare il backup. Time Machine ha risposto con il codice di errore %1.</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1 è disponibile</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>La versione installata è %1. La pagina di download verrà aperta nel browser e Quillon verrà chiuso per poter essere sostituito.</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>Ottieni aggiornamento</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>Annulla</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>Ripristinare dai backup</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>Ultimo backup di ogni disco:
+%1
+
+Elencare tutti i backup:
+%2
+
+Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio:
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>Ripristino</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>Backup programmati</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>Programma i backup per</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>giorno e ora</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>intervallo</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>Programmazione</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>Avviso sui backup automatici</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>Aggiungi regola</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>Elimina regola</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>Backup</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>ogni giorno</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>dal lunedì al venerdì</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>ogni lunedì</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>ogni martedì</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>ogni mercoledì</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>ogni giovedì</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>ogni venerdì</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>ogni sabato</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>ogni domenica</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>alle</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>Backup ogni</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>h</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>L’intervallo non viene ancora utilizzato: i backup iniziano nei giorni e agli orari delle regole.</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>Nuovo tentativo</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>Riprova dopo un backup mancato</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>Riprova dopo un backup non riuscito</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>Barra dei menu</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>Mostra tempi dettagliati</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>A partire da un’ora vengono mostrati anche i minuti; a partire da un giorno, anche le ore.</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>Mostra solo l’icona</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>Colora l’icona quando richiede attenzione</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>Dischi e login</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>Alterna i dischi di backup</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>Apri Quillon al login</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>Impossibile aggiungere altre regole</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>Una programmazione può avere al massimo %1 regole. Modificane o eliminane una.</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>Eliminare questa regola?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>I backup non inizieranno più agli orari che indica.</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>Riprova dopo un backup mancato</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>Se il computer è in stop all’ora di un backup programmato, il backup inizia circa cinque minuti dopo la riattivazione. Mentre la programmazione è sospesa non ci sono nuovi tentativi.</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>Riprova dopo un backup non riuscito</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>Se un backup termina prima di essere completo, Quillon riprova circa cinque minuti dopo. Non ci sono nuovi tentativi per i backup che interrompi tu, né mentre la programmazione è sospesa.</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>Elimina</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>Ti diamo il benvenuto in %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2 si trova nella barra dei menu. Avvia i backup agli orari che scegli nelle sue impostazioni.
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>Se Time Machine esegue anche backup automatici, disattivali: così i backup inizieranno solo quando li hai programmati. Sul Mac, apri Preferenze di Sistema, fai clic su Time Machine e deseleziona “Esegui backup automaticamente”.</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>Se Time Machine esegue anche backup automatici, disattivali: così i backup inizieranno solo quando li hai programmati. Sul Mac, apri Impostazioni di Sistema, scegli Generali &gt; Time Machine &gt; Opzioni e imposta “Frequenza backup” su “Manualmente”.</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>Aiuto</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>Versione</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 gli autori di Quillon</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>Domande, idee o qualcosa che non funziona? Scrivici.</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Sito web</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>Riconoscimenti</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>Icona dell’app</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillon non invia nulla su di te o sui tuoi file.</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>Termini di utilizzo</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>Informativa sulla privacy</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1 conserva le impostazioni e il registro dei backup su questo computer. Per sapere se ci sono nuove versioni, %1 consulta un servizio del produttore; la richiesta identifica %1, non te. L’informativa completa sulla privacy di %1 si trova sul sito web.</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>Leggi tutto</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>Impossibile aprire un’app per l’email. Scrivi a %1.</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>Dischi di backup</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>Cartelle</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>Esclusioni</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>I backup vengono eseguiti su questi dischi. Tutto il contenuto è codificato; le chiavi si trovano nella tua cartella Inizio.</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>Viene eseguito il backup di queste cartelle con tutto il loro contenuto.</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>Questi file e cartelle sono esclusi da tutti i backup.</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>Non c’è ancora alcun disco di backup. Per iniziare, aggiungi un disco o una cartella su un disco.</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>Non viene eseguito il backup di alcuna cartella.</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>Non è escluso nulla. Aggiungi ciò che non ha bisogno di backup, ad esempio i download che puoi ripetere.</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>Lettura delle impostazioni…</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>Collegato</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>Non collegato</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>Ultimo backup: %1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>Ancora nessun backup</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>Aggiungi disco</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>Aggiungi cartella</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>Aggiungi file</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>Annulla</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>Riprova</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1 (%2 disponibili)</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>Nessun altro disco è collegato</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>Impossibile aggiungere “%1”.</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>Impossibile rimuovere “%1”.</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>Non eseguire più il backup su “%1”?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>I backup che contiene vengono conservati, e così la loro chiave. Per continuarli, aggiungi di nuovo la stessa cartella.</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>Impossibile leggere le impostazioni: %1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutil non risponde.</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>Impossibile avviare lo strumento “%1”.</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutil è terminato con lo stato di uscita %1.</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>La risposta di tmutil non è comprensibile.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>今日</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>明日</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>昨日</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>なし</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>停止中</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>不明</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>開始中</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>バックアップディスクを検索中</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>バックアップディスクに接続中</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>バックアップを準備中</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>コピー中</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>整理中</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>バックアップを検証中</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>終了処理中</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>閉じる</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>アクセスを許可</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>アクセス許可が必要です</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>Time Machine環境設定を開くには、「%1」をクリックして、%2による「システム環境設定」の制御を許可してから、もう一度試してください。</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>次回</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>再試行</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>開始中</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>実行中</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>停止処理中</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>最新のバックアップ</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>状況</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>コピー済み</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>バックアップディスク</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>次回のバックアップ</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>オフ</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>バックアップの予定はありません</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>再試行</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>残り時間</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>計算中</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>今すぐバックアップを作成</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>このバックアップをスキップ</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>このバックアップをスキップ</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>再試行をスキップ</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Time Machineに入る</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Time Machineバックアップをブラウズ</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>「Time Machine」環境設定を開く</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>「Time Machine」設定を開く</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>アップデートがあります</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>設定</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>Quillonについて</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>%1を終了</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>スケジュールを一時停止</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>スケジュールの一時停止期限</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>スケジュールを再開</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1時間</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2時間</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4時間</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8時間</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12時間</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1日</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2日</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3日</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4日</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5日</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6日</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1週間</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2週間</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3週間</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4週間</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Time Machineに任せる</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>最近使用</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>各ディスクの最新のバックアップ</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>このリストには、各バックアップディスクについて、Quillonが完了を確認した最新のバックアップが表示されます。日付のないディスクでは、Quillonのインストール後に完了したバックアップがありません。</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>ヘルプ</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>警告</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>バックアップを開始できませんでした。Time Machineからエラーコード%1が返されました。</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1が利用可能です</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>現在のバージョンは%1です。ブラウザでダウンロードページが開きます。Quillonは、置き換えられるように終了します。</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>アップデートを入手</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>キャンセル</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>バックアップからの復元</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>各ディスクの最新のバックアップ：
+%1
+
+すべてのバックアップの一覧：
+%2
+
+最新のバックアップからフォルダを復元（ホームフォルダにコピーを作成）：
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>復元</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>バックアップの予定</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>バックアップの予定の指定方法</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>曜日と時刻</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>間隔</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>スケジュール</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>自動バックアップについての警告</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>ルールを追加</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>ルールを削除</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>バックアップ日時</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>毎日</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>月曜日から金曜日</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>毎週月曜日</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>毎週火曜日</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>毎週水曜日</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>毎週木曜日</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>毎週金曜日</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>毎週土曜日</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>毎週日曜日</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>の</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>バックアップの間隔</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>時間</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>間隔はまだ使用されません。バックアップは、ルールの曜日と時刻に開始されます。</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>再試行</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>逃したバックアップを再試行</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>失敗したバックアップを再試行</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>メニューバー</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>時間を詳しく表示</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>1時間以上では分も、1日以上では時間も表示します。</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>アイコンのみを表示</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>注意が必要なときにアイコンに色を付ける</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>ディスクとログイン</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>バックアップディスクを交互に使用</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>ログイン時にQuillonを開く</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>これ以上ルールを追加できません</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>スケジュールのルールは最大%1個です。いずれかのルールを変更または削除してください。</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>このルールを削除しますか?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>このルールの時刻にはバックアップが開始されなくなります。</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>逃したバックアップの再試行</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>予定の時刻にコンピュータがスリープしていた場合は、スリープ解除の約5分後にバックアップが開始されます。スケジュールの一時停止中は再試行されません。</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>失敗したバックアップの再試行</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>バックアップが完了せずに終わった場合は、約5分後にもう一度試行されます。自分で停止したバックアップは再試行されません。スケジュールの一時停止中も再試行されません。</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>削除</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>%1へようこそ</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2はメニューバーにあります。設定で選んだ時刻にバックアップを開始します。
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>Time Machineの自動バックアップがオンの場合は、予定した時刻にだけバックアップが開始されるように、オフにしてください。Macでは、「システム環境設定」を開き、「Time Machine」をクリックして、「バックアップを自動作成」の選択を解除します。</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>Time Machineの自動バックアップがオンの場合は、予定した時刻にだけバックアップが開始されるように、オフにしてください。Macでは、「システム設定」を開き、「一般」&gt;「Time Machine」&gt;「オプション」と選択して、「バックアップ頻度」を「手動」に設定します。</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>ヘルプ</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>バージョン</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 Quillonの作者</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>ご質問、ご意見、不具合のご報告をお寄せください。</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Webサイト</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>クレジット</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>アプリのアイコン</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillonは、ユーザやファイルに関する情報を送信しません。</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>利用規約</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>プライバシーポリシー</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1は、設定とバックアップの記録をこのコンピュータに保存します。%1は、新しいバージョンを確認するために開発元のサービスに問い合わせます。この問い合わせで識別されるのは%1であり、ユーザではありません。%1のプライバシーポリシーの全文はWebサイトにあります。</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>詳しく読む</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>メールアプリを開けませんでした。%1宛てにお送りください。</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>バックアップディスク</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>フォルダ</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>除外</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>バックアップはこれらのディスクに作成されます。内容はすべて暗号化され、鍵はホームフォルダに保管されます。</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>これらのフォルダが、中の項目もすべて含めてバックアップされます。</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>これらのファイルとフォルダは、どのバックアップにも含まれません。</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>バックアップディスクがまだありません。まずディスク、またはディスク上のフォルダを追加してください。</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>バックアップされるフォルダがありません。</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>除外項目はありません。もう一度ダウンロードできるファイルなど、バックアップが不要な項目を追加してください。</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>設定を読み込み中…</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>接続済み</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>未接続</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>最新のバックアップ：%1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>バックアップはまだありません</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>ディスクを追加</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>フォルダを追加</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>ファイルを追加</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>取り除く</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>キャンセル</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>再試行</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1（空き%2）</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>ほかに接続されているディスクはありません</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>「%1」を追加できませんでした。</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>「%1」を取り除けませんでした。</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>「%1」へのバックアップをやめますか?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>保存されているバックアップとその鍵は残ります。同じフォルダをもう一度追加すると、続きから使用できます。</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>設定を読み込めませんでした：%1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutilが応答しません。</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>ツール「%1」を開始できません。</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutilが終了ステータス%1で終了しました。</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>tmutilの応答を解釈できません。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>Vandaag</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>Morgen</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>Gisteren</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>n.v.t.</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>Niet actief</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>Onbekend</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>Starten</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>Reservekopieschijf zoeken</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>Verbinden met reservekopieschijf</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>Reservekopie voorbereiden</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>Opruimen</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>Reservekopie controleren</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>Voltooien</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>Sluit</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>Geef toestemming</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>Toestemming vereist</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>Om de Time Machine-voorkeuren te openen, klik je op ‘%1’ en sta je %2 toe om Systeemvoorkeuren te bedienen. Probeer het daarna opnieuw.</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>Volgende</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>Start</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>Actief</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>Stopt</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>Laatste reservekopie</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>Fase</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>gekopieerd</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>Reservekopieschijf</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>Volgende reservekopie</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>Uitgeschakeld</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>Geen reservekopie gepland</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>Nieuwe poging</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>Resterende tijd</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>Wordt berekend</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>Maak nu een reservekopie</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>Sla deze reservekopie over</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>Sla deze reservekopie over</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>Sla nieuwe poging over</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Open Time Machine</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Blader door Time Machine-reservekopieën</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>Open Time Machine-voorkeuren</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>Open Time Machine-instellingen</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>Update beschikbaar</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>Instellingen</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>Over Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>Stop %1</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>Onderbreek schema gedurende</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>Schema onderbroken tot</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>Hervat schema</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 uur</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 uur</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 uur</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 uur</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 uur</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 dag</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 dagen</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 dagen</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 dagen</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 dagen</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 dagen</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 week</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 weken</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 weken</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 weken</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Laat Time Machine kiezen</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>meest recent</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>Laatste reservekopie op elke schijf</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>Deze lijst toont voor elke reservekopieschijf de laatste reservekopie die Quillon heeft zien voltooien. Op een schijf zonder datum is geen reservekopie voltooid sinds Quillon is geïnstalleerd.</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>Help</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>De reservekopie kon niet worden gestart. Time Machine antwoordde met foutcode %1.</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1 is beschikbaar</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>Je hebt versie %1. De downloadpagina wordt in je browser geopend en Quillon wordt gestopt, zodat het kan worden vervangen.</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>Download update</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>Annuleer</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>Herstellen vanuit reservekopieën</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>Laatste reservekopie op elke schijf:
+%1
+
+Alle reservekopieën tonen:
+%2
+
+Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>Hersteld</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>Geplande reservekopieën</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>Plan reservekopieën op</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>dag en tijd</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>interval</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>Schema</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>Waarschuwing over automatische reservekopieën</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>Voeg regel toe</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>Verwijder regel</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>Reservekopie</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>elke dag</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>maandag tot en met vrijdag</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>elke maandag</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>elke dinsdag</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>elke woensdag</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>elke donderdag</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>elke vrijdag</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>elke zaterdag</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>elke zondag</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>om</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>Reservekopie elke</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>uur</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>Het interval wordt nog niet gebruikt: reservekopieën starten op de dagen en tijden van de regels.</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>Nieuwe poging</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>Probeer opnieuw na gemiste reservekopie</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>Probeer opnieuw na mislukte reservekopie</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>Menubalk</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>Toon gedetailleerde tijden</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>Vanaf een uur worden ook de minuten getoond, vanaf een dag ook de uren.</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>Toon alleen het symbool</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>Kleur het symbool als het aandacht vraagt</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>Schijven en inloggen</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>Wissel tussen reservekopieschijven</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>Open Quillon bij inloggen</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>Er kunnen geen regels meer bij</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>Een schema heeft hoogstens %1 regels. Wijzig of verwijder er in plaats daarvan een.</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>Deze regel verwijderen?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>Op de tijden van deze regel worden geen reservekopieën meer gestart.</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>Opnieuw proberen na gemiste reservekopie</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>Als de computer slaapt op het tijdstip van een geplande reservekopie, start die reservekopie ongeveer vijf minuten nadat de computer is ontwaakt. Zolang het schema is onderbroken, wordt niets opnieuw geprobeerd.</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>Opnieuw proberen na mislukte reservekopie</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>Als een reservekopie voortijdig eindigt, probeert Quillon het ongeveer vijf minuten later opnieuw. Reservekopieën die je zelf stopt, worden niet opnieuw geprobeerd; zolang het schema is onderbroken, gebeurt dat evenmin.</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>Verwijder</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>Welkom bij %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2 staat in de menubalk en start je reservekopieën op de tijden die je in de instellingen kiest.
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>Als Time Machine ook automatisch reservekopieën maakt, schakel je dat uit, zodat reservekopieën alleen starten wanneer jij ze hebt gepland. Op een Mac open je Systeemvoorkeuren, klik je op ‘Time Machine’ en schakel je ‘Maak automatisch reservekopie’ uit.</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>Als Time Machine ook automatisch reservekopieën maakt, schakel je dat uit, zodat reservekopieën alleen starten wanneer jij ze hebt gepland. Op een Mac open je Systeeminstellingen, kies je ‘Algemeen’ &gt; ‘Time Machine’ &gt; ‘Opties’ en stel je ‘Reservekopiefrequentie’ in op ‘Handmatig’.</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>Help</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>Versie</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 de auteurs van Quillon</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>Een vraag, een idee of iets dat niet werkt? Schrijf ons.</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Website</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>Dankbetuiging</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>Appsymbool</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillon verstuurt niets over jou of je bestanden.</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>Gebruiksvoorwaarden</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>Privacybeleid</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1 bewaart je instellingen en de gegevens over je reservekopieën op deze computer. Om te weten of er nieuwe versies zijn, raadpleegt %1 een dienst van de maker; dat verzoek noemt %1, niet jou. Het volledige privacybeleid van %1 staat op de website.</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>Lees meer</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>Er kon geen mailapp worden geopend. Schrijf naar %1.</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>Reservekopieschijven</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>Mappen</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>Uitgesloten</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>Reservekopieën worden op deze schijven gemaakt. Alles erop is versleuteld; de sleutels staan in je thuismap.</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>Van deze mappen wordt een reservekopie gemaakt, met alles erin.</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>Deze bestanden en mappen komen in geen enkele reservekopie.</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>Er is nog geen reservekopieschijf. Voeg om te beginnen een schijf toe, of een map op een schijf.</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>Van geen enkele map wordt een reservekopie gemaakt.</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>Er is niets uitgesloten. Voeg toe wat geen reservekopie nodig heeft, zoals downloads die je opnieuw kunt ophalen.</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>Instellingen lezen…</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>Verbonden</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>Niet verbonden</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>Laatste reservekopie: %1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>Nog geen reservekopie</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>Voeg schijf toe</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>Voeg map toe</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>Voeg bestand toe</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>Verwijder</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>Annuleer</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>Probeer opnieuw</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1 (%2 vrij)</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>Er is geen andere schijf verbonden</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>‘%1’ kon niet worden toegevoegd.</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>‘%1’ kon niet worden verwijderd.</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>Geen reservekopieën meer maken op ‘%1’?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>De reservekopieën erop blijven bewaard, en de sleutel ook. Voeg dezelfde map opnieuw toe om ermee door te gaan.</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>De instellingen konden niet worden gelezen: %1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutil reageert niet.</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>Het programma ‘%1’ kan niet worden gestart.</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutil eindigde met afsluitstatus %1.</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>Het antwoord van tmutil is onleesbaar.</translation>
+    </message>
+</context>
+</TS>

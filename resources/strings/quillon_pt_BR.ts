@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>Hoje</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>Amanhã</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>Ontem</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>N/D</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>Inativo</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>Desconhecido</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>Iniciando</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>Procurando o Disco de Backup</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>Conectando ao Disco de Backup</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>Preparando o Backup</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>Copiando</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>Fazendo Limpeza</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>Verificando o Backup</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>Finalizando</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>Fechar</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>Dar Permissão</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>Permissão Necessária</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>Para abrir as preferências do Time Machine, clique em “%1” e permita que o %2 controle as Preferências do Sistema. Depois, tente novamente.</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>Próximo</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>Repetir</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>Iniciando</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>Executando</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>Parando</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>Último Backup</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>Fase</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>copiados</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>Disco de Backup</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>Próximo Backup</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>Desativado</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>Nenhum backup programado</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>Nova Tentativa</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>Tempo Restante</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>Calculando</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>Fazer Backup Agora</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>Ignorar Este Backup</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>Ignorar Este Backup</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>Ignorar Nova Tentativa</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>Entrar no Time Machine</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>Explorar Backups do Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>Abrir Preferências do Time Machine</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>Abrir Ajustes do Time Machine</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>Atualização Disponível</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>Ajustes</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>Sobre o Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>Encerrar %1</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>Pausar Programação por</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>Programação Pausada até</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>Retomar Programação</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 Hora</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 Horas</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 Horas</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 Horas</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 Horas</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 Dia</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 Dias</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 Dias</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 Dias</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 Dias</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 Dias</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 Semana</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 Semanas</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 Semanas</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 Semanas</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>Deixar o Time Machine Escolher</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>mais recente</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>Último Backup de Cada Disco</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>Esta lista mostra, para cada disco de backup, o último backup que o Quillon viu ser concluído. Em um disco sem data, nenhum backup foi concluído desde a instalação do Quillon.</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>Ajuda</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>Aviso</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>Não foi possível iniciar o backup. O Time Machine respondeu com o código de erro %1.</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>O Quillon %1 está disponível</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>Você tem a versão %1. A página de download será aberta no navegador e o Quillon será encerrado para que possa ser substituído.</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>Obter Atualização</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>Restauração a Partir dos Backups</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>Último backup de cada disco:
+%1
+
+Listar todos os backups:
+%2
+
+Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>Restaurado</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>Backups Programados</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>Programar backups por</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>dia e hora</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>intervalo</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>Programação</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>Aviso sobre backups automáticos</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>Adicionar Regra</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>Apagar Regra</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>Fazer backup</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>todos os dias</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>de segunda a sexta-feira</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>toda segunda-feira</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>toda terça-feira</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>toda quarta-feira</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>toda quinta-feira</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>toda sexta-feira</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>todo sábado</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>todo domingo</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>às</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>Fazer backup a cada</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>h</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>O intervalo ainda não é usado: os backups começam nos dias e horários das regras.</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>Nova Tentativa</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>Tentar novamente após um backup perdido</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>Tentar novamente após uma falha no backup</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>Barra de Menus</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>Mostrar tempos detalhados</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>A partir de uma hora, os minutos também são mostrados; a partir de um dia, também as horas.</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>Mostrar apenas o ícone</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>Colorir o ícone quando ele precisar da sua atenção</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>Discos e Início de Sessão</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>Alternar entre os discos de backup</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>Abrir o Quillon ao iniciar a sessão</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>Não É Possível Adicionar Mais Regras</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>Uma programação tem no máximo %1 regras. Em vez disso, altere ou apague uma delas.</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>Apagar Esta Regra?</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>Os backups não começarão mais nos horários dela.</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>Nova Tentativa Após um Backup Perdido</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>Se o computador estiver em repouso no horário de um backup programado, o backup começará cerca de cinco minutos depois que o computador despertar. Enquanto a programação estiver pausada, não haverá novas tentativas.</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>Nova Tentativa Após uma Falha no Backup</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>Se um backup terminar antes de ser concluído, o Quillon tentará novamente cerca de cinco minutos depois. Não há novas tentativas para os backups que você mesmo interrompe nem enquanto a programação estiver pausada.</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>Apagar</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>Boas-vindas ao %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>O %2 está na barra de menus. Ele inicia seus backups nos horários que você escolher nos ajustes.
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>Se o Time Machine também fizer backups automáticos, desative-os para que os backups comecem somente quando você os tiver programado. No Mac, abra as Preferências do Sistema, clique em Time Machine e desmarque “Fazer Backup Automaticamente”.</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>Se o Time Machine também fizer backups automáticos, desative-os para que os backups comecem somente quando você os tiver programado. No Mac, abra os Ajustes do Sistema, escolha Geral &gt; Time Machine &gt; Opções e defina “Frequência de backup” como “Manualmente”.</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>Ajuda</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>Versão</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 os autores do Quillon</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>Dúvidas, ideias ou algo que não funciona? Escreva para nós.</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>Site</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>Créditos</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>Ícone do App</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>O Quillon não envia nada sobre você nem sobre os seus arquivos.</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>Termos de Uso</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>Política de Privacidade</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>O %1 mantém os seus ajustes e o registro dos backups neste computador. Para saber de novas versões, o %1 consulta um serviço do fabricante; a solicitação identifica o %1, não você. A política de privacidade completa do %1 está no site.</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>Ler Mais</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>Não foi possível abrir um app de e-mail. Escreva para %1.</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>Discos de Backup</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>Pastas</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>Exclusões</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>Os backups são feitos nestes discos. Tudo neles é criptografado; as chaves ficam na sua pasta pessoal.</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>O backup destas pastas é feito com tudo o que há nelas.</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>Estes arquivos e pastas ficam fora de todos os backups.</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>Ainda não há um disco de backup. Para começar, adicione um disco ou uma pasta em um disco.</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>Não é feito backup de nenhuma pasta.</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>Nada foi excluído. Adicione o que não precisa de backup, como downloads que podem ser feitos novamente.</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>Lendo os ajustes…</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>Conectado</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>Não conectado</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>Último backup: %1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>Ainda sem backup</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>Adicionar Disco</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>Adicionar Pasta</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>Adicionar Arquivo</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>Remover</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>Tentar Novamente</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1 (%2 livres)</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>Nenhum outro disco está conectado</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>Não foi possível adicionar “%1”.</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>Não foi possível remover “%1”.</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>Parar de fazer backup em “%1”?</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>Os backups nele são mantidos, assim como a chave. Para continuá-los, adicione a mesma pasta novamente.</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>Não foi possível ler os ajustes: %1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>O tmutil não responde.</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>Não é possível iniciar a ferramenta “%1”.</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>O tmutil terminou com o status de saída %1.</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>A resposta do tmutil não faz sentido.</translation>
+    </message>
+</context>
+</TS>

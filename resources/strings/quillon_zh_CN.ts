@@ -1,0 +1,714 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<context>
+    <name></name>
+    <!-- Days -->
+    <message id="todayTitle">
+        <source></source>
+        <translation>今天</translation>
+    </message>
+    <message id="tomorrowTitle">
+        <source></source>
+        <translation>明天</translation>
+    </message>
+    <message id="yesterdayTitle">
+        <source></source>
+        <translation>昨天</translation>
+    </message>
+    <!-- What Time Machine is doing -->
+    <message id="notAvailableAbbreviation">
+        <source></source>
+        <translation>无</translation>
+    </message>
+    <message id="tmPhaseDefault">
+        <source></source>
+        <translation>未运行</translation>
+    </message>
+    <message id="tmPhaseUnknown">
+        <source></source>
+        <translation>未知</translation>
+    </message>
+    <message id="tmPhaseStarting">
+        <source></source>
+        <translation>正在启动</translation>
+    </message>
+    <message id="tmPhaseLookingForDisk">
+        <source></source>
+        <translation>正在查找备份磁盘</translation>
+    </message>
+    <message id="tmPhaseConnectingToDisk">
+        <source></source>
+        <translation>正在连接备份磁盘</translation>
+    </message>
+    <message id="tmPhasePreparingBackup">
+        <source></source>
+        <translation>正在准备备份</translation>
+    </message>
+    <message id="tmPhaseCopying">
+        <source></source>
+        <translation>正在拷贝</translation>
+    </message>
+    <message id="tmPhaseCleaningUp">
+        <source></source>
+        <translation>正在清理</translation>
+    </message>
+    <message id="tmPhaseHealthCheck">
+        <source></source>
+        <translation>正在检查备份</translation>
+    </message>
+    <message id="tmPhaseFinishing">
+        <source></source>
+        <translation>正在完成</translation>
+    </message>
+    <!-- Alerts -->
+    <message id="AlertButtonClose">
+        <source></source>
+        <translation>关闭</translation>
+    </message>
+    <message id="AlertButtonProvidePermission">
+        <source></source>
+        <translation>授予权限</translation>
+    </message>
+    <message id="permissionRequiredAlertTitle">
+        <source></source>
+        <translation>需要权限</translation>
+    </message>
+    <message id="timeMachinePermissionRequiredAlertMessage">
+        <source></source>
+        <translation>若要打开“时间机器”偏好设置，请点按“%1”并允许 %2 控制“系统偏好设置”，然后再试一次。</translation>
+    </message>
+    <!-- Menu bar title -->
+    <message id="nextBackupShortTitle">
+        <source></source>
+        <translation>下次</translation>
+    </message>
+    <message id="retryBackupShortTitle">
+        <source></source>
+        <translation>重试</translation>
+    </message>
+    <message id="statusStarting">
+        <source></source>
+        <translation>正在启动</translation>
+    </message>
+    <message id="statusRunning">
+        <source></source>
+        <translation>正在运行</translation>
+    </message>
+    <message id="statusStopping">
+        <source></source>
+        <translation>正在停止</translation>
+    </message>
+    <!-- Menu -->
+    <message id="latestBackupTitle">
+        <source></source>
+        <translation>最近一次备份</translation>
+    </message>
+    <message id="phaseTitle">
+        <source></source>
+        <translation>阶段</translation>
+    </message>
+    <message id="copiedWord">
+        <source></source>
+        <translation>已拷贝</translation>
+    </message>
+    <message id="backupDiskTitle">
+        <source></source>
+        <translation>备份磁盘</translation>
+    </message>
+    <message id="nextBackupTitle">
+        <source></source>
+        <translation>下次备份</translation>
+    </message>
+    <message id="nextBackupDisabled">
+        <source></source>
+        <translation>已停用</translation>
+    </message>
+    <message id="nextBackupNotAvailable">
+        <source></source>
+        <translation>没有计划的备份</translation>
+    </message>
+    <message id="retryAttemptTitle">
+        <source></source>
+        <translation>重试</translation>
+    </message>
+    <message id="remainingTimeTitle">
+        <source></source>
+        <translation>剩余时间</translation>
+    </message>
+    <message id="calculatingTitle">
+        <source></source>
+        <translation>正在计算</translation>
+    </message>
+    <message id="backupNowTitle">
+        <source></source>
+        <translation>立即备份</translation>
+    </message>
+    <message id="skipThisBackupTitle">
+        <source></source>
+        <translation>跳过此备份</translation>
+    </message>
+    <message id="skipThisBackupTitleVentura">
+        <source></source>
+        <translation>跳过此备份</translation>
+    </message>
+    <message id="skipRetryAttemptTitle">
+        <source></source>
+        <translation>跳过重试</translation>
+    </message>
+    <message id="enterTimeMachineTitle">
+        <source></source>
+        <translation>进入“时间机器”</translation>
+    </message>
+    <message id="enterTimeMachineTitleVentura">
+        <source></source>
+        <translation>浏览“时间机器”备份</translation>
+    </message>
+    <message id="openSystemPreferencesTitle">
+        <source></source>
+        <translation>打开“时间机器”偏好设置</translation>
+    </message>
+    <message id="openSystemPreferencesTitleVentura">
+        <source></source>
+        <translation>打开“时间机器”设置</translation>
+    </message>
+    <message id="updateAvailableMenuTitle">
+        <source></source>
+        <translation>有可用更新</translation>
+    </message>
+    <message id="preferencesMenuTitle">
+        <source></source>
+        <translation>设置</translation>
+    </message>
+    <message id="aboutMenuTitle">
+        <source></source>
+        <translation>关于 Quillon</translation>
+    </message>
+    <message id="quitApplicationTitle">
+        <source></source>
+        <translation>退出 %1</translation>
+    </message>
+    <!-- Pause -->
+    <message id="pauseScheduleForTitle">
+        <source></source>
+        <translation>暂停计划</translation>
+    </message>
+    <message id="pauseScheduleUntilTitle">
+        <source></source>
+        <translation>计划暂停至</translation>
+    </message>
+    <message id="resumeScheduleTitle">
+        <source></source>
+        <translation>恢复计划</translation>
+    </message>
+    <message id="oneHourTitle">
+        <source></source>
+        <translation>1 小时</translation>
+    </message>
+    <message id="twoHoursTitle">
+        <source></source>
+        <translation>2 小时</translation>
+    </message>
+    <message id="fourHoursTitle">
+        <source></source>
+        <translation>4 小时</translation>
+    </message>
+    <message id="eightHoursTitle">
+        <source></source>
+        <translation>8 小时</translation>
+    </message>
+    <message id="twelveHoursTitle">
+        <source></source>
+        <translation>12 小时</translation>
+    </message>
+    <message id="oneDayTitle">
+        <source></source>
+        <translation>1 天</translation>
+    </message>
+    <message id="twoDaysTitle">
+        <source></source>
+        <translation>2 天</translation>
+    </message>
+    <message id="threeDaysTitle">
+        <source></source>
+        <translation>3 天</translation>
+    </message>
+    <message id="fourDaysTitle">
+        <source></source>
+        <translation>4 天</translation>
+    </message>
+    <message id="fiveDaysTitle">
+        <source></source>
+        <translation>5 天</translation>
+    </message>
+    <message id="sixDaysTitle">
+        <source></source>
+        <translation>6 天</translation>
+    </message>
+    <message id="oneWeekTitle">
+        <source></source>
+        <translation>1 周</translation>
+    </message>
+    <message id="twoWeeksTitle">
+        <source></source>
+        <translation>2 周</translation>
+    </message>
+    <message id="threeWeeksTitle">
+        <source></source>
+        <translation>3 周</translation>
+    </message>
+    <message id="fourWeeksTitle">
+        <source></source>
+        <translation>4 周</translation>
+    </message>
+    <!-- The menu as it opens -->
+    <message id="letMacOsDecideBackupDiskTitle">
+        <source></source>
+        <translation>让“时间机器”选取</translation>
+    </message>
+    <message id="mostRecentTitle">
+        <source></source>
+        <translation>最近使用</translation>
+    </message>
+    <message id="latestBackupOfEachDestinationTitle">
+        <source></source>
+        <translation>每个磁盘的最近一次备份</translation>
+    </message>
+    <message id="allBackupInfoHelpMessage">
+        <source></source>
+        <translation>此列表显示 Quillon 在每个备份磁盘上看到的最近一次完成的备份。没有日期的磁盘自 Quillon 安装以来尚未完成过备份。</translation>
+    </message>
+    <message id="helpButtonTitle">
+        <source></source>
+        <translation>帮助</translation>
+    </message>
+    <!-- What the commands tell -->
+    <message id="AlertTitleWarning">
+        <source></source>
+        <translation>警告</translation>
+    </message>
+    <message id="failedToStartBackupMessage">
+        <source></source>
+        <translation>未能开始备份。“时间机器”返回了错误代码 %1。</translation>
+    </message>
+    <message id="appUpdateAvailableAlertTitle">
+        <source></source>
+        <translation>Quillon %1 可供下载</translation>
+    </message>
+    <message id="appUpdateAvailableAlertMessage">
+        <source></source>
+        <translation>你的版本是 %1。浏览器将打开下载页面，Quillon 随后将退出以便替换。</translation>
+    </message>
+    <message id="AlertButtonGetUpdate">
+        <source></source>
+        <translation>获取更新</translation>
+    </message>
+    <message id="AlertButtonCancel">
+        <source></source>
+        <translation>取消</translation>
+    </message>
+    <!-- Where there is no Time Machine application -->
+    <message id="restoreGuideTitle">
+        <source></source>
+        <translation>从备份恢复</translation>
+    </message>
+    <message id="restoreGuideMessage">
+        <source></source>
+        <translation>每个磁盘的最近一次备份：
+%1
+
+列出所有备份：
+%2
+
+从最近一次备份中恢复文件夹，拷贝到个人文件夹：
+%3</translation>
+    </message>
+    <message id="restoreFolderName">
+        <source></source>
+        <translation>已恢复</translation>
+    </message>
+    <!-- The schedule in the settings panel -->
+    <message id="settingsGroupSchedule">
+        <source></source>
+        <translation>计划备份</translation>
+    </message>
+    <message id="settingsEnableScheduledBackupsVia">
+        <source></source>
+        <translation>计划备份的方式</translation>
+    </message>
+    <message id="settingsOptionCalendarInterval">
+        <source></source>
+        <translation>日期和时间</translation>
+    </message>
+    <message id="settingsOptionInterval">
+        <source></source>
+        <translation>间隔</translation>
+    </message>
+    <message id="scheduleTitle">
+        <source></source>
+        <translation>计划</translation>
+    </message>
+    <message id="warningButtonTitle">
+        <source></source>
+        <translation>关于自动备份的警告</translation>
+    </message>
+    <message id="addRuleTitle">
+        <source></source>
+        <translation>添加规则</translation>
+    </message>
+    <message id="deleteRuleTitle">
+        <source></source>
+        <translation>删除规则</translation>
+    </message>
+    <!-- A rule as one sentence: back up, day, at, time of day -->
+    <message id="backupTitle">
+        <source></source>
+        <translation>备份时间</translation>
+    </message>
+    <message id="everyDayTitle">
+        <source></source>
+        <translation>每天</translation>
+    </message>
+    <message id="weekdaysTitle">
+        <source></source>
+        <translation>周一至周五</translation>
+    </message>
+    <message id="mondayTitle">
+        <source></source>
+        <translation>每周一</translation>
+    </message>
+    <message id="tuesdayTitle">
+        <source></source>
+        <translation>每周二</translation>
+    </message>
+    <message id="wednesdayTitle">
+        <source></source>
+        <translation>每周三</translation>
+    </message>
+    <message id="thursdayTitle">
+        <source></source>
+        <translation>每周四</translation>
+    </message>
+    <message id="fridayTitle">
+        <source></source>
+        <translation>每周五</translation>
+    </message>
+    <message id="saturdayTitle">
+        <source></source>
+        <translation>每周六</translation>
+    </message>
+    <message id="sundayTitle">
+        <source></source>
+        <translation>每周日</translation>
+    </message>
+    <message id="atTimeTitle">
+        <source></source>
+        <translation>的</translation>
+    </message>
+    <!-- The interval page; the unit stands behind any number from 1 on -->
+    <message id="settingsIntervalEvery">
+        <source></source>
+        <translation>备份间隔</translation>
+    </message>
+    <message id="settingsIntervalHours">
+        <source></source>
+        <translation>小时</translation>
+    </message>
+    <message id="settingsIntervalNotYetUsed">
+        <source></source>
+        <translation>间隔尚未启用：备份会在规则指定的日期和时间开始。</translation>
+    </message>
+    <!-- The other groups of the settings panel -->
+    <message id="settingsGroupRetry">
+        <source></source>
+        <translation>重试</translation>
+    </message>
+    <message id="settingsEnableAfterMissedBackup">
+        <source></source>
+        <translation>错过备份后重试</translation>
+    </message>
+    <message id="settingsEnableAfterFailedBackup">
+        <source></source>
+        <translation>备份失败后重试</translation>
+    </message>
+    <message id="settingsGroupMenuBar">
+        <source></source>
+        <translation>菜单栏</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBar">
+        <source></source>
+        <translation>显示详细时间</translation>
+    </message>
+    <message id="settingsShowDetailedTimeInMenuBarDetails">
+        <source></source>
+        <translation>一小时以上同时显示分钟；一天以上同时显示小时。</translation>
+    </message>
+    <message id="settingsShowMenuBarIconOnly">
+        <source></source>
+        <translation>仅显示图标</translation>
+    </message>
+    <message id="settingsDisableIconColors">
+        <source></source>
+        <translation>需要注意时为图标着色</translation>
+    </message>
+    <message id="settingsGroupDisks">
+        <source></source>
+        <translation>磁盘和登录</translation>
+    </message>
+    <message id="settingsRotateBackupDisks">
+        <source></source>
+        <translation>轮流使用备份磁盘</translation>
+    </message>
+    <message id="settingsStartOnSystemStart">
+        <source></source>
+        <translation>登录时打开 Quillon</translation>
+    </message>
+    <!-- Alerts of the settings panel -->
+    <message id="maximumRulesReachedTitle">
+        <source></source>
+        <translation>无法添加更多规则</translation>
+    </message>
+    <message id="maximumRulesReachedMessage">
+        <source></source>
+        <translation>一个计划最多有 %1 条规则。请改为更改或删除其中一条。</translation>
+    </message>
+    <message id="confirmDeleteRuleTitle">
+        <source></source>
+        <translation>要删除此规则吗？</translation>
+    </message>
+    <message id="confirmDeleteRuleMessage">
+        <source></source>
+        <translation>备份将不再于此规则的时间开始。</translation>
+    </message>
+    <message id="retryAfterMissedBackupTitle">
+        <source></source>
+        <translation>错过备份后重试</translation>
+    </message>
+    <message id="retryAfterMissedBackupMessage">
+        <source></source>
+        <translation>如果电脑在计划的备份时间处于睡眠状态，该备份会在电脑唤醒约五分钟后开始。计划暂停期间不会重试。</translation>
+    </message>
+    <message id="retryAfterFailedBackupTitle">
+        <source></source>
+        <translation>备份失败后重试</translation>
+    </message>
+    <message id="retryAfterFailedBackupMessage">
+        <source></source>
+        <translation>如果备份未完成就结束，Quillon 会在约五分钟后重试。你自行停止的备份不会重试；计划暂停期间也不会重试。</translation>
+    </message>
+    <message id="AlertButtonOk">
+        <source></source>
+        <translation>好</translation>
+    </message>
+    <message id="AlertButtonDelete">
+        <source></source>
+        <translation>删除</translation>
+    </message>
+    <!-- The first launch; the instruction is also the text of the settings panel's warning -->
+    <message id="firstStartInfoAlertTitle">
+        <source></source>
+        <translation>欢迎使用 %1</translation>
+    </message>
+    <message id="firstStartInfoAlertMessage">
+        <source></source>
+        <translation>%2 位于菜单栏中，会在你于设置中选取的时间开始备份。
+
+%1</translation>
+    </message>
+    <message id="disableTmInstruction">
+        <source></source>
+        <translation>如果“时间机器”也会自动备份，请将其关闭，以便备份只在你计划的时间开始。在 Mac 上，打开“系统偏好设置”，点按“时间机器”，然后取消选择“自动备份”。</translation>
+    </message>
+    <message id="disableTmInstructionVentura">
+        <source></source>
+        <translation>如果“时间机器”也会自动备份，请将其关闭，以便备份只在你计划的时间开始。在 Mac 上，打开“系统设置”，选取“通用”&gt;“时间机器”&gt;“选项”，然后将“备份频率”设为“手动”。</translation>
+    </message>
+    <message id="AlertButtonHelp">
+        <source></source>
+        <translation>帮助</translation>
+    </message>
+    <!-- The about panel -->
+    <message id="versionTitle">
+        <source></source>
+        <translation>版本</translation>
+    </message>
+    <message id="copyrightTitle">
+        <source></source>
+        <translation>© %1 Quillon 作者</translation>
+    </message>
+    <message id="supportDetailsMessage">
+        <source></source>
+        <translation>有疑问、想法或遇到问题？请写信给我们。</translation>
+    </message>
+    <message id="websiteButtonTitle">
+        <source></source>
+        <translation>网站</translation>
+    </message>
+    <message id="creditsTitle">
+        <source></source>
+        <translation>致谢</translation>
+    </message>
+    <message id="appIconCreditsTitle">
+        <source></source>
+        <translation>App 图标</translation>
+    </message>
+    <message id="privacyPolicyDetailsMessage">
+        <source></source>
+        <translation>Quillon 不会发送任何关于你或你的文件的信息。</translation>
+    </message>
+    <message id="termsButtonTitle">
+        <source></source>
+        <translation>使用条款</translation>
+    </message>
+    <message id="privacyPolicyAlertTitle">
+        <source></source>
+        <translation>隐私政策</translation>
+    </message>
+    <message id="privacyPolicyAlertMessage">
+        <source></source>
+        <translation>%1 将设置和备份记录保存在此电脑上。为了获知新版本，%1 会查询开发者的服务；该请求标识的是 %1，而不是你。%1 的完整隐私政策请见网站。</translation>
+    </message>
+    <message id="AlertButtonReadMore">
+        <source></source>
+        <translation>阅读更多</translation>
+    </message>
+    <message id="AlertMessageMailNotConfigured">
+        <source></source>
+        <translation>未能打开邮件 App。请写信至 %1。</translation>
+    </message>
+    <!-- Window of the Time Machine settings on Linux -->
+    <message id="disksWindowTitle">
+        <source></source>
+        <translation>时间机器</translation>
+    </message>
+    <message id="disksDisksTitle">
+        <source></source>
+        <translation>备份磁盘</translation>
+    </message>
+    <message id="disksSourcesTitle">
+        <source></source>
+        <translation>文件夹</translation>
+    </message>
+    <message id="disksExclusionsTitle">
+        <source></source>
+        <translation>已排除</translation>
+    </message>
+    <message id="disksDisksExplanation">
+        <source></source>
+        <translation>备份储存在这些磁盘上。其中的所有内容均已加密；密钥保存在你的个人文件夹中。</translation>
+    </message>
+    <message id="disksSourcesExplanation">
+        <source></source>
+        <translation>这些文件夹及其中的所有内容都会备份。</translation>
+    </message>
+    <message id="disksExclusionsExplanation">
+        <source></source>
+        <translation>这些文件和文件夹不会包含在任何备份中。</translation>
+    </message>
+    <message id="disksNoDisks">
+        <source></source>
+        <translation>还没有备份磁盘。若要开始，请添加磁盘或磁盘上的文件夹。</translation>
+    </message>
+    <message id="disksNoSources">
+        <source></source>
+        <translation>没有文件夹会备份。</translation>
+    </message>
+    <message id="disksNoExclusions">
+        <source></source>
+        <translation>没有排除任何内容。请添加不需要备份的内容，例如可以重新下载的文件。</translation>
+    </message>
+    <message id="disksReading">
+        <source></source>
+        <translation>正在读取设置…</translation>
+    </message>
+    <message id="disksConnected">
+        <source></source>
+        <translation>已连接</translation>
+    </message>
+    <message id="disksNotConnected">
+        <source></source>
+        <translation>未连接</translation>
+    </message>
+    <message id="disksLastBackup">
+        <source></source>
+        <translation>最近一次备份：%1</translation>
+    </message>
+    <message id="disksNoBackupYet">
+        <source></source>
+        <translation>尚无备份</translation>
+    </message>
+    <message id="disksAddDiskTitle">
+        <source></source>
+        <translation>添加磁盘</translation>
+    </message>
+    <message id="disksAddFolderTitle">
+        <source></source>
+        <translation>添加文件夹</translation>
+    </message>
+    <message id="disksAddFileTitle">
+        <source></source>
+        <translation>添加文件</translation>
+    </message>
+    <message id="disksRemoveTitle">
+        <source></source>
+        <translation>移除</translation>
+    </message>
+    <message id="disksCancelTitle">
+        <source></source>
+        <translation>取消</translation>
+    </message>
+    <message id="disksOkTitle">
+        <source></source>
+        <translation>好</translation>
+    </message>
+    <message id="disksTryAgainTitle">
+        <source></source>
+        <translation>重试</translation>
+    </message>
+    <message id="disksFree">
+        <source></source>
+        <translation>%1（%2 可用）</translation>
+    </message>
+    <message id="disksNoOtherDisk">
+        <source></source>
+        <translation>没有连接其他磁盘</translation>
+    </message>
+    <message id="disksAddFailed">
+        <source></source>
+        <translation>未能添加“%1”。</translation>
+    </message>
+    <message id="disksRemoveFailed">
+        <source></source>
+        <translation>未能移除“%1”。</translation>
+    </message>
+    <message id="disksRemoveAlertMessage">
+        <source></source>
+        <translation>要停止备份到“%1”吗？</translation>
+    </message>
+    <message id="disksRemoveAlertInformative">
+        <source></source>
+        <translation>其中的备份及其密钥都会保留。再次添加同一文件夹即可继续使用。</translation>
+    </message>
+    <message id="disksReadFailed">
+        <source></source>
+        <translation>未能读取设置：%1</translation>
+    </message>
+    <message id="disksToolHangs">
+        <source></source>
+        <translation>tmutil 没有响应。</translation>
+    </message>
+    <message id="disksToolMissing">
+        <source></source>
+        <translation>无法启动工具“%1”。</translation>
+    </message>
+    <message id="disksToolFailed">
+        <source></source>
+        <translation>tmutil 已退出，退出状态为 %1。</translation>
+    </message>
+    <message id="disksToolUnreadable">
+        <source></source>
+        <translation>无法理解 tmutil 的回答。</translation>
+    </message>
+</context>
+</TS>
