@@ -268,9 +268,10 @@ void DisksWindow::confirmDiskRemoval(const QString& id, const QString& name)
         {.style = AlertStyle::Warning,
          .messageText = localizedString("disksRemoveAlertMessage").arg(name),
          .informativeText = localizedString("disksRemoveAlertInformative"),
-         .buttons = {localizedString("disksRemoveTitle"), localizedString("disksCancelTitle")}},
+         .buttons = {localizedString("disksCancelTitle"), localizedString("disksRemoveTitle")},
+         .destructiveButton = 1},
         [this, id, name](int response) {
-            if (response == alertFirstButtonReturn)
+            if (response == alertSecondButtonReturn)
                 change({u"removedestination"_s, u"--"_s, id}, localizedString("disksRemoveFailed").arg(name));
         });
 }

@@ -1,8 +1,9 @@
-#include "AlertBox.h"
+#include "Alert.h"
 #include "DisksWindow.h"
 #include "EntryDelegate.h"
 #include "EventLoop.h"
 #include "LocalizedString.h"
+#include "ModalAlertPresenter.h"
 #include "PracticeTmutil.h"
 #include "QtRunLoop.h"
 #include "Task.h"
@@ -16,10 +17,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -116,17 +117,26 @@ protected:
         ASSERT_TRUE(runUntil([this] { return !window_->findChild<QFileDialog*>(); }));
     }
 
-    static QMessageBox* alert()
+    static Alert* alert()
     {
-        QMessageBox* box = nullptr;
-        runUntil([&] { return (box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) != nullptr; });
-        return box;
+        Alert* shown = nullptr;
+        runUntil([&] {
+            const QWidget* window = QApplication::activeModalWidget();
+            shown = window ? window->findChild<Alert*>() : nullptr;
+            return shown != nullptr;
+        });
+        return shown;
+    }
+    static QString textOfAlert(const QString& objectName)
+    {
+        const Alert* shown = alert();
+        return shown ? shown->findChild<QTextEdit*>(objectName)->toPlainText() : QString();
     }
     static void answerAlert(const char* buttonKey)
     {
-        QMessageBox* const box = alert();
-        ASSERT_TRUE(box != nullptr);
-        for (QAbstractButton* button : box->buttons()) {
+        const Alert* const shown = alert();
+        ASSERT_TRUE(shown);
+        for (QPushButton* button : shown->buttons()) {
             if (button->text() == localizedString(buttonKey)) {
                 QTest::mouseClick(button, Qt::LeftButton);
                 runUntil([] { return !QApplication::activeModalWidget(); });
@@ -149,7 +159,7 @@ protected:
     PracticeTmutil practice_{QStringLiteral(TMUTIL_EXECUTABLE)};
     QtRunLoop runLoop_;
     Task launcher_;
-    AlertBox alerts_;
+    ModalAlertPresenter alerts_;
     std::unique_ptr<DisksWindow> window_;
 };
 
@@ -170,7 +180,7 @@ TEST_F(DisksWindowTest, AFolderIsAddedAsADiskAndRemovedOnceThatIsConfirmed)
     EXPECT_FALSE(button(Disks, localizedString("disksRemoveTitle"))->isEnabled()) << "nothing is selected";
     clickEntry(Disks, 0);
     click(Disks, localizedString("disksRemoveTitle"));
-    EXPECT_TRUE(alert()->informativeText().contains(u"are kept"_s));
+    EXPECT_TRUE(textOfAlert(u"informativeText"_s).contains(u"are kept"_s));
     answerAlert("disksCancelTitle");
     EXPECT_TRUE(practice_.run({u"destinationinfo"_s}).output.contains("Disk & <b>1"));
     QTest::keyClick(list(Disks), Qt::Key_Delete);
@@ -262,10 +272,8 @@ TEST_F(DisksWindowTest, ARefusalIsShownInTheToolsOwnWords)
     ASSERT_TRUE(eventuallyShows(Sources, {u"source"_s}));
     click(Exclusions, localizedString("disksAddFolderTitle") + u'…');
     chooseInDialog(practice_.source());
-    QMessageBox* const box = alert();
-    ASSERT_TRUE(box != nullptr);
-    EXPECT_EQ(box->text(), localizedString("disksAddFailed").arg(u"source"_s));
-    EXPECT_EQ(box->informativeText() + u'\n',
+    EXPECT_EQ(textOfAlert(u"messageText"_s), localizedString("disksAddFailed").arg(u"source"_s));
+    EXPECT_EQ(textOfAlert(u"informativeText"_s) + u'\n',
               QString::fromUtf8(practice_.run({u"addexclusion"_s, practice_.source()}).error).mid(8))
         << "without the tool's name";
     answerAlert("disksOkTitle");

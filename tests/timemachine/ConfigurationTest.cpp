@@ -154,7 +154,7 @@ TEST_F(ConfigurationTest, ExclusionsAreTakenAllOrNone)
     const QString one = folder(u"home/line\nbreak"_s);
     const QString two = folder(u"home/b [*] "_s);
     EXPECT_EQ(add({one, root_.filePath(u"missing"_s)}), ExitStatus::NoInput);
-    EXPECT_EQ(add({folder(u"return\r"_s)}), ExitStatus::NoInput) << "no XML holds it";
+    EXPECT_EQ(add({folder(u"bell\u0007"_s)}), ExitStatus::NoInput) << "no XML holds it";
     EXPECT_EQ(Configuration(folders_).exclusions(), QStringList());
     EXPECT_EQ(add({one, two, one}), ExitStatus::Success);
     EXPECT_EQ(Configuration(folders_).exclusions(), (QStringList{one, two}));

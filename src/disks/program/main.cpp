@@ -1,8 +1,8 @@
-#include "AlertBox.h"
 #include "Bundle.h"
 #include "ColorScheme_linux.h"
 #include "DisksWindow.h"
 #include "LocalizedString.h"
+#include "ModalAlertPresenter.h"
 #include "QtRunLoop.h"
 #include "QuitSignals.h"
 #include "SingleInstance.h"
@@ -27,7 +27,7 @@ int runWindow(const SingleInstance& instance)
 {
     QtRunLoop runLoop;
     Task launcher;
-    AlertBox alerts;
+    ModalAlertPresenter alerts;
     const ColorScheme colors(QDBusConnection::sessionBus());
     QObject::connect(&colors, &ColorScheme::changed, qApp, applyColorScheme);
     DisksWindow window({launcher, runLoop, alerts, tmutilPath(), u"/usr/bin/lsblk"_s});

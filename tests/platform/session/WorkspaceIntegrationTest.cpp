@@ -131,7 +131,7 @@ TEST_F(WorkspaceIntegrationTest, AnAddressOfOurOwnStartsItsProgramAndApplication
         ASSERT_TRUE(reported());
         EXPECT_EQ(result, exists);
     }
-    EXPECT_TRUE(eventually([this] { return note() == "0"_L1; }));
+    EXPECT_TRUE(runUntil([this] { return note() == "0"_L1; }));
     reports = 0;
     result = true;
     workspace->openApplication(u"com.example.application"_s, keepResult());
