@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Date.h"
+#include "Error.h"
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+
+namespace quillon {
+
+/// A form to be posted, encoded as application/x-www-form-urlencoded (WHATWG URL Standard, section 5), in UTF-8.
+struct FormRequest {
+    QUrl address;
+    QMap<QString, QString> fields;
+    QMap<QString, QString> headers; ///< sent beside those of HTTP itself and of the form's encoding
+    Seconds timeout{0};             ///< for the whole request, from the call to the last byte of the answer
+};
+
+/// What came of it.
+struct HttpResult {
+    QByteArray body; ///< as the server sent it, whatever its status code; empty when there is an error
+    std::optional<Error> error;
+};
+
+/// Posts forms over HTTP; the seam at which tests play a server. Main thread only.
+class FormPoster {
+public:
+    using Completion = std::function<void(const HttpResult&)>;
+
+    FormPoster() = default;
+    FormPoster(const FormPoster&) = delete;
+    FormPoster& operator=(const FormPoster&) = delete;
+    virtual ~FormPoster() = default;
+
+    /// Returns at once. The completion is called exactly once, in a later turn, on the main thread; never when this
+    /// object is destroyed before.
+    virtual void post(const FormRequest& request, Completion completion) = 0;
+};
+
+} // namespace quillon
