@@ -1,8 +1,12 @@
+#include "AppDelegate.h"
 #include "Bundle.h"
 #include "ChangePrinter.h"
+#include "Cirrel.h"
 #include "DataManager.h"
+#include "HttpClient.h"
 #include "LocalizedString.h"
 #include "LoginItemFactory.h"
+#include "MakerService.h"
 #include "ModalAlertPresenter.h"
 #include "NotificationCenter.h"
 #include "Options.h"
@@ -49,17 +53,21 @@ int runApplication(const Options& options, SingleInstance& instance)
     const auto loginItem = makeLoginItem(QCoreApplication::applicationFilePath());
     TMUtilQueue tmutilQueue(launcher, runLoop, tmutilPath());
     DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});
+    const Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
     const auto statusItem = makeStatusItem(options.placement);
     StatusMenuController controller(
         {runLoop, *defaults, notifications, *workspace, tmutilQueue, launcher, alerts, dataManager, *statusItem});
+    AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts});
 
     std::unique_ptr<ChangePrinter> printer;
     if (options.printChanges)
         printer = std::make_unique<ChangePrinter>(controller, runLoop);
     controller.awakeFromNib();
     QObject::connect(&controller, &StatusMenuController::terminate, qApp, &QCoreApplication::quit);
+    Cirrel::initWithAppId(makerservice::applicationId(), makerservice::apiKey(), makerservice::address());
     QObject::connect(&instance, &SingleInstance::presentRequested, statusItem.get(), &StatusItem::present);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [&tmutilQueue] { tmutilQueue.shutDown(); });
+    delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }
 

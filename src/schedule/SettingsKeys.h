@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 
 // Booleans.
 inline const QString firstLaunch = u"firstLaunch"_s;
+inline const QString didShowAlertAtFirstLaunch = u"appSettingsDidShowAlertAtFirstLaunch"_s;
 
 // Switches: integers that hold a control state, 1 on, anything else off.
 inline const QString enableSchedule = u"userSettingsEnableSchedule"_s;

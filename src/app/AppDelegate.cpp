@@ -1,0 +1,103 @@
+#include "AppDelegate.h"
+
+#include "Bundle.h"
+#include "Cirrel.h"
+#include "DataHelper.h"
+#include "LocalizedString.h"
+#include "MakerSite.h"
+#include "Notifications.h"
+#include "ProcessInfo.h"
+#include "SettingsKeys.h"
+#include "TextComparison.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPointer>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr Seconds updateCheckPeriod = 24h;
+constexpr double serverInterval = 12.0 * 3600;
+
+QString systemVersion()
+{
+    return DataHelper::stringFromSystemVersion(operatingSystemVersion());
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(const Services& services)
+    : runLoop_(services.runLoop)
+    , defaults_(services.defaults)
+    , notifications_(services.notifications)
+    , workspace_(services.workspace)
+    , alerts_(services.alerts)
+{
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    isRunning_ = true;
+    checkNowAndDaily();
+    connect(&workspace_, &Workspace::didWake, this, &AppDelegate::checkNowAndDaily);
+    if (!defaults_.boolean(settingskeys::didShowAlertAtFirstLaunch))
+        presentFirstLaunchAlert();
+}
+
+void AppDelegate::checkNowAndDaily()
+{
+    retrieveLatestAppVersion();
+    scheduleCheckForAppUpdateTimer();
+}
+
+void AppDelegate::retrieveLatestAppVersion()
+{
+    const QString noUpdate = u"{\"os\":\"%1\",\"app\":\"%2\"}"_s.arg(systemVersion(), bundleShortVersion());
+    Cirrel::getConfigForParameter(u"LatestAppVersion"_s, serverInterval, noUpdate,
+                                  [self = QPointer(this)](const QVariant& value, const std::optional<Error>& error) {
+                                      if (self && !error)
+                                          self->isAppUpdateAvailable(value.toString());
+                                  });
+}
+
+void AppDelegate::isAppUpdateAvailable(const QString& versions)
+{
+    const QJsonObject latest = QJsonDocument::fromJson(versions.toUtf8()).object();
+    const QJsonValue os = latest.value(u"os"_s);
+    const QJsonValue app = latest.value(u"app"_s);
+    if (!os.isString() || !app.isString() || compareNumerically(systemVersion(), os.toString()) < 0)
+        return;
+    const bool isNewer = compareNumerically(bundleShortVersion(), app.toString()) < 0;
+    notifications_.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, isNewer ? app.toString() : u""_s}});
+}
+
+void AppDelegate::scheduleCheckForAppUpdateTimer()
+{
+    checkForAppUpdateTimer_ = runLoop_.scheduleRepeating(updateCheckPeriod, [this] { retrieveLatestAppVersion(); });
+}
+
+void AppDelegate::presentFirstLaunchAlert()
+{
+    const bool ventura = compareNumerically(systemVersion(), u"13.0") >= 0;
+    const QString instruction =
+        ventura ? localizedString("disableTmInstructionVentura") : localizedString("disableTmInstruction");
+    AlertRequest alert;
+    alert.messageText = localizedString("firstStartInfoAlertTitle").arg(u"Quillon"_s);
+    alert.informativeText = localizedString("firstStartInfoAlertMessage").arg(instruction, u"Quillon"_s);
+    alert.buttons = {localizedString("AlertButtonClose"), localizedString("AlertButtonHelp")};
+    alert.escapeButton = 0;
+    alerts_.present(alert, [self = QPointer(this)](int response) {
+        if (!self)
+            return;
+        if (response == alertSecondButtonReturn)
+            self->workspace_.openURL(makersite::page(u"/quillon/manual/"_s), {});
+        self->defaults_.setObject(settingskeys::didShowAlertAtFirstLaunch, true);
+    });
+}
+
+} // namespace quillon

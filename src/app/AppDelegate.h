@@ -1,0 +1,59 @@
+#pragma once
+
+#include "AlertPresenter.h"
+#include "NotificationCenter.h"
+#include "RunLoop.h"
+#include "UserDefaults.h"
+#include "Workspace.h"
+
+#include <QObject>
+#include <QString>
+
+namespace quillon {
+
+/// What belongs to the program as a whole: the check for a newer version, at launch, on wake and once a day, and the
+/// alert of the first launch. Main thread only.
+class AppDelegate final : public QObject {
+    Q_OBJECT
+
+public:
+    struct Services {
+        RunLoop& runLoop;
+        UserDefaults& defaults;
+        NotificationCenter& notifications;
+        Workspace& workspace;
+        AlertPresenter& alerts;
+    };
+
+    explicit AppDelegate(const Services& services);
+
+    /// Called once, when everything else has been started.
+    void applicationDidFinishLaunching();
+
+    /// Whether launching has finished.
+    bool isRunning() const { return isRunning_; }
+    const Timer& checkForAppUpdateTimer() const { return checkForAppUpdateTimer_; }
+
+    /// Asks for the latest version, the service itself at most every 12 hours. Failures are silent.
+    void retrieveLatestAppVersion();
+    /// Announces what the answer means for this program on this system, in a notification. `versions` is a JSON object
+    /// with "app", the newest version, and "os", the lowest system version that it runs on; nothing is announced when
+    /// it is anything else, or when this system is older.
+    void isAppUpdateAvailable(const QString& versions);
+    /// Checks every 24 hours from now on.
+    void scheduleCheckForAppUpdateTimer();
+
+private:
+    void checkNowAndDaily();
+    void presentFirstLaunchAlert();
+
+    RunLoop& runLoop_;
+    UserDefaults& defaults_;
+    NotificationCenter& notifications_;
+    Workspace& workspace_;
+    AlertPresenter& alerts_;
+    bool isRunning_ = false;
+    Timer checkForAppUpdateTimer_;
+};
+
+} // namespace quillon

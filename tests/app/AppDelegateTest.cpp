@@ -1,0 +1,191 @@
+#include "AppDelegate.h"
+
+#include "Bundle.h"
+#include "Cirrel.h"
+#include "FakePoster.h"
+#include "FakeServices.h"
+#include "MemoryDefaults.h"
+#include "Notifications.h"
+#include "ScopedEnvironment.h"
+#include "SettingsKeys.h"
+#include "VirtualRunLoop.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+QString versions(const QString& os, const QString& app)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonObject{{u"os"_s, os}, {u"app"_s, app}}).toJson());
+}
+
+/// The service's answer that holds those versions.
+QByteArray answer(const QString& latest)
+{
+    return QJsonDocument(QJsonObject{{u"result"_s, QJsonObject{{u"type"_s, u"String"_s}, {u"value"_s, latest}}}})
+        .toJson();
+}
+
+class AppDelegateTest : public testing::Test {
+protected:
+    AppDelegateTest()
+    {
+        defaults.stored[settingskeys::didShowAlertAtFirstLaunch] = true;
+        notifications.addObserver(notifications::appUpdateAvailable, &observer, [this](const QVariantMap& userInfo) {
+            announced.append(userInfo.value(u"latestAppVersion"_s).toString());
+        });
+        Cirrel::setAppId(u"id"_s);
+        Cirrel::setApiKey(u"key"_s);
+        Cirrel::setServer(u"https://example.com"_s);
+    }
+
+    void launch()
+    {
+        delegate =
+            std::make_unique<AppDelegate>(AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts});
+        delegate->applicationDidFinishLaunching();
+    }
+
+    QStringList announcedFor(const QString& latest)
+    {
+        announced.clear();
+        delegate->isAppUpdateAvailable(latest);
+        return announced;
+    }
+
+    ScopedEnvironment system{"QUILLON_SYSTEM_VERSION", "13.6.0"};
+    VirtualRunLoop runLoop{Date{24h}};
+    MemoryDefaults defaults;
+    NotificationCenter notifications;
+    FakeWorkspace workspace;
+    FakeAlerts alerts;
+    FakePoster* network = new FakePoster; // the services' own
+    Cirrel::Services services{runLoop, defaults, std::unique_ptr<FormPoster>(network)};
+    QObject observer;
+    QStringList announced;
+    std::unique_ptr<AppDelegate> delegate;
+};
+
+} // namespace
+
+TEST_F(AppDelegateTest, AnUpdateIsAnnouncedWhenItIsNewerAndRunsHere)
+{
+    ASSERT_EQ(bundleShortVersion(), u"1.0.0"_s);
+    launch();
+    EXPECT_TRUE(delegate->isRunning());
+    for (const auto& newer : {u"1.0.1"_s, u"1.0.10"_s, u"2.0"_s, u"10.0"_s, u"1.0.0b"_s})
+        EXPECT_EQ(announcedFor(versions(u"13.0"_s, newer)), QStringList{newer});
+    for (const auto& current : {u"1.0.0"_s, u"1.0"_s, u"0.9.9"_s, u""_s})
+        EXPECT_EQ(announcedFor(versions(u"13.0"_s, current)), QStringList{u""_s}) << current.toStdString();
+    for (const auto& os : {u"13.6"_s, u"13.6.0"_s, u"9.9"_s, u"13.5.99"_s})
+        EXPECT_EQ(announcedFor(versions(os, u"2.0"_s)), QStringList{u"2.0"_s}) << os.toStdString();
+    for (const auto& os : {u"14.0"_s, u"13.10"_s, u"13.6.1"_s})
+        EXPECT_EQ(announcedFor(versions(os, u"2.0"_s)), QStringList()) << os.toStdString();
+}
+
+TEST_F(AppDelegateTest, AnAnswerThatIsNoPairOfVersionsAnnouncesNothing)
+{
+    launch();
+    for (const auto& text : {u""_s, u"2.0"_s, u"[]"_s, u"{\"os\":\"13.0\"}"_s, u"{\"app\":\"2.0\"}"_s,
+                             u"{\"os\":13,\"app\":\"2.0\"}"_s, u"{\"os\":\"13.0\",\"app\":null}"_s})
+        EXPECT_EQ(announcedFor(text), QStringList()) << text.toStdString();
+    network->answer(R"({"result": {"type": "String", "value": 7}})");
+    EXPECT_TRUE(announced.isEmpty());
+}
+
+TEST_F(AppDelegateTest, FailuresOfTheServiceAreSilentAndTheCacheIsNotAnnouncedForThem)
+{
+    launch();
+    EXPECT_EQ(network->last.fields.value(u"parameter"_s), u"LatestAppVersion"_s);
+    network->answer(answer(versions(u"13.0"_s, u"2.0"_s)));
+    EXPECT_EQ(announced, QStringList{u"2.0"_s});
+    runLoop.advance(25h); // past the daily check
+    network->fail();
+    EXPECT_EQ(network->posted, 2);
+    EXPECT_EQ(announced.size(), 1);
+}
+
+TEST_F(AppDelegateTest, TheCheckRunsAtLaunchOnWakeAndADayAfterTheLastOfThem)
+{
+    launch();
+    EXPECT_EQ(network->posted, 1);
+    runLoop.advance(20h);
+    workspace.wake();
+    EXPECT_EQ(network->posted, 2);
+    runLoop.advance(24h - 1s);
+    EXPECT_EQ(network->posted, 2);
+    runLoop.advance(1s);
+    EXPECT_EQ(network->posted, 3);
+    runLoop.advance(24h);
+    EXPECT_EQ(network->posted, 4);
+    EXPECT_TRUE(delegate->checkForAppUpdateTimer().isValid());
+}
+
+TEST_F(AppDelegateTest, TheServiceIsAskedEveryTwelveHoursAtMostAndTheCacheIsAnnouncedBetween)
+{
+    launch();
+    network->answer(answer(versions(u"13.0"_s, u"2.0"_s)));
+    runLoop.advance(11h);
+    workspace.wake();
+    EXPECT_EQ(network->posted, 1);
+    EXPECT_EQ(announced, (QStringList{u"2.0"_s, u"2.0"_s}));
+    runLoop.advance(1h);
+    workspace.wake();
+    EXPECT_EQ(network->posted, 2);
+}
+
+TEST_F(AppDelegateTest, AnAnswerThatComesAfterQuittingReachesNobody)
+{
+    defaults.stored.clear();
+    launch();
+    delegate.reset();
+    network->answer(answer(versions(u"13.0"_s, u"2.0"_s)));
+    alerts.presented.front().second(alertSecondButtonReturn);
+    EXPECT_TRUE(announced.isEmpty());
+    EXPECT_TRUE(workspace.opened.isEmpty());
+}
+
+TEST_F(AppDelegateTest, TheFirstLaunchSaysOnceHowToSwitchAutomaticBackupsOff)
+{
+    for (const int response : {alertFirstButtonReturn, alertSecondButtonReturn}) {
+        defaults.stored.clear();
+        alerts.presented.clear();
+        launch();
+        ASSERT_EQ(alerts.presented.size(), 1U);
+        const auto [request, answered] = alerts.presented.front();
+        EXPECT_EQ(request.style, AlertStyle::Informational);
+        EXPECT_EQ(request.messageText, u"Welcome to Quillon"_s);
+        EXPECT_TRUE(request.informativeText.startsWith(u"Quillon is in"_s));
+        EXPECT_TRUE(request.informativeText.contains(u"open System Settings"_s))
+            << request.informativeText.toStdString();
+        EXPECT_EQ(request.buttons, (QStringList{u"Close"_s, u"Help"_s}));
+        EXPECT_EQ(request.escapeButton, 0);
+        EXPECT_FALSE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch)) << "not before it is answered";
+        answered(response);
+        EXPECT_TRUE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch));
+        EXPECT_EQ(workspace.opened.size(), response == alertSecondButtonReturn ? 1 : 0);
+        launch();
+        EXPECT_EQ(alerts.presented.size(), 1U);
+    }
+    EXPECT_EQ(workspace.opened.first().path(), u"/quillon/manual/"_s);
+    EXPECT_EQ(workspace.opened.first().scheme(), u"https"_s);
+}
+
+TEST_F(AppDelegateTest, BeforeVersion13TheInstructionNamesSystemPreferences)
+{
+    const ScopedEnvironment older("QUILLON_SYSTEM_VERSION", "12.7.6");
+    defaults.stored.clear();
+    launch();
+    EXPECT_TRUE(alerts.presented.front().first.informativeText.contains(u"open System Preferences"_s));
+}
+
+} // namespace quillon
