@@ -14,6 +14,8 @@
 #include <QJsonObject>
 #include <QPointer>
 
+#include <compare>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -70,9 +72,9 @@ void AppDelegate::isAppUpdateAvailable(const QString& versions)
     const QJsonObject latest = QJsonDocument::fromJson(versions.toUtf8()).object();
     const QJsonValue os = latest.value(u"os"_s);
     const QJsonValue app = latest.value(u"app"_s);
-    if (!os.isString() || !app.isString() || compareNumerically(systemVersion(), os.toString()) < 0)
+    if (!os.isString() || !app.isString() || std::is_lt(compareNumerically(systemVersion(), os.toString())))
         return;
-    const bool isNewer = compareNumerically(bundleShortVersion(), app.toString()) < 0;
+    const bool isNewer = std::is_lt(compareNumerically(bundleShortVersion(), app.toString()));
     notifications_.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, isNewer ? app.toString() : u""_s}});
 }
 
@@ -83,7 +85,7 @@ void AppDelegate::scheduleCheckForAppUpdateTimer()
 
 void AppDelegate::presentFirstLaunchAlert()
 {
-    const bool ventura = compareNumerically(systemVersion(), u"13.0") >= 0;
+    const bool ventura = std::is_gteq(compareNumerically(systemVersion(), u"13.0"));
     const QString instruction =
         ventura ? localizedString("disableTmInstructionVentura") : localizedString("disableTmInstruction");
     AlertRequest alert;

@@ -247,7 +247,7 @@ QVariant Cirrel::getConfigFromCacheFor(const QString& parameter)
 QVariant Cirrel::getValueFromConfigJson(const QVariantMap& result)
 {
     const QString type = result.value(u"type"_s).toString();
-    const QVariant value = result.value(u"value"_s);
+    QVariant value = result.value(u"value"_s);
     if (type == "String"_L1)
         return value;
     if (!isTextOrNumber(value))

@@ -116,6 +116,9 @@ ListPage* DisksWindow::makeSourcesPage()
     QPushButton* folder = page->addButton(panelTitle("disksAddFolderTitle"));
     connect(folder, &QPushButton::clicked, this, [this] {
         choose(localizedString("disksAddFolderTitle"), false, [this](const QString& path) {
+            // The home folder is backed up only until a folder is named. Whoever adds one does not mean to lose it.
+            if (sources_.size() == 1)
+                tmutil_.call({u"addsource"_s, u"--"_s, sources_.first()}, [](const TmutilAnswer&) {});
             change({u"addsource"_s, u"--"_s, path}, localizedString("disksAddFailed").arg(lastComponent(path)));
         });
     });
@@ -205,6 +208,8 @@ bool DisksWindow::showPaths(const QByteArray& answer, ListPage& page, const char
     const auto paths = readPaths(answer);
     if (!paths)
         return false;
+    if (&page == sourcesPage_)
+        sources_ = *paths;
     // Whether it is a file or a folder is not asked here, where a disk that hangs would stop the window.
     const QString symbol = &page == sourcesPage_ ? u"folder"_s : u"minus.circle"_s;
     std::vector<ListEntry> entries;

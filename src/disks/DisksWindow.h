@@ -6,6 +6,7 @@
 #include "RunLoop.h"
 #include "TmutilClient.h"
 
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -61,6 +62,7 @@ private:
     AlertPresenter& alerts_;
     MountedDisks mountedDisks_;
     std::vector<BackupDisk> disks_;
+    QStringList sources_;
     ListPage* disksPage_;
     ListPage* sourcesPage_;
     ListPage* exclusionsPage_;

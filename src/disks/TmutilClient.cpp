@@ -48,7 +48,8 @@ void TmutilClient::launchNext()
                                .captureOutput = true,
                                .captureErrors = true},
                               [this](const TaskResult& result) { ended(result); });
-    limit_ = runLoop_.scheduleOnce(dateByAdding(runLoop_.now(), longestCall), [this] {
+    // A repeating timer, because it does not follow a wall clock that is set back.
+    limit_ = runLoop_.scheduleRepeating(longestCall, [this] {
         tooSlow_ = true;
         child_->kill();
     });

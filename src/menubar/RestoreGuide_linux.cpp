@@ -3,6 +3,7 @@
 #include "TMUtilPath.h"
 
 #include <QDir>
+#include <QStandardPaths>
 
 namespace quillon {
 
@@ -16,6 +17,13 @@ QString quoted(QString word)
     return u'\'' + word.replace(u'\'', "'\\''"_L1) + u'\'';
 }
 
+/// A folder to restore, for example: the user's documents, or all of the home folder where there are none.
+QString exampleFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
 } // namespace
 
 std::optional<AlertRequest> restoreGuide(const QStringList& latestBackups)
@@ -23,7 +31,7 @@ std::optional<AlertRequest> restoreGuide(const QStringList& latestBackups)
     const QString tool = quoted(tmutilPath());
     const QString list = tool + " listbackups"_L1;
     const QString restore = u"%1 restore \"$(%1 latestbackup)\"%2 ~/%3"_s.arg(
-        tool, quoted(QDir::homePath() + "/Documents"_L1), localizedString("restoreFolderName"));
+        tool, quoted(exampleFolder()), quoted(localizedString("restoreFolderName")));
     AlertRequest guide;
     guide.messageText = localizedString("restoreGuideTitle");
     guide.informativeText =

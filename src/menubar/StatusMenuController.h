@@ -125,6 +125,14 @@ Q_SIGNALS:
 
 private:
     enum class Wake { FromSleep, ClockJump };
+    static constexpr int abbreviated = 2; ///< style of a duration
+    /// What a scheduled start was decided on.
+    struct ScheduleSwitches {
+        bool enabled;
+        std::optional<Date> pauseUntil;
+
+        bool operator==(const ScheduleSwitches&) const = default;
+    };
 
     // Start-up
     void chooseLocaleKeys();
@@ -183,7 +191,10 @@ private:
 
     // Schedule
     void startScheduledBackup();
-    void answerScheduledStart(TMState state, bool stillWanted);
+    void askForScheduledStart(const ScheduleSwitches& switches);
+    void answerScheduledStart(TMState state, const ScheduleSwitches& switches);
+    /// A start or a stop has been answered: the next one may come.
+    void commandSettled();
     void startAccepted();
     void setRetryInFiveMinutesIfEnabled(const QString& enablingKey);
     Date freshRetryDate() const;
@@ -199,6 +210,7 @@ private:
     // Pause
     void pauseTimerFired(Date end);
     void showPaused(Date end, std::int64_t tag);
+    void showNotPaused();
     void titlePauseItem(Date end);
 
     bool switchIsOn(const QString& key) const;
@@ -229,7 +241,8 @@ private:
     RunProgress progress_;
     bool stopBackupConfirmed_ = false;
     bool shouldEnableMenuButons_ = true;
-    bool commandIsUnderWay_ = false;   ///< a start or a stop that the user asked for
+    bool commandIsUnderWay_ = false; ///< a start or a stop, by the user or by the schedule
+    std::optional<ScheduleSwitches> waitingStart_;
     bool menuDisksAreAwaited_ = false; ///< the menu has been opened and not yet filled
     std::optional<Date> backupCompleteDate_;
     std::optional<QString> activeBackupDiskIdentifier_;

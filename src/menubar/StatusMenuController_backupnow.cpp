@@ -30,11 +30,11 @@ void StatusMenuController::backupNowSubMenuItemClicked(const QString& identifier
 void StatusMenuController::requestStop()
 {
     tmutil_.stopBackupWithCompletionHandler([this](bool, bool success) {
-        commandIsUnderWay_ = false;
-        if (!success)
-            return;
-        stopBackupConfirmed_ = true;
-        firePollTimer();
+        if (success) {
+            stopBackupConfirmed_ = true;
+            firePollTimer();
+        }
+        commandSettled();
     });
 }
 
@@ -42,11 +42,11 @@ void StatusMenuController::requestStart(const QString& identifier, bool rotateBa
 {
     tmutil_.startBackupOnDiskWithIdentifier(
         identifier, rotateBackupDisks, [this](std::int32_t exitStatus, bool success) {
-            commandIsUnderWay_ = false;
             if (success)
                 startAccepted();
             else
                 runLoop_.enqueue([this, exitStatus] { tellOfFailedStart(exitStatus); });
+            commandSettled();
         });
 }
 

@@ -21,6 +21,10 @@ void StatusMenuController::connectCommands()
     connect(&backupDisksMenu_, &BackupDisksMenu::diskClicked, this, &StatusMenuController::backupNowSubMenuItemClicked);
     connect(&historyMenu_, &HistoryMenu::helpButtonPressed, this,
             &StatusMenuController::allBackupInfoHelpButtonPressed);
+    onClick(statusMenu_.pauseScheduleMenuItem, [this] {
+        // It only opens its submenu; a desktop that draws the menu may toggle the mark all the same.
+        StatusMenu::setState(statusMenu_.pauseScheduleMenuItem, statusMenu_.resumeScheduleMenuItem->isVisible());
+    });
     onClick(statusMenu_.resumeScheduleMenuItem, &StatusMenuController::resumeScheduleClicked);
     onClick(statusMenu_.skipRetryAttemptMenuItem, &StatusMenuController::skipRetryAttemptClicked);
     onClick(statusMenu_.enterTimeMachineMenuItem, &StatusMenuController::enterTimeMachineClicked);

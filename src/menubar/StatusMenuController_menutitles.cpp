@@ -8,12 +8,6 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int abbreviated = 2;
-
-} // namespace
-
 void StatusMenuController::updateMenuItems()
 {
     StatusMenu::setTitle(statusMenu_.phaseMenuItem, phaseItemTitle());

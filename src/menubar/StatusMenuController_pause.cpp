@@ -48,6 +48,11 @@ void StatusMenuController::resumeScheduleClicked()
     defaults_.setObject(settingskeys::pauseUntilTag, 0LL);
     sharedDataManager_.scheduleNextBackup();
     updateStatusBar();
+    showNotPaused();
+}
+
+void StatusMenuController::showNotPaused()
+{
     StatusMenu::setState(statusMenu_.pauseScheduleMenuItem, false);
     statusMenu_.resumeScheduleMenuItem->setVisible(false);
     statusMenu_.resumeScheduleSeparator->setVisible(false);
@@ -65,8 +70,10 @@ void StatusMenuController::schedulePauseScheduleExpirationTimer()
 {
     stopPauseScheduleExpirationTimer();
     const auto end = defaults_.date(settingskeys::pauseUntilDate);
-    if (!end)
+    if (!end) {
+        showNotPaused(); // the schedule may have found the end of the pause before the timer did
         return;
+    }
     if (*end <= runLoop_.now()) {
         resumeScheduleClicked();
         return;
@@ -82,10 +89,11 @@ void StatusMenuController::stopPauseScheduleExpirationTimer()
 
 void StatusMenuController::pauseTimerFired(Date end)
 {
-    if (end < runLoop_.now())
+    // Resuming early leaves this timer; planning anew would then drop a retry that has come since.
+    if (end < runLoop_.now() && defaults_.date(settingskeys::pauseUntilDate))
         resumeScheduleClicked();
     else
-        schedulePauseScheduleExpirationTimer(); // the clock was changed, or the timer was fired early
+        schedulePauseScheduleExpirationTimer(); // also when the clock was changed, or the timer was fired early
 }
 
 } // namespace quillon

@@ -3,6 +3,8 @@
 #include "SettingsKeys.h"
 #include "StatusMenuController.h"
 
+#include <utility>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -22,28 +24,46 @@ std::optional<Date> runningPause(const UserDefaults& defaults, Date now)
 
 void StatusMenuController::startScheduledBackup()
 {
-    const bool wasEnabled = sharedDataManager_.isScheduleEnabled();
-    const auto pauseUntil = runningPause(defaults_, runLoop_.now());
-    askForState([this, wasEnabled, pauseUntil](TMState state) {
-        const bool stillWanted = wasEnabled == sharedDataManager_.isScheduleEnabled() &&
-                                 pauseUntil == runningPause(defaults_, runLoop_.now());
-        answerScheduledStart(state, stillWanted);
-    });
+    askForScheduledStart({sharedDataManager_.isScheduleEnabled(), runningPause(defaults_, runLoop_.now())});
 }
 
-void StatusMenuController::answerScheduledStart(TMState state, bool stillWanted)
+void StatusMenuController::askForScheduledStart(const ScheduleSwitches& switches)
 {
-    tmState_ = state;
-    updateStatusBar(); // a run that has ended since the last poll is to be recorded before the next one begins
-    if (state != TMState::NotRunning || !stillWanted)
+    if (std::exchange(commandIsUnderWay_, true)) {
+        waitingStart_ = switches; // the user is starting or stopping a backup at this moment
         return;
+    }
+    askForState([this, switches](TMState state) { answerScheduledStart(state, switches); });
+}
+
+void StatusMenuController::answerScheduledStart(TMState state, const ScheduleSwitches& switches)
+{
+    const bool startIsPending = tmState_ == TMState::Starting && state == TMState::NotRunning;
+    const bool stillWanted =
+        switches == ScheduleSwitches{sharedDataManager_.isScheduleEnabled(), runningPause(defaults_, runLoop_.now())};
+    if (!startIsPending) {
+        tmState_ = state;
+        updateStatusBar(); // a run that has ended since the last poll is to be recorded before the next one begins
+    }
+    if (startIsPending || state != TMState::NotRunning || !stillWanted) {
+        commandSettled();
+        return;
+    }
     tmutil_.startBackupOnDiskWithIdentifier({}, switchIsOn(settingskeys::rotateBackupDisks),
                                             [this](std::int32_t, bool success) {
-                                                if (!success)
-                                                    return;
-                                                requestBackupDisks();
-                                                startAccepted();
+                                                if (success) {
+                                                    requestBackupDisks();
+                                                    startAccepted();
+                                                }
+                                                commandSettled();
                                             });
+}
+
+void StatusMenuController::commandSettled()
+{
+    commandIsUnderWay_ = false;
+    if (const auto waiting = std::exchange(waitingStart_, std::nullopt))
+        askForScheduledStart(*waiting);
 }
 
 void StatusMenuController::startAccepted()

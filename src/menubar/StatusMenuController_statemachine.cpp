@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString circleMarker = u" 🟢"_s;
-constexpr int abbreviated = 2;
 
 } // namespace
 

@@ -15,7 +15,8 @@ namespace quillon {
 /// Time Machine control: reads what Time Machine does, starts and stops backups, opens its settings.
 ///
 /// Nothing here blocks; results travel in handlers, which are called on the main thread. A request that fails may be
-/// reported twice: once for the tool's exit status and once by the parser of its output.
+/// reported twice: once for the tool's exit status and once by the parser of its output. It lives as long as the
+/// program: answers still under way refer to it.
 class TMUtil {
 public:
     TMUtil(TMUtilQueue& queue, TaskLauncher& launcher, RunLoop& runLoop, Workspace& workspace, AlertPresenter& alerts);
@@ -53,6 +54,7 @@ private:
     Workspace& workspace_;
     AlertPresenter& alerts_;
     std::unique_ptr<RunningTask> settingsScript_;
+    Timer scriptLimit_;
 };
 
 } // namespace quillon

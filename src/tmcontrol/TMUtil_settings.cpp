@@ -6,6 +6,12 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr std::chrono::minutes longestScript{1};
+
+} // namespace
+
 QUrl TMUtil::settingsAddress()
 {
     return QUrl(u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s);
@@ -28,7 +34,10 @@ void TMUtil::openTimeMachineSettings(const QString& applicationName)
     script.environmentName = u"command"_s;
     script.environmentValue = u"OpenTimeMachinePrefs"_s;
     script.captureOutput = false;
+    // A repeating timer, because it does not follow a wall clock that is set back.
+    scriptLimit_ = runLoop_.scheduleRepeating(longestScript, [this] { settingsScript_->kill(); });
     settingsScript_ = launcher_.launch(script, [this, applicationName](const TaskResult& result) {
+        scriptLimit_.invalidate();
         runLoop_.enqueue([this, applicationName, allowed = result.status == 0] {
             settingsScript_.reset();
             if (!allowed)

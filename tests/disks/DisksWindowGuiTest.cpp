@@ -266,6 +266,19 @@ TEST_F(DisksWindowTest, FoldersAndExclusionsAreAddedAndRemoved)
     EXPECT_TRUE(eventuallyShows(Exclusions, {u"file"_s}));
 }
 
+TEST_F(DisksWindowTest, TheHomeFolderThatIsBackedUpByDefaultStaysWhenAFolderIsAdded)
+{
+    practice_.write(u"other/file"_s, {});
+    ASSERT_EQ(practice_.run({u"removesource"_s, practice_.source()}).status, 0);
+    const QString home = QString::fromUtf8(practice_.run({u"listsources"_s}).output).trimmed();
+    open();
+    const QString name = QFileInfo(home).fileName();
+    ASSERT_TRUE(eventuallyShows(Sources, {name}));
+    click(Sources, localizedString("disksAddFolderTitle") + u'…');
+    chooseInDialog(practice_.path(u"other"_s));
+    EXPECT_TRUE(eventuallyShows(Sources, {name, u"other"_s}));
+}
+
 TEST_F(DisksWindowTest, ARefusalIsShownInTheToolsOwnWords)
 {
     open();

@@ -141,6 +141,40 @@ TEST_F(Commands, ImpatientClicksStartOneBackup)
     EXPECT_TRUE(calls(u"stopbackup"_s).isEmpty());
 }
 
+TEST_F(Commands, AClickWhileTheScheduleStartsABackupNeitherStopsNorRepeatsIt)
+{
+    machine.callDuration = 2;
+    launch();
+    runLoop.advanceTo(local(2026, 11, 21, 12, 0, 1));
+    for (int click = 0; click < 5; ++click) {
+        menu().backupNowMenuItem->trigger();
+        controller->backupNowSubMenuItemClicked(u"B"_s);
+        runLoop.advance(Seconds(0.5));
+    }
+    runLoop.advance(Seconds(10));
+    EXPECT_EQ(machine.starts(), 1);
+    EXPECT_TRUE(calls(u"stopbackup"_s).isEmpty());
+    EXPECT_EQ(calls(u"startbackup"_s).size(), 1);
+    EXPECT_TRUE(alerts.presented.empty());
+}
+
+TEST_F(Commands, AScheduledStartThatMeetsTheUsersWaitsForItsOutcome)
+{
+    for (const bool refused : {false, true}) {
+        machine.callDuration = 2;
+        launch();
+        runLoop.advanceTo(local(2026, 11, refused ? 22 : 21, 11, 59, 59));
+        const auto starts = calls(u"startbackup"_s).size();
+        if (refused)
+            machine.injection = {int(starts) + 1, TmutilScript::Fault::None, 17, u"startbackup"_s};
+        menu().backupNowMenuItem->trigger();
+        runLoop.advance(Seconds(20));
+        EXPECT_EQ(calls(u"startbackup"_s).size(), starts + (refused ? 2 : 1));
+        EXPECT_EQ(icon(), MenuBarIconState::Running);
+    }
+    EXPECT_EQ(machine.starts(), 2);
+}
+
 TEST_F(Commands, ARefusedStartIsToldWithItsCode)
 {
     launch();

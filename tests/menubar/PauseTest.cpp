@@ -84,6 +84,46 @@ TEST_F(Pause, ResumingEarlyAndTheOldTimerLaterChangeNothingMore)
     EXPECT_FALSE(menu().resumeScheduleMenuItem->isVisible());
 }
 
+TEST_F(Pause, TheTimerOfAPauseThatWasEndedEarlyLeavesALaterRetryAlone)
+{
+    machine.phases = {{u"Copying"_s, 20, true}};
+    launch();
+    controller->pauseForClicked(3600);
+    controller->resumeScheduleClicked();
+    runLoop.advanceTo(local(2026, 11, 21, 10, 57));
+    machine.start(u"A"_s);
+    runLoop.advanceTo(local(2026, 11, 21, 11, 1));
+    EXPECT_EQ(manager->retryBackupDate(), local(2026, 11, 21, 11, 3));
+}
+
+TEST_F(Pause, AnEndThatTheScheduleFindsFirstIsShownAfterASleepToo)
+{
+    launch();
+    controller->pauseForClicked(3600);
+    runLoop.advance(Seconds(3603));
+    manager->scheduleNextBackup(); // forgets the pause
+    sleepUntil(local(2026, 11, 21, 11, 0, 5));
+    EXPECT_FALSE(menu().pauseScheduleMenuItem->isChecked());
+    EXPECT_FALSE(menu().resumeScheduleMenuItem->isVisible());
+    EXPECT_EQ(checkedDuration(), 0);
+}
+
+TEST_F(Pause, FollowsAClockThatIsSet)
+{
+    launch();
+    controller->pauseForClicked(7200);
+    const auto end = *defaults.date(settingskeys::pauseUntilDate);
+    runLoop.stepWallClock(-30min);
+    runLoop.advance(Seconds(5400));
+    EXPECT_EQ(checkedDuration(), 7200) << "the end is a date";
+    sleepUntil(end - 10min);
+    EXPECT_EQ(checkedDuration(), 7200) << "a pause that outlasts a sleep goes on";
+    runLoop.stepWallClock(15min);
+    runLoop.advance(Seconds(16));
+    EXPECT_EQ(checkedDuration(), 0);
+    EXPECT_FALSE(defaults.date(settingskeys::pauseUntilDate));
+}
+
 TEST_F(Pause, APauseDropsAPendingRetry)
 {
     machine.phases = {{u"Copying"_s, 20, true}};

@@ -26,8 +26,9 @@ AlertText::AlertText(const QString& text, bool bold, QWidget* parent)
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setTextInteractionFlags(Qt::TextSelectableByMouse);
-    setFocusPolicy(Qt::ClickFocus);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setFocusPolicy(bold ? Qt::ClickFocus : Qt::StrongFocus); // what is worth copying stands in the second text
     document()->setDocumentMargin(0);
     QFont own = font();
     own.setBold(bold);

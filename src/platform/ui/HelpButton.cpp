@@ -1,6 +1,6 @@
 #include "HelpButton.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -35,6 +35,20 @@ bool HelpButton::hitButton(const QPoint& position) const
 {
     const QPointF offset = QPointF(position) - QRectF(rect()).center();
     return std::hypot(offset.x(), offset.y()) <= width() / 2.0;
+}
+
+void HelpButton::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        event->ignore(); // inside a menu these are the menu's
+        return;
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
 }
 
 void HelpButton::paintEvent(QPaintEvent* /*event*/)
