@@ -57,6 +57,19 @@ void applyHourCycle(icu::SimpleDateFormat& format, const icu::Locale& locale)
         format.applyPattern(generator->getBestPattern(skeleton, status));
 }
 
+/// Nothing where both styles are None.
+std::unique_ptr<icu::DateFormat> styledFormat(DateFormatterStyle dateStyle, DateFormatterStyle timeStyle)
+{
+    if (dateStyle == DateFormatterStyle::None && timeStyle == DateFormatterStyle::None)
+        return nullptr;
+    const icu::Locale locale(userLocale().c_str());
+    std::unique_ptr<icu::DateFormat> format(
+        icu::DateFormat::createDateTimeInstance(icuStyle(dateStyle), icuStyle(timeStyle), locale));
+    if (auto* simple = dynamic_cast<icu::SimpleDateFormat*>(format.get()))
+        applyHourCycle(*simple, locale);
+    return format;
+}
+
 QString formatted(icu::DateFormat& format, Date date)
 {
     format.adoptTimeZone(icu::TimeZone::detectHostTimeZone());
@@ -68,16 +81,16 @@ QString formatted(icu::DateFormat& format, Date date)
 
 QString DateFormatter::string(Date date, DateFormatterStyle dateStyle, DateFormatterStyle timeStyle)
 {
-    if (dateStyle == DateFormatterStyle::None && timeStyle == DateFormatterStyle::None)
-        return {};
-    const icu::Locale locale(userLocale().c_str());
-    const std::unique_ptr<icu::DateFormat> format(
-        icu::DateFormat::createDateTimeInstance(icuStyle(dateStyle), icuStyle(timeStyle), locale));
-    if (!format)
-        return {};
-    if (auto* simple = dynamic_cast<icu::SimpleDateFormat*>(format.get()))
-        applyHourCycle(*simple, locale);
-    return formatted(*format, date);
+    const auto format = styledFormat(dateStyle, timeStyle);
+    return format ? formatted(*format, date) : QString();
+}
+
+QString DateFormatter::pattern(DateFormatterStyle dateStyle, DateFormatterStyle timeStyle)
+{
+    const auto format = styledFormat(dateStyle, timeStyle);
+    const auto* simple = dynamic_cast<const icu::SimpleDateFormat*>(format.get());
+    icu::UnicodeString pattern;
+    return simple ? fromIcu(simple->toPattern(pattern)) : QString();
 }
 
 QString DateFormatter::string(Date date, const QString& pattern)

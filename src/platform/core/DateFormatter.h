@@ -16,6 +16,9 @@ class DateFormatter {
 public:
     static QString string(Date date, DateFormatterStyle dateStyle, DateFormatterStyle timeStyle);
 
+    /// The Unicode date pattern (UTS 35) of those styles, such as "h:mm a"; empty where both are None.
+    static QString pattern(DateFormatterStyle dateStyle, DateFormatterStyle timeStyle);
+
     /// `pattern` is a Unicode date pattern (UTS 35), such as "yyyy".
     static QString string(Date date, const QString& pattern);
 

@@ -36,6 +36,14 @@ TEST_F(DateFormatterTest, StylesGiveTheLocalesOwnTexts)
     EXPECT_EQ(DateFormatter::weekdayName(8), QString());
 }
 
+TEST_F(DateFormatterTest, PatternsAreThoseOfTheLocale)
+{
+    EXPECT_EQ(DateFormatter::pattern(None, Short), u"h:mm\u202fa"_s);
+    EXPECT_EQ(DateFormatter::pattern(None, None), QString());
+    const ScopedEnvironment german("LC_ALL", "de_DE.UTF-8");
+    EXPECT_EQ(DateFormatter::pattern(None, Short), u"HH:mm"_s);
+}
+
 TEST_F(DateFormatterTest, TheLocaleIsThatOfTheEnvironmentByPrecedence)
 {
     const auto day = [] { return DateFormatter::weekdayName(2); };
