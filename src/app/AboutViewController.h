@@ -2,16 +2,44 @@
 
 #include <QWidget>
 
+#include <memory>
+
+namespace Ui {
+class AboutView;
+}
+
 namespace quillon {
 
+class AlertPresenter;
 class RunLoop;
+class Workspace;
 
-/// Content of the about popover: which version this is. Main thread only.
+/// Content of the about popover: which version this is, who made it, and the ways to the maker. Main thread only.
 class AboutViewController final : public QWidget {
     Q_OBJECT
 
 public:
-    explicit AboutViewController(RunLoop& runLoop, QWidget* parent = nullptr);
+    /// The services must outlive the panel.
+    AboutViewController(RunLoop& runLoop, Workspace& workspace, AlertPresenter& alerts, QWidget* parent = nullptr);
+    ~AboutViewController() override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void fillOutlets(RunLoop& runLoop);
+    void nameControls();
+    void arrangeForFont();
+    void emailButtonPressed();
+    void websiteButtonPressed();
+    void appIconCreditsButtonPressed();
+    void privacyPolicyButtonPressed();
+    void termsButtonPressed();
+    void tellThatMailIsNotConfigured();
+
+    Workspace& workspace_;
+    AlertPresenter& alerts_;
+    std::unique_ptr<Ui::AboutView> ui_;
 };
 
 } // namespace quillon

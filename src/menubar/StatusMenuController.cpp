@@ -103,7 +103,7 @@ void StatusMenuController::createPopovers()
         popover->setAnimates(true);
         return popover;
     };
-    aboutPopover_ = create(std::make_unique<AboutViewController>(runLoop_));
+    aboutPopover_ = create(std::make_unique<AboutViewController>(runLoop_, workspace_, alerts_));
     preferencesPopover_ = create(std::make_unique<SettingsViewController>(runLoop_, sharedDataManager_));
 }
 

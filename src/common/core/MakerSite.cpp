@@ -11,4 +11,14 @@ QUrl page(const QString& path)
     return address;
 }
 
+QString supportAddress()
+{
+    return u"" QUILLON_SUPPORT_ADDRESS ""_s;
+}
+
+QUrl iconCollection()
+{
+    return QUrl(u"" QUILLON_ICON_COLLECTION ""_s);
+}
+
 } // namespace quillon::makersite
