@@ -30,7 +30,10 @@ StatusMenuController::StatusMenuController(const Services& services)
     , notifications_(services.notifications)
     , workspace_(services.workspace)
     , alerts_(services.alerts)
+    , tmutilQueue_(services.tmutilQueue)
+    , launcher_(services.launcher)
     , sharedDataManager_(services.dataManager)
+    , loginItem_(services.loginItem)
     , statusItem_(services.statusItem)
     , tmutil_(services.tmutilQueue, services.launcher, services.runLoop, services.workspace, services.alerts)
     , tmPhase_(u"NotRunning"_s)
@@ -38,7 +41,11 @@ StatusMenuController::StatusMenuController(const Services& services)
 {
 }
 
-StatusMenuController::~StatusMenuController() = default;
+StatusMenuController::~StatusMenuController()
+{
+    // An open settings panel posts once more as it goes.
+    notifications_.disconnect(this);
+}
 
 void StatusMenuController::awakeFromNib()
 {
@@ -104,7 +111,9 @@ void StatusMenuController::createPopovers()
         return popover;
     };
     aboutPopover_ = create(std::make_unique<AboutViewController>(runLoop_, workspace_, alerts_));
-    preferencesPopover_ = create(std::make_unique<SettingsViewController>(runLoop_, sharedDataManager_));
+    preferencesPopover_ = create(std::make_unique<SettingsViewController>(
+        SettingsViewController::Services{runLoop_, defaults_, notifications_, sharedDataManager_, loginItem_,
+                                         tmutilQueue_, launcher_, workspace_, alerts_}));
 }
 
 void StatusMenuController::registerObservers()

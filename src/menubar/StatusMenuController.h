@@ -45,6 +45,7 @@ public:
         TaskLauncher& launcher;
         AlertPresenter& alerts;
         DataManager& dataManager;
+        LoginItem& loginItem;
         StatusItem& statusItem;
     };
 
@@ -223,7 +224,10 @@ private:
     NotificationCenter& notifications_;
     Workspace& workspace_;
     AlertPresenter& alerts_;
+    TMUtilQueue& tmutilQueue_;
+    TaskLauncher& launcher_;
     DataManager& sharedDataManager_;
+    LoginItem& loginItem_;
     StatusItem& statusItem_;
     TMUtil tmutil_;
     StatusMenu statusMenu_;

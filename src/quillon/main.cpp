@@ -55,8 +55,8 @@ int runApplication(const Options& options, SingleInstance& instance)
     DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});
     const Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
     const auto statusItem = makeStatusItem(options.placement);
-    StatusMenuController controller(
-        {runLoop, *defaults, notifications, *workspace, tmutilQueue, launcher, alerts, dataManager, *statusItem});
+    StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutilQueue, launcher, alerts,
+                                     dataManager, *loginItem, *statusItem});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts});
 
     std::unique_ptr<ChangePrinter> printer;

@@ -1,44 +1,174 @@
 #include "SettingsViewController.h"
 
-#include "DataHelper.h"
 #include "DataManager.h"
 #include "LocalizedString.h"
-#include "RunLoop.h"
+#include "Mnemonics.h"
+#include "NotificationCenter.h"
+#include "Notifications.h"
+#include "ScreenFittingArea.h"
+#include "ui_SettingsView.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QHideEvent>
+#include <QShowEvent>
+#include <QStyle>
+#include <QVBoxLayout>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-SettingsViewController::SettingsViewController(RunLoop& runLoop, DataManager& dataManager, QWidget* parent)
+namespace {
+
+// How often the next-backup line is brought up to date: days end, clocks are set, backups start.
+constexpr Seconds nextBackupRefresh{1};
+
+} // namespace
+
+SettingsViewController::SettingsViewController(const Services& services, QWidget* parent)
     : QWidget(parent)
-    , runLoop_(runLoop)
-    , sharedDataManager_(dataManager)
-    , nextBackupTitle_(new QLabel(u"%1:"_s.arg(localizedString("nextBackupTitle")), this))
-    , nextBackupLabel_(new QLabel(this))
+    , runLoop_(services.runLoop)
+    , defaults_(services.defaults)
+    , notifications_(services.notifications)
+    , sharedDataManager_(services.dataManager)
+    , loginItem_(services.loginItem)
+    , tmutil_(services.tmutilQueue, services.launcher, services.runLoop, services.workspace, services.alerts)
+    , ui_(std::make_unique<Ui::SettingsView>())
 {
-    auto* layout = new QHBoxLayout(this);
-    layout->addWidget(nextBackupTitle_);
-    layout->addWidget(nextBackupLabel_);
+    auto view = std::make_unique<QWidget>();
+    ui_->setupUi(view.get());
+    auto* area = new ScreenFittingArea(this);
+    area->setContent(view.release());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(area);
+
+    titleControls();
+    nameControls();
+    arrangeForStyle();
+    connectScheduleControls();
+    connectOptionControls();
+    connectAlertControls();
+    showStoredSchedule();
+    showStoredOptions();
+    updateScheduleIntervalValueControls();
 }
 
-QString SettingsViewController::getNextScheduledBackup() const
+SettingsViewController::~SettingsViewController() = default;
+
+void SettingsViewController::titleControls()
 {
-    if (!sharedDataManager_.isScheduleEnabled())
-        return localizedString("nextBackupDisabled");
-    const auto next = sharedDataManager_.nextScheduledBackupDate();
-    if (!next)
-        return localizedString("nextBackupNotAvailable");
-    return u"%1, %2"_s.arg(DataHelper::getDayFrom(*next, DateFormatterStyle::Full, runLoop_.now()),
-                           DataHelper::getDateTimeFrom(*next, DateFormatterStyle::None, DateFormatterStyle::Short));
+    const QString caption = u"%1:"_s;
+    ui_->scheduleGroupLabel->setText(localizedString("settingsGroupSchedule"));
+    ui_->retryGroupLabel->setText(localizedString("settingsGroupRetry"));
+    ui_->menuBarGroupLabel->setText(localizedString("settingsGroupMenuBar"));
+    ui_->diskGroupLabel->setText(localizedString("settingsGroupDisks"));
+
+    ui_->enableScheduleCheckmark->setText(localizedString("settingsEnableScheduledBackupsVia"));
+    ui_->schedulePopup->addItems(
+        {localizedString("settingsOptionCalendarInterval"), localizedString("settingsOptionInterval")});
+    ui_->scheduleLabel->setText(localizedString("scheduleTitle"));
+    ui_->addCalendarIntervalButton->setText(localizedString("addRuleTitle"));
+    ui_->intervalLabel->setText(localizedString("settingsIntervalEvery"));
+    ui_->intervalUnit->setText(localizedString("settingsIntervalHours"));
+    ui_->intervalNote->setText(localizedString("settingsIntervalNotYetUsed"));
+    ui_->nextBackupTitle->setText(caption.arg(localizedString("nextBackupTitle")));
+
+    ui_->enableRetryAtMissedScheduleCheckmark->setText(localizedString("settingsEnableAfterMissedBackup"));
+    ui_->enableRetryAtFailureCheckmark->setText(localizedString("settingsEnableAfterFailedBackup"));
+    ui_->showRemainingMinutesCheckmark->setText(localizedString("settingsShowDetailedTimeInMenuBar"));
+    ui_->showRemainingMinutesDetails->setText(localizedString("settingsShowDetailedTimeInMenuBarDetails"));
+    ui_->showMenuBarIconOnlyCheckmark->setText(localizedString("settingsShowMenuBarIconOnly"));
+    ui_->enableMenuBarColorsCheckmark->setText(localizedString("settingsDisableIconColors"));
+    ui_->rotateBackupDisksCheckmark->setText(localizedString("settingsRotateBackupDisks"));
+    ui_->enableAppAtSystemStartCheckmark->setText(localizedString("settingsStartOnSystemStart"));
+}
+
+/// For assistive technology, which tells neither what a picture shows nor what a control stands beside.
+void SettingsViewController::nameControls()
+{
+    const QString help = localizedString("helpButtonTitle");
+    const auto explain = [](QWidget* control, const QString& name, const QString& description) {
+        if (!name.isEmpty())
+            control->setAccessibleName(name);
+        control->setAccessibleDescription(description);
+    };
+    const QString schedule = ui_->scheduleGroupLabel->text();
+    explain(ui_->enableScheduleCheckmark, {}, schedule);
+    explain(ui_->schedulePopup, ui_->enableScheduleCheckmark->text(), schedule);
+    explain(ui_->warningButton, localizedString("warningButtonTitle"), disableTimeMachineInstruction());
+    explain(ui_->calendarIntervalTable, ui_->scheduleLabel->text(), schedule);
+    explain(ui_->addCalendarIntervalButton, {}, ui_->scheduleLabel->text());
+    const QString interval = u"%1 %2"_s.arg(ui_->intervalLabel->text(), ui_->intervalUnit->text());
+    explain(ui_->scheduleIntervalValueTextField, interval, ui_->intervalNote->text());
+    explain(ui_->scheduleIntervalValueStepper, interval, ui_->intervalNote->text());
+    explain(ui_->nextBackupLabel, {}, ui_->nextBackupTitle->text());
+
+    const QString missed = ui_->enableRetryAtMissedScheduleCheckmark->text();
+    const QString failed = ui_->enableRetryAtFailureCheckmark->text();
+    explain(ui_->enableRetryAtMissedScheduleCheckmark, {}, localizedString("retryAfterMissedBackupMessage"));
+    explain(ui_->enableRetryAtFailureCheckmark, {}, localizedString("retryAfterFailedBackupMessage"));
+    explain(ui_->retryAtMissedScheduleHelpButton, help, missed);
+    explain(ui_->retryAtFailureHelpButton, help, failed);
+    explain(ui_->showRemainingMinutesCheckmark, {}, ui_->showRemainingMinutesDetails->text());
+    explain(ui_->showMenuBarIconOnlyCheckmark, {}, ui_->menuBarGroupLabel->text());
+    explain(ui_->enableMenuBarColorsCheckmark, {}, ui_->menuBarGroupLabel->text());
+    explain(ui_->rotateBackupDisksCheckmark, {}, ui_->diskGroupLabel->text());
+    explain(ui_->enableAppAtSystemStartCheckmark, {}, ui_->diskGroupLabel->text());
+    ui_->warningButton->setToolTip(ui_->warningButton->accessibleName());
+
+    assignMnemonics(
+        {ui_->enableScheduleCheckmark, ui_->addCalendarIntervalButton, ui_->enableRetryAtMissedScheduleCheckmark,
+         ui_->enableRetryAtFailureCheckmark, ui_->showRemainingMinutesCheckmark, ui_->showMenuBarIconOnlyCheckmark,
+         ui_->enableMenuBarColorsCheckmark, ui_->rotateBackupDisksCheckmark, ui_->enableAppAtSystemStartCheckmark});
+}
+
+/// What depends on the sizes of the style and the font.
+void SettingsViewController::arrangeForStyle()
+{
+    QFont heading = font();
+    heading.setBold(true);
+    for (QLabel* title : {ui_->scheduleGroupLabel, ui_->retryGroupLabel, ui_->menuBarGroupLabel, ui_->diskGroupLabel})
+        title->setFont(heading);
+    const int indicator = style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) +
+                          style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);
+    ui_->showRemainingMinutesDetails->setContentsMargins(indicator, 0, 0, 0);
+    ui_->scheduleLabel->setMinimumHeight(ui_->calendarIntervalTable->heightOfFirstRow());
+    ui_->warningButton->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this));
+    constexpr int digits = 3;
+    ui_->scheduleIntervalValueTextField->setFixedWidth(ui_->scheduleIntervalValueTextField->minimumSizeHint().width() +
+                                                       digits * fontMetrics().horizontalAdvance(u'0'));
+}
+
+void SettingsViewController::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        arrangeForStyle();
 }
 
 void SettingsViewController::showEvent(QShowEvent* event)
 {
-    nextBackupLabel_->setText(getNextScheduledBackup());
     QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    showStoredSchedule();
+    showStoredOptions();
+    nextBackupTimer_ = runLoop_.scheduleRepeating(nextBackupRefresh, [this] { refreshNextBackupLabel(); });
+}
+
+void SettingsViewController::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (event->spontaneous())
+        return;
+    nextBackupTimer_.invalidate();
+    postShouldUpdateStatusBar();
+    reloadCalendarIntervalTableView();
+}
+
+void SettingsViewController::postShouldUpdateStatusBar()
+{
+    notifications_.post(notifications::shouldUpdateStatusBar);
 }
 
 } // namespace quillon

@@ -1,33 +1,138 @@
 #pragma once
 
+#include "AlertPopover.h"
+#include "AlertPresenter.h"
+#include "TMUtil.h"
+#include "Timer.h"
+
+#include <QTime>
 #include <QWidget>
 
-class QLabel;
+#include <memory>
+
+class QAbstractButton;
+class QCheckBox;
+
+namespace Ui {
+class SettingsView;
+}
 
 namespace quillon {
 
+class CalendarIntervalCellView;
 class DataManager;
+class LoginItem;
+class NotificationCenter;
 class RunLoop;
+class ScreenFittingArea;
+class UserDefaults;
 
-/// Content of the settings popover: when the next backup is due. Main thread only.
+/// The settings panel. Every control acts and is stored the moment the user changes it; there is nothing to apply or to
+/// cancel. Main thread only.
+///
+/// One file per concern: _schedule (rules, interval, next backup), _options (retry, menu bar, disks, log-in), _alerts.
 class SettingsViewController final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Both must outlive the panel.
-    SettingsViewController(RunLoop& runLoop, DataManager& dataManager, QWidget* parent = nullptr);
+    struct Services {
+        RunLoop& runLoop;
+        UserDefaults& defaults;
+        NotificationCenter& notifications;
+        DataManager& dataManager;
+        LoginItem& loginItem;
+        TMUtilQueue& tmutilQueue;
+        TaskLauncher& launcher;
+        Workspace& workspace;
+        AlertPresenter& alerts;
+    };
+
+    static constexpr qsizetype mostRules = 5;
+
+    /// The services must outlive the panel.
+    explicit SettingsViewController(const Services& services, QWidget* parent = nullptr);
+    ~SettingsViewController() override;
 
     /// The text of the next-backup line.
     QString getNextScheduledBackup() const;
+    /// Hours, 1 to 24; presentation only, the schedule follows the rules.
+    int scheduleIntervalValue() const { return scheduleIntervalValue_; }
+    /// Whether an alert is up and blocks the panel.
+    bool shouldDisableUserControls() const { return shouldDisableUserControls_; }
+
+    /// The time of day of a rule's seconds since midnight; whole days are dropped, as the schedule does.
+    static QTime todayWithIntervalSinceMidnight(double seconds);
+    /// Whole minutes.
+    static int secondsSinceMidnightFromDate(QTime time);
 
 protected:
+    void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
+    // Set-up
+    void titleControls();
+    void nameControls();
+    void connectControls();
+    void showStoredSettings();
+    void arrangeForStyle();
+
+    // Schedule
+    void connectScheduleControls();
+    void showStoredSchedule();
+    void reloadCalendarIntervalTableView();
+    void connectRow(CalendarIntervalCellView* view);
+    void refreshNextBackupLabel();
+    void enableScheduleCheckmarkChanged(bool on);
+    void schedulePopupChanged();
+    void scheduleIntervalValueDidChange(int value);
+    void updateScheduleIntervalValueControls();
+    void addCalendarIntervalButtonPressed();
+    void calendarIntervalDayPopupButtonChanged(const CalendarIntervalCellView& sender);
+    void calendarIntervalDatePickerChanged(const CalendarIntervalCellView& sender);
+
+    // Options
+    void connectOptionControls();
+    void showStoredOptions();
+    void enableRetryAtMissedScheduleCheckmarkChanged(bool on);
+    void enableRetryAtFailureCheckmarkChanged(bool on);
+    void storeRetrySwitch(const QString& key, bool on);
+    void showRemainingMinutesCheckmarkChanged(bool on);
+    void showMenuBarIconOnlyCheckmarkChanged(bool on);
+    void enableDetailedTimeUnlessIconOnly();
+    void enableMenuBarColorsCheckmarkChanged(bool on);
+    void rotateBackupDisksCheckmarkChanged(bool on);
+    void enableAppAtSystemStartCheckmarkChanged(bool on);
+    void storeSwitch(const QString& key, bool on);
+    bool switchIsOn(const QString& key) const;
+    void postShouldUpdateStatusBar();
+
+    // Alerts
+    void connectAlertControls();
+    void warningButtonPressed();
+    void deleteButtonPressed(const CalendarIntervalCellView& sender);
+    void deleteRule(int row);
+    void showRuleLimit();
+    void retryAtMissedScheduleHelpButtonPressed();
+    void retryAtFailureHelpButtonPressed();
+    void showHelp(QAbstractButton* sender, const QString& title, const QString& message);
+    QString disableTimeMachineInstruction() const;
+    void runAlert(const AlertRequest& request, QWidget* target, RectEdge edge,
+                  AlertPopover::CompletionBlock completionBlock = {});
+    void showBlockingTransparentOverlay(bool show);
+
     RunLoop& runLoop_;
+    UserDefaults& defaults_;
+    NotificationCenter& notifications_;
     DataManager& sharedDataManager_;
-    QLabel* nextBackupTitle_;
-    QLabel* nextBackupLabel_;
+    LoginItem& loginItem_;
+    TMUtil tmutil_;
+    std::unique_ptr<Ui::SettingsView> ui_;
+    Timer nextBackupTimer_; ///< runs while the panel is visible
+    QPointer<QWidget> focusBeforeAlert_;
+    int scheduleIntervalValue_ = 2;
+    bool shouldDisableUserControls_ = false;
 };
 
 } // namespace quillon

@@ -48,11 +48,12 @@ public:
 class FakeLoginItem final : public LoginItem {
 public:
     std::vector<bool> calls;
+    bool accepts = true; ///< whether the system takes what it is told
 
     bool setEnabled(bool enabled) override
     {
         calls.push_back(enabled);
-        return true;
+        return accepts;
     }
 };
 

@@ -37,7 +37,7 @@ struct ProgramUnderTest {
         controller.reset();
         manager = std::make_unique<DataManager>(DataManager::Services{clock_, defaults, notifications, loginItem});
         controller = std::make_unique<StatusMenuController>(StatusMenuController::Services{
-            clock_, defaults, notifications, workspace, queue, processes_, alerts, *manager, statusItem});
+            clock_, defaults, notifications, workspace, queue, processes_, alerts, *manager, loginItem, statusItem});
         controller->awakeFromNib();
     }
 

@@ -1,0 +1,123 @@
+#include "CalendarIntervalCellView.h"
+
+#include "CalendarIntervalRule.h"
+#include "DateFormatter.h"
+#include "LocalizedString.h"
+#include "TimePickerFormat.h"
+#include "UserLocale.h"
+#include "ui_CalendarIntervalCell.h"
+
+#include <QEvent>
+#include <QSignalBlocker>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
+    : QWidget(parent)
+    , ui_(std::make_unique<Ui::CalendarIntervalCell>())
+{
+    ui_->setupUi(this);
+    ui_->backupTitle->setText(localizedString("backupTitle"));
+    ui_->atTimeTitle->setText(localizedString("atTimeTitle"));
+    titleDayMenu();
+    auto& picker = *ui_->calendarIntervalDatePicker;
+    picker.setLocale(QLocale(QString::fromStdString(userLocale())));
+    picker.setDisplayFormat(
+        timePickerFormat(DateFormatter::pattern(DateFormatterStyle::None, DateFormatterStyle::Short)));
+    ui_->calendarIntervalDayPopupButton->setAccessibleName(ui_->backupTitle->text());
+    picker.setAccessibleName(ui_->atTimeTitle->text());
+    ui_->deleteButton->setAccessibleName(localizedString("deleteRuleTitle"));
+    ui_->deleteButton->setToolTip(localizedString("deleteRuleTitle"));
+
+    for (QWidget* control :
+         {static_cast<QWidget*>(ui_->calendarIntervalDayPopupButton), static_cast<QWidget*>(&picker)})
+        control->installEventFilter(this);
+    connect(ui_->calendarIntervalDayPopupButton, &QComboBox::activated, this, [this] {
+        describe();
+        Q_EMIT dayChanged();
+    });
+    connect(&picker, &QTimeEdit::timeChanged, this, [this] {
+        describe();
+        Q_EMIT timeChanged();
+    });
+    connect(ui_->deleteButton, &QAbstractButton::clicked, this, &CalendarIntervalCellView::deleteButtonPressed);
+}
+
+CalendarIntervalCellView::~CalendarIntervalCellView() = default;
+
+void CalendarIntervalCellView::titleDayMenu()
+{
+    constexpr qlonglong sunday = 1;
+    constexpr qlonglong monday = 2;
+    auto& menu = *ui_->calendarIntervalDayPopupButton;
+    menu.addItem(localizedString("everyDayTitle"), CalendarIntervalRule::everyDay);
+    menu.addItem(localizedString("weekdaysTitle"), CalendarIntervalRule::mondayToFriday);
+    qlonglong day = monday;
+    for (const auto& title :
+         {localizedString("mondayTitle"), localizedString("tuesdayTitle"), localizedString("wednesdayTitle"),
+          localizedString("thursdayTitle"), localizedString("fridayTitle"), localizedString("saturdayTitle")})
+        menu.addItem(title, day++);
+    menu.addItem(localizedString("sundayTitle"), sunday);
+}
+
+void CalendarIntervalCellView::fill(int row, qlonglong day, QTime time)
+{
+    row_ = row;
+    auto& menu = *ui_->calendarIntervalDayPopupButton;
+    menu.setCurrentIndex(menu.findData(day));
+    auto& picker = *ui_->calendarIntervalDatePicker;
+    if (picker.time() != time) { // the same again would disturb whoever is typing
+        const QSignalBlocker silence(picker);
+        picker.setTime(time);
+    }
+    describe();
+}
+
+qlonglong CalendarIntervalCellView::day() const
+{
+    return ui_->calendarIntervalDayPopupButton->currentData().toLongLong();
+}
+
+QTime CalendarIntervalCellView::time() const
+{
+    return ui_->calendarIntervalDatePicker->time();
+}
+
+QAbstractButton* CalendarIntervalCellView::deleteButton() const
+{
+    return ui_->deleteButton;
+}
+
+QWidget* CalendarIntervalCellView::setTabOrderAfter(QWidget* widget)
+{
+    setTabOrder(widget, ui_->calendarIntervalDayPopupButton);
+    setTabOrder(ui_->calendarIntervalDayPopupButton, ui_->calendarIntervalDatePicker);
+    setTabOrder(ui_->calendarIntervalDatePicker, ui_->deleteButton);
+    return ui_->deleteButton;
+}
+
+/// Who hears only one control of the row hears the whole sentence with it.
+void CalendarIntervalCellView::describe()
+{
+    const QString sentence =
+        u"%1 %2 %3 %4"_s.arg(ui_->backupTitle->text(), ui_->calendarIntervalDayPopupButton->currentText(),
+                             ui_->atTimeTitle->text(), ui_->calendarIntervalDatePicker->text());
+    setAccessibleName(sentence);
+    for (QWidget* control :
+         {static_cast<QWidget*>(ui_->calendarIntervalDayPopupButton),
+          static_cast<QWidget*>(ui_->calendarIntervalDatePicker), static_cast<QWidget*>(ui_->deleteButton)})
+        control->setAccessibleDescription(sentence);
+}
+
+/// The wheel over a row scrolls the table; a rule changes by it only where the user has gone to.
+bool CalendarIntervalCellView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
+        return QWidget::eventFilter(watched, event);
+    event->ignore();
+    return true;
+}
+
+} // namespace quillon
