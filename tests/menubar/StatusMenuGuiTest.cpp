@@ -138,8 +138,8 @@ TEST_F(StatusMenuGui, TheHistorysHelpClosesTheMenuAndOpensAPopoverThatItsButtonC
 
 TEST_F(StatusMenuGui, TheHistorysHelpIsPressedByKeyboard)
 {
-    launch();
     for (const auto key : {Qt::Key_Return, Qt::Key_Space}) {
+        launch();
         openMenu();
         answer();
         statusMenu().setActiveAction(menu().phaseMenuItem);
