@@ -29,7 +29,7 @@ private:
     void addCopy(QAction* action);
     void refresh(QAction* action);
 
-    QPointer<QWidget> source_; ///< a menu, until its end has begun
+    QPointer<QWidget> source_;         ///< a menu, until its end has begun
     QHash<QAction*, QAction*> copies_; ///< by the source's action, never followed from here
 };
 
