@@ -1,13 +1,11 @@
 #include "StatusMenuController.h"
 
-#include "AboutViewController.h"
 #include "DataHelper.h"
 #include "LocalizedString.h"
 #include "Notifications.h"
 #include "PollIntervals.h"
 #include "ProcessInfo.h"
 #include "SettingsKeys.h"
-#include "SettingsViewController.h"
 #include "TextComparison.h"
 
 namespace quillon {
@@ -103,17 +101,12 @@ void StatusMenuController::enableMenuButtons(bool enable)
 
 void StatusMenuController::createPopovers()
 {
-    const auto create = [](std::unique_ptr<QWidget> content) {
-        auto popover = std::make_unique<Popover>();
-        popover->setContentView(content.release());
-        popover->setBehavior(PopoverBehavior::Transient);
-        popover->setAnimates(true);
-        return popover;
-    };
-    aboutPopover_ = create(std::make_unique<AboutViewController>(runLoop_, workspace_, alerts_));
-    preferencesPopover_ = create(std::make_unique<SettingsViewController>(
-        SettingsViewController::Services{runLoop_, defaults_, notifications_, sharedDataManager_, loginItem_,
-                                         tmutilQueue_, launcher_, workspace_, alerts_}));
+    // Their contents follow when they are first shown: most days nobody looks at them.
+    for (auto* popover : {&aboutPopover_, &preferencesPopover_}) {
+        *popover = std::make_unique<Popover>();
+        (*popover)->setBehavior(PopoverBehavior::Transient);
+        (*popover)->setAnimates(true);
+    }
 }
 
 void StatusMenuController::registerObservers()

@@ -1,8 +1,10 @@
+#include "AboutViewController.h"
 #include "Bundle.h"
 #include "LocalizedString.h"
 #include "MakerSite.h"
 #include "RestoreGuide.h"
 #include "SettingsKeys.h"
+#include "SettingsViewController.h"
 #include "StatusMenuController.h"
 
 namespace quillon {
@@ -64,11 +66,19 @@ void StatusMenuController::openSystemPreferences()
 
 void StatusMenuController::preferencesClicked()
 {
+    if (!preferencesPopover_->contentView())
+        preferencesPopover_->setContentView(
+            std::make_unique<SettingsViewController>(
+                SettingsViewController::Services{runLoop_, defaults_, notifications_, sharedDataManager_, loginItem_,
+                                                 tmutilQueue_, launcher_, workspace_, alerts_})
+                .release()); // which the popover takes
     showPopover(*preferencesPopover_);
 }
 
 void StatusMenuController::aboutClicked()
 {
+    if (!aboutPopover_->contentView())
+        aboutPopover_->setContentView(std::make_unique<AboutViewController>(runLoop_, workspace_, alerts_).release());
     showPopover(*aboutPopover_);
 }
 
