@@ -16,6 +16,7 @@ ALLOWED = {layer: {before for before in LAYERS[:index] if layer not in CORE or b
            for index, layer in enumerate(LAYERS)}
 # Programs that use a part of them.
 ALLOWED["quillonctl"] = CORE
+ALLOWED["helper"] = {"platform/core", "platform/session"}
 ALLOWED["timemachine"] = {"platform/core"}
 ALLOWED["disks"] = {"platform/core", "platform/session", "platform/ui", "common/core", "tmcontrol"}
 

@@ -107,6 +107,9 @@ void StatusMenuController::createPopovers()
         (*popover)->setBehavior(PopoverBehavior::Transient);
         (*popover)->setAnimates(true);
     }
+    // Their frames show no title; screen readers and lists of windows do.
+    aboutPopover_->setWindowTitle(localizedString("aboutMenuTitle"));
+    preferencesPopover_->setWindowTitle(localizedString("preferencesMenuTitle"));
 }
 
 void StatusMenuController::registerObservers()

@@ -18,9 +18,11 @@
 #include "TMUtilQueue.h"
 #include "Task.h"
 #include "UserDefaultsStore.h"
+#include "WindowSystem.h"
 #include "WorkspaceFactory.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QStandardPaths>
 
 #include <clocale>
@@ -40,6 +42,15 @@ void printLine(std::FILE* stream, const QString& text)
     std::fputs((text + u'\n').toLocal8Bit().constData(), stream);
 }
 
+/// A second start of the program asks for the settings, not for the menu: the item may be hidden in a crowded bar.
+void present(StatusMenuController& controller)
+{
+    if (QWidget* alert = QApplication::activeModalWidget()) // which waits for an answer and blocks everything else
+        bringToFront(*alert);
+    else
+        controller.preferencesClicked();
+}
+
 /// Creates the services, joins the parts and runs until the user quits.
 int runApplication(const Options& options, SingleInstance& instance)
 {
@@ -50,7 +61,8 @@ int runApplication(const Options& options, SingleInstance& instance)
     const auto defaults = openUserDefaults(DefaultsAccess::ReadWrite);
     const auto workspace = makeWorkspace(
         runLoop, {{TMUtil::settingsAddress(), QCoreApplication::applicationDirPath() + "/quillon-disks"_L1}});
-    const auto loginItem = makeLoginItem(QCoreApplication::applicationFilePath());
+    const auto loginItem =
+        makeLoginItem(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../libexec/quillon/QuillonHelper"_L1));
     TMUtilQueue tmutilQueue(launcher, runLoop, tmutilPath());
     DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});
     const Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
@@ -65,7 +77,7 @@ int runApplication(const Options& options, SingleInstance& instance)
     controller.awakeFromNib();
     QObject::connect(&controller, &StatusMenuController::terminate, qApp, &QCoreApplication::quit);
     Cirrel::initWithAppId(makerservice::applicationId(), makerservice::apiKey(), makerservice::address());
-    QObject::connect(&instance, &SingleInstance::presentRequested, statusItem.get(), &StatusItem::present);
+    QObject::connect(&instance, &SingleInstance::presentRequested, &controller, [&controller] { present(controller); });
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [&tmutilQueue] { tmutilQueue.shutDown(); });
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QTest>
 #include <QWidget>
 
 #include <utility>
@@ -57,7 +58,7 @@ void Stage::launch()
 
 void Stage::openMenu(QAction* const StatusMenu::*submenuOf)
 {
-    item_->present();
+    QTest::keyClick(item_->anchor().view, Qt::Key_Space);
     program_.runLoop.advance(Seconds(1));
     if (submenuOf) {
         StatusMenu& menu = program_.controller->statusMenu();

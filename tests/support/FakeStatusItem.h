@@ -21,7 +21,6 @@ public:
     void setImage(const std::optional<SymbolImage>& drawn) override { image = drawn; }
     void setMenu(QMenu* shown) override { menu = shown; }
     PopoverAnchor anchor() const override { return {nullptr, QRect(600, 0, 60, 24)}; }
-    void present() override {}
 
     double fontSize = 0;
     QString title;

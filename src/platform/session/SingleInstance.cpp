@@ -48,7 +48,7 @@ bool SingleInstance::acquire()
 {
     if (lockFile_.isOpen())
         return true;
-    if (!lock()) {
+    if (claim() != Claim::Ours) {
         lockFile_.close();
         return false;
     }
@@ -56,19 +56,31 @@ bool SingleInstance::acquire()
     return true;
 }
 
-bool SingleInstance::lock()
+bool SingleInstance::isHeldByAnother()
+{
+    if (lockFile_.isOpen())
+        return false;
+    const bool held = claim() == Claim::Anothers;
+    lockFile_.close();
+    return held;
+}
+
+SingleInstance::Claim SingleInstance::claim()
 {
     // QFile opens close-on-exec: a child that outlives this process does not keep the lock.
     if (!QDir().mkpath(folder_) || !lockFile_.open(QIODevice::ReadWrite)) {
         errorString_ = u"cannot write in the folder %1"_s.arg(folder_);
-        return false;
+        return Claim::Impossible;
     }
     if (flock(lockFile_.handle(), LOCK_EX | LOCK_NB) == 0)
-        return true;
+        return Claim::Ours;
     const int error = errno;
-    errorString_ = error == EWOULDBLOCK ? u"another instance runs on the folder %1"_s.arg(folder_)
-                                        : u"cannot lock %1: %2"_s.arg(lockFile_.fileName(), qt_error_string(error));
-    return false;
+    if (error == EWOULDBLOCK) {
+        errorString_ = u"another instance runs on the folder %1"_s.arg(folder_);
+        return Claim::Anothers;
+    }
+    errorString_ = u"cannot lock %1: %2"_s.arg(lockFile_.fileName(), qt_error_string(error));
+    return Claim::Impossible;
 }
 
 void SingleInstance::listen()

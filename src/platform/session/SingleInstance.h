@@ -24,6 +24,9 @@ public:
     /// cannot be used: errorString() says which.
     [[nodiscard]] bool acquire();
 
+    /// Whether another process is the one instance now. The claim is not taken.
+    [[nodiscard]] bool isHeldByAnother();
+
     /// Asks the instance that made acquire() fail to come to the front; true when it has confirmed. Blocks for two
     /// seconds at most and is meant for start-up, ahead of the event loop. After a false the first instance may just
     /// have ended: acquire() is worth another try.
@@ -37,7 +40,8 @@ Q_SIGNALS:
     void presentRequested();
 
 private:
-    bool lock();
+    enum class Claim { Ours, Anothers, Impossible };
+    Claim claim();
     void listen();
     void answerNextClient();
     bool ask(const QDeadlineTimer& deadline) const;

@@ -52,15 +52,6 @@ PopoverAnchor MenuBarWindow::anchor() const
     return {button_, {}};
 }
 
-void MenuBarWindow::present()
-{
-    showNormal();
-    raise();
-    activateWindow();
-    button_->setFocus();
-    button_->openMenu();
-}
-
 void MenuBarWindow::closeEvent(QCloseEvent* event)
 {
     // The window is the program's only face: the user may put it away, but closing it would lock everybody out. The

@@ -22,7 +22,6 @@ public:
     void setContent(const StatusItemContent& content) override;
     void setMenu(QMenu* menu) override;
     PopoverAnchor anchor() const override;
-    void present() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

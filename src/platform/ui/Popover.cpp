@@ -79,6 +79,8 @@ void Popover::showRelativeTo(const PopoverAnchor& anchor, RectEdge preferredEdge
     if (!shown_ && isVisible()) // still fading out
         hide();
     anchor_ = anchor;
+    if (anchor_.view && anchor_.view->window()->isMinimized())
+        anchor_.view->window()->showNormal();
     if (currentAnchor().isEmpty())
         anchor_.screenRect = pointerOrCorner();
     preferredEdge_ = preferredEdge;

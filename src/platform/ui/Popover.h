@@ -43,7 +43,7 @@ public:
     /// Whether it fades in and out, where the system can do that; the default is yes.
     void setAnimates(bool animates) { animates_ = animates; }
 
-    /// Shows it, or moves it when it is shown.
+    /// Shows it, or moves it when it is shown. The window of its anchor, put away by the user, comes back.
     void showRelativeTo(const PopoverAnchor& anchor, RectEdge preferredEdge);
     bool isShown() const { return shown_; }
     /// Fades out; isShown() is false at once.

@@ -51,8 +51,6 @@ public:
     virtual void setMenu(QMenu* menu) = 0;
     /// Where popovers that belong to the item point.
     virtual PopoverAnchor anchor() const = 0;
-    /// Makes the item known to the user, opening its menu: what a second start of the program asks of the first.
-    virtual void present() = 0;
 };
 
 /// Where Linux shows the item: in a tray while there is one and else in a bar of our own, or only in one of them. On

@@ -22,8 +22,6 @@ public:
     /// The menu stays the caller's.
     virtual void setMenu(QMenu* menu) = 0;
     virtual PopoverAnchor anchor() const = 0;
-    /// Opens the menu where the user sees that it belongs to the item.
-    virtual void present() = 0;
 };
 
 } // namespace quillon

@@ -23,7 +23,6 @@ public:
     void setImage(const std::optional<SymbolImage>& image) override;
     void setMenu(QMenu* menu) override;
     PopoverAnchor anchor() const override;
-    void present() override;
 
 private:
     StatusItemFace* face() const;
@@ -44,7 +43,6 @@ private:
     std::unique_ptr<TrayStatusItem> tray_; ///< kept once it was made
     std::unique_ptr<MenuBarWindow> bar_;   ///< there while it is shown
     bool inTray_ = false;
-    bool presentLater_ = false;
 };
 
 LinuxStatusItem::LinuxStatusItem(StatusItemPlacement placement)
@@ -88,14 +86,6 @@ PopoverAnchor LinuxStatusItem::anchor() const
     return face() ? face()->anchor() : PopoverAnchor();
 }
 
-void LinuxStatusItem::present()
-{
-    if (face())
-        face()->present();
-    else
-        presentLater_ = true;
-}
-
 StatusItemFace* LinuxStatusItem::face() const
 {
     if (inTray_)
@@ -126,10 +116,6 @@ void LinuxStatusItem::choose()
         hideInTray();
         if (placement_ == StatusItemPlacement::Automatic)
             showInBar();
-    }
-    if (presentLater_ && face()) {
-        presentLater_ = false;
-        face()->present();
     }
 }
 

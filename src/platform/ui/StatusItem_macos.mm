@@ -93,17 +93,6 @@ public:
         return {nullptr, QRectF(NSMinX(button), top, NSWidth(button), NSHeight(button)).toRect()};
     }
 
-    void present() override
-    {
-        // Qt's activateWindow() does not bring an accessory application to the front.
-        [NSApp activateIgnoringOtherApps:YES];
-        // The click returns only when the menu has been closed.
-        NSStatusBarButton* button = item_.button;
-        dispatch_async(dispatch_get_main_queue(), ^{
-          [button performClick:nil];
-        });
-    }
-
 private:
     void label(const QString& text)
     {

@@ -63,11 +63,6 @@ PopoverAnchor TrayStatusItem::anchor() const
     return {nullptr, icon_.geometry()};
 }
 
-void TrayStatusItem::present()
-{
-    openMenu();
-}
-
 bool TrayStatusItem::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)

@@ -30,7 +30,6 @@ public:
     void setContent(const StatusItemContent& content) override;
     void setMenu(QMenu* menu) override;
     PopoverAnchor anchor() const override;
-    void present() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

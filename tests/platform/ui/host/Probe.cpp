@@ -6,6 +6,17 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+std::optional<QRect> rect(const QJsonValue& json)
+{
+    if (!json.isObject())
+        return std::nullopt;
+    return QRect(json[u"x"_s].toInt(), json[u"y"_s].toInt(), json[u"w"_s].toInt(), json[u"h"_s].toInt());
+}
+
+} // namespace
+
 Probe::Probe(const PrivateBus& bus, const QString& placement, const QStringList& environment)
     : program_(QStringLiteral(STATUS_ITEM_PROBE), {placement}, environment + QStringList{bus.variable()})
 {
@@ -19,10 +30,12 @@ QJsonObject Probe::tell(const QString& command)
 
 std::optional<QRect> Probe::bar()
 {
-    const QJsonValue bar = tell(u"state"_s)[u"bar"_s];
-    if (!bar.isObject())
-        return std::nullopt;
-    return QRect(bar[u"x"_s].toInt(), bar[u"y"_s].toInt(), bar[u"w"_s].toInt(), bar[u"h"_s].toInt());
+    return rect(tell(u"state"_s)[u"bar"_s]);
+}
+
+std::optional<QRect> Probe::icon()
+{
+    return rect(tell(u"state"_s)[u"icon"_s]);
 }
 
 bool Probe::isMenuOpen()

@@ -20,6 +20,8 @@ public:
     QJsonObject tell(const QString& command);
     /// Where the bar is, in logical pixels; nothing when there is none.
     std::optional<QRect> bar();
+    /// Where the tray shows the icon, in logical pixels; nothing when there is none or nobody knows.
+    std::optional<QRect> icon();
     bool isMenuOpen();
 
     /// Name of the program's windows.

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QMenu>
 #include <QSocketNotifier>
+#include <QTest>
 
 #include <cstdio>
 #include <iostream>
@@ -24,16 +25,20 @@ quillon::StatusItemPlacement placementNamed(const QString& name)
     return name == "bar"_L1 ? quillon::StatusItemPlacement::Bar : quillon::StatusItemPlacement::Automatic;
 }
 
-QJsonObject screenState(const QMenu& menu, const QString& chosen)
+QJsonObject toJson(const QRect& rect)
+{
+    return {{u"x"_s, rect.x()}, {u"y"_s, rect.y()}, {u"w"_s, rect.width()}, {u"h"_s, rect.height()}};
+}
+
+QJsonObject screenState(const quillon::StatusItem& item, const QMenu& menu, const QString& chosen)
 {
     QJsonObject state{{u"menuOpen"_s, menu.isVisible()}, {u"chosen"_s, chosen}};
+    if (const QRect icon = item.anchor().screenRect; !icon.isNull())
+        state[u"icon"_s] = toJson(icon);
     const auto widgets = QApplication::topLevelWidgets();
     for (const QWidget* widget : widgets) {
-        if (widget->objectName() == "MenuBarWindow"_L1 && widget->isVisible()) {
-            const QRect bar = widget->geometry();
-            state[u"bar"_s] =
-                QJsonObject{{u"x"_s, bar.x()}, {u"y"_s, bar.y()}, {u"w"_s, bar.width()}, {u"h"_s, bar.height()}};
-        }
+        if (widget->objectName() == "MenuBarWindow"_L1 && widget->isVisible())
+            state[u"bar"_s] = toJson(widget->geometry());
     }
     return state;
 }
@@ -48,8 +53,8 @@ void obey(const QString& line, quillon::StatusItem& item)
         item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = {}});
     else if (command == "orange"_L1)
         item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = quillon::SymbolColor::SystemOrange});
-    else if (command == "present"_L1)
-        item.present();
+    else if (command == "press"_L1)
+        QTest::keyClick(item.anchor().view, Qt::Key_Space);
 }
 
 } // namespace
@@ -81,7 +86,7 @@ int main(int argc, char** argv)
             return;
         }
         obey(QString::fromStdString(line), *item);
-        const auto answer = QJsonDocument(screenState(menu, chosen)).toJson(QJsonDocument::Compact);
+        const auto answer = QJsonDocument(screenState(*item, menu, chosen)).toJson(QJsonDocument::Compact);
         std::cout << answer.toStdString() << std::endl;
     });
     return QApplication::exec();
