@@ -174,6 +174,16 @@ TEST_F(Application, EndsInOrderWhenItIsToldToAndTakesAReadingChildAlong)
     EXPECT_TRUE(runUntil([&] { return !QFile::exists(child); }));
 }
 
+TEST_F(Application, AFirstLaunchsAlertThatNobodyHasAnsweredComesAgain)
+{
+    start(application);
+    ASSERT_TRUE(hasPrinted("Not Running"));
+    application.terminate();
+    ASSERT_TRUE(application.waitForFinished());
+    EXPECT_FALSE(settings().boolean(settingskeys::firstLaunch)) << "it did launch";
+    EXPECT_FALSE(settings().object(settingskeys::didShowAlertAtFirstLaunch).isValid());
+}
+
 TEST_F(Application, NumbersKeepTheirPointWhereTheLocaleHasAComma)
 {
     const DecimalCommaLocale comma;

@@ -41,7 +41,9 @@ QuitSignals::QuitSignals()
     writeEnd = pipe_[1];
     notifier_.setSocket(pipe_[0]);
     QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] {
-        notifier_.setEnabled(false);
+        char byte = 0;
+        while (read(pipe_[0], &byte, 1) == 1) {
+        }
         QCoreApplication::quit();
     });
     notifier_.setEnabled(true);

@@ -3,6 +3,7 @@
 #include "Alert.h"
 #include "WindowSystem.h"
 
+#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -43,6 +44,13 @@ void AlertWindow::beginModal(std::function<void(int response)> answer)
 void AlertWindow::reject()
 {
     alert_->escapeButton()->click();
+}
+
+void AlertWindow::closeEvent(QCloseEvent* event)
+{
+    // The program's end closes every window, and that is no spontaneous event: what nobody has read is not answered.
+    if (event->spontaneous())
+        QDialog::closeEvent(event);
 }
 
 } // namespace quillon

@@ -8,7 +8,8 @@ namespace quillon {
 
 class Alert;
 
-/// An alert in a window of its own. Closing the window stands for the button that Escape presses. Main thread only.
+/// An alert in a window of its own. Closing the window stands for the button that Escape presses; the
+/// program's end answers nothing. Main thread only.
 class AlertWindow final : public QDialog {
     Q_OBJECT
 
@@ -19,6 +20,9 @@ public:
     void beginModal(std::function<void(int response)> answer);
 
     void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     Alert* alert_;

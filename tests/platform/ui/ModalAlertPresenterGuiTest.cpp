@@ -54,13 +54,21 @@ TEST_F(ModalAlertPresenterTest, ReturnsAtOnceAndAnswersOnceWithThePlaceOfTheChos
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST_F(ModalAlertPresenterTest, TakesClosingTheWindowForEscape)
+TEST_F(ModalAlertPresenterTest, TakesAUsersClosingOfTheWindowForEscapeAndTheProgramsEndForNoAnswer)
 {
+    const auto closeByUser = [this] {
+        QCloseEvent event;
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        QCoreApplication::instance()->notify(window(), &event); // sendEvent() would make it the program's again
+    };
     present(u"A"_s, {u"Open"_s, u"Cancel"_s});
-    window()->close();
+    closeByUser();
     present(u"A"_s, {u"OK"_s});
-    window()->close();
+    closeByUser();
     EXPECT_EQ(answers_, (std::vector{1001, 1000}));
+    present(u"A"_s, {u"Open"_s, u"Cancel"_s});
+    EXPECT_TRUE(window()->close());
+    EXPECT_EQ(answers_.size(), 2U);
 }
 
 TEST_F(ModalAlertPresenterTest, ShowsOneAlertAtATimeInTheOrderTheyCameIn)
