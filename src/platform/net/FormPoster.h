@@ -37,7 +37,8 @@ public:
     FormPoster& operator=(const FormPoster&) = delete;
     virtual ~FormPoster() = default;
 
-    /// Returns at once. The completion is called exactly once, in a later turn, on the main thread; never when this
+    /// Returns at once. A connection that breaks ahead of any answer is tried again, so the form may arrive more than
+    /// once. The completion is called exactly once, in a later turn, on the main thread; never when this
     /// object is destroyed before.
     virtual void post(const FormRequest& request, Completion completion) = 0;
 };

@@ -15,16 +15,15 @@ namespace {
 
 constexpr int mostRedirects = 5;
 
-QNetworkRequest networkRequest(const FormRequest& form)
+QNetworkRequest networkRequest(const FormRequest& form, const QUrl& address)
 {
-    QNetworkRequest request(form.address);
+    QNetworkRequest request(address);
     for (auto header = form.headers.begin(); header != form.headers.end(); ++header)
         request.setRawHeader(header.key().toUtf8(), header.value().toUtf8());
     request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/x-www-form-urlencoded"_s);
     // A compressed answer would be unpacked on the way, whatever its size.
     request.setRawHeader("Accept-Encoding", "identity");
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(mostRedirects);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     return request;
@@ -39,8 +38,8 @@ QByteArray formBody(const QMap<QString, QString>& fields)
     return pairs.join('&');
 }
 
-/// Qt reports a status code of 400 or more as an error; the answer is whole all the same.
-bool isWholeAnswer(const QNetworkReply& reply)
+/// Qt reports a status code of 400 or more as an error; it is an answer all the same.
+bool isAnswer(const QNetworkReply& reply)
 {
     const auto error = reply.error();
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -53,47 +52,69 @@ bool isWholeAnswer(const QNetworkReply& reply)
            error == QNetworkReply::ProtocolInvalidOperationError;
 }
 
+/// Where the form is to be posted again. A server that has something to be fetched elsewhere (303, See Other) has
+/// answered the form itself: RFC 9110, section 15.4.4.
+QUrl redirectTarget(const QNetworkReply& reply)
+{
+    constexpr int seeOther = 303;
+    if (reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == seeOther)
+        return {};
+    return reply.attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+}
+
 } // namespace
 
-HttpExchange::HttpExchange(const FormRequest& form, RunLoop& runLoop, End end, QObject* parent)
+HttpExchange::HttpExchange(FormRequest form, RunLoop& runLoop, End end, QObject* parent)
     : QObject(parent)
-    , reply_(*manager_.post(networkRequest(form), formBody(form.fields)))
-    , address_(form.address)
+    , form_(std::move(form))
     , end_(std::move(end))
 {
-    connect(&reply_, &QNetworkReply::readyRead, this, &HttpExchange::takeBytes);
-    connect(&reply_, &QNetworkReply::redirected, this, &HttpExchange::judgeRedirect);
-    connect(&reply_, &QNetworkReply::finished, this, &HttpExchange::takeEnd);
     // Repeating, though it runs once: such a timer does not wait longer when somebody sets the clock back.
     timeout_ = runLoop.scheduleRepeating(
-        form.timeout, [this] { fail(QNetworkReply::TimeoutError, u"The server did not answer in time."_s); });
+        form_.timeout, [this] { fail(QNetworkReply::TimeoutError, u"The server did not answer in time."_s); });
+    send(form_.address);
+}
+
+void HttpExchange::send(const QUrl& address)
+{
+    body_.clear();
+    reply_ = manager_.post(networkRequest(form_, address), formBody(form_.fields));
+    reply_->setReadBufferSize(HttpClient::maximumAnswer + 1); // one turn never brings more
+    connect(reply_, &QNetworkReply::readyRead, this, &HttpExchange::takeBytes);
+    connect(reply_, &QNetworkReply::finished, this, &HttpExchange::takeEnd);
 }
 
 void HttpExchange::takeBytes()
 {
-    body_ += reply_.readAll();
+    body_ += reply_->readAll();
     if (body_.size() > HttpClient::maximumAnswer)
         fail(QNetworkReply::UnknownContentError, u"The server's answer is too long."_s);
 }
 
-void HttpExchange::judgeRedirect(const QUrl& target)
-{
-    const bool isAsSafe = target.scheme() == "https"_L1 || target.scheme() == address_.scheme();
-    if (target.host() != address_.host() || !isAsSafe) {
-        fail(QNetworkReply::InsecureRedirectError, u"The server redirects to “%1”."_s.arg(target.toDisplayString()));
-        return;
-    }
-    address_ = target;
-    body_.clear();
-    Q_EMIT reply_.redirectAllowed();
-}
-
 void HttpExchange::takeEnd()
 {
-    if (isWholeAnswer(reply_))
+    const QUrl target = redirectTarget(*reply_);
+    const QVariant length = reply_->header(QNetworkRequest::ContentLengthHeader);
+    if (!isAnswer(*reply_))
+        fail(reply_->error(), reply_->errorString());
+    else if (length.isValid() && body_.size() < length.toLongLong()) // the error of a status code hides this one
+        fail(QNetworkReply::RemoteHostClosedError, u"The server's answer breaks off."_s);
+    else if (target.isEmpty())
         finish({body_, std::nullopt});
     else
-        fail(reply_.error(), reply_.errorString());
+        follow(reply_->url().resolved(target));
+}
+
+void HttpExchange::follow(const QUrl& target)
+{
+    if (target.host() != form_.address.host() || target.scheme() != "https"_L1) {
+        fail(QNetworkReply::InsecureRedirectError, u"The server redirects to “%1”."_s.arg(target.toDisplayString()));
+    } else if (++redirects_ > mostRedirects) {
+        fail(QNetworkReply::TooManyRedirectsError, u"The server redirects without end."_s);
+    } else {
+        reply_->deleteLater();
+        send(target);
+    }
 }
 
 void HttpExchange::fail(QNetworkReply::NetworkError code, const QString& message)
@@ -104,8 +125,8 @@ void HttpExchange::fail(QNetworkReply::NetworkError code, const QString& message
 void HttpExchange::finish(const HttpResult& result)
 {
     timeout_.invalidate();
-    reply_.disconnect(this);
-    reply_.abort(); // does nothing to a reply that has ended
+    reply_->disconnect(this);
+    reply_->abort(); // does nothing to a reply that has ended
     deleteLater();
     end_(result);
 }

@@ -23,21 +23,23 @@ class HttpExchange final : public QObject {
 public:
     using End = std::function<void(const HttpResult&)>;
 
-    HttpExchange(const FormRequest& form, RunLoop& runLoop, End end, QObject* parent);
+    HttpExchange(FormRequest form, RunLoop& runLoop, End end, QObject* parent);
 
 private:
+    void send(const QUrl& address);
     void takeBytes();
-    void judgeRedirect(const QUrl& target);
     void takeEnd();
+    void follow(const QUrl& target);
     void fail(QNetworkReply::NetworkError code, const QString& message);
     void finish(const HttpResult& result);
 
     QNetworkAccessManager manager_;
-    QNetworkReply& reply_; // the manager's
-    QUrl address_;         ///< what is asked now; the reply's own is the target as soon as there is a redirect
+    const FormRequest form_;
+    QNetworkReply* reply_ = nullptr; // the manager's
     const End end_;
     Timer timeout_;
     QByteArray body_;
+    int redirects_ = 0;
 };
 
 } // namespace quillon

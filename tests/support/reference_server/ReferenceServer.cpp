@@ -46,6 +46,16 @@ QJsonArray ReferenceServer::requests()
     return command({}).value(u"requests"_s).toArray();
 }
 
+int ReferenceServer::dripped()
+{
+    return command({}).value(u"dripped"_s).toInt();
+}
+
+int ReferenceServer::left()
+{
+    return command({}).value(u"left"_s).toInt();
+}
+
 QJsonObject ReferenceServer::command(const QJsonObject& command)
 {
     process_.write(QJsonDocument(command).toJson(QJsonDocument::Compact) + '\n');

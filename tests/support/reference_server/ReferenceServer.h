@@ -28,6 +28,10 @@ public:
     void setStatus(int status);
     /// What has been asked: "path", "body", "form", "headers" of each request.
     QJsonArray requests();
+    /// Bytes that the fault "drip" has sent.
+    int dripped();
+    /// How many clients have gone while the faults "drip" and "hang" kept them.
+    int left();
 
 private:
     QJsonObject command(const QJsonObject& command);

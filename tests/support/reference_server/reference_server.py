@@ -9,10 +9,12 @@ does:
     {"parameter": NAME, "result": VALUE}   what "v1/Config" answers for that parameter
     {"fault": NAME, "detail": TEXT}        how every request is treated from now on: a method of Handler
     {"status": NUMBER}                     the status code of answers from now on
-    {}                                     nothing; the answer of each command lists the requests seen so far
+    {}                                     nothing; the answer of each command lists the requests seen so far, the
+                                           bytes dripped, and how many clients have left before their answer was whole
 """
 
 import argparse
+import gzip
 import json
 import os
 import socket
@@ -20,7 +22,6 @@ import ssl
 import struct
 import sys
 import threading
-import time
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 from urllib.parse import parse_qsl
 
@@ -35,6 +36,8 @@ class Service:
         self.detail = None
         self.status = 200
         self.requests = []
+        self.dripped = 0
+        self.left = 0
 
     def obey(self, command):
         if "parameter" in command:
@@ -43,7 +46,7 @@ class Service:
             self.fault = command["fault"]
             self.detail = command.get("detail")
         self.status = command.get("status", self.status)
-        return {"requests": self.requests}
+        return {"requests": self.requests, "dripped": self.dripped, "left": self.left}
 
     def answer(self, path, form):
         """The answer's status code and text."""
@@ -78,28 +81,32 @@ class Handler(BaseHTTPRequestHandler):
 
     def _hang(self):
         while not self._is_left():
-            time.sleep(DRIP)
+            pass
 
     def _drip(self):
         self._send(b"", length=ENDLESS)
         while not self._is_left():
             self.wfile.write(b" ")
-            time.sleep(DRIP)
+            self.server.service.dripped += 1
 
     def _is_left(self):
-        """Whether the client has gone; it sends nothing more otherwise."""
+        """Whether the client has gone within the time of one drip; it sends nothing more otherwise."""
         self.connection.settimeout(DRIP)
         try:
-            return not self.connection.recv(1)
+            left = not self.connection.recv(1)
         except TimeoutError:
-            return False
+            left = False
+        except OSError:
+            left = True
+        self.server.service.left += left
+        return left
 
     def _reset(self):
         self.connection.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
         os.close(self.connection.detach())  # ahead of the orderly end that the server would make
 
     def _half(self):
-        self._send(b'{"result": {"type": "Str', length=60)
+        self._send(b'{"result": {"type": "Str', self.server.service.status, length=60)
         self.close_connection = True
 
     def _notUtf8(self):
@@ -111,12 +118,26 @@ class Handler(BaseHTTPRequestHandler):
     def _wrongType(self):
         self._send(b'{"result": ["String", "text"]}')
 
+    def _compressed(self):
+        body = gzip.compress(b'{"result": true}')
+        self.send_response(200)
+        self.send_header("Content-Encoding", "gzip")
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
     def _long(self):
         self._send(b" " * int(self.server.service.detail))
 
     def _redirect(self):
+        self._go_to(self.server.service.detail)
+
+    def _circle(self):
+        self._go_to(self.path)
+
+    def _go_to(self, address):
         self.send_response(307)
-        self.send_header("Location", self.server.service.detail)
+        self.send_header("Location", address)
         self.send_header("Content-Length", "0")
         self.end_headers()
 
