@@ -1,6 +1,5 @@
 #include "AppDelegate.h"
 
-#include "Bundle.h"
 #include "Cirrel.h"
 #include "DataHelper.h"
 #include "LocalizedString.h"
@@ -39,6 +38,7 @@ AppDelegate::AppDelegate(const Services& services)
     , notifications_(services.notifications)
     , workspace_(services.workspace)
     , alerts_(services.alerts)
+    , version_(services.version)
 {
 }
 
@@ -59,7 +59,7 @@ void AppDelegate::checkNowAndDaily()
 
 void AppDelegate::retrieveLatestAppVersion()
 {
-    const QString noUpdate = u"{\"os\":\"%1\",\"app\":\"%2\"}"_s.arg(systemVersion(), bundleShortVersion());
+    const QString noUpdate = u"{\"os\":\"%1\",\"app\":\"%2\"}"_s.arg(systemVersion(), version_);
     Cirrel::getConfigForParameter(u"LatestAppVersion"_s, serverInterval, noUpdate,
                                   [self = QPointer(this)](const QVariant& value, const std::optional<Error>& error) {
                                       if (self && !error)
@@ -74,7 +74,7 @@ void AppDelegate::isAppUpdateAvailable(const QString& versions)
     const QJsonValue app = latest.value(u"app"_s);
     if (!os.isString() || !app.isString() || std::is_lt(compareNumerically(systemVersion(), os.toString())))
         return;
-    const bool isNewer = std::is_lt(compareNumerically(bundleShortVersion(), app.toString()));
+    const bool isNewer = std::is_lt(compareNumerically(version_, app.toString()));
     notifications_.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, isNewer ? app.toString() : u""_s}});
 }
 

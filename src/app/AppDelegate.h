@@ -23,6 +23,7 @@ public:
         NotificationCenter& notifications;
         Workspace& workspace;
         AlertPresenter& alerts;
+        QString version; ///< of the program, such as 2.4.1
     };
 
     explicit AppDelegate(const Services& services);
@@ -52,6 +53,7 @@ private:
     NotificationCenter& notifications_;
     Workspace& workspace_;
     AlertPresenter& alerts_;
+    const QString version_;
     bool isRunning_ = false;
     Timer checkForAppUpdateTimer_;
 };

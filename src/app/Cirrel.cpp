@@ -45,7 +45,10 @@ bool isTextOrNumber(const QVariant& value)
     case QMetaType::QString:
     case QMetaType::Bool:
     case QMetaType::Int:
+    case QMetaType::UInt:
     case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
     case QMetaType::Double:
         return true;
     default:
@@ -275,10 +278,11 @@ bool Cirrel::isCacheFresh(const QString& parameter, double serverInterval)
 
 void Cirrel::remember(const QString& parameter, const QVariantMap& result)
 {
-    if (!propertylist::toXml(result)) // a text with control characters, say: what was cached before stays
-        return;
+    // Settings refuse what they cannot hold, a text with control characters for one: then the older answer stays, with
+    // its date.
     services_->defaults_.setObject(cacheKey(parameter), result);
-    services_->defaults_.setDate(cacheDateKey(parameter), services_->runLoop_.now());
+    if (services_->defaults_.object(cacheKey(parameter)).toMap() == result)
+        services_->defaults_.setDate(cacheDateKey(parameter), services_->runLoop_.now());
 }
 
 } // namespace quillon

@@ -65,11 +65,11 @@ int runApplication(const Options& options, SingleInstance& instance)
         makeLoginItem(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../libexec/quillon/QuillonHelper"_L1));
     TMUtilQueue tmutilQueue(launcher, runLoop, tmutilPath());
     DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});
-    const Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
+    Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
     const auto statusItem = makeStatusItem(options.placement);
     StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutilQueue, launcher, alerts,
                                      dataManager, *loginItem, *statusItem});
-    AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts});
+    AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, bundleShortVersion()});
 
     std::unique_ptr<ChangePrinter> printer;
     if (options.printChanges)

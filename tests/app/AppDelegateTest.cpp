@@ -50,8 +50,8 @@ protected:
 
     void launch()
     {
-        delegate =
-            std::make_unique<AppDelegate>(AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts});
+        delegate = std::make_unique<AppDelegate>(
+            AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts, u"2.9"_s});
         delegate->applicationDidFinishLaunching();
     }
 
@@ -79,17 +79,16 @@ protected:
 
 TEST_F(AppDelegateTest, AnUpdateIsAnnouncedWhenItIsNewerAndRunsHere)
 {
-    ASSERT_EQ(bundleShortVersion(), u"1.0.0"_s);
     launch();
     EXPECT_TRUE(delegate->isRunning());
-    for (const auto& newer : {u"1.0.1"_s, u"1.0.10"_s, u"2.0"_s, u"10.0"_s, u"1.0.0b"_s})
+    for (const auto& newer : {u"2.10"_s, u"2.9.1"_s, u"3.0"_s, u"10.0"_s, u"2.9b"_s})
         EXPECT_EQ(announcedFor(versions(u"13.0"_s, newer)), QStringList{newer});
-    for (const auto& current : {u"1.0.0"_s, u"1.0"_s, u"0.9.9"_s, u""_s})
+    for (const auto& current : {u"2.9"_s, u"2.09"_s, u"2.8.10"_s, u"2"_s, u""_s})
         EXPECT_EQ(announcedFor(versions(u"13.0"_s, current)), QStringList{u""_s}) << current.toStdString();
     for (const auto& os : {u"13.6"_s, u"13.6.0"_s, u"9.9"_s, u"13.5.99"_s})
-        EXPECT_EQ(announcedFor(versions(os, u"2.0"_s)), QStringList{u"2.0"_s}) << os.toStdString();
+        EXPECT_EQ(announcedFor(versions(os, u"3.0"_s)), QStringList{u"3.0"_s}) << os.toStdString();
     for (const auto& os : {u"14.0"_s, u"13.10"_s, u"13.6.1"_s})
-        EXPECT_EQ(announcedFor(versions(os, u"2.0"_s)), QStringList()) << os.toStdString();
+        EXPECT_EQ(announcedFor(versions(os, u"3.0"_s)), QStringList()) << os.toStdString();
 }
 
 TEST_F(AppDelegateTest, AnAnswerThatIsNoPairOfVersionsAnnouncesNothing)
@@ -106,8 +105,8 @@ TEST_F(AppDelegateTest, FailuresOfTheServiceAreSilentAndTheCacheIsNotAnnouncedFo
 {
     launch();
     EXPECT_EQ(network->last.fields.value(u"parameter"_s), u"LatestAppVersion"_s);
-    network->answer(answer(versions(u"13.0"_s, u"2.0"_s)));
-    EXPECT_EQ(announced, QStringList{u"2.0"_s});
+    network->answer(answer(versions(u"13.0"_s, u"3.0"_s)));
+    EXPECT_EQ(announced, QStringList{u"3.0"_s});
     runLoop.advance(25h); // past the daily check
     network->fail();
     EXPECT_EQ(network->posted, 2);
@@ -133,11 +132,11 @@ TEST_F(AppDelegateTest, TheCheckRunsAtLaunchOnWakeAndADayAfterTheLastOfThem)
 TEST_F(AppDelegateTest, TheServiceIsAskedEveryTwelveHoursAtMostAndTheCacheIsAnnouncedBetween)
 {
     launch();
-    network->answer(answer(versions(u"13.0"_s, u"2.0"_s)));
+    network->answer(answer(versions(u"13.0"_s, u"3.0"_s)));
     runLoop.advance(11h);
     workspace.wake();
     EXPECT_EQ(network->posted, 1);
-    EXPECT_EQ(announced, (QStringList{u"2.0"_s, u"2.0"_s}));
+    EXPECT_EQ(announced, (QStringList{u"3.0"_s, u"3.0"_s}));
     runLoop.advance(1h);
     workspace.wake();
     EXPECT_EQ(network->posted, 2);
@@ -148,7 +147,7 @@ TEST_F(AppDelegateTest, AnAnswerThatComesAfterQuittingReachesNobody)
     defaults.stored.clear();
     launch();
     delegate.reset();
-    network->answer(answer(versions(u"13.0"_s, u"2.0"_s)));
+    network->answer(answer(versions(u"13.0"_s, u"3.0"_s)));
     alerts.presented.front().second(alertSecondButtonReturn);
     EXPECT_TRUE(announced.isEmpty());
     EXPECT_TRUE(workspace.opened.isEmpty());

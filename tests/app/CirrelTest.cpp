@@ -1,8 +1,11 @@
 #include "Cirrel.h"
 
 #include "FakePoster.h"
+#include "FileUserDefaults.h"
 #include "MemoryDefaults.h"
 #include "VirtualRunLoop.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -121,6 +124,8 @@ TEST_F(CirrelTest, WrongCallsAreToldApartAndSendNothing)
     expectError(-100, u"Missing parameter 'name'."_s);
     Cirrel::callFunctionInBackground({}, {}, [this](const auto&, const auto& failure) { error = failure; });
     expectError(-100, u"Missing parameter 'function'."_s);
+    get({}, 0, {});
+    expectError(-100, u"Missing parameter 'parameter'."_s);
     get(u"P"_s, 0, {});
     expectError(-101, u"Missing default value."_s);
     get(u"P"_s, 0, QVariantList{1});
@@ -188,6 +193,31 @@ TEST_F(CirrelTest, TheCacheAnswersAtOnceUntilTheIntervalHasPassed)
     get(u"P"_s, 100);
     EXPECT_EQ(network->posted, 4);
     EXPECT_EQ(ends, 2) << "nothing is reported before the service has answered";
+    defaults.stored.remove(u"Cirrel_Config_P"_s);
+    defaults.setDate(u"Cirrel_Config_P_lastDate"_s, runLoop.now());
+    get(u"P"_s, 100);
+    EXPECT_EQ(value, QVariant(u"default"_s)) << "a fresh date without an answer";
+    EXPECT_FALSE(error);
+}
+
+TEST_F(CirrelTest, AFunctionsAnswerIsItsTextOrNothingWhereItIsNoText)
+{
+    std::optional<QString> response;
+    const auto call = [&](const QByteArray& body) {
+        Cirrel::callFunctionInBackground(u"v1/Other"_s, {}, [&](const auto& text, const auto& failure) {
+            ++ends;
+            response = text;
+            error = failure;
+        });
+        network->answer(body);
+        EXPECT_FALSE(error);
+        return response;
+    };
+    EXPECT_EQ(call("für"), u"für"_s);
+    EXPECT_EQ(call(""), QString());
+    EXPECT_EQ(call("\xff"), std::nullopt);
+    EXPECT_EQ(network->last.address, QUrl(u"https://example.com/api/v1/Other/"_s));
+    EXPECT_EQ(ends, 3);
 }
 
 TEST_F(CirrelTest, AFailedRefreshGivesTheCachedOrTheDefaultValueAndLeavesTheCache)
@@ -231,11 +261,43 @@ TEST_F(CirrelTest, AFailedRefreshGivesTheCachedOrTheDefaultValueAndLeavesTheCach
     }
 }
 
-TEST_F(CirrelTest, WhatSettingsCannotHoldIsHandedOverAndNotCached)
+TEST_F(CirrelTest, TheCacheOutlivesTheProgramAndWhatSettingsCannotHold)
 {
-    EXPECT_EQ(answered(config("String", R"("a\u0001b")")), QVariant(u"a\u0001b"_s));
-    EXPECT_TRUE(answered(config("String", "[null]")).isValid());
-    EXPECT_TRUE(defaults.stored.isEmpty());
+    const QTemporaryDir folder;
+    const auto open = [&] { return FileUserDefaults(folder.filePath(u"settings.plist"_s), DefaultsAccess::ReadWrite); };
+    const auto startWith = [&](UserDefaults& settings) {
+        services.reset(); // one at a time
+        network = new FakePoster;
+        services = std::make_unique<Cirrel::Services>(runLoop, settings, std::unique_ptr<FormPoster>(network));
+        Cirrel::initWithAppId(u"id"_s, u"key"_s, u"https://example.com"_s);
+        network->fail();
+    };
+    {
+        auto settings = open();
+        startWith(settings);
+        answered(config("String", R"("cached")"));
+        services.reset();
+    }
+    auto settings = open();
+    startWith(settings);
+    get(u"P"_s, 60);
+    EXPECT_EQ(value, QVariant(u"cached"_s));
+
+    runLoop.advance(60s);
+    const QByteArray tooDeep = QByteArray(511, '[') + QByteArray(511, ']'); // with the two objects around it
+    for (const auto& text : {QByteArray(R"("a\u0001b")"), QByteArray("[null]"), tooDeep}) {
+        EXPECT_TRUE(answered(config("String", text)).isValid()) << "handed over all the same";
+        EXPECT_EQ(Cirrel::getConfigFromCacheFor(u"P"_s), QVariant(u"cached"_s));
+        const int asked = network->posted;
+        get(u"P"_s, 60);
+        EXPECT_EQ(network->posted, asked + 1) << "the older answer stays as old as it is";
+        network->fail();
+    }
+    services.reset();
+}
+
+TEST_F(CirrelTest, MembersThatAreNullAreMissingAndADamagedCacheIsNone)
+{
     answered(R"({"result": {"type": "String", "value": "x", "note": null}})");
     EXPECT_EQ(Cirrel::getConfigFromCacheFor(u"P"_s), QVariant(u"x"_s));
     defaults.stored[u"Cirrel_Config_P"_s] = u"damaged"_s;

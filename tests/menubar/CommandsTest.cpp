@@ -1,3 +1,4 @@
+#include "Bundle.h"
 #include "ControllerFixture.h"
 
 namespace quillon {
@@ -273,6 +274,9 @@ TEST_F(Commands, AnUpdateOpensItsPageAndThenQuits)
         alerts.presented.clear();
         menu().updateAvailableMenuItem->trigger();
         EXPECT_EQ(onlyAlert().messageText, u"Quillon 9.1 is available"_s);
+        EXPECT_TRUE(onlyAlert().informativeText.contains(bundleShortVersion()));
+        EXPECT_FALSE(onlyAlert().informativeText.contains(u"9.1"_s));
+        EXPECT_EQ(onlyAlert().style, AlertStyle::Informational);
         EXPECT_EQ(onlyAlert().buttons, (QStringList{u"Get Update"_s, u"Cancel"_s}));
         alerts.presented.back().second(response);
         runLoop.settle();
