@@ -15,18 +15,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The program as value of the key Exec: quoted as an argument and without field codes, then escaped as the string
-/// that it stands in (Desktop Entry Specification 1.5, "The Exec key" and "Possible value types").
-QString execValue(const QString& program)
+/// Text as value of a key of type string (Desktop Entry Specification 1.5, "Possible value types").
+QString stringValue(const QString& text)
 {
-    QString value = u"\""_s;
-    for (const QChar c : program) {
-        if (c == u'"' || c == u'`' || c == u'$')
-            value += "\\\\"_L1 + c;
-        else if (c == u'\\')
-            value += "\\\\\\\\"_L1;
-        else if (c == u'%')
-            value += "%%"_L1;
+    QString value;
+    for (const QChar c : text) {
+        if (c == u'\\')
+            value += "\\\\"_L1;
         else if (c == u'\n')
             value += "\\n"_L1;
         else if (c == u'\r')
@@ -36,7 +31,21 @@ QString execValue(const QString& program)
         else
             value += c;
     }
-    return value + u'"';
+    return value;
+}
+
+/// The program as an argument of the key Exec: quoted, and without field codes (the same, "The Exec key").
+QString execArgument(const QString& program)
+{
+    QString argument = u"\""_s;
+    for (const QChar c : program) {
+        if (c == u'"' || c == u'`' || c == u'$' || c == u'\\')
+            argument += u'\\';
+        if (c == u'%')
+            argument += u'%';
+        argument += c;
+    }
+    return argument + u'"';
 }
 
 /// An entry in the user's autostart folder (Desktop Application Autostart Specification 0.5).
@@ -62,7 +71,10 @@ private:
                "Type=Application\n"
                "Name=Quillon\n"
                "Exec=" +
-               execValue(program_).toUtf8() +
+               stringValue(execArgument(program_)).toUtf8() +
+               "\n"
+               "TryExec=" +
+               stringValue(program_).toUtf8() +
                "\n"
                "Terminal=false\n";
     }

@@ -48,7 +48,8 @@ public:
 
     void start(const QUrl& url)
     {
-        patience_ = runLoop_.scheduleOnce(dateByAdding(runLoop_.now(), patience), [this] { report(true); });
+        // Repeating, though it runs once: such a timer does not wait longer when somebody sets the clock back.
+        patience_ = runLoop_.scheduleRepeating(patience, [this] { report(true); });
         process_.start(u"/bin/sh"_s, {u"-c"_s, openInBackground, u"sh"_s, url.toString(QUrl::FullyEncoded)});
     }
 
