@@ -73,11 +73,16 @@ QPalette lightPalette()
 
 ColorScheme::ColorScheme(const QDBusConnection& bus)
     : bus_(bus)
+    , portal_(portalService, bus, QDBusServiceWatcher::WatchForRegistration)
 {
     if (!bus_.isConnected())
         return;
     bus_.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, this,
                  SLOT(settingChanged(QDBusMessage)));
+    connect(&portal_, &QDBusServiceWatcher::serviceRegistered, this, [this] {
+        told_ = false;
+        ask(readOne);
+    });
     ask(readOne);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QObject>
 
 namespace quillon {
@@ -10,6 +11,7 @@ namespace quillon {
 enum class ColorSchemePreference { None = 0, Dark = 1, Light = 2 };
 
 /// The colour scheme that the user has asked the desktop for, as the settings portal tells it; none without a portal.
+/// A portal that comes later, or again, is asked then.
 /// Main thread only; asks and listens, never waits.
 class ColorScheme final : public QObject {
     Q_OBJECT
@@ -30,6 +32,7 @@ private:
     void take(const QVariant& value);
 
     QDBusConnection bus_;
+    QDBusServiceWatcher portal_;
     ColorSchemePreference preference_ = ColorSchemePreference::None;
     bool told_ = false; ///< a change was announced; an answer that is still under way is older
 };

@@ -13,8 +13,6 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace quillon {
 
 namespace {
@@ -196,17 +194,22 @@ bool Popover::contains(const QWidget* widget) const
     return widget;
 }
 
+/// The popover, if any, whose anchor lies inside this one.
+Popover* Popover::child() const
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        auto* popover = qobject_cast<Popover*>(window);
+        if (popover && popover != this && popover->isShown() && contains(popover->anchor_.view))
+            return popover;
+    }
+    return nullptr;
+}
+
 /// Whether something that belongs to the popover is in front of it.
 bool Popover::isOccupied() const
 {
-    if (QApplication::activeModalWidget() || contains(QApplication::activePopupWidget()))
-        return true;
-    const auto windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [this](const QWidget* window) {
-        const auto* popover = qobject_cast<const Popover*>(window);
-        return popover && popover->isShown() && popover->anchor_.view && popover != this &&
-               contains(popover->anchor_.view);
-    });
+    return QApplication::activeModalWidget() || contains(QApplication::activePopupWidget()) || child();
 }
 
 /// The user has turned to something else.
@@ -214,6 +217,15 @@ void Popover::closeIfLeft()
 {
     if (shown_ && behavior_ == PopoverBehavior::Transient && !isOccupied())
         close();
+}
+
+bool Popover::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate) {
+        if (Popover* front = child())
+            front->activateWindow();
+    }
+    return QWidget::event(event);
 }
 
 bool Popover::eventFilter(QObject* watched, QEvent* event)

@@ -26,9 +26,9 @@ struct PopoverAnchor {
 
 /// A window with an arrow to its anchor. It lies on the side of the anchor that is asked for, or on another one where
 /// that has no room, follows the size of its content and the place of its anchor, and takes the keyboard when it is
-/// shown. A child popover, one whose anchor lies inside this one, keeps a transient popover open, and so does a menu or
-/// a combo box's list that belongs to it or an application-modal window. Where a program cannot place windows (Wayland)
-/// it has no arrow and is a child of its anchor's window. Main thread only.
+/// shown. A child popover, one whose anchor lies inside this one, keeps a transient popover open and has the keyboard
+/// before it; a menu or a combo box's list that belongs to it or an application-modal window keep it open too. Where a
+/// program cannot place windows (Wayland) it has no arrow and is a child of its anchor's window. Main thread only.
 class Popover : public QWidget {
     Q_OBJECT
 
@@ -55,6 +55,7 @@ Q_SIGNALS:
     void didClose();
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -71,6 +72,7 @@ private:
     QScreen* screenOfAnchor(const QRect& anchor) const;
     QRect body() const;
     bool contains(const QWidget* widget) const;
+    Popover* child() const;
     bool isOccupied() const;
     void closeIfLeft();
 

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace quillon {
 namespace {
@@ -30,19 +31,24 @@ private:
 
 TEST_P(ColorSchemeTest, IsReadFromAndFollowsThePortal)
 {
-    FakeSettingsPortal portal(connection(u"portal"_s), 1, GetParam());
+    std::optional<FakeSettingsPortal> portal;
+    portal.emplace(connection(u"portal"_s), 1, GetParam());
     ColorScheme scheme(connection(u"reader"_s));
     EXPECT_TRUE(eventually([&] { return scheme.preference() == Dark; }));
 
-    portal.announce(u"org.freedesktop.appearance"_s, u"contrast"_s, 0);
-    portal.announce(u"org.gnome.desktop.interface"_s, u"color-scheme"_s, 2);
-    portal.setColorScheme(2);
+    portal->announce(u"org.freedesktop.appearance"_s, u"contrast"_s, 0);
+    portal->announce(u"org.gnome.desktop.interface"_s, u"color-scheme"_s, 2);
+    portal->setColorScheme(2);
     EXPECT_TRUE(eventually([&] { return scheme.preference() != Dark; }));
     EXPECT_EQ(scheme.preference(), Light);
 
     constexpr uint unheardOf = 7;
-    portal.setColorScheme(unheardOf);
+    portal->setColorScheme(unheardOf);
     EXPECT_TRUE(eventually([&] { return scheme.preference() == None; }));
+
+    portal.reset();
+    portal.emplace(connection(u"portal"_s), 1, GetParam());
+    EXPECT_TRUE(eventually([&] { return scheme.preference() == Dark; })) << "a portal that comes later is asked";
 }
 
 INSTANTIATE_TEST_SUITE_P(Portals, ColorSchemeTest, testing::Values(Version::Current, Version::Old),

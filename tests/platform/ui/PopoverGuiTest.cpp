@@ -210,6 +210,21 @@ TEST_F(PopoverTest, TransientOneStaysAsLongAsItsChildrenDo)
     EXPECT_FALSE(popover_.isShown());
 }
 
+TEST_F(PopoverTest, AChildHasTheKeyboardBeforeIt)
+{
+    show();
+    Popover child;
+    fill(child);
+    child.showRelativeTo({.view = popover_.findChild<QComboBox*>()}, RectEdge::MaxX);
+    ASSERT_TRUE(becomesActive(child));
+    popover_.showRelativeTo({.view = button_}, RectEdge::MinY);
+    EXPECT_TRUE(becomesActive(child)) << "as when the same command shows it again";
+    popover_.activateWindow();
+    EXPECT_TRUE(becomesActive(child)) << "as when the user clicks on it";
+    child.close();
+    EXPECT_TRUE(becomesActive(popover_));
+}
+
 TEST_F(PopoverTest, OtherOneClosesByCodeOnly)
 {
     show(PopoverBehavior::ApplicationDefined);
