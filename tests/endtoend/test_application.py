@@ -1,0 +1,179 @@
+"""Quillon as its users meet it: installed, started on a desktop with a tray, clicked through, quit, started again.
+
+usage: test_application.py BUILD; keeps a picture of the screen in the current folder when it fails.
+"""
+
+import datetime
+import json
+import os
+import plistlib
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+SOURCE = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(SOURCE / "tools" / "practice"))
+
+import processes
+from disk import PracticeDisk
+from first_backup import FirstBackup
+from gi.repository import Gio
+from screen import Screen, is_checked, wait_for, widgets
+
+BUILD = Path(sys.argv.pop())
+SETTLE = 15  # seconds that the clicks may take before the rule falls due
+UNTIL_BACKED_UP = 240  # seconds; the rule falls due within 75
+
+
+class ReferenceServer:
+    """The maker's service, on loopback."""
+
+    def __init__(self):
+        self._process = subprocess.Popen(
+            [sys.executable, SOURCE / "tests" / "support" / "reference_server" / "reference_server.py"],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.address = self._process.stdout.readline().strip()
+
+    def announce(self, version):
+        latest = {"type": "String", "value": json.dumps({"os": "13.0", "app": version})}
+        self._tell({"parameter": "LatestAppVersion", "result": latest})
+
+    def requests(self):
+        return self._tell({})["requests"]
+
+    def _tell(self, command):
+        print(json.dumps(command), file=self._process.stdin, flush=True)
+        return json.loads(self._process.stdout.readline())
+
+
+class Installation:
+    """The programs, installed into a prefix, with a disk, documents and settings of their own."""
+
+    def __init__(self, folder):
+        self.prefix = folder / "prefix"
+        subprocess.run(["cmake", "--install", BUILD, "--prefix", self.prefix], check=True, stdout=subprocess.DEVNULL)
+        self.disk = PracticeDisk(folder, self.prefix / "libexec" / "quillon" / "tmutil")
+        self.disk.create(film_megabytes=6)
+        self.disk.configure_tmutil()
+        os.environ.update(self.disk.environment(), QUILLON_TMUTIL=str(self.disk.wrapper), LC_ALL="C.UTF-8")
+        os.environ.pop("LANGUAGE", None)
+
+    def settings(self):
+        return self.disk.settings()
+
+    def write_settings(self, values):
+        (self.disk.config / "com.Orvane.Quillon.plist").write_bytes(plistlib.dumps(values))
+
+    def start(self):
+        return subprocess.Popen([self.prefix / "bin" / "quillon"])
+
+    def log_in(self):
+        """What a desktop does for its user: starts the programs that have asked for it."""
+        entry = self.disk.config / "autostart" / "com.Orvane.Quillon.desktop"
+        Gio.DesktopAppInfo.new_from_filename(str(entry)).launch()
+
+    def running(self):
+        """Process ids of Quillon."""
+        program = str(self.prefix / "bin" / "quillon")
+        found = []
+        for process in processes.descendants():
+            try:
+                if os.readlink(f"/proc/{process}/exe") == program:
+                    found.append(process)
+            except OSError:
+                pass
+        return found
+
+
+class Application(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="quillon-endtoend-")
+        self.addCleanup(folder.cleanup)
+        self.addCleanup(processes.end_all, 10)
+        self.installation = Installation(Path(folder.name))
+        runtime = Path(folder.name) / "runtime"
+        runtime.mkdir(mode=0o700)
+        log = open(Path(folder.name) / "log", "w")
+        self.addCleanup(log.close)
+        self.screen = Screen(runtime, log)
+        self.server = ReferenceServer()
+
+    def test_a_user_sets_it_up_and_finds_everything_again(self):
+        try:
+            self.first_launch()
+            rule = self.change_settings()
+            self.see_the_backup_that_falls_due()
+            self.quit()
+            self.server.announce("99.0")
+            self.second_start(rule)
+        except BaseException:
+            self.screen.take_picture(Path("failed.png"))
+            raise
+
+    def first_launch(self):
+        # The one thing that a test must set: where the service has moved to, in the cache that remembers it.
+        self.installation.write_settings({
+            "Cirrel_Config_ServerUrl": {"type": "String", "value": self.server.address},
+            "Cirrel_Config_ServerUrl_lastDate": datetime.datetime.utcnow()})
+        self.backup = FirstBackup(self.installation.disk, self.installation.prefix / "bin" / "quillonctl", os.environ,
+                                  take_picture=None, folder=None)
+        self.quillon = self.installation.start()
+        alert = self.screen.see("dialog", "Welcome to Quillon")
+        self.assertNotIn("appSettingsDidShowAlertAtFirstLaunch", self.installation.settings())
+        self.screen.click(next(widgets(alert, "push button", "Close")))
+        wait_for("the alert is not noted",
+                 lambda: self.installation.settings().get("appSettingsDidShowAlertAtFirstLaunch"))
+        wait_for("no question for the latest version", self.server.requests)
+
+    def change_settings(self):
+        """Returns the time of day of the rule that falls due next."""
+        self.screen.choose("Settings...")
+        self.screen.click(self.screen.see("check box", "Retry after a missed backup"))
+        self.screen.click(self.screen.see("push button", "Add Rule"))
+        wait_for("no second rule", lambda: len(list(self.screen.all("spin button", "at"))) == 2)
+        due = datetime.datetime.now() + datetime.timedelta(minutes=1)
+        if due.second > 60 - SETTLE:
+            due += datetime.timedelta(minutes=1)
+        # The keyboard reaches the time of the new rule from its day.
+        self.screen.click(list(self.screen.all("combo box", "every day"))[1])
+        self.screen.press("Escape", "Tab", *due.strftime("%I%M%p").lower())
+        rule = {"day": 0, "time": due.hour * 3600 + due.minute * 60}
+        wait_for(f"{rule} is not stored", lambda: rule in self.rules())
+        self.assertEqual(self.installation.settings()["userSettingsEnableRetryAtMissedSchedule"], 0)
+        self.screen.press("Escape")
+        return rule
+
+    def rules(self):
+        return self.installation.settings().get("userSettingsCalendarIntervals", [])
+
+    def see_the_backup_that_falls_due(self):
+        wait_for("no backup", lambda: "appSettingsLatestBackupInfo" in self.installation.settings(), UNTIL_BACKED_UP)
+        self.backup.prove()
+
+    def quit(self):
+        self.screen.choose("Quit Quillon")
+        self.assertEqual(self.quillon.wait(60), 0)
+
+    def second_start(self, rule):
+        self.installation.log_in()
+        wait_for("Quillon was not started at log-in", self.installation.running)
+        wait_for("the update was not asked for", lambda: len(self.server.requests()) >= 2)
+        menu = self.screen.open_menu()
+        self.assertTrue(list(widgets(menu, "menu item", "Latest Backup: Today")))
+        wait_for("no update in the menu", lambda: list(widgets(menu, "menu item", "🟢 Update Available")))
+        self.screen.press("Escape")
+        self.assertFalse(list(self.screen.all("dialog", "Welcome to Quillon")))
+
+        self.assertEqual(self.installation.start().wait(60), 0)
+        retry = self.screen.see("check box", "Retry after a missed backup")
+        self.assertFalse(is_checked(retry))
+        self.assertEqual(len(list(self.screen.all("spin button", "at"))), 2)
+        self.assertIn(rule, self.rules())
+        self.assertEqual(len(self.installation.running()), 1)
+
+
+if __name__ == "__main__":
+    processes.adopt_orphans()
+    unittest.main(warnings="ignore")  # what the desktop runs is ended by processes.end_all
