@@ -7,6 +7,7 @@
 #include "Notifications.h"
 #include "ProcessInfo.h"
 #include "SettingsKeys.h"
+#include "SystemVersion.h"
 #include "TextComparison.h"
 
 #include <QJsonDocument>
@@ -72,7 +73,7 @@ void AppDelegate::isAppUpdateAvailable(const QString& versions)
     const QJsonObject latest = QJsonDocument::fromJson(versions.toUtf8()).object();
     const QJsonValue os = latest.value(u"os"_s);
     const QJsonValue app = latest.value(u"app"_s);
-    if (!os.isString() || !app.isString() || std::is_lt(compareNumerically(systemVersion(), os.toString())))
+    if (!os.isString() || !app.isString() || !systemIsAtLeast(os.toString()))
         return;
     const bool isNewer = std::is_lt(compareNumerically(version_, app.toString()));
     notifications_.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, isNewer ? app.toString() : u""_s}});
@@ -85,12 +86,10 @@ void AppDelegate::scheduleCheckForAppUpdateTimer()
 
 void AppDelegate::presentFirstLaunchAlert()
 {
-    const bool ventura = std::is_gteq(compareNumerically(systemVersion(), u"13.0"));
-    const QString instruction =
-        ventura ? localizedString("disableTmInstructionVentura") : localizedString("disableTmInstruction");
     AlertRequest alert;
     alert.messageText = localizedString("firstStartInfoAlertTitle").arg(u"Quillon"_s);
-    alert.informativeText = localizedString("firstStartInfoAlertMessage").arg(instruction, u"Quillon"_s);
+    alert.informativeText =
+        localizedString("firstStartInfoAlertMessage").arg(disableTimeMachineInstruction(), u"Quillon"_s);
     alert.buttons = {localizedString("AlertButtonClose"), localizedString("AlertButtonHelp")};
     alert.escapeButton = 0;
     alerts_.present(alert, [self = QPointer(this)](int response) {

@@ -1,12 +1,11 @@
 #include "StatusMenuController.h"
 
-#include "DataHelper.h"
 #include "LocalizedString.h"
 #include "Notifications.h"
 #include "PollIntervals.h"
 #include "ProcessInfo.h"
 #include "SettingsKeys.h"
-#include "TextComparison.h"
+#include "SystemVersion.h"
 
 namespace quillon {
 
@@ -66,8 +65,7 @@ void StatusMenuController::awakeFromNib()
 
 void StatusMenuController::chooseLocaleKeys()
 {
-    const auto system = DataHelper::stringFromSystemVersion(operatingSystemVersion());
-    const bool ventura = compareNumerically(system, u"13.0") >= 0;
+    const bool ventura = systemIsAtLeast(u"13.0");
     enterTimeMachineTitleLocaleKey_ = ventura ? "enterTimeMachineTitleVentura" : "enterTimeMachineTitle";
     skipThisBackupTitleLocaleKey_ = ventura ? "skipThisBackupTitleVentura" : "skipThisBackupTitle";
 }

@@ -1,6 +1,6 @@
-#include "ProcessInfo.h"
 #include "SettingsKeys.h"
 #include "StatusMenuController.h"
+#include "SystemVersion.h"
 
 namespace quillon {
 
@@ -25,7 +25,7 @@ std::optional<SymbolImage> StatusMenuController::getMenuBarIcon() const
     const auto plain = [](const QString& name) { return SymbolImage{name, std::nullopt, false}; };
     // The coloured image is marked as a template image all the same.
     const auto coloured = [&](const QString& name, SymbolColor color) {
-        const bool colorsAreOn = switchIsOn(settingskeys::enableMenuBarColors) && operatingSystemVersion().major >= 12;
+        const bool colorsAreOn = switchIsOn(settingskeys::enableMenuBarColors) && systemIsAtLeast(u"12.0");
         return colorsAreOn ? SymbolImage{name, color, true} : plain(name);
     };
     switch (menuBarIconState_) {

@@ -1,10 +1,8 @@
 #include "DataManager.h"
 
-#include "DataHelper.h"
 #include "DefaultSettings.h"
-#include "ProcessInfo.h"
 #include "SettingsKeys.h"
-#include "TextComparison.h"
+#include "SystemVersion.h"
 
 #include <memory>
 
@@ -45,9 +43,8 @@ DataManager::DataManager(const Services& services)
     latestBackupInfo_ = loadLatestBackupInfo();
     scheduleNextBackup();
 
-    const auto system = DataHelper::stringFromSystemVersion(operatingSystemVersion());
     openSystemPreferencesTitleLocaleKey_ =
-        compareNumerically(system, u"13.0") < 0 ? "openSystemPreferencesTitle" : "openSystemPreferencesTitleVentura";
+        systemIsAtLeast(u"13.0") ? "openSystemPreferencesTitleVentura" : "openSystemPreferencesTitle";
 }
 
 void DataManager::registerUserDefaults()

@@ -6,6 +6,7 @@
 #include "NotificationCenter.h"
 #include "Notifications.h"
 #include "ScreenFittingArea.h"
+#include "SystemVersion.h"
 #include "ui_SettingsView.h"
 
 #include <QHideEvent>

@@ -117,7 +117,6 @@ private:
     void retryAtMissedScheduleHelpButtonPressed();
     void retryAtFailureHelpButtonPressed();
     void showHelp(QAbstractButton* sender, const QString& title, const QString& message);
-    QString disableTimeMachineInstruction() const;
     void runAlert(const AlertRequest& request, QWidget* target, RectEdge edge,
                   AlertPopover::CompletionBlock completionBlock = {});
     void showBlockingTransparentOverlay(bool show);

@@ -1,8 +1,8 @@
 #include "CalendarIntervalCellView.h"
 #include "DataManager.h"
 #include "LocalizedString.h"
-#include "ProcessInfo.h"
 #include "SettingsViewController.h"
+#include "SystemVersion.h"
 #include "ui_SettingsView.h"
 
 #include <QPointer>
@@ -20,13 +20,6 @@ void SettingsViewController::connectAlertControls()
             &SettingsViewController::retryAtMissedScheduleHelpButtonPressed);
     connect(ui_->retryAtFailureHelpButton, &HelpButton::clicked, this,
             &SettingsViewController::retryAtFailureHelpButtonPressed);
-}
-
-QString SettingsViewController::disableTimeMachineInstruction() const
-{
-    constexpr int ventura = 13; // renamed the system's preferences
-    return operatingSystemVersion().major < ventura ? localizedString("disableTmInstruction")
-                                                    : localizedString("disableTmInstructionVentura");
 }
 
 void SettingsViewController::warningButtonPressed()

@@ -1,8 +1,8 @@
 #include "DataManager.h"
 #include "LoginItem.h"
-#include "ProcessInfo.h"
 #include "SettingsKeys.h"
 #include "SettingsViewController.h"
+#include "SystemVersion.h"
 #include "UserDefaults.h"
 #include "ui_SettingsView.h"
 
@@ -10,11 +10,10 @@ namespace quillon {
 
 namespace {
 
-/// From version 12 on the menu bar shows symbols in colours.
+/// Whether the menu bar shows symbols in colours.
 bool systemHasColoredSymbols()
 {
-    constexpr int first = 12;
-    return operatingSystemVersion().major >= first;
+    return systemIsAtLeast(u"12.0");
 }
 
 } // namespace

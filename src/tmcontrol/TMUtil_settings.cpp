@@ -1,5 +1,5 @@
 #include "LocalizedString.h"
-#include "ProcessInfo.h"
+#include "SystemVersion.h"
 #include "TMUtil.h"
 
 namespace quillon {
@@ -19,7 +19,7 @@ QUrl TMUtil::settingsAddress()
 
 void TMUtil::openTimeMachineSettings(const QString& applicationName)
 {
-    if (operatingSystemVersion().major >= 13) {
+    if (systemIsAtLeast(u"13.0")) {
         workspace_.openURL(settingsAddress(), {});
         return;
     }
