@@ -25,7 +25,7 @@ constexpr int exitUsage = 2;
 const QString help = u"Usage: quillonctl status [--json]\n"
                      "       quillonctl destinations [--json]\n"
                      "       quillonctl next [--count N] [--from LOCAL-DATE-TIME] [--json]\n"
-                     "       quillonctl --help | --version\n\n"
+                     "       quillonctl -h | --help | --version\n\n"
                      "status        what Time Machine is doing right now; exit status 1 when that\n"
                      "              cannot be read\n"
                      "destinations  the disks that Time Machine backs up to\n"

@@ -48,6 +48,7 @@ int main(int argc, char** argv)
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(u"quillon-disks"_s);
     QApplication::setApplicationVersion(bundleShortVersion());
+    QApplication::setDesktopFileName(u"com.Orvane.Quillon.Disks"_s);
     installStringTable();
     QApplication::setApplicationDisplayName(localizedString("disksWindowTitle"));
     QApplication::setWindowIcon(
