@@ -1,3 +1,4 @@
+#include "CoreFoundation_macos.h"
 #include "PropertyListLimits.h"
 #include "UserDefaultsStore.h"
 
@@ -5,23 +6,13 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-#include <CoreFoundation/CoreFoundation.h>
 #include <iostream>
-#include <type_traits>
 
 namespace quillon {
 
 namespace {
 
-struct Release {
-    void operator()(CFTypeRef object) const { CFRelease(object); }
-};
-
-/// Owns a Core Foundation object that came from a function with "Create" or "Copy" in its name.
-template<typename Reference>
-using Owned = std::unique_ptr<std::remove_pointer_t<Reference>, Release>;
-
-using OwnedObject = std::unique_ptr<const void, Release>;
+using OwnedObject = CFOwned<CFTypeRef>;
 
 QVariant fromNumber(CFNumberRef number)
 {
@@ -86,7 +77,7 @@ OwnedObject toObject(const QVariant& value, int depth = 0);
 
 OwnedObject toArray(const QVariantList& elements, int depth)
 {
-    Owned<CFMutableArrayRef> array(CFArrayCreateMutable(nullptr, elements.size(), &kCFTypeArrayCallBacks));
+    CFOwned<CFMutableArrayRef> array(CFArrayCreateMutable(nullptr, elements.size(), &kCFTypeArrayCallBacks));
     for (const QVariant& element : elements) {
         const OwnedObject object = toObject(element, depth);
         if (!object)
@@ -98,10 +89,10 @@ OwnedObject toArray(const QVariantList& elements, int depth)
 
 OwnedObject toDictionary(const QVariantMap& entries, int depth)
 {
-    Owned<CFMutableDictionaryRef> dictionary(CFDictionaryCreateMutable(
+    CFOwned<CFMutableDictionaryRef> dictionary(CFDictionaryCreateMutable(
         nullptr, entries.size(), &kCFTypeDictionaryKeyCallBacks, &kCFTypeDictionaryValueCallBacks));
     for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
-        const Owned<CFStringRef> key(entry.key().toCFString());
+        const CFOwned<CFStringRef> key(entry.key().toCFString());
         const OwnedObject object = toObject(entry.value(), depth);
         if (!object)
             return nullptr;
@@ -142,6 +133,12 @@ OwnedObject toObject(const QVariant& value, int depth)
     }
 }
 
+/// The application's preferences by its identifier, so that a tool beside it reads the same ones however it is called.
+CFStringRef application()
+{
+    return CFSTR("com.Orvane.Quillon");
+}
+
 /// The preferences of the application, as NSUserDefaults shows them: managed and global domains are looked through too.
 class PreferencesUserDefaults final : public UserDefaults {
 public:
@@ -155,25 +152,25 @@ protected:
     {
         if (const auto unsaved = unsaved_.find(key); unsaved != unsaved_.end())
             return unsaved.value();
-        const Owned<CFStringRef> name(key.toCFString());
-        const OwnedObject value(CFPreferencesCopyAppValue(name.get(), kCFPreferencesCurrentApplication));
+        const CFOwned<CFStringRef> name(key.toCFString());
+        const OwnedObject value(CFPreferencesCopyAppValue(name.get(), application()));
         return value ? fromObject(value.get()) : QVariant();
     }
 
     void storeValue(const QString& key, const QVariant& value) override
     {
-        if (access_ == DefaultsAccess::ReadOnly) {
-            unsaved_.insert(key, value);
-            return;
-        }
-        const Owned<CFStringRef> name(key.toCFString());
         const OwnedObject object = value.isValid() ? toObject(value) : nullptr;
         if (value.isValid() && !object) {
             std::cerr << "quillon: the value of " << key.toStdString() << " cannot be stored" << std::endl;
             return;
         }
-        CFPreferencesSetAppValue(name.get(), object.get(), kCFPreferencesCurrentApplication); // null removes the key
-        if (!CFPreferencesAppSynchronize(kCFPreferencesCurrentApplication))
+        if (access_ == DefaultsAccess::ReadOnly) {
+            unsaved_.insert(key, value);
+            return;
+        }
+        const CFOwned<CFStringRef> name(key.toCFString());
+        CFPreferencesSetAppValue(name.get(), object.get(), application()); // null removes the key
+        if (!CFPreferencesAppSynchronize(application()))
             std::cerr << "quillon: the settings could not be written" << std::endl;
     }
 

@@ -1,8 +1,7 @@
+#include "CoreFoundation_macos.h"
 #include "UserLocale.h"
 
 #include <QString>
-
-#include <CoreFoundation/CoreFoundation.h>
 
 namespace quillon {
 
@@ -18,9 +17,8 @@ bool isSwitchedOn(CFStringRef key)
 
 std::string userLocale()
 {
-    const CFLocaleRef locale = CFLocaleCopyCurrent();
-    std::string identifier = QString::fromCFString(CFLocaleGetIdentifier(locale)).toStdString();
-    CFRelease(locale);
+    const CFOwned<CFLocaleRef> locale(CFLocaleCopyCurrent());
+    std::string identifier = QString::fromCFString(CFLocaleGetIdentifier(locale.get())).toStdString();
     const bool force24 = isSwitchedOn(CFSTR("AppleICUForce24HourTime"));
     if (!force24 && !isSwitchedOn(CFSTR("AppleICUForce12HourTime")))
         return identifier;

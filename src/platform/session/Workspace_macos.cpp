@@ -1,13 +1,12 @@
 #include "Workspace_macos.h"
 
+#include "CoreFoundation_macos.h"
 #include "RunLoop.h"
 #include "WorkspaceFactory.h"
 
-#include <CoreFoundation/CoreFoundation.h>
 #include <CoreServices/CoreServices.h>
 #include <IOKit/IOMessage.h>
 #include <cstdint>
-#include <memory>
 #include <utility>
 
 namespace quillon {
@@ -34,22 +33,17 @@ MacWorkspace::~MacWorkspace()
 
 void MacWorkspace::openURL(const QUrl& url, Completion completion)
 {
-    const std::unique_ptr<const __CFURL, decltype(&CFRelease)> address(url.toCFURL(), CFRelease);
+    const CFOwned<CFURLRef> address(url.isRelative() ? nullptr : url.toCFURL());
     report(address && LSOpenCFURLRef(address.get(), nullptr) == noErr, std::move(completion));
 }
 
 void MacWorkspace::openApplication(const QString& bundleIdentifier, Completion completion)
 {
-    const std::unique_ptr<const __CFString, decltype(&CFRelease)> identifier(bundleIdentifier.toCFString(), CFRelease);
-    // LSInfo.h: the best application comes first.
-    const CFArrayRef found = LSCopyApplicationURLsForBundleIdentifier(identifier.get(), nullptr);
-    bool opened = false;
-    if (found) {
-        const auto* application = static_cast<CFURLRef>(CFArrayGetValueAtIndex(found, 0));
-        opened = LSOpenCFURLRef(application, nullptr) == noErr;
-        CFRelease(found);
-    }
-    report(opened, std::move(completion));
+    const CFOwned<CFStringRef> identifier(bundleIdentifier.toCFString());
+    // LSInfo.h: null when there is none, and the best one comes first.
+    const CFOwned<CFArrayRef> found(LSCopyApplicationURLsForBundleIdentifier(identifier.get(), nullptr));
+    const auto* application = found ? static_cast<CFURLRef>(CFArrayGetValueAtIndex(found.get(), 0)) : nullptr;
+    report(application && LSOpenCFURLRef(application, nullptr) == noErr, std::move(completion));
 }
 
 void MacWorkspace::report(bool opened, Completion completion)
@@ -61,7 +55,8 @@ void MacWorkspace::report(bool opened, Completion completion)
 void MacWorkspace::powerChanged(void* workspace, io_service_t, natural_t message, void* argument)
 {
     auto* self = static_cast<MacWorkspace*>(workspace);
-    // IOPMLib.h: sleep waits up to 30 s for the answer to each of the first two messages.
+    // IOPMLib.h: sleep waits up to 30 s for the answer to each of the first two messages. A wake for background work
+    // alone, in which the user sees nothing, is not announced.
     switch (message) {
     case kIOMessageCanSystemSleep:
         IOAllowPowerChange(self->rootPort_, reinterpret_cast<std::intptr_t>(argument));

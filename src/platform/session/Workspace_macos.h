@@ -14,7 +14,8 @@ public:
     explicit MacWorkspace(RunLoop& runLoop);
     ~MacWorkspace() override;
 
-    /// The completion gets true when LaunchServices has found and started the program.
+    /// The completion gets true when LaunchServices has found the program and taken the request; it does not wait for
+    /// the launch.
     void openURL(const QUrl& url, Completion completion) override;
     void openApplication(const QString& bundleIdentifier, Completion completion) override;
 

@@ -22,7 +22,7 @@ NSColor* systemColor(SymbolColor color)
     Q_UNREACHABLE();
 }
 
-/// Nothing before macOS 11, which has no symbols.
+/// Nothing on systems before macOS 11, which have no symbols.
 NSImage* systemSymbol(const SymbolImage& symbol)
 {
     NSImage* image = nil;
@@ -36,7 +36,7 @@ NSImage* systemSymbol(const SymbolImage& symbol)
         }
     }
     if (symbol.isTemplate) // system symbols are templates by default; this only adds the mark
-        image.template = YES;
+        [image setTemplate:YES];
     return image;
 }
 
@@ -57,11 +57,18 @@ class MacStatusItem final : public StatusItem {
 public:
     MacStatusItem()
         : item_([NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength])
+        // App Nap would stretch the timers of an application without a window; sleep stays the system's decision.
+        , activity_([NSProcessInfo.processInfo beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                                                                 reason:@"Starts backups on schedule"])
     {
         item_.button.imagePosition = NSImageRight;
         label({});
     }
-    ~MacStatusItem() override { [NSStatusBar.systemStatusBar removeStatusItem:item_]; }
+    ~MacStatusItem() override
+    {
+        [NSProcessInfo.processInfo endActivity:activity_];
+        [NSStatusBar.systemStatusBar removeStatusItem:item_];
+    }
 
     void setFontSize(double pointSize) override { item_.button.font = [NSFont systemFontOfSize:pointSize]; }
 
@@ -86,8 +93,10 @@ public:
 
     PopoverAnchor anchor() const override
     {
-        const NSRect button = [item_.button.window convertRectToScreen:[item_.button convertRect:item_.button.bounds
-                                                                                          toView:nil]];
+        NSWindow* window = item_.button.window;
+        if (!window)
+            return {};
+        const NSRect button = [window convertRectToScreen:[item_.button convertRect:item_.button.bounds toView:nil]];
         // NSScreen.h: the first screen has the origin, and y grows upward from its lower edge.
         const CGFloat top = NSMaxY(NSScreen.screens.firstObject.frame) - NSMaxY(button);
         return {nullptr, QRectF(NSMinX(button), top, NSWidth(button), NSHeight(button)).toRect()};
@@ -101,6 +110,7 @@ private:
     }
 
     NSStatusItem* item_;
+    id<NSObject> activity_;
 };
 
 } // namespace
