@@ -1,5 +1,7 @@
 #include "SingleInstance.h"
 
+#include "ReopenWatch.h"
+
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -53,6 +55,7 @@ bool SingleInstance::acquire()
         return false;
     }
     listen();
+    reopenWatch_ = makeReopenWatch([this] { Q_EMIT presentRequested(); });
     return true;
 }
 

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 class QDeadlineTimer;
 
 namespace quillon {
@@ -12,7 +14,8 @@ namespace quillon {
 /// Sees to it that one instance at most runs on a settings folder. Main thread only.
 ///
 /// The claim is a kernel lock on a file in the folder: it ends with the process, however that ends. The file names the
-/// socket over which a later start asks the first instance to present itself.
+/// socket over which a later start asks the first instance to present itself. Where the system turns a second start
+/// into a message to the first instance, that message counts as the same request.
 class SingleInstance final : public QObject {
     Q_OBJECT
 
@@ -36,7 +39,7 @@ public:
     QString errorString() const { return errorString_; }
 
 Q_SIGNALS:
-    /// Another start on the same folder asks this one to come to the front.
+    /// Another start on the same folder, or of the same application, asks this one to come to the front.
     void presentRequested();
 
 private:
@@ -49,6 +52,7 @@ private:
     QString folder_;
     QFile lockFile_;
     QLocalServer server_; // below the lock file, so that the socket is gone before the lock is free
+    std::unique_ptr<QObject> reopenWatch_;
     QString errorString_;
 };
 

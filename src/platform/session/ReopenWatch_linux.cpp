@@ -1,0 +1,10 @@
+#include "ReopenWatch.h"
+
+namespace quillon {
+
+std::unique_ptr<QObject> makeReopenWatch(std::function<void()> /*reopened*/)
+{
+    return nullptr;
+}
+
+} // namespace quillon
