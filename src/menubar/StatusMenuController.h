@@ -173,7 +173,6 @@ private:
     QString remainingTimeItemTitle() const;
     void updateBackupNowItem();
     void updatePauseItemTitle();
-    QString dayAndTime(Date date, DateFormatterStyle dayStyle) const;
 
     // The open menu
     void refreshMenu(const QList<BackupDestination>& disks);

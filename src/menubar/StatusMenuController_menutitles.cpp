@@ -20,18 +20,12 @@ void StatusMenuController::updateMenuItems()
     statusMenu_.updateAvailableMenuItem->setVisible(latestAppVersion_.has_value());
 }
 
-QString StatusMenuController::dayAndTime(Date date, DateFormatterStyle dayStyle) const
-{
-    return u"%1, %2"_s.arg(DataHelper::getDayFrom(date, dayStyle, runLoop_.now()),
-                           DataHelper::getDateTimeFrom(date, DateFormatterStyle::None, DateFormatterStyle::Short));
-}
-
 QString StatusMenuController::backupText(std::optional<Date> date, std::int64_t bytes) const
 {
     if (!date)
         return localizedString("notAvailableAbbreviation");
     const QString size = bytes > 0 ? u" (%1)"_s.arg(stringRepresentationOfBytes(bytes)) : QString();
-    return dayAndTime(*date, DateFormatterStyle::Long) + size;
+    return DataHelper::dayAndTime(*date, DateFormatterStyle::Long, runLoop_.now()) + size;
 }
 
 QString StatusMenuController::lastBackupText() const
@@ -68,7 +62,8 @@ QString StatusMenuController::remainingTimeItemTitle() const
     QString next = localizedString("nextBackupDisabled");
     if (sharedDataManager_.isScheduleEnabled()) {
         const auto date = sharedDataManager_.nextScheduledBackupDate();
-        next = date ? dayAndTime(*date, DateFormatterStyle::Full) : localizedString("notAvailableAbbreviation");
+        next = date ? DataHelper::dayAndTime(*date, DateFormatterStyle::Full, runLoop_.now())
+                    : localizedString("notAvailableAbbreviation");
     }
     const QString retry =
         sharedDataManager_.retryBackupDate() ? u"(%1)"_s.arg(localizedString("retryAttemptTitle")) : QString();
@@ -100,8 +95,9 @@ void StatusMenuController::updatePauseItemTitle()
 
 void StatusMenuController::titlePauseItem(Date end)
 {
-    StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem, u"%1: %2"_s.arg(localizedString("pauseScheduleUntilTitle"),
-                                                                            dayAndTime(end, DateFormatterStyle::Full)));
+    StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem,
+                         u"%1: %2"_s.arg(localizedString("pauseScheduleUntilTitle"),
+                                         DataHelper::dayAndTime(end, DateFormatterStyle::Full, runLoop_.now())));
 }
 
 void StatusMenuController::updateBackupDiskMenuItem()

@@ -2,8 +2,6 @@
 
 #include <QPainter>
 
-#include <cmath>
-
 namespace quillon {
 
 namespace {
@@ -15,23 +13,8 @@ constexpr qreal gap = 1; // between the disc and the ring
 } // namespace
 
 DeleteButton::DeleteButton(QWidget* parent)
-    : QAbstractButton(parent)
+    : RoundButton(verticalPadding, parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize DeleteButton::sizeHint() const
-{
-    const int diameter = fontMetrics().height() + 2 * verticalPadding;
-    return {diameter, diameter};
-}
-
-bool DeleteButton::hitButton(const QPoint& position) const
-{
-    const QPointF offset = QPointF(position) - QRectF(rect()).center();
-    return std::hypot(offset.x(), offset.y()) <= width() / 2.0;
 }
 
 void DeleteButton::paintEvent(QPaintEvent* /*event*/)

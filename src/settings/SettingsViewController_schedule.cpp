@@ -10,6 +10,13 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int secondsOfMinute = 60;
+constexpr int secondsOfHour = 60 * secondsOfMinute;
+
+} // namespace
+
 void SettingsViewController::connectScheduleControls()
 {
     connect(ui_->enableScheduleCheckmark, &QCheckBox::clicked, this,
@@ -66,8 +73,7 @@ QString SettingsViewController::getNextScheduledBackup() const
     const auto next = sharedDataManager_.nextScheduledBackupDate();
     if (!next)
         return localizedString("nextBackupNotAvailable");
-    return u"%1, %2"_s.arg(DataHelper::getDayFrom(*next, DateFormatterStyle::Full, runLoop_.now()),
-                           DataHelper::getDateTimeFrom(*next, DateFormatterStyle::None, DateFormatterStyle::Short));
+    return DataHelper::dayAndTime(*next, DateFormatterStyle::Full, runLoop_.now());
 }
 
 void SettingsViewController::refreshNextBackupLabel()
@@ -79,16 +85,12 @@ QTime SettingsViewController::todayWithIntervalSinceMidnight(double seconds)
 {
     // The time of day and not an instant: where the clocks change today, noon is 12:00 all the same.
     const auto time = DataManager::timeComponentsFromTimeInterval(seconds);
-    constexpr int secondsOfMinute = 60;
-    constexpr int secondsOfHour = 60 * secondsOfMinute;
     return QTime(0, 0).addSecs(time.hour * secondsOfHour + time.minute * secondsOfMinute);
 }
 
 int SettingsViewController::secondsSinceMidnightFromDate(QTime time)
 {
-    constexpr int secondsOfMinute = 60;
-    constexpr int minutesOfHour = 60;
-    return (time.hour() * minutesOfHour + time.minute()) * secondsOfMinute;
+    return time.hour() * secondsOfHour + time.minute() * secondsOfMinute;
 }
 
 void SettingsViewController::enableScheduleCheckmarkChanged(bool on)

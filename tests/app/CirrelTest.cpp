@@ -198,6 +198,9 @@ TEST_F(CirrelTest, TheCacheAnswersAtOnceUntilTheIntervalHasPassed)
     get(u"P"_s, 100);
     EXPECT_EQ(value, QVariant(u"default"_s)) << "a fresh date without an answer";
     EXPECT_FALSE(error);
+    defaults.setDate(u"Cirrel_Config_P_lastDate"_s, dateByAdding(runLoop.now(), 1000h));
+    get(u"P"_s, 100);
+    EXPECT_EQ(network->posted, 4) << "a date in the future is fresh";
 }
 
 TEST_F(CirrelTest, AFunctionsAnswerIsItsTextOrNothingWhereItIsNoText)

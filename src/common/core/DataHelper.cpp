@@ -64,6 +64,12 @@ QString DataHelper::getDayFrom(Date date, DateFormatterStyle style, Date now)
     }
 }
 
+QString DataHelper::dayAndTime(Date date, DateFormatterStyle dayStyle, Date now)
+{
+    return u"%1, %2"_s.arg(getDayFrom(date, dayStyle, now),
+                           getDateTimeFrom(date, DateFormatterStyle::None, DateFormatterStyle::Short));
+}
+
 QString DataHelper::getDateTimeFrom(Date date, DateFormatterStyle dateStyle, DateFormatterStyle timeStyle)
 {
     return DateFormatter::string(date, dateStyle, timeStyle);

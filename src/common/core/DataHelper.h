@@ -18,6 +18,9 @@ public:
     /// every other day the date in the given style.
     static QString getDayFrom(Date date, DateFormatterStyle style, Date now);
 
+    /// Such as "Tomorrow, 12:00".
+    static QString dayAndTime(Date date, DateFormatterStyle dayStyle, Date now);
+
     static QString getDateTimeFrom(Date date, DateFormatterStyle dateStyle, DateFormatterStyle timeStyle);
 
     /// The start of the next whole minute after now plus `interval`, both in whole seconds: one minute on even when

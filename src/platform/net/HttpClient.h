@@ -11,7 +11,8 @@ class RunLoop;
 /// Posts forms to HTTPS servers with certificates that the system trusts; plain HTTP goes to this machine only.
 ///
 /// Redirects are followed within one host, never to plain HTTP. An answer longer than maximumAnswer is an error. Codes
-/// of errors are those of QNetworkReply::NetworkError. Any number of requests may be under way.
+/// of errors are those of QNetworkReply::NetworkError. Any number of requests may be under way. Where a script chooses
+/// the system's proxy, Qt runs the script inside of post().
 class HttpClient final : public QObject, public FormPoster {
     Q_OBJECT
 

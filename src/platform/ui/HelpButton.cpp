@@ -3,8 +3,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include <cmath>
-
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -17,24 +15,9 @@ constexpr qreal rim = 1;
 } // namespace
 
 HelpButton::HelpButton(QWidget* parent)
-    : QAbstractButton(parent)
+    : RoundButton(verticalPadding, parent)
 {
     setText(u"?"_s);
-    setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize HelpButton::sizeHint() const
-{
-    const int diameter = fontMetrics().height() + 2 * verticalPadding;
-    return {diameter, diameter};
-}
-
-bool HelpButton::hitButton(const QPoint& position) const
-{
-    const QPointF offset = QPointF(position) - QRectF(rect()).center();
-    return std::hypot(offset.x(), offset.y()) <= width() / 2.0;
 }
 
 void HelpButton::keyPressEvent(QKeyEvent* event)
@@ -47,7 +30,7 @@ void HelpButton::keyPressEvent(QKeyEvent* event)
         event->ignore(); // inside a menu these are the menu's
         return;
     default:
-        QAbstractButton::keyPressEvent(event);
+        RoundButton::keyPressEvent(event);
     }
 }
 

@@ -1,20 +1,17 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "RoundButton.h"
 
 namespace quillon {
 
 /// A round button with a question mark that explains what it stands beside. Main thread only.
-class HelpButton final : public QAbstractButton {
+class HelpButton final : public RoundButton {
     Q_OBJECT
 
 public:
     explicit HelpButton(QWidget* parent = nullptr);
 
-    QSize sizeHint() const override;
-
 protected:
-    bool hitButton(const QPoint& position) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
