@@ -7,6 +7,7 @@ What is compiled, with which warnings, is what CMake says for macOS (preset `mac
 package that tools/macos/package-lock.json pins. Linking needs Qt for macOS and is not tried.
 """
 
+import hashlib
 import json
 import os
 import shlex
@@ -63,12 +64,22 @@ def install_compiler(root):
     shutil.copy(lock, installed)
 
 
+def ccache_settings(root):
+    tools = root / "tools" / "macos"
+    compiler = b"".join((tools / name).read_bytes() for name in ("macos-clang++", "package-lock.json"))
+    return {
+        # Known by what it is, not by when npm wrote it: what one checkout has compiled serves the others.
+        "CCACHE_COMPILERCHECK": f"string:{hashlib.sha256(compiler).hexdigest()}",
+        # The compiler itself tells what it has included, so that no file is preprocessed twice.
+        "CCACHE_DEPEND": "1",
+    }
+
+
 def main():
     root = Path(sys.argv[1]).resolve()
     build = root / "build" / "macos"
     install_compiler(root)
-    # The preprocessor runs once for each file: the compiler itself tells ccache what it has included.
-    environment = os.environ | {"CCACHE_DEPEND": "1"}
+    environment = os.environ | ccache_settings(root)
     if subprocess.run(["cmake", "--preset", "macos"], cwd=root, env=environment, stdout=subprocess.DEVNULL,
                       check=False).returncode:
         sys.exit("macos: CMake cannot configure the build for macOS")
@@ -79,7 +90,7 @@ def main():
     names = [str(path.relative_to(build)) for path in found.values()]
     compiled = subprocess.run(["ninja", "-C", str(build), "-k", "0", *names], env=environment, check=False)
     missing = [path for path in found.values() if not is_macos_object(path)]
-    for path in sorted(missing):
+    for path in sorted(missing) if not compiled.returncode else ():  # else the compiler has said what is wrong
         print(f"macos: {path.relative_to(root)} is no Mach-O object for arm64")
     print(f"macos: {len(found) - len(missing)} of {len(found)} objects compiled")
     return 1 if forgotten or missing or compiled.returncode else 0

@@ -1,8 +1,8 @@
+#include "CoreFoundation_macos.h"
 #include "QuillonStart.h"
 
 #include <QString>
 
-#include <CoreFoundation/CoreFoundation.h>
 #include <CoreServices/CoreServices.h>
 
 namespace quillon {
@@ -11,16 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The application around this program's bundle, which lies in its Contents/Library/LoginItems. The caller releases it.
-CFURLRef copyEnclosingApplication()
+/// The application around this program's bundle, which lies in its Contents/Library/LoginItems.
+CFOwned<CFURLRef> enclosingApplication()
 {
     constexpr int levelsUp = 4;
-    CFURLRef place = CFBundleCopyBundleURL(CFBundleGetMainBundle());
-    for (int level = 0; place && level < levelsUp; ++level) {
-        CFURLRef parent = CFURLCreateCopyDeletingLastPathComponent(kCFAllocatorDefault, place);
-        CFRelease(place);
-        place = parent;
-    }
+    CFOwned<CFURLRef> place(CFBundleCopyBundleURL(CFBundleGetMainBundle()));
+    for (int level = 0; place && level < levelsUp; ++level)
+        place.reset(CFURLCreateCopyDeletingLastPathComponent(nullptr, place.get()));
     return place;
 }
 
@@ -28,10 +25,8 @@ CFURLRef copyEnclosingApplication()
 
 bool startQuillon(QString* error)
 {
-    CFURLRef application = copyEnclosingApplication();
-    const OSStatus status = application ? LSOpenCFURLRef(application, nullptr) : kLSApplicationNotFoundErr;
-    if (application)
-        CFRelease(application);
+    const CFOwned<CFURLRef> application = enclosingApplication();
+    const OSStatus status = application ? LSOpenCFURLRef(application.get(), nullptr) : kLSApplicationNotFoundErr;
     if (status == noErr)
         return true;
     *error = u"cannot start Quillon: error %1 of Launch Services"_s.arg(status);

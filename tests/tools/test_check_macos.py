@@ -38,7 +38,8 @@ class CheckMacosTest(unittest.TestCase):
     def test_only_an_object_for_macos_on_arm64_passes(self):
         head = (0xFEEDFACF, 0x0100000C, 0, 1)
         self.assertTrue(check_macos.is_macos_object(self.write("a.o", struct.pack("<IIII", *head) + b"rest")))
-        for name, content in [("elf", b"\x7fELF\x02\x01\x01" + bytes(57)), ("empty", b""), ("torn", b"\xcf\xfa\xed\xfe"),
+        for name, content in [("elf", b"\x7fELF\x02\x01\x01" + bytes(57)), ("empty", b""),
+                              ("torn", b"\xcf\xfa\xed\xfe"),
                               ("x86_64", struct.pack("<IIII", head[0], 0x01000007, 3, 1)),
                               ("program", struct.pack("<IIII", *head[:3], 2))]:
             with self.subTest(name):

@@ -6,6 +6,7 @@ cmake_path(GET tools PARENT_PATH root)
 
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR arm64)
+set(CMAKE_OSX_DEPLOYMENT_TARGET 10.15) # the oldest that Debian's Qt headers know; what is newer needs @available
 set(CMAKE_CXX_COMPILER ${CMAKE_CURRENT_LIST_DIR}/macos-clang++)
 set(CMAKE_OBJCXX_COMPILER ${CMAKE_CXX_COMPILER})
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)

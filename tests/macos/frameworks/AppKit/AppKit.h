@@ -1,6 +1,5 @@
 #pragma once
 
-#include <dispatch/dispatch.h>
 #include <objc/NSObject.h>
 #include <os/availability.h>
 
@@ -132,7 +131,6 @@ typedef enum NSCellImagePosition : NSUInteger { NSImageRight = 3 } NSCellImagePo
 @property(copy) NSAttributedString* attributedTitle;
 @property(nullable) NSImage* image;
 @property(nullable) NSFont* font;
-- (void)performClick:(nullable id)sender;
 - (void)setAccessibilityLabel:(nullable NSString*)label;
 @end
 
@@ -148,9 +146,3 @@ static const CGFloat NSVariableStatusItemLength = -1.0;
 - (NSStatusItem*)statusItemWithLength:(CGFloat)length;
 - (void)removeStatusItem:(NSStatusItem*)item;
 @end
-
-@interface NSApplication : NSObject
-- (void)activateIgnoringOtherApps:(BOOL)flag;
-@end
-
-extern "C" NSApplication* NSApp;

@@ -24,6 +24,7 @@ typedef const struct __CFDictionary* CFDictionaryRef;
 typedef struct __CFDictionary* CFMutableDictionaryRef;
 typedef const struct __CFLocale* CFLocaleRef;
 typedef struct __CFError* CFErrorRef;
+typedef struct __CFBundle* CFBundleRef;
 typedef struct __CFRunLoop* CFRunLoopRef;
 typedef struct __CFRunLoopSource* CFRunLoopSourceRef;
 typedef CFStringRef CFRunLoopMode;
@@ -52,6 +53,11 @@ Boolean CFNumberGetValue(CFNumberRef number, CFNumberType type, void* value);
 // CFDate, CFData
 CFTypeID CFDateGetTypeID(void);
 CFTypeID CFDataGetTypeID(void);
+
+// CFURL, CFBundle
+CFURLRef CFURLCreateCopyDeletingLastPathComponent(CFAllocatorRef allocator, CFURLRef url);
+CFBundleRef CFBundleGetMainBundle(void);
+CFURLRef CFBundleCopyBundleURL(CFBundleRef bundle);
 
 // CFArray
 typedef struct CFArrayCallBacks CFArrayCallBacks;

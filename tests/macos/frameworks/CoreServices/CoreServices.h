@@ -8,6 +8,7 @@ extern "C" {
 #endif
 
 // Launch Services
+enum { kLSApplicationNotFoundErr = -10814 };
 OSStatus LSOpenCFURLRef(CFURLRef url, CFURLRef* launchedURL);
 CFArrayRef LSCopyApplicationURLsForBundleIdentifier(CFStringRef bundleIdentifier, CFErrorRef* error)
     API_AVAILABLE(macos(10.10));
