@@ -3,15 +3,16 @@
 #include "Alert.h"
 #include "EventLoop.h"
 #include "LocalDates.h"
+#include "SystemColor.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
-#include <QWidget>
 
-#include <utility>
+#include <algorithm>
 
 namespace quillon {
 
@@ -19,35 +20,73 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void settleWindows()
-{
-    // Popovers fade in.
-    QDeadlineTimer deadline(400);
-    while (!deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-}
-
+/// What stands in front of the others comes last.
 QWidgetList visibleWindows()
 {
-    QWidgetList windows;
-    const auto all = QApplication::topLevelWidgets();
-    for (QWidget* window : all) {
-        if (window->isVisible())
-            windows.append(window);
-    }
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.removeIf([](const QWidget* window) { return !window->isVisible(); });
+    std::stable_partition(windows.begin(), windows.end(),
+                          [](const QWidget* window) { return !window->findChild<Alert*>(); });
     return windows;
+}
+
+/// Popovers fade in.
+void settleWindows()
+{
+    runUntil([] {
+        QCoreApplication::processEvents();
+        const auto windows = visibleWindows();
+        return std::all_of(windows.begin(), windows.end(),
+                           [](const QWidget* window) { return window->windowOpacity() == 1; });
+    });
+}
+
+/// Where there is something beside the bar, with a margin. A modal alert is what counts while there is one.
+QRect takenArea(const QWidgetList& windows)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    QRect area;
+    for (const QWidget* window : windows) {
+        if (window->width() < screen.width())
+            area |= window->frameGeometry();
+    }
+    if (const QWidget* alert = QApplication::activeModalWidget())
+        area = alert->frameGeometry();
+    constexpr int margin = 32; // shows the bar that something hangs from
+    return area.adjusted(-margin, -margin, margin, margin) & screen;
+}
+
+template<typename Control>
+Control* highest(const char* name)
+{
+    Control* found = nullptr;
+    const auto windows = visibleWindows();
+    for (QWidget* window : windows) {
+        const auto controls = window->findChildren<Control*>(QLatin1StringView(name));
+        for (Control* control : controls) {
+            if (control->isVisible() &&
+                (!found || control->mapToGlobal(QPoint()).y() < found->mapToGlobal(QPoint()).y()))
+                found = control;
+        }
+    }
+    Q_ASSERT(found);
+    return found;
 }
 
 } // namespace
 
-Stage::Stage(QDir folder, QString suffix)
-    : folder_(std::move(folder))
-    , suffix_(std::move(suffix))
-    , item_(makeStatusItem(StatusItemPlacement::Bar))
+Stage::Stage()
+    : item_(makeStatusItem(StatusItemPlacement::Bar))
     , program_(local(2026, 11, 21, 10))
 {
     program_.machine.destinations = {{u"A"_s, u"Studio Disk"_s}, {u"B"_s, u"Büro & Archiv 💾"_s}};
-    program_.setRules({{0, 12 * 3600}, {2, 18 * 3600 + 1800}});
+    constexpr qlonglong hour = 3600;
+    constexpr qlonglong minute = 60;
+    program_.setRules({{0, 12 * hour},
+                       {8, 8 * hour + 15 * minute},
+                       {2, 18 * hour + 30 * minute},
+                       {4, 21 * hour + 45 * minute},
+                       {1, 0}});
 }
 
 void Stage::launch()
@@ -66,34 +105,45 @@ void Stage::openMenu(QAction* const StatusMenu::*submenuOf)
     }
 }
 
+void Stage::press(const char* button)
+{
+    settleWindows();
+    highest<QAbstractButton>(button)->click();
+}
+
+void Stage::choose(const char* comboBox, int item)
+{
+    settleWindows();
+    auto* box = highest<QComboBox>(comboBox);
+    box->setCurrentIndex(item);
+    Q_EMIT box->activated(item);
+}
+
 void Stage::showAlert()
 {
     alerts_.present(program_.alerts.presented.back().first, {});
 }
 
-void Stage::take(const QString& name)
+bool Stage::take(const QString& path)
 {
     settleWindows();
-    QRect area;
     const auto windows = visibleWindows();
-    for (const QWidget* window : windows)
-        area |= window->frameGeometry();
-    area = area.adjusted(-16, 0, 16, 24) & QGuiApplication::primaryScreen()->geometry();
+    const QRect area = takenArea(windows);
     const qreal ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
     QImage picture((QSizeF(area.size()) * ratio).toSize(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(ratio);
-    picture.fill(QGuiApplication::palette().color(QPalette::Window).lightness() > 127 ? 0xffb8c4d0 : 0xff303840);
+    picture.fill(isDark(QGuiApplication::palette()) ? 0xff303840 : 0xffb8c4d0);
     QPainter painter(&picture);
     for (QWidget* window : windows)
         painter.drawPixmap(window->pos() - area.topLeft(), window->grab());
     painter.end();
-    picture.save(folder_.filePath(name + suffix_ + ".png"_L1));
     for (QWidget* window : windows) {
         if (auto* alert = window->findChild<Alert*>())
             alert->escapeButton()->click();
         else if (qobject_cast<QMenu*>(window))
             window->close();
     }
+    return picture.save(path);
 }
 
 } // namespace quillon

@@ -5,32 +5,34 @@
 #include "ScopedEnvironment.h"
 #include "StatusItem.h"
 
-#include <QDir>
-#include <QString>
-
 #include <memory>
+
+class QString;
 
 namespace quillon {
 
-/// A played program with a real bar, menu and popovers, whose windows are taken together into pictures.
+/// A played program with a real bar, menu, panels and alerts, whose windows are taken together into a picture. Begins
+/// anew for each picture, so that none depends on the one before.
 class Stage {
 public:
-    /// Begins anew for each picture, so that none depends on the one before.
-    explicit Stage(QDir folder, QString suffix);
+    Stage();
 
     PlayedProgram& program() { return program_; }
 
     void launch();
     /// Opens the status menu and, beside it, the submenu of one of its items where one is given.
     void openMenu(QAction* const StatusMenu::*submenuOf = nullptr);
+    /// Presses the visible button of that object name; of several the one that stands highest.
+    void press(const char* button);
+    /// Chooses an item of the visible combo box of that object name.
+    void choose(const char* comboBox, int item);
     /// Shows the alert that the program has presented last.
     void showAlert();
-    void take(const QString& name);
+    /// Saves a picture of what is on the screen, and closes it; false when the file cannot be written.
+    bool take(const QString& path);
 
 private:
     ScopedEnvironment zone_{"TZ", "Europe/Berlin"};
-    QDir folder_;
-    QString suffix_;
     std::unique_ptr<StatusItem> item_;
     ModalAlertPresenter alerts_;
     PlayedProgram program_;

@@ -10,7 +10,7 @@ namespace quillon {
 template<typename Condition>
 bool runUntil(Condition condition, int boundSeconds = 60)
 {
-    QDeadlineTimer deadline(boundSeconds * 1000);
+    QDeadlineTimer deadline(boundSeconds * qint64{1000});
     while (!condition() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     return condition();

@@ -1,0 +1,171 @@
+#include "Scenes.h"
+
+#include "AppDelegate.h"
+#include "Cirrel.h"
+#include "Notifications.h"
+#include "ScopedEnvironment.h"
+
+#include <array>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void completeABackup(Stage& stage)
+{
+    stage.program().machine.start(u"A"_s);
+    stage.program().runLoop.advance(Seconds(120));
+}
+
+void announceUpdate(Stage& stage)
+{
+    stage.program().notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"1.1"_s}});
+    stage.program().runLoop.settle();
+}
+
+void openSettings(Stage& stage)
+{
+    stage.program().controller->preferencesClicked();
+}
+
+void pressInSettings(Stage& stage, const char* button)
+{
+    openSettings(stage);
+    stage.press(button);
+}
+
+void openAbout(Stage& stage)
+{
+    stage.program().controller->aboutClicked();
+}
+
+void launchForTheFirstTime(Stage& stage)
+{
+    auto& program = stage.program();
+    const Cirrel::Services unused(program.runLoop, program.defaults, nullptr); // by a build without a service
+    AppDelegate({program.runLoop, program.defaults, program.notifications, program.workspace, program.alerts})
+        .applicationDidFinishLaunching();
+    stage.showAlert();
+}
+
+constexpr std::array scenes{
+    Scene{"menu", [](Stage& stage) { stage.openMenu(); }},
+    Scene{"menu-disks",
+          [](Stage& stage) {
+              completeABackup(stage);
+              stage.openMenu(&StatusMenu::backupNowMenuItem);
+          }},
+    Scene{"menu-history",
+          [](Stage& stage) {
+              completeABackup(stage);
+              stage.openMenu(&StatusMenu::phaseMenuItem);
+          }},
+    Scene{"menu-pause", [](Stage& stage) { stage.openMenu(&StatusMenu::pauseScheduleMenuItem); }},
+    Scene{"menu-paused",
+          [](Stage& stage) {
+              stage.program().controller->pauseForClicked(14400);
+              stage.openMenu(&StatusMenu::pauseScheduleMenuItem);
+          }},
+    Scene{"menu-running",
+          [](Stage& stage) {
+              stage.program().machine.start(u"A"_s);
+              stage.program().runLoop.advance(Seconds(40));
+              stage.openMenu();
+          }},
+    Scene{"menu-stopping",
+          [](Stage& stage) {
+              stage.program().machine.start(u"A"_s);
+              stage.program().runLoop.advance(Seconds(40));
+              stage.program().controller->backupNowClicked();
+              stage.program().runLoop.advance(Seconds(0.5));
+              stage.openMenu();
+          }},
+    Scene{"menu-failed",
+          [](Stage& stage) {
+              stage.program().machine.phases = {{u"Copying"_s, 20, true}};
+              completeABackup(stage);
+              stage.openMenu();
+          }},
+    Scene{"menu-update",
+          [](Stage& stage) {
+              announceUpdate(stage);
+              stage.openMenu();
+          }},
+    Scene{"menu-schedule-off",
+          [](Stage& stage) {
+              stage.program().manager->setIsScheduleEnabled(false);
+              stage.openMenu();
+          }},
+    Scene{"settings", openSettings},
+    Scene{"settings-interval",
+          [](Stage& stage) {
+              openSettings(stage);
+              stage.choose("schedulePopup", 1);
+          }},
+    Scene{"settings-off",
+          [](Stage& stage) {
+              openSettings(stage);
+              stage.press("enableScheduleCheckmark");
+              stage.press("showMenuBarIconOnlyCheckmark");
+          }},
+    Scene{"settings-delete", [](Stage& stage) { pressInSettings(stage, "deleteButton"); }},
+    Scene{"settings-limit", [](Stage& stage) { pressInSettings(stage, "addCalendarIntervalButton"); }},
+    Scene{"settings-warning", [](Stage& stage) { pressInSettings(stage, "warningButton"); }},
+    Scene{"settings-help-missed", [](Stage& stage) { pressInSettings(stage, "retryAtMissedScheduleHelpButton"); }},
+    Scene{"settings-help-failed", [](Stage& stage) { pressInSettings(stage, "retryAtFailureHelpButton"); }},
+    Scene{"about", openAbout},
+    Scene{"history-help", [](Stage& stage) { stage.program().controller->allBackupInfoHelpButtonPressed(); }},
+    Scene{"alert-first-launch", launchForTheFirstTime},
+    Scene{"alert-mail",
+          [](Stage& stage) {
+              stage.program().workspace.opens = false;
+              openAbout(stage);
+              stage.press("emailButton");
+              stage.showAlert();
+          }},
+    Scene{"alert-privacy",
+          [](Stage& stage) {
+              openAbout(stage);
+              stage.press("privacyPolicyButton");
+              stage.showAlert();
+          }},
+    Scene{"alert-failed-start",
+          [](Stage& stage) {
+              stage.program().machine.injection = {1, TmutilScript::Fault::None, 17, u"startbackup"_s};
+              stage.program().controller->backupNowClicked();
+              stage.program().runLoop.advance(Seconds(1));
+              stage.showAlert();
+          }},
+    Scene{"alert-update",
+          [](Stage& stage) {
+              announceUpdate(stage);
+              stage.program().controller->updateAvailableClicked();
+              stage.showAlert();
+          }},
+    Scene{"alert-restore",
+          [](Stage& stage) {
+              completeABackup(stage);
+              stage.program().workspace.opens = false;
+              stage.program().controller->enterTimeMachineClicked();
+              stage.showAlert();
+          }},
+    Scene{"alert-permission",
+          [](Stage& stage) {
+              const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6");
+              stage.program().machine.injection = {1, TmutilScript::Fault::None, 1, u"-e"_s}; // the script's
+              stage.program().controller->openSystemPreferences();
+              stage.program().runLoop.advance(Seconds(1));
+              stage.showAlert();
+          }},
+};
+
+} // namespace
+
+std::span<const Scene> allScenes()
+{
+    return scenes;
+}
+
+} // namespace quillon
