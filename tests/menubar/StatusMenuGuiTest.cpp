@@ -1,13 +1,20 @@
+#include "ClippedTexts.h"
+#include "ColorScheme_linux.h"
 #include "ControllerFixture.h"
 #include "EventLoop.h"
 #include "ExportedMenu_linux.h"
 #include "HelpButton.h"
+#include "LocalizedString.h"
 #include "Popover.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QBuffer>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QSvgGenerator>
 #include <QTest>
 #include <QWidgetAction>
 
@@ -57,6 +64,23 @@ protected:
                 return found;
         }
         return nullptr;
+    }
+
+    /// What has less room than its text needs, one a line; the menu has to fit on the screen besides. A style marks
+    /// what it leaves out of an item.
+    static std::string clippedItems(QMenu& menu)
+    {
+        std::string clipped = clippedTexts(menu);
+        if (!menu.screen()->availableGeometry().contains(QRect(menu.mapToGlobal(QPoint()), menu.size())))
+            clipped += "beyond the screen\n";
+        QBuffer drawing;
+        QSvgGenerator generator;
+        generator.setOutputDevice(&drawing);
+        menu.render(&generator);
+        static const QRegularExpression elided(u"[^>]*\u2026[^<]*"_s);
+        for (const auto& match : elided.globalMatch(QString::fromUtf8(drawing.data())))
+            clipped += (match.captured() + u'\n').toStdString();
+        return clipped;
     }
 
     /// The arrow keys reach the row, and with it its button.
@@ -201,6 +225,30 @@ TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
     click(statusMenu(), menu().backupNowMenuItem);
     answer();
     EXPECT_EQ(controller->tmState(), TMState::Stopping);
+}
+
+TEST_F(StatusMenuGui, NothingIsClippedInAnyLanguageOrSize)
+{
+    const QFont before = QApplication::font();
+    applyColorScheme(ColorSchemePreference::None);
+    for (const QString& table : tableLanguages()) {
+        const ScopedEnvironment formats("LC_ALL", (table + u".UTF-8"_s).toLatin1());
+        installStringTable(table);
+        for (const qreal factor : {1.0, 2.0}) {
+            QFont font = before;
+            font.setPointSizeF(before.pointSizeF() * factor);
+            QApplication::setFont(font);
+            launch();
+            openMenu();
+            answer();
+            EXPECT_EQ(clippedItems(statusMenu()), "") << table.toStdString() << ' ' << factor;
+            for (QAction* opener : {menu().phaseMenuItem, menu().pauseScheduleMenuItem, menu().backupNowMenuItem})
+                EXPECT_EQ(clippedItems(openSubmenu(statusMenu(), opener)), "") << table.toStdString() << ' ' << factor;
+            statusMenu().close();
+        }
+    }
+    QApplication::setFont(before);
+    installStringTable(u"en"_s);
 }
 
 TEST_F(StatusMenuGui, AHangingToolDoesNotFreezeTheMenu)

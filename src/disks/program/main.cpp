@@ -29,6 +29,7 @@ int runWindow(const SingleInstance& instance)
     Task launcher;
     ModalAlertPresenter alerts;
     const ColorScheme colors(QDBusConnection::sessionBus());
+    applyColorScheme(colors.preference());
     QObject::connect(&colors, &ColorScheme::changed, qApp, applyColorScheme);
     DisksWindow window({launcher, runLoop, alerts, tmutilPath(), u"/usr/bin/lsblk"_s});
     QObject::connect(&instance, &SingleInstance::presentRequested, &window, [&window] {

@@ -1,6 +1,6 @@
 #include "ColorScheme_linux.h"
 
-#include "MenuStyle_linux.h"
+#include "SchemeStyle_linux.h"
 #include "SystemColor.h"
 
 #include <QApplication>
@@ -130,11 +130,11 @@ void ColorScheme::take(const QVariant& value)
 
 void applyColorScheme(ColorSchemePreference preference)
 {
-    QApplication::setPalette(QPalette()); // the desktop's own again
+    if (!qobject_cast<SchemeStyle*>(QApplication::style()))
+        QApplication::setStyle(std::make_unique<SchemeStyle>().release()); // owned by the application
+    QApplication::setPalette(QPalette());                                  // the desktop's own again
     if (preference == ColorSchemePreference::None)
         return;
-    if (!qobject_cast<MenuStyle*>(QApplication::style()))
-        QApplication::setStyle(std::make_unique<MenuStyle>().release()); // owned by the application
     const bool dark = preference == ColorSchemePreference::Dark;
     if (isDark(QGuiApplication::palette()) != dark)
         QApplication::setPalette(dark ? darkPalette() : lightPalette());

@@ -37,7 +37,8 @@ private:
     bool told_ = false; ///< a change was announced; an answer that is still under way is older
 };
 
-/// Gives the application's palette the preferred scheme where the desktop's own palette does not have it already.
+/// Gives the application's palette the preferred scheme where the desktop's own palette does not have it already. A
+/// program calls it once at its start, for the style that comes with it.
 void applyColorScheme(ColorSchemePreference preference);
 
 } // namespace quillon

@@ -48,6 +48,7 @@ private:
 LinuxStatusItem::LinuxStatusItem(StatusItemPlacement placement)
     : placement_(placement)
 {
+    applyColorScheme(colorScheme_.preference());
     connect(&colorScheme_, &ColorScheme::changed, this, applyColorScheme);
     connect(&statusNotifierHost_, &StatusNotifierHostWatcher::changed, this, &LinuxStatusItem::choose);
     connect(&xembedHost_, &XEmbedHostWatcher::changed, this, &LinuxStatusItem::choose);

@@ -4,7 +4,10 @@
 #include "host/PrivateBus.h"
 #include "host/Waiting.h"
 
+#include <QCheckBox>
 #include <QGuiApplication>
+#include <QStyle>
+#include <QStyleOptionButton>
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -63,6 +66,20 @@ TEST(ApplicationPalette, TakesThePreferredSchemeAndGoesBackToTheDesktopsOwn)
     }
     applyColorScheme(None);
     EXPECT_EQ(QGuiApplication::palette(), own);
+}
+
+TEST(ApplicationPalette, LeavesAnEmptyCheckBoxVisibleInTheDark)
+{
+    applyColorScheme(Dark);
+    QCheckBox box;
+    box.resize(box.sizeHint());
+    QStyleOptionButton option;
+    option.initFrom(&box);
+    const QRect indicator = box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+    const QImage picture = box.grab().toImage();
+    const int outline = picture.pixelColor(indicator.left(), indicator.center().y()).lightness();
+    EXPECT_GT(outline, box.palette().color(QPalette::Window).lightness() + 60);
+    applyColorScheme(None);
 }
 
 } // namespace
