@@ -94,9 +94,9 @@ void AboutViewController::arrangeForFont()
     constexpr qreal larger = 1.6;
     heading.setPointSizeF(font().pointSizeF() * larger);
     ui_->nameLabel->setFont(heading);
-    constexpr int lineCharacters = 46;
+    constexpr int lineDigits = 54; // and not average characters, which are ideographs in fonts that have them
     for (QLabel* text : {ui_->supportDetailsLabel, ui_->creditsLabel, ui_->privacyPolicyLabel})
-        text->setMinimumWidth(fontMetrics().averageCharWidth() * lineCharacters);
+        text->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * lineDigits);
 }
 
 void AboutViewController::changeEvent(QEvent* event)

@@ -133,7 +133,8 @@ void SettingsViewController::arrangeForStyle()
     const int indicator = style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) +
                           style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);
     ui_->showRemainingMinutesDetails->setContentsMargins(indicator, 0, 0, 0);
-    ui_->scheduleLabel->setMinimumHeight(ui_->calendarIntervalTable->heightOfFirstRow());
+    for (QLabel* caption : {ui_->scheduleLabel, ui_->intervalLabel}) // on one line with either page's first row
+        caption->setMinimumHeight(ui_->calendarIntervalTable->heightOfFirstRow());
     ui_->warningButton->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this));
     constexpr int digits = 3;
     ui_->scheduleIntervalValueTextField->setFixedWidth(ui_->scheduleIntervalValueTextField->minimumSizeHint().width() +

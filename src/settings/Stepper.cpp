@@ -1,7 +1,6 @@
 #include "Stepper.h"
 
 #include <QLineEdit>
-#include <QStyleOptionSpinBox>
 #include <QStylePainter>
 
 namespace quillon {
@@ -13,14 +12,20 @@ Stepper::Stepper(QWidget* parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-QSize Stepper::sizeHint() const
+/// Of the whole spin box; the arrows are at its right end.
+QStyleOptionSpinBox Stepper::wholeSpinBox() const
 {
-    const QSize whole = QSpinBox::sizeHint();
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    option.rect = QRect(QPoint(), whole);
-    const QRect field = style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, this);
-    return {whole.width() - field.width(), whole.height()};
+    option.rect = QRect(QPoint(), QSpinBox::sizeHint());
+    return option;
+}
+
+QSize Stepper::sizeHint() const
+{
+    const QStyleOptionSpinBox whole = wholeSpinBox();
+    const QRect arrow = style()->subControlRect(QStyle::CC_SpinBox, &whole, QStyle::SC_SpinBoxUp, this);
+    return {whole.rect.width() - arrow.left(), whole.rect.height()};
 }
 
 QSize Stepper::minimumSizeHint() const
@@ -28,12 +33,17 @@ QSize Stepper::minimumSizeHint() const
     return sizeHint();
 }
 
-void Stepper::paintEvent(QPaintEvent* event)
+/// What is left of the arrows lies outside.
+void Stepper::paintEvent(QPaintEvent* /*event*/)
 {
-    QSpinBox::paintEvent(event);
+    QStylePainter painter(this);
+    QStyleOptionSpinBox whole = wholeSpinBox();
+    whole.rect.setHeight(height());
+    painter.translate(width() - whole.rect.width(), 0);
+    painter.drawComplexControl(QStyle::CC_SpinBox, whole);
+    painter.resetTransform();
     if (!hasFocus())
         return;
-    QStylePainter painter(this);
     QStyleOptionFocusRect option;
     option.initFrom(this);
     painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSpinBox>
+#include <QStyleOptionSpinBox>
 
 namespace quillon {
 
@@ -16,6 +17,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QStyleOptionSpinBox wholeSpinBox() const;
 };
 
 } // namespace quillon

@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int columnCharacters = 54;
+constexpr int columnDigits = 58;
 constexpr double highestShareOfScreen = 0.6;
 
 } // namespace
@@ -51,7 +51,8 @@ void AlertText::fitToText()
 {
     const std::unique_ptr<QTextDocument> measured(document()->clone());
     measured->setDefaultFont(font());
-    const int column = fontMetrics().averageCharWidth() * columnCharacters;
+    // Not the average character: that is as wide as an ideograph in a font that has them.
+    const int column = fontMetrics().horizontalAdvance(u'0') * columnDigits;
     measured->setTextWidth(column);
     int width = std::min(column, static_cast<int>(std::ceil(measured->idealWidth())));
     const int highest = static_cast<int>(screen()->availableGeometry().height() * highestShareOfScreen);

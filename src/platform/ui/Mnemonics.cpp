@@ -55,7 +55,7 @@ QStringList titlesWithMnemonics(const QStringList& titles)
     for (QString title : titles) {
         qsizetype place = mnemonicPlace(title, letters);
         if (place < 0 && !letters.first().isEmpty()) {
-            title += QStringLiteral(" (%1)").arg(letters.first());
+            title += QStringLiteral("(%1)").arg(letters.first());
             place = title.size() - 2;
         }
         if (place >= 0) {

@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 TEST(Mnemonics, EveryTitleGetsALetterOfItsOwnFromTheBeginningOfAWordIfItCan)
 {
     EXPECT_EQ(titlesWithMnemonics({u"Retry after a miss"_s, u"Retry after a fault"_s, u"Retry"_s, u"Rare"_s}),
-              (QStringList{u"&Retry after a miss"_s, u"Retry &after a fault"_s, u"R&etry"_s, u"Rare (&B)"_s}));
+              (QStringList{u"&Retry after a miss"_s, u"Retry &after a fault"_s, u"R&etry"_s, u"Rare(&B)"_s}));
 }
 
 TEST(Mnemonics, ATitleWithoutLatinLettersGetsOneBehindIt)
 {
     EXPECT_EQ(titlesWithMnemonics({u"追加"_s, u"Ärger"_s, u"削除"_s}),
-              (QStringList{u"追加 (&A)"_s, u"Ä&rger"_s, u"削除 (&B)"_s}));
+              (QStringList{u"追加(&A)"_s, u"Ä&rger"_s, u"削除(&B)"_s}));
 }
 
 TEST(Mnemonics, AmpersandsOfATitleStayAmpersands)
