@@ -518,11 +518,11 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>Falls Time Machine auch automatisch Backups erstellt, sollte dies ausgeschaltet werden, damit Backups nur nach Zeitplan starten. Auf dem Mac: „Systemeinstellungen“ &gt; „Time Machine“ öffnen und „Automatische Backups erstellen“ deaktivieren.</translation>
+        <translation>Falls Time Machine auch automatisch Backups erstellt, sollte dies ausgeschaltet werden, damit Backups nur nach Zeitplan starten. Auf dem Mac: „Systemeinstellungen“ &gt; „Time Machine“ öffnen und automatische Backups deaktivieren.</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>Falls Time Machine auch automatisch Backups erstellt, sollte dies ausgeschaltet werden, damit Backups nur nach Zeitplan starten. Auf dem Mac: „Systemeinstellungen“ &gt; „Allgemein“ &gt; „Time Machine“ &gt; „Optionen“ öffnen und die „Backup-Häufigkeit“ auf „Manuell“ setzen.</translation>
+        <translation>Falls Time Machine auch automatisch Backups erstellt, sollte dies ausgeschaltet werden, damit Backups nur nach Zeitplan starten. Auf dem Mac: „Systemeinstellungen“ &gt; „Allgemein“ &gt; „Time Machine“ &gt; „Optionen“ öffnen und die Häufigkeit der Backups auf „Manuell“ setzen.</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -539,7 +539,7 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="supportDetailsMessage">
         <source></source>
-        <translation>Fragen, Ideen oder ein Problem? Wir freuen uns über jede Nachricht.</translation>
+        <translation>Fragen, Ideen, Probleme? Jede Nachricht ist willkommen.</translation>
     </message>
     <message id="websiteButtonTitle">
         <source></source>
@@ -609,10 +609,6 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     <message id="disksNoDisks">
         <source></source>
         <translation>Es gibt noch kein Backup-Volume. Zum Beginnen ein Volume oder einen Ordner darauf hinzufügen.</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>Es wird kein Ordner gesichert.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

@@ -610,10 +610,6 @@ Restore a folder from the latest one, as a copy in your home folder:
         <source></source>
         <translation>There is no backup disk yet. Add a disk or a folder on one to begin.</translation>
     </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>No folder is backed up.</translation>
-    </message>
     <message id="disksNoExclusions">
         <source></source>
         <translation>Nothing is left out. Add what needs no backup, such as downloads that you can get again.</translation>

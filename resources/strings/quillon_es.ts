@@ -426,11 +426,11 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="settingsEnableAfterMissedBackup">
         <source></source>
-        <translation>Reintentar si se pierde una copia</translation>
+        <translation>Reintentar tras una copia no realizada</translation>
     </message>
     <message id="settingsEnableAfterFailedBackup">
         <source></source>
-        <translation>Reintentar si falla una copia</translation>
+        <translation>Reintentar tras una copia fallida</translation>
     </message>
     <message id="settingsGroupMenuBar">
         <source></source>
@@ -483,7 +483,7 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
-        <translation>Reintentar si se pierde una copia</translation>
+        <translation>Reintentar tras una copia no realizada</translation>
     </message>
     <message id="retryAfterMissedBackupMessage">
         <source></source>
@@ -491,7 +491,7 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="retryAfterFailedBackupTitle">
         <source></source>
-        <translation>Reintentar si falla una copia</translation>
+        <translation>Reintentar tras una copia fallida</translation>
     </message>
     <message id="retryAfterFailedBackupMessage">
         <source></source>
@@ -518,11 +518,11 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>Si Time Machine también hace copias automáticas, desactívalas para que las copias solo se inicien cuando las hayas programado. En un Mac, abre Preferencias del Sistema, haz clic en Time Machine y desmarca “Realizar copias de seguridad automáticamente”.</translation>
+        <translation>Si Time Machine también hace copias automáticas, desactívalas para que las copias solo se inicien cuando las hayas programado. En un Mac, abre Preferencias del Sistema, haz clic en Time Machine y desmarca las copias de seguridad automáticas.</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>Si Time Machine también hace copias automáticas, desactívalas para que las copias solo se inicien cuando las hayas programado. En un Mac, abre Ajustes del Sistema, selecciona General &gt; Time Machine &gt; Opciones y elige “Manualmente” en “Frecuencia de copia de seguridad”.</translation>
+        <translation>Si Time Machine también hace copias automáticas, desactívalas para que las copias solo se inicien cuando las hayas programado. En un Mac, abre Ajustes del Sistema, selecciona General &gt; Time Machine &gt; Opciones y elige “Manualmente” como frecuencia de las copias.</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -609,10 +609,6 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     <message id="disksNoDisks">
         <source></source>
         <translation>Aún no hay ningún disco de copia de seguridad. Para empezar, añade un disco o una carpeta de un disco.</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>No se hace copia de seguridad de ninguna carpeta.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

@@ -518,11 +518,11 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>Si Time Machine effectue aussi des sauvegardes automatiques, désactivez-les afin que les sauvegardes ne démarrent qu’aux heures programmées. Sur un Mac, ouvrez Préférences Système, cliquez sur « Time Machine » et décochez « Sauvegarder automatiquement ».</translation>
+        <translation>Si Time Machine effectue aussi des sauvegardes automatiques, désactivez-les afin que les sauvegardes ne démarrent qu’aux heures programmées. Sur un Mac, ouvrez Préférences Système, cliquez sur « Time Machine » et désactivez les sauvegardes automatiques.</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>Si Time Machine effectue aussi des sauvegardes automatiques, désactivez-les afin que les sauvegardes ne démarrent qu’aux heures programmées. Sur un Mac, ouvrez Réglages Système, choisissez Général &gt; Time Machine &gt; Options et réglez « Fréquence des sauvegardes » sur « Manuellement ».</translation>
+        <translation>Si Time Machine effectue aussi des sauvegardes automatiques, désactivez-les afin que les sauvegardes ne démarrent qu’aux heures programmées. Sur un Mac, ouvrez Réglages Système, choisissez Général &gt; Time Machine &gt; Options et réglez la fréquence des sauvegardes sur « Manuellement ».</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -609,10 +609,6 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     <message id="disksNoDisks">
         <source></source>
         <translation>Il n’y a pas encore de disque de sauvegarde. Pour commencer, ajoutez un disque ou un dossier sur un disque.</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>Aucun dossier n’est sauvegardé.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

@@ -518,11 +518,11 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>Se Time Machine esegue anche backup automatici, disattivali: così i backup inizieranno solo quando li hai programmati. Sul Mac, apri Preferenze di Sistema, fai clic su Time Machine e deseleziona “Esegui backup automaticamente”.</translation>
+        <translation>Se Time Machine esegue anche backup automatici, disattivali: così i backup inizieranno solo quando li hai programmati. Sul Mac, apri Preferenze di Sistema, fai clic su Time Machine e disattiva i backup automatici.</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>Se Time Machine esegue anche backup automatici, disattivali: così i backup inizieranno solo quando li hai programmati. Sul Mac, apri Impostazioni di Sistema, scegli Generali &gt; Time Machine &gt; Opzioni e imposta “Frequenza backup” su “Manualmente”.</translation>
+        <translation>Se Time Machine esegue anche backup automatici, disattivali: così i backup inizieranno solo quando li hai programmati. Sul Mac, apri Impostazioni di Sistema, scegli Generali &gt; Time Machine &gt; Opzioni e imposta la frequenza dei backup su “Manualmente”.</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -609,10 +609,6 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     <message id="disksNoDisks">
         <source></source>
         <translation>Non c’è ancora alcun disco di backup. Per iniziare, aggiungi un disco o una cartella su un disco.</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>Non viene eseguito il backup di alcuna cartella.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

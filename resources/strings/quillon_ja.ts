@@ -331,11 +331,11 @@
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>
-        <translation>バックアップの予定</translation>
+        <translation>バックアップのスケジュール</translation>
     </message>
     <message id="settingsEnableScheduledBackupsVia">
         <source></source>
-        <translation>バックアップの予定の指定方法</translation>
+        <translation>次の方法でバックアップをスケジュール</translation>
     </message>
     <message id="settingsOptionCalendarInterval">
         <source></source>
@@ -426,7 +426,7 @@
     </message>
     <message id="settingsEnableAfterMissedBackup">
         <source></source>
-        <translation>逃したバックアップを再試行</translation>
+        <translation>実行できなかったバックアップを再試行</translation>
     </message>
     <message id="settingsEnableAfterFailedBackup">
         <source></source>
@@ -483,7 +483,7 @@
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
-        <translation>逃したバックアップの再試行</translation>
+        <translation>実行できなかったバックアップの再試行</translation>
     </message>
     <message id="retryAfterMissedBackupMessage">
         <source></source>
@@ -518,11 +518,11 @@
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>Time Machineの自動バックアップがオンの場合は、予定した時刻にだけバックアップが開始されるように、オフにしてください。Macでは、「システム環境設定」を開き、「Time Machine」をクリックして、「バックアップを自動作成」の選択を解除します。</translation>
+        <translation>Time Machineの自動バックアップがオンの場合は、予定した時刻にだけバックアップが開始されるように、オフにしてください。Macでは、「システム環境設定」を開き、「Time Machine」をクリックして、バックアップの自動作成をオフにします。</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>Time Machineの自動バックアップがオンの場合は、予定した時刻にだけバックアップが開始されるように、オフにしてください。Macでは、「システム設定」を開き、「一般」&gt;「Time Machine」&gt;「オプション」と選択して、「バックアップ頻度」を「手動」に設定します。</translation>
+        <translation>Time Machineの自動バックアップがオンの場合は、予定した時刻にだけバックアップが開始されるように、オフにしてください。Macでは、「システム設定」を開き、「一般」&gt;「Time Machine」&gt;「オプション」と選択して、バックアップの頻度を「手動」に設定します。</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -609,10 +609,6 @@
     <message id="disksNoDisks">
         <source></source>
         <translation>バックアップディスクがまだありません。まずディスク、またはディスク上のフォルダを追加してください。</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>バックアップされるフォルダがありません。</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

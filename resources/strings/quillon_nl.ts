@@ -335,7 +335,7 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     </message>
     <message id="settingsEnableScheduledBackupsVia">
         <source></source>
-        <translation>Plan reservekopieën op</translation>
+        <translation>Plan reservekopieën op basis van</translation>
     </message>
     <message id="settingsOptionCalendarInterval">
         <source></source>
@@ -518,11 +518,11 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>Als Time Machine ook automatisch reservekopieën maakt, schakel je dat uit, zodat reservekopieën alleen starten wanneer jij ze hebt gepland. Op een Mac open je Systeemvoorkeuren, klik je op ‘Time Machine’ en schakel je ‘Maak automatisch reservekopie’ uit.</translation>
+        <translation>Als Time Machine ook automatisch reservekopieën maakt, schakel je dat uit, zodat reservekopieën alleen starten wanneer jij ze hebt gepland. Op een Mac open je Systeemvoorkeuren, klik je op ‘Time Machine’ en schakel je automatische reservekopieën uit.</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>Als Time Machine ook automatisch reservekopieën maakt, schakel je dat uit, zodat reservekopieën alleen starten wanneer jij ze hebt gepland. Op een Mac open je Systeeminstellingen, kies je ‘Algemeen’ &gt; ‘Time Machine’ &gt; ‘Opties’ en stel je ‘Reservekopiefrequentie’ in op ‘Handmatig’.</translation>
+        <translation>Als Time Machine ook automatisch reservekopieën maakt, schakel je dat uit, zodat reservekopieën alleen starten wanneer jij ze hebt gepland. Op een Mac open je Systeeminstellingen, kies je ‘Algemeen’ &gt; ‘Time Machine’ &gt; ‘Opties’ en stel je de frequentie van de reservekopieën in op ‘Handmatig’.</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -609,10 +609,6 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     <message id="disksNoDisks">
         <source></source>
         <translation>Er is nog geen reservekopieschijf. Voeg om te beginnen een schijf toe, of een map op een schijf.</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>Van geen enkele map wordt een reservekopie gemaakt.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

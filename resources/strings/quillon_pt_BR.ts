@@ -426,7 +426,7 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="settingsEnableAfterMissedBackup">
         <source></source>
-        <translation>Tentar novamente após um backup perdido</translation>
+        <translation>Tentar novamente após um backup não realizado</translation>
     </message>
     <message id="settingsEnableAfterFailedBackup">
         <source></source>
@@ -483,7 +483,7 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
-        <translation>Nova Tentativa Após um Backup Perdido</translation>
+        <translation>Nova Tentativa Após um Backup Não Realizado</translation>
     </message>
     <message id="retryAfterMissedBackupMessage">
         <source></source>
@@ -518,11 +518,11 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>Se o Time Machine também fizer backups automáticos, desative-os para que os backups comecem somente quando você os tiver programado. No Mac, abra as Preferências do Sistema, clique em Time Machine e desmarque “Fazer Backup Automaticamente”.</translation>
+        <translation>Se o Time Machine também fizer backups automáticos, desative-os para que os backups comecem somente quando você os tiver programado. No Mac, abra as Preferências do Sistema, clique em Time Machine e desmarque o backup automático.</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>Se o Time Machine também fizer backups automáticos, desative-os para que os backups comecem somente quando você os tiver programado. No Mac, abra os Ajustes do Sistema, escolha Geral &gt; Time Machine &gt; Opções e defina “Frequência de backup” como “Manualmente”.</translation>
+        <translation>Se o Time Machine também fizer backups automáticos, desative-os para que os backups comecem somente quando você os tiver programado. No Mac, abra os Ajustes do Sistema, escolha Geral &gt; Time Machine &gt; Opções e defina a frequência dos backups como “Manualmente”.</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -609,10 +609,6 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     <message id="disksNoDisks">
         <source></source>
         <translation>Ainda não há um disco de backup. Para começar, adicione um disco ou uma pasta em um disco.</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>Não é feito backup de nenhuma pasta.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

@@ -335,7 +335,7 @@
     </message>
     <message id="settingsEnableScheduledBackupsVia">
         <source></source>
-        <translation>计划备份的方式</translation>
+        <translation>按以下方式计划备份</translation>
     </message>
     <message id="settingsOptionCalendarInterval">
         <source></source>
@@ -442,7 +442,7 @@
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>一小时以上同时显示分钟；一天以上同时显示小时。</translation>
+        <translation>一小时起也显示分钟，一天起也显示小时。</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -518,11 +518,11 @@
     </message>
     <message id="disableTmInstruction">
         <source></source>
-        <translation>如果“时间机器”也会自动备份，请将其关闭，以便备份只在你计划的时间开始。在 Mac 上，打开“系统偏好设置”，点按“时间机器”，然后取消选择“自动备份”。</translation>
+        <translation>如果“时间机器”也会自动备份，请将其关闭，以便备份只在你计划的时间开始。在 Mac 上，打开“系统偏好设置”，点按“时间机器”，然后关闭自动备份。</translation>
     </message>
     <message id="disableTmInstructionVentura">
         <source></source>
-        <translation>如果“时间机器”也会自动备份，请将其关闭，以便备份只在你计划的时间开始。在 Mac 上，打开“系统设置”，选取“通用”&gt;“时间机器”&gt;“选项”，然后将“备份频率”设为“手动”。</translation>
+        <translation>如果“时间机器”也会自动备份，请将其关闭，以便备份只在你计划的时间开始。在 Mac 上，打开“系统设置”，选取“通用”&gt;“时间机器”&gt;“选项”，然后将备份频率设为“手动”。</translation>
     </message>
     <message id="AlertButtonHelp">
         <source></source>
@@ -609,10 +609,6 @@
     <message id="disksNoDisks">
         <source></source>
         <translation>还没有备份磁盘。若要开始，请添加磁盘或磁盘上的文件夹。</translation>
-    </message>
-    <message id="disksNoSources">
-        <source></source>
-        <translation>没有文件夹会备份。</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>

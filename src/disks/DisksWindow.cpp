@@ -160,9 +160,10 @@ void DisksWindow::reload()
     mountedDisks_.refresh();
     read({u"destinationinfo"_s, u"-X"_s}, [this](const QByteArray& answer) { return showDisks(answer); });
     read({u"listsources"_s, u"-X"_s},
-         [this](const QByteArray& answer) { return showPaths(answer, *sourcesPage_, "disksNoSources"); });
-    read({u"listexclusions"_s, u"-X"_s},
-         [this](const QByteArray& answer) { return showPaths(answer, *exclusionsPage_, "disksNoExclusions"); });
+         [this](const QByteArray& answer) { return showPaths(answer, *sourcesPage_, {}); }); // at least the home folder
+    read({u"listexclusions"_s, u"-X"_s}, [this](const QByteArray& answer) {
+        return showPaths(answer, *exclusionsPage_, localizedString("disksNoExclusions"));
+    });
 }
 
 void DisksWindow::watchDisks()
@@ -203,7 +204,7 @@ bool DisksWindow::showDisks(const QByteArray& answer)
     return true;
 }
 
-bool DisksWindow::showPaths(const QByteArray& answer, ListPage& page, const char* emptyKey)
+bool DisksWindow::showPaths(const QByteArray& answer, ListPage& page, const QString& emptyText)
 {
     const auto paths = readPaths(answer);
     if (!paths)
@@ -216,7 +217,7 @@ bool DisksWindow::showPaths(const QByteArray& answer, ListPage& page, const char
     for (const QString& path : *paths) {
         entries.push_back({.id = path, .title = lastComponent(path), .details = {path}, .symbol = symbol});
     }
-    page.setEntries(entries, localizedString(emptyKey));
+    page.setEntries(entries, emptyText);
     return true;
 }
 

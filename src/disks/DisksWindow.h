@@ -49,7 +49,7 @@ private:
     void watchDisks();
     void read(const QStringList& arguments, const Reader& reader);
     bool showDisks(const QByteArray& answer);
-    bool showPaths(const QByteArray& answer, ListPage& page, const char* emptyKey);
+    bool showPaths(const QByteArray& answer, ListPage& page, const QString& emptyText);
     void showTrouble(const QString& line);
     void change(const QStringList& arguments, const QString& headline);
 
