@@ -20,7 +20,7 @@ QString fieldFormat(QChar field, qsizetype width)
     case u'a':
     case u'b':
     case u'B':
-        return u"AP"_s;
+        return u"Ap"_s; // as it is written in the language
     default:
         return {};
     }

@@ -58,6 +58,41 @@ TEST_F(ScheduleSettings, TheTimeIsPickedOnTheUsersClock)
     EXPECT_EQ(storedRules(), QVariantList{rule(0, 70260)});
 }
 
+TEST_F(ScheduleSettings, HalvesOfTheDayAreChangedByArrowsAndLettersWhereverTheyStand)
+{
+    const struct {
+        const char* locale;
+        QString morning;
+        QString afternoon;
+    } table[] = {
+        {"en_US.UTF-8", u"9:05 AM"_s, u"9:05 PM"_s},       {"en_AU.UTF-8", u"9:05 am"_s, u"9:05 pm"_s},
+        {"ko_KR.UTF-8", u"오전 9:05"_s, u"오후 9:05"_s},   {"zh_TW.UTF-8", u"上午9:05"_s, u"下午9:05"_s},
+        {"ja_JP@hours=h12", u"午前9:05"_s, u"午後9:05"_s},
+    };
+    for (const auto& [name, morning, afternoon] : table) {
+        const ScopedEnvironment locale("LC_ALL", name);
+        open({{0, 9 * 3600 + 5 * 60}});
+        EXPECT_EQ(picker(0).text(), morning) << name;
+        picker(0).setFocus();
+        picker(0).setSelectedSection(QDateTimeEdit::AmPmSection);
+        for (const auto& [key, shown] : {std::pair{Qt::Key_Up, afternoon},
+                                         {Qt::Key_Up, morning},
+                                         {Qt::Key_Down, afternoon},
+                                         {Qt::Key_Down, morning},
+                                         {Qt::Key_P, afternoon},
+                                         {Qt::Key_P, afternoon},
+                                         {Qt::Key_A, morning}}) {
+            QTest::keyClick(&picker(0), key);
+            EXPECT_EQ(picker(0).text(), shown) << name << ' ' << key;
+            const qlonglong hour = shown == morning ? 9 : 21;
+            EXPECT_EQ(storedRules(), QVariantList{rule(0, hour * 3600 + 300)}) << name << ' ' << key;
+        }
+        picker(0).setSelectedSection(QDateTimeEdit::HourSection);
+        QTest::keyClick(&picker(0), Qt::Key_Up);
+        EXPECT_EQ(storedRules(), QVariantList{rule(0, 10 * 3600 + 300)}) << name;
+    }
+}
+
 TEST_F(ScheduleSettings, TheSixthRuleIsRefusedAndTheFifthIsNot)
 {
     open({{}, {}, {}, {}});

@@ -12,8 +12,8 @@ TEST(TimePickerFormat, KeepsOrderAndSeparatorsOfThePattern)
         QString pattern;
         QString format;
     } table[] = {
-        {u"HH:mm"_s, u"HH:mm"_s},  {u"h:mm\u202fa"_s, u"h:mm AP"_s}, {u"ah:mm"_s, u"APh:mm"_s},
-        {u"Bh:mm"_s, u"APh:mm"_s}, {u"HH 'h' mm"_s, u"HH 'h' mm"_s}, {u"H.mm"_s, u"H.mm"_s},
+        {u"HH:mm"_s, u"HH:mm"_s},  {u"h:mm\u202fa"_s, u"h:mm Ap"_s}, {u"ah:mm"_s, u"Aph:mm"_s},
+        {u"Bh:mm"_s, u"Aph:mm"_s}, {u"HH 'h' mm"_s, u"HH 'h' mm"_s}, {u"H.mm"_s, u"H.mm"_s},
         {u"kk:mm"_s, u"HH:mm"_s},  {u"HH:mm zzzz"_s, u"HH:mm"_s},
     };
     for (const auto& [pattern, format] : table)

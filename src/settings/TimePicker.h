@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QTimeEdit>
+
+namespace quillon {
+
+/// A field for a time of day. Its arrows go round, and switch between the halves of the day, as the keys A and P do in
+/// every language. Main thread only.
+class TimePicker final : public QTimeEdit {
+    Q_OBJECT
+
+public:
+    explicit TimePicker(QWidget* parent = nullptr);
+
+    void stepBy(int steps) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace quillon
