@@ -4,6 +4,7 @@
 #include "AlertText.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -70,7 +71,9 @@ Alert::Alert(const AlertRequest& request, QWidget* parent)
 
 void Alert::addButtons(const AlertRequest& request, QHBoxLayout& row)
 {
-    const QStringList titles = request.buttons.isEmpty() ? QStringList{u"OK"_s} : request.buttons;
+    QStringList titles = request.buttons;
+    if (titles.isEmpty())
+        titles = {QCoreApplication::translate("QPlatformTheme", "OK")}; // which Qt has in every language
     const int stretches = row.count();
     for (const QString& title : titles) {
         auto* button = new QPushButton(QString(title).replace('&'_L1, "&&"_L1), this);

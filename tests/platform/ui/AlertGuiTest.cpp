@@ -1,4 +1,5 @@
 #include "Alert.h"
+#include "LocalizedString.h"
 #include "host/Waiting.h"
 
 #include <QApplication>
@@ -66,6 +67,14 @@ TEST_F(AlertTest, LeavesOutTheTextThatIsEmpty)
     showButtons({});
     EXPECT_EQ(alert_->buttons().size(), 1) << "there is always a way out";
     EXPECT_EQ(afterKey(Qt::Key_Escape), 1000);
+}
+
+TEST_F(AlertTest, ItsOwnButtonSpeaksTheLanguageOfTheProgram)
+{
+    installStringTable(u"es"_s);
+    showButtons({});
+    EXPECT_EQ(alert_->buttons().first()->text(), u"Aceptar"_s);
+    installStringTable(u"en"_s);
 }
 
 TEST_F(AlertTest, ReturnPressesTheFirstButtonOrTheOneChosenWithTab)
