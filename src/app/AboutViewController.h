@@ -23,6 +23,10 @@ public:
     AboutViewController(RunLoop& runLoop, Workspace& workspace, AlertPresenter& alerts, QWidget* parent = nullptr);
     ~AboutViewController() override;
 
+    /// Which part of the panel is chosen; kept for whoever shows it, and nothing here depends on it.
+    const QString& selectedTabIdentifier() const { return selectedTabIdentifier_; }
+    void setSelectedTabIdentifier(const QString& identifier) { selectedTabIdentifier_ = identifier; }
+
 protected:
     void changeEvent(QEvent* event) override;
 
@@ -40,6 +44,7 @@ private:
     Workspace& workspace_;
     AlertPresenter& alerts_;
     std::unique_ptr<Ui::AboutView> ui_;
+    QString selectedTabIdentifier_;
 };
 
 } // namespace quillon

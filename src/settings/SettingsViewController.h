@@ -2,6 +2,7 @@
 
 #include "AlertPopover.h"
 #include "AlertPresenter.h"
+#include "CalendarIntervalRule.h"
 #include "TMUtil.h"
 #include "Timer.h"
 
@@ -55,6 +56,8 @@ public:
 
     /// The text of the next-backup line.
     QString getNextScheduledBackup() const;
+    /// A place for rules that stays empty: those of the schedule are `DataManager`'s.
+    QList<CalendarIntervalRule>& calendarIntervalSettings() { return calendarIntervalSettings_; }
     /// Hours, 1 to 24; presentation only, the schedule follows the rules.
     int scheduleIntervalValue() const { return scheduleIntervalValue_; }
     /// Whether an alert is up and blocks the panel.
@@ -130,6 +133,7 @@ private:
     std::unique_ptr<Ui::SettingsView> ui_;
     Timer nextBackupTimer_; ///< runs while the panel is visible
     QPointer<QWidget> focusBeforeAlert_;
+    QList<CalendarIntervalRule> calendarIntervalSettings_;
     int scheduleIntervalValue_ = 2;
     bool shouldDisableUserControls_ = false;
 };
