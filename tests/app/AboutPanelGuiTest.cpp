@@ -1,7 +1,10 @@
 #include "AboutViewController.h"
+#include "ClippedTexts.h"
 #include "DataHelper.h"
+#include "EventLoop.h"
 #include "FakeServices.h"
 #include "LocalDates.h"
+#include "LocalizedString.h"
 #include "MakerSite.h"
 #include "Popover.h"
 #include "ScopedEnvironment.h"
@@ -96,6 +99,38 @@ TEST_F(AboutPanel, ThePrivacyPolicyIsToldHereAndReadInFullOnTheWebSite)
     EXPECT_TRUE(workspace_.opened.isEmpty());
     answer(alertSecondButtonReturn);
     EXPECT_EQ(workspace_.opened, QList<QUrl>{makersite::page(u"/quillon/privacy/"_s)});
+}
+
+TEST_F(AboutPanel, FollowsTheThemeWhileItIsOpen)
+{
+    const QPalette before = QApplication::palette();
+    for (const QColor& ground : {QColor(0x2b, 0x2b, 0x2d), QColor(0xf4, 0xf4, 0xf5)}) {
+        QApplication::setPalette(QPalette(ground));
+        ASSERT_TRUE(runUntil([&] { return panel_->palette().color(QPalette::Window) == ground; }));
+        EXPECT_EQ(popover_.grab().toImage().pixelColor(panel_->geometry().topLeft() + QPoint(12, 12)), ground);
+        const QColor text = panel_->findChild<QLabel*>(u"creditsLabel"_s)->palette().color(QPalette::WindowText);
+        EXPECT_GT(std::abs(text.lightness() - ground.lightness()), 150);
+    }
+    QApplication::setPalette(before);
+}
+
+TEST_F(AboutPanel, ShowsAllOfItsTextsInEveryLanguageAndSize)
+{
+    const QFont before = QApplication::font();
+    for (const QString& language : tableLanguages()) {
+        installStringTable(language);
+        for (const qreal factor : {1.0, 2.0}) {
+            QFont font = before;
+            font.setPointSizeF(before.pointSizeF() * factor);
+            QApplication::setFont(font);
+            panel_ = new AboutViewController(runLoop_, workspace_, alerts_);
+            popover_.setContentView(panel_);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(clippedTexts(*panel_), "") << language.toStdString() << ' ' << factor;
+        }
+    }
+    QApplication::setFont(before);
+    installStringTable(u"en"_s);
 }
 
 TEST_F(AboutPanel, IsReachedByKeyboardAndToldToAssistiveTechnology)

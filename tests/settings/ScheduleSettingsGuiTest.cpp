@@ -1,8 +1,10 @@
+#include "FileUserDefaults.h"
 #include "SettingsFixture.h"
 
 #include <QPointer>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTemporaryDir>
 #include <QWheelEvent>
 
 namespace quillon {
@@ -44,6 +46,29 @@ TEST_F(ScheduleSettings, EditsAreStoredAsIntegersAndPlannedAtOnce)
     EXPECT_EQ(manager_->nextScheduledBackupDate(), local(2026, 11, 23, 7, 45));
     EXPECT_TRUE(manager_->startBackupTimer().isValid());
     EXPECT_EQ(nextBackup(), u"Monday, November 23, 2026, 7:45\u202fAM"_s);
+}
+
+TEST_F(ScheduleSettings, EditsReachTheFileOfTheDefaultsAsIntegers)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"defaults.plist"_s);
+    FileUserDefaults file(path, DefaultsAccess::ReadWrite);
+    file.setObject(settingskeys::calendarIntervals, CalendarIntervalRule::listToArray({{}}));
+    DataManager manager({runLoop_, file, notifications_, loginItem_});
+    SettingsViewController panel(
+        {runLoop_, file, notifications_, manager, loginItem_, queue_, machine_, workspace_, alerts_});
+    panel_ = &panel;
+    panel.show();
+    choose(dayMenu(0), u"Monday to Friday"_s);
+    type(picker(0), u"645PM"_s);
+    click("enableScheduleCheckmark");
+    QFile written(path);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(written.readAll()).simplified().remove(u' ');
+    EXPECT_TRUE(
+        text.contains(u"<dict><key>day</key><integer>8</integer><key>time</key><integer>67500</integer></dict>"_s))
+        << text.toStdString();
+    EXPECT_TRUE(text.contains(settingskeys::enableSchedule + u"</key><integer>0</integer>"_s));
 }
 
 TEST_F(ScheduleSettings, TheTimeIsPickedOnTheUsersClock)
@@ -213,6 +238,11 @@ TEST_F(ScheduleSettings, TheIntervalPageKeepsItsControlsInStepAndSaysThatItDrive
     auto& page = control<QStackedWidget>("scheduleTab");
     choose(control<QComboBox>("schedulePopup"), u"interval"_s);
     EXPECT_EQ(page.currentIndex(), 1);
+    const auto middleOf = [this](const char* label) {
+        const auto& widget = control<QLabel>(label);
+        return widget.mapTo(panel_, widget.rect().center()).y();
+    };
+    EXPECT_EQ(middleOf("scheduleLabel"), middleOf("intervalLabel")) << "caption and row stand on one line";
     EXPECT_TRUE(control<QLabel>("intervalNote").text().contains(u"not in use"_s));
     auto& field = control<QLineEdit>("scheduleIntervalValueTextField");
     auto& stepper = control<QSpinBox>("scheduleIntervalValueStepper");

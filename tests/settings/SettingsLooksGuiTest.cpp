@@ -1,7 +1,11 @@
+#include "ClippedTexts.h"
+#include "ColorScheme_linux.h"
+#include "FakeSettingsPortal.h"
 #include "LocalizedString.h"
+#include "PrivateBus.h"
 #include "SettingsFixture.h"
+#include "SystemColor.h"
 
-#include <QAbstractSpinBox>
 #include <QAccessible>
 
 #include <functional>
@@ -25,23 +29,39 @@ protected:
             walk(node->child(i), visit);
     }
 
-    /// Texts that have less room than they need.
-    QStringList clippedTexts() const
+    /// From the first control on, until the keyboard is there again.
+    QList<QPoint> placesOnTheWayOfTheTabKey() const
     {
-        QStringList clipped;
-        const auto widgets = panel_->findChildren<QWidget*>();
-        for (const QWidget* widget : widgets) {
-            const bool showsText =
-                qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget) ||
-                qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget);
-            if (!showsText || !widget->isVisible())
-                continue;
-            const QSize needed = widget->minimumSizeHint();
-            const bool wraps = widget->hasHeightForWidth();
-            const int height = wraps ? widget->heightForWidth(widget->width()) : needed.height();
-            if (widget->height() < height || (!wraps && widget->width() < needed.width()))
-                clipped.append(widget->objectName());
+        control("enableScheduleCheckmark").setFocus();
+        QList<QPoint> places;
+        QSet<QWidget*> visited;
+        while (!visited.contains(QApplication::focusWidget())) {
+            QWidget* focused = QApplication::focusWidget();
+            visited.insert(focused);
+            places.append(focused->mapTo(panel_, focused->rect().center()));
+            // Within a time picker Tab goes from hours to minutes first.
+            while (QApplication::focusWidget() == focused && places.size() < 100)
+                QTest::keyClick(focused, Qt::Key_Tab);
         }
+        EXPECT_TRUE(control("enableScheduleCheckmark").hasFocus());
+        return places;
+    }
+
+    /// On both pages, and in the alert with the longest text.
+    std::string clippedAnywhere() const
+    {
+        std::string clipped;
+        auto& pages = control<QComboBox>("schedulePopup");
+        for (const auto key : {Qt::Key_End, Qt::Key_Home}) {
+            QTest::keyClick(&pages, key);
+            QCoreApplication::processEvents();
+            clipped += clippedTexts(*panel_);
+        }
+        click("warningButton");
+        const QString close = localizedString("AlertButtonClose");
+        EXPECT_TRUE(runUntil([&] { return alertButton(close); }));
+        clipped += clippedTexts(*alertButton(close)->window());
+        answerAlert(close);
         return clipped;
     }
 
@@ -75,30 +95,26 @@ TEST_F(SettingsLooks, AssistiveTechnologyHearsANameAndAnExplanationOfEveryContro
         << "each says which rule it deletes";
 }
 
-TEST_F(SettingsLooks, TabGoesThroughThePanelFromAboveAlsoWhenRowsCameLater)
+TEST_F(SettingsLooks, TabGoesThroughThePanelFromAboveOnEitherPageAlsoWhenRowsCameLater)
 {
     open();
     click("addCalendarIntervalButton");
-    auto* first = &control("enableScheduleCheckmark");
-    first->setFocus();
-    QList<QPoint> places;
-    QSet<QWidget*> visited;
-    while (!visited.contains(QApplication::focusWidget())) {
-        QWidget* focused = QApplication::focusWidget();
-        visited.insert(focused);
-        places.append(focused->mapTo(panel_, focused->rect().center()));
-        // Within a time picker Tab goes from hours to minutes first.
-        while (QApplication::focusWidget() == focused && places.size() < 100)
-            QTest::keyClick(focused, Qt::Key_Tab);
-    }
-    EXPECT_EQ(QApplication::focusWidget(), first);
-    EXPECT_EQ(places.size(), 13 + 2 * 3);
-    for (qsizetype i = 1; i < places.size(); ++i) {
-        constexpr int sameLine = 8;
-        const bool below = places[i].y() > places[i - 1].y() + sameLine;
-        const bool beside =
-            std::abs(places[i].y() - places[i - 1].y()) <= sameLine && places[i].x() > places[i - 1].x();
-        EXPECT_TRUE(below || beside) << i;
+    constexpr int ofTheScheduleAlone = 1; // the button that adds rules
+    constexpr int ofARow = 3;
+    constexpr int ofTheIntervalAlone = 2;
+    constexpr int ofBoth = 12;
+    for (const auto& [page, count] : {std::pair{Qt::Key_Home, ofBoth + ofTheScheduleAlone + 2 * ofARow},
+                                      {Qt::Key_End, ofBoth + ofTheIntervalAlone}}) {
+        QTest::keyClick(&control<QComboBox>("schedulePopup"), page);
+        const auto places = placesOnTheWayOfTheTabKey();
+        EXPECT_EQ(places.size(), count);
+        for (qsizetype i = 1; i < places.size(); ++i) {
+            constexpr int sameLine = 8;
+            const bool below = places[i].y() > places[i - 1].y() + sameLine;
+            const bool beside =
+                std::abs(places[i].y() - places[i - 1].y()) <= sameLine && places[i].x() > places[i - 1].x();
+            EXPECT_TRUE(below || beside) << i;
+        }
     }
 }
 
@@ -111,7 +127,7 @@ TEST_F(SettingsLooks, NothingIsClippedWhateverTheSizeOfTheSystemsFont)
         larger.setPointSizeF(font_.pointSizeF() * factor);
         QApplication::setFont(larger);
         ASSERT_TRUE(runUntil([&] { return panel_->width() > before; }, 5)) << "it grows while it is open";
-        EXPECT_EQ(clippedTexts(), QStringList()) << factor;
+        EXPECT_EQ(clippedTexts(*panel_), "") << factor;
     }
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_TRUE(screen.contains(QRect(panel_->mapToGlobal(QPoint()), panel_->size())));
@@ -119,11 +135,10 @@ TEST_F(SettingsLooks, NothingIsClippedWhateverTheSizeOfTheSystemsFont)
 
 TEST_F(SettingsLooks, NothingIsClippedInAnyLanguage)
 {
-    for (const auto& language :
-         {u"en"_s, u"de"_s, u"fr"_s, u"es"_s, u"it"_s, u"nl"_s, u"pt_BR"_s, u"ja"_s, u"zh_CN"_s}) {
+    for (const QString& language : tableLanguages()) {
         installStringTable(language);
-        open();
-        EXPECT_EQ(clippedTexts(), QStringList()) << language.toStdString();
+        open({{}, {8, 7200}});
+        EXPECT_EQ(clippedAnywhere(), "") << language.toStdString();
     }
     installStringTable(u"en"_s);
 }
@@ -142,25 +157,31 @@ TEST_F(SettingsLooks, WhatTheScreenHasNoRoomForIsScrolledToByKeyboard)
     EXPECT_FALSE(last.visibleRegion().isEmpty());
 }
 
-TEST_F(SettingsLooks, ThePanelFollowsTheThemeWhileItIsOpen)
+TEST_F(SettingsLooks, ThePanelFollowsTheDesktopsColourSchemeWhileItIsOpen)
 {
-    open();
-    const auto groundOf = [](QWidget& widget, QPoint place) { return widget.grab().toImage().pixelColor(place); };
+    const PrivateBus bus;
+    constexpr uint dark = 1;
+    constexpr uint light = 2;
+    FakeSettingsPortal portal(bus.connect(u"portal"_s), light);
+    ColorScheme scheme(bus.connect(u"reader"_s));
+    QObject::connect(&scheme, &ColorScheme::changed, &applyColorScheme);
+    open({{}, {}});
+    const auto colorAt = [](QWidget& widget, QPoint place) { return widget.grab().toImage().pixelColor(place); };
     auto& table = control<QScrollArea>("calendarIntervalTable");
-    for (const auto& [ground, base, text] : {std::tuple{QColor(0x202022), QColor(0x101012), QColor(Qt::white)},
-                                             {QColor(0xf0f0f2), QColor(0xfefefe), QColor(Qt::black)}}) {
-        QPalette palette(ground);
-        palette.setColor(QPalette::Window, ground);
-        palette.setColor(QPalette::Base, base);
-        palette.setColor(QPalette::WindowText, text);
-        QApplication::setPalette(palette);
-        ASSERT_TRUE(runUntil([&] { return panel_->palette().color(QPalette::Window) == ground; }, 5));
-        EXPECT_EQ(control<QLabel>("nextBackupLabel").palette().color(QPalette::WindowText), text);
-        EXPECT_EQ(groundOf(*popover_, panel_->geometry().topLeft() + QPoint(12, 12)), ground);
-        const QColor rowGround = groundOf(table, table.rect().center() + QPoint(0, 40));
-        EXPECT_EQ(rowGround.lightness() < 128, text == Qt::white);
+    auto& row = *rows().at(0);
+    for (const uint wanted : {dark, light, dark}) {
+        portal.setColorScheme(wanted);
+        ASSERT_TRUE(runUntil([&] { return isDark(panel_->palette()) == (wanted == dark); }));
+        const QColor ground = colorAt(*popover_, panel_->geometry().topLeft() + QPoint(12, 12));
+        EXPECT_EQ(ground.lightness() < 128, wanted == dark);
+        const QColor text = control<QLabel>("nextBackupLabel").palette().color(QPalette::WindowText);
+        EXPECT_GT(std::abs(text.lightness() - ground.lightness()), 150);
+        const QColor rowGround = colorAt(table, row.geometry().bottomRight() - QPoint(row.width() / 4, 1));
+        EXPECT_EQ(rowGround.lightness() < 128, wanted == dark);
         EXPECT_NE(rowGround, ground) << "rows stand out";
     }
+    for (const auto& connection : {u"portal"_s, u"reader"_s})
+        QDBusConnection::disconnectFromBus(connection);
 }
 
 TEST_F(SettingsLooks, MnemonicsPressTheirControls)
