@@ -1,7 +1,6 @@
+#include "DrawnSquare.h"
+
 #include <QFile>
-#include <QImage>
-#include <QPainter>
-#include <QSvgRenderer>
 
 #include <cstdio>
 
@@ -16,12 +15,7 @@ int main(int argc, char** argv)
         return 2;
     }
     QSvgRenderer drawing(QFile::decodeName(argv[1]));
-    QImage picture(size, size, QImage::Format_ARGB32);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    drawing.render(&painter);
-    painter.end();
-    if (drawing.isValid() && picture.save(QFile::decodeName(argv[3]), "PNG"))
+    if (drawing.isValid() && quillon::drawnSquare(drawing, size).save(QFile::decodeName(argv[3]), "PNG"))
         return 0;
     std::fprintf(stderr, "render_icon: %s cannot be made of %s\n", argv[3], argv[1]);
     return 1;

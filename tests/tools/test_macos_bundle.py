@@ -98,7 +98,7 @@ class IconTest(unittest.TestCase):
     def test_what_is_no_drawing_is_refused_and_nothing_written(self):
         made = self.make(self.icon.with_name("absent.svg"))
         self.assertEqual(made.returncode, 1)
-        self.assertIn("absent.svg is no drawing", made.stderr)
+        self.assertIn("cannot be made of", made.stderr)
         self.assertFalse(self.icon.exists())
 
 
