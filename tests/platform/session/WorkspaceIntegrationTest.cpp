@@ -121,9 +121,9 @@ TEST_F(WorkspaceIntegrationTest, AnAddressOfOurOwnStartsItsProgramAndApplication
 {
     playOpener(u"touch \"$NOTE\""_s);
     const QUrl address(u"x-settings:disks"_s);
+    writeScript(folder.filePath(u"disks"_s), u"printf '%s' \"$#\" >\"$NOTE\""_s);
     for (const bool exists : {true, false}) {
         const QString program = folder.filePath(exists ? u"disks"_s : u"gone"_s);
-        writeScript(folder.filePath(u"disks"_s), u"printf '%s' \"$#\" >\"$NOTE\""_s);
         workspace = std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection(u"no such connection"_s),
                                                      OwnPrograms{{address, program}});
         reports = 0;
