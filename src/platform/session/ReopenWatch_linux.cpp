@@ -2,7 +2,7 @@
 
 namespace quillon {
 
-std::unique_ptr<QObject> makeReopenWatch(std::function<void()> /*reopened*/)
+std::unique_ptr<QObject> makeReopenWatch(const std::function<void()>& /*reopened*/)
 {
     return nullptr;
 }

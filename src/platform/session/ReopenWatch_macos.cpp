@@ -41,9 +41,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<QObject> makeReopenWatch(std::function<void()> reopened)
+std::unique_ptr<QObject> makeReopenWatch(const std::function<void()>& reopened)
 {
-    return std::make_unique<ReopenWatch>(std::move(reopened));
+    return std::make_unique<ReopenWatch>(reopened);
 }
 
 } // namespace quillon
