@@ -464,6 +464,10 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
         <source></source>
         <translation>Quillon bei der Anmeldung öffnen</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>Das System hat die Änderung nicht angenommen: Was bei der Anmeldung geöffnet wird, bleibt, wie es war.</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -464,6 +464,10 @@ Restore a folder from the latest one, as a copy in your home folder:
         <source></source>
         <translation>Open Quillon at login</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>The system did not take the change: what opens at login stays as it was.</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -464,6 +464,10 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
         <source></source>
         <translation>Abrir Quillon al iniciar sesión</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>El sistema no ha aceptado el cambio: lo que se abre al iniciar sesión queda como estaba.</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -464,6 +464,10 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
         <source></source>
         <translation>Ouvrir Quillon avec la session</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>Le système n’a pas accepté la modification : ce qui s’ouvre à l’ouverture de session reste inchangé.</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -464,6 +464,10 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
         <source></source>
         <translation>Apri Quillon al login</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>Il sistema non ha accettato la modifica: ciò che si apre al login resta com’era.</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -464,6 +464,10 @@
         <source></source>
         <translation>ログイン時にQuillonを開く</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>システムが変更を受け付けませんでした。ログイン時に開く項目は変わりません。</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

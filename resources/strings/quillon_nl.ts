@@ -464,6 +464,10 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
         <source></source>
         <translation>Open Quillon bij inloggen</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>Het systeem heeft de wijziging niet aangenomen: wat bij het inloggen wordt geopend, blijft zoals het was.</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

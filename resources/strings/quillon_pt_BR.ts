@@ -464,6 +464,10 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
         <source></source>
         <translation>Abrir o Quillon ao iniciar a sessão</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>O sistema não aceitou a alteração: o que abre ao iniciar a sessão continua como estava.</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

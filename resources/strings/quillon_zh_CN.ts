@@ -464,6 +464,10 @@
         <source></source>
         <translation>登录时打开 Quillon</translation>
     </message>
+    <message id="loginItemRefusedMessage">
+        <source></source>
+        <translation>系统未接受更改：登录时打开的项目保持不变。</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -5,9 +5,9 @@
 #include "LocalizedString.h"
 #include "TimePickerFormat.h"
 #include "UserLocale.h"
+#include "WheelGuard.h"
 #include "ui_CalendarIntervalCell.h"
 
-#include <QEvent>
 #include <QSignalBlocker>
 
 namespace quillon {
@@ -19,21 +19,16 @@ CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
     , ui_(std::make_unique<Ui::CalendarIntervalCell>())
 {
     ui_->setupUi(this);
-    ui_->backupTitle->setText(localizedString("backupTitle"));
-    ui_->atTimeTitle->setText(localizedString("atTimeTitle"));
     titleDayMenu();
+    applyTitles();
     auto& picker = *ui_->calendarIntervalDatePicker;
-    picker.setLocale(QLocale(QString::fromStdString(userLocale())));
-    picker.setDisplayFormat(
-        timePickerFormat(DateFormatter::pattern(DateFormatterStyle::None, DateFormatterStyle::Short)));
     ui_->calendarIntervalDayPopupButton->setAccessibleName(ui_->backupTitle->text());
     picker.setAccessibleName(ui_->atTimeTitle->text());
     ui_->deleteButton->setAccessibleName(localizedString("deleteRuleTitle"));
     ui_->deleteButton->setToolTip(localizedString("deleteRuleTitle"));
 
-    for (QWidget* control :
-         {static_cast<QWidget*>(ui_->calendarIntervalDayPopupButton), static_cast<QWidget*>(&picker)})
-        control->installEventFilter(this);
+    new WheelGuard(ui_->calendarIntervalDayPopupButton);
+    new WheelGuard(&picker);
     connect(ui_->calendarIntervalDayPopupButton, &QComboBox::activated, this, [this] {
         describe();
         Q_EMIT dayChanged();
@@ -46,6 +41,20 @@ CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
 }
 
 CalendarIntervalCellView::~CalendarIntervalCellView() = default;
+
+/// Applied again whenever the row is filled: the user may have switched to the other clock.
+void CalendarIntervalCellView::applyTitles()
+{
+    ui_->backupTitle->setText(localizedString("backupTitle"));
+    ui_->atTimeTitle->setText(localizedString("atTimeTitle"));
+    auto& picker = *ui_->calendarIntervalDatePicker;
+    const QString format =
+        timePickerFormat(DateFormatter::pattern(DateFormatterStyle::None, DateFormatterStyle::Short));
+    if (picker.displayFormat() == format) // the same again would disturb whoever is typing
+        return;
+    picker.setLocale(QLocale(QString::fromStdString(userLocale())));
+    picker.setDisplayFormat(format);
+}
 
 void CalendarIntervalCellView::titleDayMenu()
 {
@@ -65,6 +74,7 @@ void CalendarIntervalCellView::titleDayMenu()
 void CalendarIntervalCellView::fill(int row, qlonglong day, QTime time)
 {
     row_ = row;
+    applyTitles();
     auto& menu = *ui_->calendarIntervalDayPopupButton;
     menu.setCurrentIndex(menu.findData(day));
     auto& picker = *ui_->calendarIntervalDatePicker;
@@ -109,15 +119,6 @@ void CalendarIntervalCellView::describe()
          {static_cast<QWidget*>(ui_->calendarIntervalDayPopupButton),
           static_cast<QWidget*>(ui_->calendarIntervalDatePicker), static_cast<QWidget*>(ui_->deleteButton)})
         control->setAccessibleDescription(sentence);
-}
-
-/// The wheel over a row scrolls the table; a rule changes by it only where the user has gone to.
-bool CalendarIntervalCellView::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
-        return QWidget::eventFilter(watched, event);
-    event->ignore();
-    return true;
 }
 
 } // namespace quillon

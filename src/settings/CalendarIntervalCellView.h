@@ -39,11 +39,9 @@ Q_SIGNALS:
     void timeChanged();
     void deleteButtonPressed();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void titleDayMenu();
+    void applyTitles();
     void describe();
 
     std::unique_ptr<Ui::CalendarIntervalCell> ui_;

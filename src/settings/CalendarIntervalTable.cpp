@@ -9,7 +9,6 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <memory>
 
 namespace quillon {

@@ -12,7 +12,6 @@
 #include <memory>
 
 class QAbstractButton;
-class QCheckBox;
 
 namespace Ui {
 class SettingsView;
@@ -25,7 +24,6 @@ class DataManager;
 class LoginItem;
 class NotificationCenter;
 class RunLoop;
-class ScreenFittingArea;
 class UserDefaults;
 
 /// The settings panel. Every control acts and is stored the moment the user changes it; there is nothing to apply or to
@@ -77,8 +75,6 @@ private:
     // Set-up
     void titleControls();
     void nameControls();
-    void connectControls();
-    void showStoredSettings();
     void arrangeForStyle();
 
     // Schedule
@@ -117,6 +113,7 @@ private:
     void deleteButtonPressed(const CalendarIntervalCellView& sender);
     void deleteRule(int row);
     void showRuleLimit();
+    void showRefusedLoginItem();
     void retryAtMissedScheduleHelpButtonPressed();
     void retryAtFailureHelpButtonPressed();
     void showHelp(QAbstractButton* sender, const QString& title, const QString& message);

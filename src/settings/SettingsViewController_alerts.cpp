@@ -46,6 +46,16 @@ void SettingsViewController::showRuleLimit()
     runAlert(limit, ui_->addCalendarIntervalButton, RectEdge::MaxX);
 }
 
+void SettingsViewController::showRefusedLoginItem()
+{
+    AlertRequest refusal;
+    refusal.style = AlertStyle::Warning;
+    refusal.messageText = localizedString("AlertTitleWarning");
+    refusal.informativeText = localizedString("loginItemRefusedMessage");
+    refusal.buttons = {localizedString("AlertButtonClose")};
+    runAlert(refusal, ui_->enableAppAtSystemStartCheckmark, RectEdge::MinY);
+}
+
 void SettingsViewController::deleteButtonPressed(const CalendarIntervalCellView& sender)
 {
     AlertRequest question;

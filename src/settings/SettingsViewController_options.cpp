@@ -113,9 +113,10 @@ void SettingsViewController::enableAppAtSystemStartCheckmarkChanged(bool on)
     storeSwitch(settingskeys::launchAtSystemStart, on);
     if (loginItem_.setEnabled(on))
         return;
-    // The system did not take it: the box shows what holds.
+    // The box shows what holds.
     storeSwitch(settingskeys::launchAtSystemStart, !on);
     ui_->enableAppAtSystemStartCheckmark->setChecked(!on);
+    showRefusedLoginItem();
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "LocalizedString.h"
 #include "SettingsKeys.h"
 #include "SettingsViewController.h"
+#include "WheelGuard.h"
 #include "ui_SettingsView.h"
 
 namespace quillon {
@@ -26,6 +27,8 @@ void SettingsViewController::connectScheduleControls()
             &SettingsViewController::addCalendarIntervalButtonPressed);
     connect(ui_->calendarIntervalTable, &CalendarIntervalTable::rowAdded, this, &SettingsViewController::connectRow);
 
+    new WheelGuard(ui_->schedulePopup);
+    new WheelGuard(ui_->scheduleIntervalValueStepper);
     connect(ui_->scheduleIntervalValueStepper, &QSpinBox::valueChanged, this,
             &SettingsViewController::scheduleIntervalValueDidChange);
     connect(ui_->scheduleIntervalValueTextField, &QLineEdit::textEdited, this, [this](const QString& text) {
@@ -50,7 +53,7 @@ void SettingsViewController::connectRow(CalendarIntervalCellView* view)
 
 void SettingsViewController::showStoredSchedule()
 {
-    const bool on = switchIsOn(settingskeys::enableSchedule);
+    const bool on = sharedDataManager_.isScheduleEnabled();
     ui_->enableScheduleCheckmark->setChecked(on);
     ui_->warningButton->setVisible(on);
     reloadCalendarIntervalTableView();

@@ -1,6 +1,7 @@
 #include "TimePicker.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 
 namespace quillon {
 
@@ -15,6 +16,7 @@ TimePicker::TimePicker(QWidget* parent)
     : QTimeEdit(parent)
 {
     setWrapping(true);
+    lineEdit()->installEventFilter(this);
 }
 
 void TimePicker::stepBy(int steps)
@@ -27,6 +29,16 @@ void TimePicker::stepBy(int steps)
     setSelectedSection(AmPmSection);
 }
 
+/// Where nothing is selected Qt drops what is typed into a part that is full, and they all are.
+bool TimePicker::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != lineEdit() || event->type() != QEvent::MouseButtonRelease)
+        return QTimeEdit::eventFilter(watched, event);
+    lineEdit()->event(event);
+    setSelectedSection(currentSection());
+    return true;
+}
+
 /// Qt takes the whole marker or nothing: a single letter would be dropped without a word.
 void TimePicker::keyPressEvent(QKeyEvent* event)
 {
@@ -34,6 +46,8 @@ void TimePicker::keyPressEvent(QKeyEvent* event)
                           (event->key() == Qt::Key_A || event->key() == Qt::Key_P);
     if (currentSection() != AmPmSection || !isLetter) {
         QTimeEdit::keyPressEvent(event);
+        if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
+            setSelectedSection(currentSection());
         return;
     }
     if ((event->key() == Qt::Key_P) != (time().hour() >= noon))

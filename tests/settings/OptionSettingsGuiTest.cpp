@@ -1,3 +1,4 @@
+#include "LocalizedString.h"
 #include "SettingsFixture.h"
 
 namespace quillon {
@@ -99,6 +100,93 @@ TEST_F(OptionSettings, LogInRegistrationFollowsTheBoxAndTheBoxFollowsTheSystem)
     click("enableAppAtSystemStartCheckmark");
     EXPECT_TRUE(control("enableAppAtSystemStartCheckmark").isChecked()) << "it is still registered";
     EXPECT_EQ(stored(settingskeys::launchAtSystemStart), QVariant(1LL));
+    EXPECT_EQ(shownAlertText(), localizedString("loginItemRefusedMessage"));
+    answerAlert(u"Close"_s);
+}
+
+TEST_F(OptionSettings, AlertsSayWhatTheirButtonIsAboutInTheWordsOfTheSystem)
+{
+    for (const auto& [version, instruction, settings] :
+         {std::tuple{"12.6.9", "disableTmInstruction", "openSystemPreferencesTitle"},
+          {"13.0.0", "disableTmInstructionVentura", "openSystemPreferencesTitleVentura"}}) {
+        const ScopedEnvironment system("QUILLON_SYSTEM_VERSION", version);
+        open({{}, {}, {}, {}, {}});
+        const struct {
+            const char* button;
+            QString title, text, firstButton, lastButton;
+        } alerts[] = {
+            {"warningButton", localizedString("AlertTitleWarning"), localizedString(instruction),
+             localizedString(settings) + u"..."_s, u"Close"_s},
+            {"addCalendarIntervalButton", localizedString("maximumRulesReachedTitle"),
+             localizedString("maximumRulesReachedMessage").arg(5), u"OK"_s, u"OK"_s},
+            {"deleteButton", localizedString("confirmDeleteRuleTitle"), localizedString("confirmDeleteRuleMessage"),
+             u"Cancel"_s, u"Delete"_s},
+            {"retryAtMissedScheduleHelpButton", localizedString("retryAfterMissedBackupTitle"),
+             localizedString("retryAfterMissedBackupMessage"), u"Close"_s, u"Close"_s},
+            {"retryAtFailureHelpButton", localizedString("retryAfterFailedBackupTitle"),
+             localizedString("retryAfterFailedBackupMessage"), u"Close"_s, u"Close"_s},
+        };
+        for (const auto& alert : alerts) {
+            click(alert.button);
+            ASSERT_TRUE(runUntil([&] { return alertButton(alert.firstButton); })) << alert.button << version;
+            const QWidget& shown = *alertButton(alert.firstButton)->parentWidget();
+            EXPECT_EQ(shown.accessibleName(), alert.title) << alert.button;
+            EXPECT_EQ(shownAlertText(), alert.text) << alert.button;
+            const QPushButton* last = alertButton(alert.lastButton);
+            ASSERT_TRUE(last) << alert.button;
+            QTest::keyClick(alertButton(alert.firstButton), Qt::Key_Escape);
+            EXPECT_TRUE(runUntil([&] { return !alertButton(alert.firstButton); })) << alert.button << version;
+        }
+        EXPECT_EQ(stored(settingskeys::calendarIntervals).toList().size(), 5);
+        EXPECT_TRUE(workspace_.opened.isEmpty());
+    }
+}
+
+TEST_F(OptionSettings, EveryControlHasItsOwnText)
+{
+    open();
+    const std::pair<const char*, const char*> boxes[] = {
+        {"enableScheduleCheckmark", "settingsEnableScheduledBackupsVia"},
+        {"enableRetryAtMissedScheduleCheckmark", "settingsEnableAfterMissedBackup"},
+        {"enableRetryAtFailureCheckmark", "settingsEnableAfterFailedBackup"},
+        {"showRemainingMinutesCheckmark", "settingsShowDetailedTimeInMenuBar"},
+        {"showMenuBarIconOnlyCheckmark", "settingsShowMenuBarIconOnly"},
+        {"enableMenuBarColorsCheckmark", "settingsDisableIconColors"},
+        {"rotateBackupDisksCheckmark", "settingsRotateBackupDisks"},
+        {"enableAppAtSystemStartCheckmark", "settingsStartOnSystemStart"},
+        {"addCalendarIntervalButton", "addRuleTitle"}};
+    for (const auto& [name, key] : boxes)
+        EXPECT_EQ(control<QAbstractButton>(name).text().remove(u'&'), localizedString(key)) << name;
+    const std::pair<const char*, QString> labels[] = {
+        {"scheduleGroupLabel", localizedString("settingsGroupSchedule")},
+        {"retryGroupLabel", localizedString("settingsGroupRetry")},
+        {"menuBarGroupLabel", localizedString("settingsGroupMenuBar")},
+        {"diskGroupLabel", localizedString("settingsGroupDisks")},
+        {"scheduleLabel", localizedString("scheduleTitle")},
+        {"intervalLabel", localizedString("settingsIntervalEvery")},
+        {"intervalUnit", localizedString("settingsIntervalHours")},
+        {"intervalNote", localizedString("settingsIntervalNotYetUsed")},
+        {"nextBackupTitle", localizedString("nextBackupTitle") + u':'},
+        {"showRemainingMinutesDetails", localizedString("settingsShowDetailedTimeInMenuBarDetails")}};
+    for (const auto& [name, text] : labels)
+        EXPECT_EQ(control<QLabel>(name).text(), text) << name;
+    const auto& popup = control<QComboBox>("schedulePopup");
+    EXPECT_EQ(popup.itemText(0), localizedString("settingsOptionCalendarInterval"));
+    EXPECT_EQ(popup.itemText(1), localizedString("settingsOptionInterval"));
+}
+
+TEST_F(OptionSettings, WhatHasTheKeyboardShowsIt)
+{
+    open();
+    QTest::keyClick(panel_, Qt::Key_Tab); // before the first Tab many styles show the focus of no button
+    for (const char* name : {"deleteButton", "retryAtFailureHelpButton", "warningButton", "schedulePopup",
+                             "enableScheduleCheckmark", "addCalendarIntervalButton"}) {
+        auto& widget = control<QWidget>(name);
+        widget.clearFocus();
+        const QImage without = widget.grab().toImage();
+        widget.setFocus(Qt::TabFocusReason);
+        EXPECT_NE(widget.grab().toImage(), without) << name;
+    }
 }
 
 TEST_F(OptionSettings, HelpButtonsExplainTheirOwnSwitchAndBlockThePanelMeanwhile)

@@ -147,6 +147,11 @@ TEST_F(ScheduleSettings, ARuleIsDeletedOnlyWhenTheUserConfirmsIt)
     EXPECT_FALSE(isBlocked());
     EXPECT_TRUE(dayMenu(0).isEnabled());
     EXPECT_TRUE(deleteButton(1).hasFocus()) << "the keyboard goes on where it was";
+    click(deleteButton(1));
+    ASSERT_TRUE(runUntil([] { return alertButton(u"Delete"_s); }));
+    QTest::keyClick(alertButton(u"Delete"_s), Qt::Key_Escape);
+    EXPECT_TRUE(runUntil([] { return !alertButton(u"Delete"_s); }));
+    EXPECT_EQ(storedRules().size(), 3);
 
     click(deleteButton(1));
     answerAlert(u"Delete"_s);
@@ -220,16 +225,35 @@ TEST_F(ScheduleSettings, ThePanelComesBackAsItWasLeftInTheMiddleOfAnEdit)
     EXPECT_EQ(storedRules(), QVariantList{rule(0, 77400)});
 }
 
-TEST_F(ScheduleSettings, TheWheelChangesNoRuleThatItPassesOver)
+TEST_F(ScheduleSettings, WhatIsTypedReplacesThePartOfTheTimeThatWasClickedOn)
+{
+    for (const auto& [locale, keys] : {std::pair{"en_US.UTF-8", u"0745AM"_s}, {"de_DE.UTF-8", u"0745"_s}}) {
+        const ScopedEnvironment language("LC_ALL", locale);
+        open();
+        auto* field = picker(0).findChild<QLineEdit*>();
+        QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(3, field->height() / 2));
+        QTest::keyClicks(&picker(0), keys);
+        EXPECT_EQ(storedRules(), QVariantList{rule(0, 27900)}) << locale;
+        QTest::keyClick(&picker(0), Qt::Key_End);
+        QTest::keyClick(&picker(0), Qt::Key_Home);
+        QTest::keyClicks(&picker(0), u"09"_s + keys.mid(2));
+        EXPECT_EQ(storedRules(), QVariantList{rule(0, 35100)}) << locale;
+    }
+}
+
+TEST_F(ScheduleSettings, TheWheelChangesNothingThatItPassesOver)
 {
     open();
-    for (QWidget* target : {static_cast<QWidget*>(&dayMenu(0)), static_cast<QWidget*>(&picker(0))}) {
+    for (QWidget* target : {static_cast<QWidget*>(&dayMenu(0)), static_cast<QWidget*>(&picker(0)),
+                            &control<QWidget>("schedulePopup"), &control<QWidget>("scheduleIntervalValueStepper")}) {
         control("rotateBackupDisksCheckmark").setFocus();
         const QPointF middle = QRectF(target->rect()).center();
         QWheelEvent wheel(middle, target->mapToGlobal(middle), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
         QApplication::sendEvent(target, &wheel);
     }
     EXPECT_EQ(storedRules(), QVariantList{rule(0, 43200)});
+    EXPECT_EQ(control<QComboBox>("schedulePopup").currentIndex(), 0);
+    EXPECT_EQ(panel_->scheduleIntervalValue(), 2);
 }
 
 TEST_F(ScheduleSettings, TheIntervalPageKeepsItsControlsInStepAndSaysThatItDrivesNothing)

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,19 @@ inline QPushButton* alertButton(const QString& title)
         }
     }
     return nullptr;
+}
+
+/// What the alert popover on the screen says below its title; nothing when there is none.
+inline QString shownAlertText()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) {
+        const auto* text =
+            window->isVisible() ? window->findChild<QTextEdit*>(QStringLiteral("informativeText")) : nullptr;
+        if (text)
+            return text->toPlainText();
+    }
+    return {};
 }
 
 /// Waits for an alert with that button and clicks it.
