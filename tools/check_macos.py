@@ -10,6 +10,7 @@ package that tools/macos/package-lock.json pins. Linking needs Qt for macOS and 
 import hashlib
 import json
 import os
+import platform
 import shlex
 import shutil
 import struct
@@ -76,6 +77,9 @@ def ccache_settings(root):
 
 
 def main():
+    if platform.machine() != "x86_64":
+        print("macos: NOT CHECKED: the compiler for macOS is packaged for x86-64 machines only")
+        return 0
     root = Path(sys.argv[1]).resolve()
     build = root / "build" / "macos"
     install_compiler(root)

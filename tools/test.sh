@@ -6,7 +6,7 @@ command -v npm >/dev/null || install_packages macos
 configure sanitize
 build sanitize
 configure clang
-build clang fuzzers quillon quillonctl tmutil
+build clang fuzzers quillon quillonctl tmutil quillon_shots
 status=0
 (cd "$root" && ctest --preset sanitize) || status=1
 (cd "$root" && ctest --preset fuzz) || status=1

@@ -1,11 +1,9 @@
 #include "AppDelegate.h"
 
 #include "Cirrel.h"
-#include "DataHelper.h"
 #include "LocalizedString.h"
 #include "MakerSite.h"
 #include "Notifications.h"
-#include "ProcessInfo.h"
 #include "SettingsKeys.h"
 #include "SystemVersion.h"
 #include "TextComparison.h"
@@ -25,11 +23,6 @@ namespace {
 
 constexpr Seconds updateCheckPeriod = 24h;
 constexpr double serverInterval = 12.0 * 3600;
-
-QString systemVersion()
-{
-    return DataHelper::stringFromSystemVersion(operatingSystemVersion());
-}
 
 } // namespace
 

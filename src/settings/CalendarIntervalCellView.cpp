@@ -50,9 +50,10 @@ void CalendarIntervalCellView::applyTitles()
     auto& picker = *ui_->calendarIntervalDatePicker;
     const QString format =
         timePickerFormat(DateFormatter::pattern(DateFormatterStyle::None, DateFormatterStyle::Short));
-    if (picker.displayFormat() == format) // the same again would disturb whoever is typing
+    const QLocale locale(QString::fromStdString(userLocale()));
+    if (picker.displayFormat() == format && picker.locale() == locale) // again, it would disturb whoever is typing
         return;
-    picker.setLocale(QLocale(QString::fromStdString(userLocale())));
+    picker.setLocale(locale);
     picker.setDisplayFormat(format);
 }
 

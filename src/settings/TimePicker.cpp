@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -39,19 +41,39 @@ bool TimePicker::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-/// Qt takes the whole marker or nothing: a single letter would be dropped without a word.
 void TimePicker::keyPressEvent(QKeyEvent* event)
 {
-    const bool isLetter = (event->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier &&
-                          (event->key() == Qt::Key_A || event->key() == Qt::Key_P);
-    if (currentSection() != AmPmSection || !isLetter) {
-        QTimeEdit::keyPressEvent(event);
-        if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
-            setSelectedSection(currentSection());
+    const bool isPlain = (event->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier;
+    switch (isPlain ? event->key() : 0) {
+    case Qt::Key_Left:
+        selectPart(currentSectionIndex() - 1);
         return;
+    case Qt::Key_Right:
+        selectPart(currentSectionIndex() + 1);
+        return;
+    case Qt::Key_Home:
+        selectPart(0);
+        return;
+    case Qt::Key_End:
+        selectPart(sectionCount() - 1);
+        return;
+    case Qt::Key_A:
+    case Qt::Key_P:
+        if (currentSection() != AmPmSection)
+            break;
+        // Qt takes the whole marker or nothing: a single letter would be dropped without a word.
+        if ((event->key() == Qt::Key_P) != (time().hour() >= noon))
+            stepBy(1);
+        return;
+    default:
+        break;
     }
-    if ((event->key() == Qt::Key_P) != (time().hour() >= noon))
-        stepBy(1);
+    QTimeEdit::keyPressEvent(event);
+}
+
+void TimePicker::selectPart(int index)
+{
+    setSelectedSection(sectionAt(std::clamp(index, 0, sectionCount() - 1)));
 }
 
 } // namespace quillon

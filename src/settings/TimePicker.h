@@ -18,6 +18,9 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void selectPart(int index);
 };
 
 } // namespace quillon

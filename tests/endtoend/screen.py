@@ -73,6 +73,10 @@ class Screen:
         place = widget.get_extents(Atspi.CoordType.SCREEN)
         self.click_at(place.x + place.width // 2, place.y + place.height // 2)
 
+    def click_begin(self, widget):
+        place = widget.get_extents(Atspi.CoordType.SCREEN)
+        self.click_at(place.x + place.height // 2, place.y + place.height // 2)
+
     def click_at(self, x, y):
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
 

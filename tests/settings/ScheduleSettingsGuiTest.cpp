@@ -234,7 +234,12 @@ TEST_F(ScheduleSettings, WhatIsTypedReplacesThePartOfTheTimeThatWasClickedOn)
         QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(3, field->height() / 2));
         QTest::keyClicks(&picker(0), keys);
         EXPECT_EQ(storedRules(), QVariantList{rule(0, 27900)}) << locale;
+        QTest::keyClick(&picker(0), Qt::Key_Home);
+        QTest::keyClick(&picker(0), Qt::Key_Right);
+        QTest::keyClicks(&picker(0), u"30"_s);
+        EXPECT_EQ(storedRules(), QVariantList{rule(0, 27000)}) << locale;
         QTest::keyClick(&picker(0), Qt::Key_End);
+        QTest::keyClick(&picker(0), Qt::Key_Left);
         QTest::keyClick(&picker(0), Qt::Key_Home);
         QTest::keyClicks(&picker(0), u"09"_s + keys.mid(2));
         EXPECT_EQ(storedRules(), QVariantList{rule(0, 35100)}) << locale;

@@ -45,7 +45,7 @@ void launchForTheFirstTime(Stage& stage)
 {
     auto& program = stage.program();
     const Cirrel::Services unused(program.runLoop, program.defaults, nullptr); // by a build without a service
-    AppDelegate({program.runLoop, program.defaults, program.notifications, program.workspace, program.alerts})
+    AppDelegate({program.runLoop, program.defaults, program.notifications, program.workspace, program.alerts, u"1.0"_s})
         .applicationDidFinishLaunching();
     stage.showAlert();
 }

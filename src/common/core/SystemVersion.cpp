@@ -9,9 +9,14 @@
 
 namespace quillon {
 
+QString systemVersion()
+{
+    return DataHelper::stringFromSystemVersion(operatingSystemVersion());
+}
+
 bool systemIsAtLeast(QStringView version)
 {
-    return std::is_gteq(compareNumerically(DataHelper::stringFromSystemVersion(operatingSystemVersion()), version));
+    return std::is_gteq(compareNumerically(systemVersion(), version));
 }
 
 QString disableTimeMachineInstruction()

@@ -5,6 +5,9 @@
 
 namespace quillon {
 
+/// Version of the system that runs this program, such as "14.2.1".
+QString systemVersion();
+
 /// Whether the system that runs this program has this version or a later one, compared number by number: "13.10" is
 /// later than "13.9".
 bool systemIsAtLeast(QStringView version);

@@ -42,9 +42,11 @@ void SchemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     if (element != PE_IndicatorCheckBox || !isDark(option->palette))
         return;
     // At least 3:1 against the dark window while it can be used (WCAG 2.1, 1.4.11).
+    painter->save();
     painter->setPen(lineColor(*option, option->state.testFlag(State_Enabled) ? 0.5F : 0.25F));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
 }
 
 QSize SchemeStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
