@@ -2,14 +2,19 @@
 
 #include "PropertyList.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSaveFile>
+#include <QThread>
 
+#include <cerrno>
 #include <chrono>
+#include <fcntl.h>
 #include <iostream>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -19,6 +24,37 @@ namespace {
 
 // Writing takes a few milliseconds: who cannot get the lock in this time tries again with the next change.
 constexpr std::chrono::milliseconds lockPatience{100};
+constexpr std::chrono::milliseconds pauseBetweenTries{2};
+
+/// The kernel's lock on a folder: it leaves nothing behind, and ends with its process at whatever instant that dies.
+class FolderLock {
+public:
+    explicit FolderLock(const QString& folder)
+        : descriptor_(open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+    }
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+    ~FolderLock()
+    {
+        if (descriptor_ >= 0)
+            close(descriptor_);
+    }
+
+    bool tryLock(std::chrono::milliseconds patience) const
+    {
+        const QDeadlineTimer deadline(patience);
+        while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+            if (errno != EWOULDBLOCK || deadline.hasExpired())
+                return false;
+            QThread::msleep(pauseBetweenTries.count());
+        }
+        return true;
+    }
+
+private:
+    const int descriptor_;
+};
 
 void apply(const QVariantMap& changes, QVariantMap& values)
 {
@@ -118,10 +154,11 @@ bool FileUserDefaults::setAside(const QString& reason)
 
 bool FileUserDefaults::save()
 {
-    if (!QDir().mkpath(QFileInfo(path_).path()))
+    const QString folder = QFileInfo(path_).path();
+    if (!QDir().mkpath(folder))
         return complain(u"the folder of %1 cannot be made; settings are not saved"_s.arg(path_));
-    QLockFile lock(path_ + ".lock"_L1);
-    if (!lock.tryLock(static_cast<int>(lockPatience.count())))
+    const FolderLock lock(folder);
+    if (!lock.tryLock(lockPatience))
         return complain(u"%1 cannot be locked; settings are not saved"_s.arg(path_));
     return saveLocked();
 }

@@ -6,10 +6,10 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QLockFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -195,12 +195,13 @@ TEST_F(FileUserDefaultsTest, WhatCannotBeWrittenStaysInMemoryAndGoesOutLater)
     FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
     testing::internal::CaptureStderr();
     {
-        QLockFile other(path() + u".lock"_s);
-        ASSERT_TRUE(other.lock());
+        const int other = open(QFile::encodeName(QFileInfo(path()).path()).constData(), O_RDONLY | O_DIRECTORY);
+        ASSERT_EQ(flock(other, LOCK_EX), 0);
         defaults.setObject(u"b"_s, 2);
         defaults.setObject(u"a"_s, QVariant());
         EXPECT_EQ(defaults.integer(u"b"_s), 2);
         EXPECT_EQ(contents(path()), "{ a = 1; }");
+        ::close(other);
     }
     const QString warnings = QString::fromStdString(testing::internal::GetCapturedStderr());
     EXPECT_EQ(warnings.count(u'\n'), 1) << "one trouble is told once: " << warnings.toStdString();
