@@ -71,8 +71,8 @@ function(quillon_tests name main)
       set_target_properties(${target} PROPERTIES AUTOMOC ON)
       target_link_libraries(${target} PRIVATE ${main} ${ARGN} quillon_options)
       target_compile_options(${target} PRIVATE -O0) # compiles a third faster; tests wait more than they compute
-      gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-        PROPERTIES LABELS ${kind} TIMEOUT 300)
+      gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 600
+        PROPERTIES LABELS ${kind} TIMEOUT 1200)
     endif()
   endforeach()
 endfunction()

@@ -23,7 +23,7 @@ std::string shownIn(const QStringList& variables)
     QProcess probe;
     probe.setProcessEnvironment(environment);
     probe.start(QString::fromUtf8(languageProbe), QStringList());
-    probe.waitForFinished();
+    probe.waitForFinished(-1);
     return probe.readAllStandardOutput().toStdString();
 }
 

@@ -12,7 +12,7 @@ import desktop as desktops
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
-PATIENCE = 60  # seconds; the bound only ends a test that hangs
+PATIENCE = 240  # seconds; the bound only ends a test that hangs
 
 
 class NotSeen(AssertionError):

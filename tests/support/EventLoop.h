@@ -8,7 +8,7 @@ namespace quillon {
 
 /// Runs the event loop until the condition holds; false when it never did. The bound only ends a test that hangs.
 template<typename Condition>
-bool runUntil(Condition condition, int boundSeconds = 60)
+bool runUntil(Condition condition, int boundSeconds = 240)
 {
     QDeadlineTimer deadline(boundSeconds * qint64{1000});
     while (!condition() && !deadline.hasExpired())

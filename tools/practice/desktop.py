@@ -8,6 +8,7 @@ import time
 
 from failure import PracticeFailed
 
+PATIENCE = 600  # seconds; the bound only ends a run whose desktop never comes up, however busy the machine is
 SCREEN = "1280x800x24"
 BACKGROUND = "gradient:#6d8fb3-#2c3e57"
 
@@ -43,7 +44,8 @@ def start_virtual(folder, log):
     """Xvfb, a session bus and a window manager, as children of this process; `folder` is short-lived and private."""
     authority = folder / "Xauthority"
     authority.write_bytes(_any_display_cookie())
-    display = _start(["Xvfb", "-displayfd", "{fd}", "-screen", "0", SCREEN, "-nolisten", "tcp", "-auth",
+    # Without -noreset the server starts anew when its last client goes, and shuts out who connects at that moment.
+    display = _start(["Xvfb", "-displayfd", "{fd}", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset", "-auth",
                       str(authority)], os.environ, log)
     bus = _start(["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={fd}"], os.environ, log)
     environment = {
@@ -54,8 +56,8 @@ def start_virtual(folder, log):
         "DBUS_SESSION_BUS_ADDRESS": bus,
     }
     everything = os.environ | environment
-    subprocess.Popen(["openbox"], env=everything, stdout=log, stderr=log, start_new_session=True)
-    _wait_for_window_manager(everything)
+    manager = subprocess.Popen(["openbox"], env=everything, stdout=log, stderr=log, start_new_session=True)
+    _wait_for_window_manager(manager, everything)
     subprocess.run(["display", "-size", SCREEN.rpartition("x")[0], "-window", "root", BACKGROUND], env=everything,
                    stdout=log, stderr=log)
     return Desktop(f"virtual X display :{display}", environment, pictures=True)
@@ -86,10 +88,10 @@ def _start(command, environment, log):
     return line
 
 
-def _wait_for_window_manager(environment):
-    deadline = time.monotonic() + 20
+def _wait_for_window_manager(manager, environment):
+    deadline = time.monotonic() + PATIENCE
     while not _succeeds(["xprop", "-root", "-notype", "_NET_SUPPORTING_WM_CHECK"], environment, "window id"):
-        if time.monotonic() > deadline:
+        if manager.poll() is not None or time.monotonic() > deadline:
             raise PracticeFailed("the window manager did not start")
         time.sleep(0.1)
 

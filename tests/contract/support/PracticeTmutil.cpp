@@ -9,6 +9,7 @@
 #include <QThread>
 
 #include <chrono>
+#include <csignal>
 
 namespace quillon {
 
@@ -25,7 +26,7 @@ void start(QProcess& process, const QString& program, const QStringList& argumen
 
 Answer answerOf(QProcess& process)
 {
-    if ((process.state() != QProcess::NotRunning && !process.waitForFinished(60'000)) ||
+    if ((process.state() != QProcess::NotRunning && !process.waitForFinished(-1)) ||
         process.error() == QProcess::FailedToStart || process.exitStatus() != QProcess::NormalExit)
         return {-1, process.readAllStandardOutput(), process.readAllStandardError() + process.errorString().toUtf8()};
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
@@ -95,10 +96,22 @@ Answer PracticeTmutil::watch(const QString& program, const QStringList& argument
     QProcess process;
     start(process, program, arguments);
     eventually([&] {
-        status();
+        // Whoever completes a backup waits for those who watch it; a request to end is all that shortens that.
+        if (phase() == "Finishing"_L1)
+            endWorker();
         return process.waitForFinished(100) || process.state() == QProcess::NotRunning;
     });
     return answerOf(process);
+}
+
+void PracticeTmutil::endWorker() const
+{
+    QFile run(stateFolder() + "/run.plist"_L1);
+    if (!run.open(QIODevice::ReadOnly))
+        return;
+    const auto contents = propertylist::parse(run.readAll()).value_or(QVariant()).toMap();
+    if (const auto worker = contents.value(u"Worker"_s).toInt(); worker > 0)
+        ::kill(worker, SIGTERM);
 }
 
 QString PracticeTmutil::addDisk(const QString& name) const

@@ -48,7 +48,8 @@ public:
     QVariantMap status() const;
     QString phase() const;
 
-    /// `startbackup -b`, by that program, while somebody asks for the status as the application does.
+    /// `startbackup -b`, by that program, while somebody asks for the status as the application does. A completed one
+    /// is not made to wait for more of them.
     Answer backUp() const { return watch(executable(), {QStringLiteral("startbackup"), QStringLiteral("-b")}); }
     Answer watch(const QString& program, const QStringList& arguments) const;
 
@@ -63,6 +64,8 @@ public:
     void writeLargeFile() const;
 
 private:
+    void endWorker() const;
+
     QTemporaryDir folder_;
 };
 

@@ -41,7 +41,7 @@ PrivateBus::~PrivateBus()
 void PrivateBus::crash()
 {
     daemon_.kill();
-    daemon_.waitForFinished();
+    daemon_.waitForFinished(-1);
 }
 
 PlayedLogind::PlayedLogind(const PrivateBus& bus)
@@ -60,7 +60,7 @@ PlayedLogind::PlayedLogind(const PrivateBus& bus)
 PlayedLogind::~PlayedLogind()
 {
     mock_.kill();
-    mock_.waitForFinished();
+    mock_.waitForFinished(-1);
     EXPECT_TRUE(runUntil([this] { return !hasOwner(); }));
 }
 

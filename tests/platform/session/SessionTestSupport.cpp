@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int bound = 30'000;
+constexpr int bound = 240'000;
 
 } // namespace
 

@@ -44,7 +44,7 @@ public:
     void crash()
     {
         process_.kill();
-        process_.waitForFinished();
+        process_.waitForFinished(-1);
     }
 
 private:

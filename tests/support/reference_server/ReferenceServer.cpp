@@ -22,7 +22,7 @@ ReferenceServer::ReferenceServer(const QString& certificate, const QString& name
 ReferenceServer::~ReferenceServer()
 {
     process_.closeWriteChannel(); // also a test that crashes ends the server this way
-    if (!process_.waitForFinished())
+    if (!process_.waitForFinished(-1))
         process_.kill();
 }
 
@@ -64,7 +64,7 @@ QJsonObject ReferenceServer::command(const QJsonObject& command)
 
 QByteArray ReferenceServer::line()
 {
-    while (!process_.canReadLine() && process_.waitForReadyRead()) {
+    while (!process_.canReadLine() && process_.waitForReadyRead(-1)) {
     }
     EXPECT_TRUE(process_.canReadLine()) << "the reference server is silent";
     return process_.readLine();

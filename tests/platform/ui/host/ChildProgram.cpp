@@ -18,7 +18,7 @@ void start(QProcess& process, const QString& program, const QStringList& argumen
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(program, arguments);
-    if (!process.waitForStarted())
+    if (!process.waitForStarted(-1))
         throw std::runtime_error("cannot start " + program.toStdString());
 }
 
@@ -32,10 +32,10 @@ ChildProgram::ChildProgram(const QString& program, const QStringList& arguments,
 ChildProgram::~ChildProgram()
 {
     process_.terminate();
-    constexpr int graceMs = 5000;
+    constexpr int graceMs = 60'000;
     if (!process_.waitForFinished(graceMs)) {
         process_.kill();
-        process_.waitForFinished();
+        process_.waitForFinished(-1);
     }
 }
 
