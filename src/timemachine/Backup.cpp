@@ -4,20 +4,18 @@
 #include "Failure.h"
 #include "History.h"
 #include "KeyStore.h"
+#include "Paths.h"
+#include "RepositorySetup.h"
 #include "Restic.h"
 #include "Retention.h"
+#include "Room.h"
 #include "RunState.h"
-#include "Snapshot.h"
-#include "SourceSet.h"
 #include "StopRequest.h"
+#include "Verification.h"
 
-#include <QDir>
-#include <QFile>
+#include <QFileInfo>
 
-#include <cerrno>
-#include <cstdio>
-#include <sys/statvfs.h>
-#include <unistd.h>
+#include <algorithm>
 
 namespace quillon {
 
@@ -25,17 +23,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Less room than this does not even hold restic's lock and index files.
-constexpr unsigned long long leastRoom = 1024ULL * 1024;
-
 // The exit status of `restic backup` for a snapshot that lacks files which could not be read (restic-backup(1)).
 constexpr int someFilesUnread = 3;
-
-bool isFull(const QByteArray& path)
-{
-    struct statvfs room {};
-    return statvfs(path.constData(), &room) == 0 && room.f_blocks > 0 && room.f_bavail * room.f_frsize < leastRoom;
-}
 
 } // namespace
 
@@ -51,7 +40,7 @@ struct Backup::Problem {
     }
     static Problem of(ResticProblem problem, const QString& description)
     {
-        return {ResticDiagnosis{problem, {}}.cause(), description};
+        return {ResticDiagnosis::of(problem).cause(), description};
     }
 };
 
@@ -74,85 +63,163 @@ BackupResult Backup::run()
         observer_(phase::mountingBackupVolume, {});
         prepareRepository();
         observer_(phase::preparingSourceVolumes, {});
-        const QStringList sources = findSources();
+        findSources();
         observer_(phase::findingChanges, {});
-        copy(sources);
-        observer_(phase::thinningPostBackup, {});
+        copy();
+        // Whoever watches takes this phase for a backup that counts.
+        if (lostSources_.isEmpty())
+            observer_(phase::thinningPostBackup, {});
         cleanUp();
+        if (!lostSources_.isEmpty())
+            result_.end = BackupResult::End::Incomplete;
         result_.failure = remark();
     } catch (const Stopped&) {
         result_.end = BackupResult::End::Stopped;
+        if (!removed_.empty())
+            result_.failure = failure({u"SpaceMade"_s, removal()});
     } catch (const Problem& problem) {
         result_.end = BackupResult::End::Failed;
-        result_.failure = failure(problem);
+        result_.failure = failure({problem.cause, (problem.description + u' ' + removal()).trimmed()});
     } catch (const Failure& missing) { // restic was removed meanwhile
         result_.end = BackupResult::End::Failed;
-        result_.failure = failure(Problem{u"ResticMissing"_s, missing.message()});
+        result_.failure = failure({u"ResticMissing"_s, (missing.message() + u' ' + removal()).trimmed()});
     }
     return result_;
 }
 
-void Backup::findDisk() const
+void Backup::findDisk()
 {
-    if (!destination_.isPresent())
-        throw Problem{u"DestinationMissing"_s, u"The backup disk \"%1\" is not there."_s.arg(destination_.name)};
-    if (!KeyStore(folders_.configuration).contains(destination_.id))
+    repository_ = RepositoryFolder::open(destination_);
+    if (!repository_) {
+        const bool foreign = RepositoryFolder::contents(destination_) == RepositoryFolder::Contents::Foreign;
+        throw Problem{foreign ? u"NoPermission"_s : u"DestinationMissing"_s,
+                      foreign ? u"\"%1\" is not yours, or leads elsewhere."_s.arg(destination_.repository())
+                              : destination_.absence()};
+    }
+    const KeyStore keys(folders_.configuration);
+    if (!keys.contains(destination_.id))
         throw Problem::of(ResticProblem::WrongKey,
                           u"The key of the backup disk \"%1\" is missing."_s.arg(destination_.name));
+    if (!QFileInfo(keys.path(destination_.id)).isReadable())
+        throw Problem::of(ResticProblem::WrongKey, u"The key of the backup disk \"%1\", \"%2\", cannot be read."_s.arg(
+                                                       destination_.name, keys.path(destination_.id)));
 }
 
 void Backup::prepareRepository()
 {
-    const QByteArray repository = QFile::encodeName(destination_.repository());
     // restic would try again for a quarter of an hour.
-    if (access(repository.constData(), W_OK) != 0)
+    if (!repository_->isWritable())
         throw Problem::of(ResticProblem::NoPermission,
                           u"The backup disk \"%1\" cannot be written to."_s.arg(destination_.name));
-    const bool exists = QFile::exists(destination_.repository() + "/config"_L1);
-    if (isFull(repository) && exists)
-        makeRoom();
-    if (isFull(repository))
+    while (isFull(*repository_) && repository_->hasConfig() && makeRoom()) {
+    }
+    if (isFull(*repository_))
         throw Problem::of(ResticProblem::NoSpace, u"The backup disk \"%1\" is full."_s.arg(destination_.name));
-    if (exists)
-        return;
+    if (repository_->hasConfig())
+        repairIfDamaged();
+    else
+        makeRepository();
+}
 
-    // Made under another name, so that a repository is whole or not there; an empty folder gives way to it.
-    const QString fresh = destination_.repository() + ".new"_L1;
-    QDir(fresh).removeRecursively();
-    const auto outcome = Restic(destination_, folders_, &stop_).runOn(fresh, {u"init"_s});
+/// What is still on this computer is then stored anew, also for the backups that lack it.
+void Backup::repairIfDamaged()
+{
+    auto damage = history_.damage(destination_.id);
+    if (!damage || damage->repaired)
+        return;
+    try {
+        repairRepository(*repository_, damage->findings.packs, restic());
+    } catch (const Failure& failure) {
+        if (stop_.isMade())
+            throw Stopped();
+        throw Problem{u"Damaged"_s, u"The damaged backups could not be repaired: %1"_s.arg(failure.message())};
+    }
+    repaired_ = true;
+    damage->repaired = true;
+    history_.setDamage(destination_.id, damage);
+    history_.save();
+}
+
+void Backup::makeRepository()
+{
+    if (const QDateTime last = history_.lastBackup(destination_.id); repository_->isEmpty() && last.isValid())
+        throw Problem::of(
+            ResticProblem::NoRepository,
+            u"The backups on the disk \"%1\", the last of %2, are gone. To begin anew on it, set it again with "
+            "\"tmutil setdestination\"."_s.arg(destination_.name, statusDate(last)));
+    NewRepository made = quillon::makeRepository(destination_, folders_, stop_);
+    if (stop_.isMade())
+        throw Stopped();
+    if (made.outcome.exitStatus != 0)
+        throw Problem::of(made.outcome);
+    if (!made.folder)
+        throw Problem::of(ResticProblem::NoRepository,
+                          u"The backups on the disk \"%1\" are damaged: %2."_s.arg(destination_.name, made.refusal));
+    repository_ = std::move(made.folder);
+    history_.noteNewRepository(destination_.id);
+}
+
+Restic Backup::restic() const
+{
+    return {*repository_, folders_, &stop_};
+}
+
+void Backup::findSources()
+{
+    sources_ = SourceSet::of(configuration_, folders_);
+    findLostSources(sources_.missing, "is not there"_L1);
+    for (const QString& source : sources_.leftOut)
+        lackingSources_.append(u"The folder \"%1\" is left out by an exclusion."_s.arg(source));
+    if (sources_.folders.isEmpty())
+        throw Problem{u"NoSource"_s, (lostSources_ + lackingSources_).join(u' ')};
+    findLostSources(sources_.withoutFiles(), "is empty or cannot be read"_L1);
+}
+
+/// The mount point of a disk that is not there looks like a folder whose files have been deleted.
+void Backup::findLostSources(const QStringList& suspects, QLatin1StringView state)
+{
+    for (const QString& source : suspects) {
+        if (heldFiles(source))
+            lostSources_.append(u"The folder \"%1\" %2, and held files before. If that is meant to be so, remove it "
+                                "with \"tmutil removesource\"."_s.arg(source, state));
+        else if (sources_.missing.contains(source))
+            lackingSources_.append(u"The folder \"%1\" is not there."_s.arg(source));
+    }
+}
+
+/// Whether the latest complete backup of that folder has a file in it.
+bool Backup::heldFiles(const QString& source)
+{
+    if (!earlier_)
+        earlier_ = snapshotsIn(*repository_, restic());
+    if (!snapshotId_.isEmpty())
+        std::erase_if(*earlier_, [this](const Snapshot& one) { return one.id.startsWith(snapshotId_); });
+    const auto found = std::find_if(earlier_->rbegin(), earlier_->rend(), [&source](const Snapshot& snapshot) {
+        return snapshot.complete &&
+               std::ranges::any_of(snapshot.sources, [&](const QString& folder) { return covers(folder, source); });
+    });
+    if (found == earlier_->rend())
+        return false;
+    bool file = false;
+    const auto outcome =
+        restic().run({u"ls"_s, u"--json"_s, u"--no-lock"_s, u"--recursive"_s, found->id, source},
+                     [&file](const QByteArray& line) { file = file || line.contains(R"("type":"file")"); });
     if (stop_.isMade())
         throw Stopped();
     if (outcome.exitStatus != 0)
         throw Problem::of(outcome);
-    if (std::rename(QFile::encodeName(fresh).constData(), repository.constData()) != 0) {
-        const QString reason = qt_error_string(errno);
-        QDir(fresh).removeRecursively();
-        throw Problem::of(ResticProblem::NoRepository,
-                          u"The backups on the disk \"%1\" are damaged: %2."_s.arg(destination_.name, reason));
-    }
-    history_.setLastPrune(destination_.id, QDateTime::currentDateTimeUtc()); // nothing to prune in an empty one
+    return file;
 }
 
-QStringList Backup::findSources()
+void Backup::copy()
 {
-    const SourceSet set = SourceSet::of(configuration_, folders_);
-    for (const QString& source : set.missing)
-        lackingSources_.append(u"The folder \"%1\" is not there."_s.arg(source));
-    for (const QString& source : set.leftOut)
-        lackingSources_.append(u"The folder \"%1\" is left out by an exclusion."_s.arg(source));
-    if (set.folders.isEmpty())
-        throw Problem{u"NoSource"_s, lackingSources_.join(u' ')};
-    return set.arguments();
-}
-
-void Backup::copy(const QStringList& sourceArguments)
-{
-    const Restic restic(destination_, folders_, &stop_);
-    const QStringList arguments =
-        QStringList{u"backup"_s, u"--json"_s, u"--verbose=2"_s, u"--tag"_s, Restic::tag()} + sourceArguments;
+    const Restic program = restic();
     for (bool unlocked = false;; unlocked = true) {
-        BackupOutput output;
-        const auto outcome = restic.run(
+        const QStringList arguments =
+            QStringList{u"backup"_s, u"--json"_s, u"--verbose=2"_s, u"--tag"_s, Snapshot::tag(lostSources_.isEmpty())} +
+            sources_.arguments();
+        BackupOutput output(sources_.folders, repaired_);
+        const auto outcome = program.run(
             arguments,
             [&](const QByteArray& line) {
                 if (output.readLine(line))
@@ -160,86 +227,113 @@ void Backup::copy(const QStringList& sourceArguments)
             },
             [&](const QByteArray& line) { output.readMessage(line); });
         snapshotId_ = output.snapshotId();
-        unreadFiles_ = output.unreadFiles();
-        if (!snapshotId_.isEmpty())
-            remember();
+        unreadFiles_ = output.unreadPaths().size();
+        note(output, outcome);
+        const bool isMade = !snapshotId_.isEmpty() && !outcome.diskGone;
+        if (isMade && lostSources_.isEmpty()) {
+            findLostSources(output.emptySources(), "is empty or cannot be read"_L1);
+            if (lostSources_.isEmpty())
+                remember();
+            else
+                markIncomplete();
+        }
         if (stop_.isMade())
             throw Stopped();
-        if (!snapshotId_.isEmpty() && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
+        if (isMade && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
             return;
         const auto problem = outcome.diagnosis().problem;
         if (problem == ResticProblem::Locked && !unlocked) {
             resticOrThrow({u"unlock"_s});
             continue;
         }
-        if (problem == ResticProblem::NoSpace)
-            makeRoom();
+        if (problem == ResticProblem::NoSpace && makeRoom())
+            continue;
         throw Problem::of(outcome);
     }
+}
+
+void Backup::note(const BackupOutput& output, const ResticOutcome& outcome)
+{
+    log_.files = output.progress() ? output.progress()->files : 0;
+    log_.newFiles = output.newFiles();
+    log_.changedFiles = output.changedFiles();
+    log_.bytesAdded = output.bytesAdded();
+    log_.unread = output.unreadPaths();
+    log_.words += outcome.errorText;
+}
+
+/// A source was lost while it was read.
+void Backup::markIncomplete()
+{
+    resticOrThrow({u"tag"_s, u"--set"_s, Snapshot::tag(false), snapshotId_});
+    snapshotId_.clear(); // it has another one now
 }
 
 /// Before anything else is done: whatever ends this process while it cleans up, the backup counts.
 void Backup::remember()
 {
     history_.setLastBackup(destination_.id, QDateTime::currentDateTimeUtc());
-    history_.setLastFailure(remark());
+    history_.setLastFailure(destination_.id, remark());
     history_.save();
 }
 
-/// The backup is complete by now: what keeps old ones from being thinned is worth a remark, unless the disk is full.
+/// The backup is made by now: what keeps old ones from being thinned is worth a remark, unless the disk is full.
 void Backup::cleanUp()
 {
     try {
-        if (newestBackupIsDatedLast())
-            thin();
-        else
-            thinningProblem_ = u"The clock was set back, and a backup with a later date is there."_s;
+        thin();
     } catch (const Failure& failure) {
+        if (stop_.isMade())
+            throw Stopped();
         thinningProblem_ = failure.message();
     } catch (const Problem& problem) {
-        if (problem.cause == (ResticDiagnosis{ResticProblem::NoSpace, {}}.cause()))
+        if (problem.cause == ResticDiagnosis::of(ResticProblem::NoSpace).cause())
             throw;
         thinningProblem_ = problem.description;
     }
 }
 
-/// Thinning keeps what has the latest date: the backup just made must not lose to one from before a clock was set back.
-bool Backup::newestBackupIsDatedLast() const
-{
-    const auto snapshots = snapshotsOn(destination_, Restic(destination_, folders_, &stop_));
-    // restic tells the beginning of the identifier only.
-    return !snapshots.empty() && snapshots.back().id.startsWith(snapshotId_);
-}
-
 void Backup::thin()
 {
-    resticOrThrow(forgetArguments(Restic::tag()));
-    if (const QDateTime now = QDateTime::currentDateTimeUtc(); isPruneDue(history_.lastPrune(destination_.id), now)) {
+    if (repository_->hasLocks())
+        resticOrThrow({u"unlock"_s}); // removes those of processes that have died
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const auto snapshots = snapshotsIn(*repository_, restic());
+    for (const Snapshot& snapshot : snapshots) {
+        const bool isNew = snapshotId_.isEmpty() ? !snapshot.complete : snapshot.id.startsWith(snapshotId_);
+        if (isNew)
+            log_.backup = snapshot.name();
+    }
+    forget(dispensable(snapshots, configuration_.keepRules(), snapshotId_, now), restic());
+    if (stop_.isMade())
+        throw Stopped();
+    if (isWeekOver(history_.lastPrune(destination_.id), now)) {
         resticOrThrow({u"prune"_s});
         history_.setLastPrune(destination_.id, now);
     }
+    keepReserve(*repository_);
 }
 
-/// Thinning comes after copying, and a full disk lets no copy be completed: without this it would stay full.
-void Backup::makeRoom()
+/// Thinning comes after copying, and a full disk lets no copy be completed: without this it would stay full. Only the
+/// backup itself can tell how much room it needs, so it is tried again after each step, of which the first takes
+/// nothing that anybody misses. False when no further one can be taken.
+bool Backup::makeRoom()
 {
-    if (!isPruneDue(history_.lastPrune(destination_.id), QDateTime::currentDateTimeUtc()))
-        return;
     try {
-        thin();
-    } catch (const Problem&) {
-        return; // the full disk is what is reported
+        if (roomWanted_)
+            return removeLeastMissed(*repository_, restic(), *roomWanted_, removed_);
+        roomWanted_ = removeLeftovers(*repository_, restic(), configuration_.keepRules());
+        return true;
+    } catch (const Failure&) {
+        if (stop_.isMade())
+            throw Stopped();
+        return false; // the full disk is what is reported
     }
 }
 
-/// A lock that a dead process left behind is removed once; one that is in use is not.
 void Backup::resticOrThrow(const QStringList& arguments) const
 {
-    const Restic restic(destination_, folders_, &stop_);
-    auto outcome = restic.run(arguments);
-    if (outcome.exitStatus != 0 && outcome.diagnosis().problem == ResticProblem::Locked && !stop_.isMade() &&
-        restic.run({u"unlock"_s}).exitStatus == 0 && !stop_.isMade())
-        outcome = restic.run(arguments);
+    const auto outcome = restic().runUnlocking(arguments);
     if (stop_.isMade())
         throw Stopped();
     if (outcome.exitStatus != 0)
@@ -251,6 +345,17 @@ LastFailure Backup::failure(const Problem& problem) const
     return {statusDate(QDateTime::currentDateTimeUtc()), destination_.id, problem.cause, problem.description};
 }
 
+/// A sentence on what was removed for want of room, whatever came of the backup; empty where nothing was.
+QString Backup::removal() const
+{
+    if (removed_.empty())
+        return {};
+    return removed_.size() == 1
+               ? u"The disk was full, and the backup \"%1\" was removed."_s.arg(removed_.front().name())
+               : u"The disk was full, and %1 old backups, from \"%2\" to \"%3\", were removed."_s.arg(
+                     QString::number(removed_.size()), removed_.front().name(), removed_.back().name());
+}
+
 std::optional<LastFailure> Backup::remark() const
 {
     QString cause;
@@ -258,6 +363,10 @@ std::optional<LastFailure> Backup::remark() const
     if (!thinningProblem_.isEmpty()) {
         cause = u"Thinning"_s;
         sentences.append(u"Old backups could not be thinned: %1"_s.arg(thinningProblem_));
+    }
+    if (!removed_.empty()) {
+        cause = u"SpaceMade"_s;
+        sentences.append(removal());
     }
     if (!lackingSources_.isEmpty()) {
         cause = u"MissingSource"_s;
@@ -267,6 +376,10 @@ std::optional<LastFailure> Backup::remark() const
         cause = u"UnreadFiles"_s;
         sentences.prepend(unreadFiles_ == 1 ? u"One file could not be read."_s
                                             : u"%1 files could not be read."_s.arg(unreadFiles_));
+    }
+    if (!lostSources_.isEmpty()) {
+        cause = u"SourceLost"_s;
+        sentences = lostSources_ + sentences;
     }
     if (cause.isEmpty())
         return std::nullopt;

@@ -4,21 +4,34 @@
 #include "Configuration.h"
 #include "Folders.h"
 #include "LastFailure.h"
+#include "RepositoryFolder.h"
+#include "RunLog.h"
+#include "Snapshot.h"
+#include "SourceSet.h"
 
 #include <QDateTime>
 #include <QStringList>
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace quillon {
 
+class BackupOutput;
 class History;
+class Restic;
+struct ResticOutcome;
 class StopRequest;
 
 /// How a backup ended.
 struct BackupResult {
-    enum class End { Completed, Failed, Stopped };
+    enum class End {
+        Completed,
+        Incomplete, ///< there is a backup, but it lacks a source that held files before, and does not count as one
+        Failed,
+        Stopped,
+    };
 
     End end = End::Completed;
     std::optional<LastFailure> failure; ///< why it failed, or what a completed backup lacks
@@ -36,21 +49,31 @@ public:
 
     BackupResult run();
 
+    /// What the run has done; its beginning and its end are the caller's to add.
+    const RunLog& log() const { return log_; }
+
 private:
     struct Problem;
     struct Stopped {};
 
-    void findDisk() const;
+    void findDisk();
     void prepareRepository();
-    QStringList findSources();
-    void copy(const QStringList& sourceArguments);
+    void makeRepository();
+    void repairIfDamaged();
+    Restic restic() const;
+    void findSources();
+    void findLostSources(const QStringList& suspects, QLatin1StringView state);
+    bool heldFiles(const QString& source);
+    void copy();
+    void markIncomplete();
+    void note(const BackupOutput& output, const ResticOutcome& outcome);
     void remember();
     void cleanUp();
-    bool newestBackupIsDatedLast() const;
     void thin();
-    void makeRoom();
+    bool makeRoom();
     void resticOrThrow(const QStringList& arguments) const;
     LastFailure failure(const Problem& problem) const;
+    QString removal() const;
     std::optional<LastFailure> remark() const;
 
     Destination destination_;
@@ -59,10 +82,18 @@ private:
     History& history_;
     const StopRequest& stop_;
     Observer observer_;
-    QStringList lackingSources_; ///< sentences on those that are not there or left out
+    std::optional<RepositoryFolder> repository_; ///< the same from the beginning to the end
+    SourceSet sources_;
+    QStringList lackingSources_;                   ///< sentences on those that are not there or left out
+    QStringList lostSources_;                      ///< sentences on those that held files before and don't now
+    std::optional<std::vector<Snapshot>> earlier_; ///< the backups before this one, once they had to be read
     QString snapshotId_;
+    bool repaired_ = false;
     qlonglong unreadFiles_ = 0;
     QString thinningProblem_;
+    std::optional<quint64> roomWanted_; ///< in blocks of the disk, once room has been made
+    std::vector<Snapshot> removed_;     ///< for want of room
+    RunLog log_;
     BackupResult result_;
 };
 

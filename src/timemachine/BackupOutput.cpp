@@ -1,5 +1,7 @@
 #include "BackupOutput.h"
 
+#include "Paths.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -9,15 +11,39 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+BackupOutput::BackupOutput(const QStringList& sources, bool repaired)
+    : emptySources_(sources)
+    , repaired_(repaired)
+{
+}
+
+QStringList BackupOutput::unreadPaths() const
+{
+    QStringList paths;
+    std::ranges::copy_if(complaints_, std::back_inserter(paths),
+                         [this](const QString& path) { return !stored_.contains(qHash(path)); });
+    paths.removeDuplicates();
+    return paths;
+}
+
 bool BackupOutput::readLine(const QByteArray& line)
 {
-    // Verbosity 2 is wanted for the one message that tells the end of the scan; it brings a line for every file.
-    if (line.startsWith(R"({"message_type":"verbose_status")"))
+    // There is one of these for every file: they are read only while something can be learned from them. From 0.16 on
+    // the end of the scan is one of them.
+    if (line.startsWith(R"({"message_type":"verbose_status")")) {
+        if (line.contains(R"("action":"scan_finished")"))
+            scanEnded_ = true;
+        else
+            readItem(line);
         return false;
+    }
     const QJsonObject message = QJsonDocument::fromJson(line).object();
     const QString type = message.value("message_type"_L1).toString();
     if (type == "summary"_L1) {
         snapshotId_ = message.value("snapshot_id"_L1).toString();
+        newFiles_ = message.value("files_new"_L1).toInteger();
+        changedFiles_ = message.value("files_changed"_L1).toInteger();
+        bytesAdded_ = message.value("data_added"_L1).toInteger();
         const auto bytes = message.value("total_bytes_processed"_L1).toInteger();
         const auto files = message.value("total_files_processed"_L1).toInteger();
         progress_ =
@@ -47,13 +73,24 @@ bool BackupOutput::readLine(const QByteArray& line)
     return true;
 }
 
+void BackupOutput::readItem(const QByteArray& line)
+{
+    if (emptySources_.isEmpty() && !repaired_)
+        return;
+    const QString item = QJsonDocument::fromJson(line)["item"_L1].toString();
+    if (repaired_)
+        stored_.insert(qHash(item));
+    if (!item.endsWith(u'/')) // a folder
+        emptySources_.removeIf([&item](const QString& source) { return covers(source, item); });
+}
+
 void BackupOutput::readMessage(const QByteArray& line)
 {
     const QJsonObject message = QJsonDocument::fromJson(line).object();
     // What the scan could not read is met again by the archiver.
     if (message.value("message_type"_L1).toString() == "error"_L1 &&
         message.value("during"_L1).toString() == "archival"_L1)
-        ++unreadFiles_;
+        complaints_.append(message.value("item"_L1).toString());
 }
 
 } // namespace quillon

@@ -3,7 +3,9 @@
 #include "BackupProgress.h"
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -12,6 +14,10 @@ namespace quillon {
 /// Reads what `restic backup --json --verbose=2` prints, line by line.
 class BackupOutput {
 public:
+    /// `sources`: the folders that are read, absolute. `repaired`: the repository has lost data that is stored anew
+    /// now; of each file concerned restic complains first, and then stores it.
+    explicit BackupOutput(const QStringList& sources = {}, bool repaired = false);
+
     /// A line of standard output. True when progress() has changed.
     bool readLine(const QByteArray& line);
 
@@ -24,13 +30,30 @@ public:
     /// Empty until the snapshot has been written.
     const QString& snapshotId() const { return snapshotId_; }
 
-    qlonglong unreadFiles() const { return unreadFiles_; }
+    /// From the summary: 0 until it has come.
+    qlonglong newFiles() const { return newFiles_; }
+    qlonglong changedFiles() const { return changedFiles_; }
+    qlonglong bytesAdded() const { return bytesAdded_; }
+
+    /// What could not be read, each once.
+    QStringList unreadPaths() const;
+
+    /// The sources of which no file has been seen so far.
+    const QStringList& emptySources() const { return emptySources_; }
 
 private:
+    void readItem(const QByteArray& line);
+
+    QStringList emptySources_;
     bool scanEnded_ = false;
     std::optional<BackupProgress> progress_;
     QString snapshotId_;
-    qlonglong unreadFiles_ = 0;
+    qlonglong newFiles_ = 0;
+    qlonglong changedFiles_ = 0;
+    qlonglong bytesAdded_ = 0;
+    bool repaired_;
+    QStringList complaints_;
+    QSet<size_t> stored_; ///< hashes of the paths, after a repair only
 };
 
 } // namespace quillon

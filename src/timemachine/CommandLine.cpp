@@ -38,8 +38,19 @@ constexpr std::array syntaxes{
     Syntax{"listsources"_L1, Command::ListSources, "X"_L1, "[-X]"_L1, 0, 0},
     Syntax{"addexclusion"_L1, Command::AddExclusion, ""_L1, "PATH..."_L1, 1, any},
     Syntax{"removeexclusion"_L1, Command::RemoveExclusion, ""_L1, "PATH..."_L1, 1, any},
-    Syntax{"listexclusions"_L1, Command::ListExclusions, "X"_L1, "[-X]"_L1, 0, 0},
+    Syntax{"listexclusions"_L1, Command::ListExclusions, "Xa"_L1, "[-X | -a]"_L1, 0, 0},
     Syntax{"isexcluded"_L1, Command::IsExcluded, ""_L1, "PATH..."_L1, 1, any},
+    Syntax{"verify"_L1, Command::Verify, "dA"_L1, "[-d ID] [--all]"_L1, 0, 0},
+    Syntax{"recoverykey"_L1, Command::RecoveryKey, "d"_L1, "[-d ID]"_L1, 0, 0},
+    Syntax{"adopt"_L1, Command::Adopt, ""_L1, "PATH"_L1, 1, 1},
+    Syntax{"deletebackup"_L1, Command::DeleteBackup, ""_L1, "NAME..."_L1, 1, any},
+    Syntax{"log"_L1, Command::Log, ""_L1, "[NAME]"_L1, 0, 1},
+    Syntax{"listunread"_L1, Command::ListUnread, "X"_L1, "[-X] [NAME]"_L1, 0, 1},
+    Syntax{"retention"_L1, Command::Retention, "HDW"_L1, "[--hourly N] [--daily N] [--weekly N]"_L1, 0, 0},
+    Syntax{"excludename"_L1, Command::ExcludeName, "T"_L1, "[--try] PATTERN..."_L1, 1, any},
+    Syntax{"includename"_L1, Command::IncludeName, ""_L1, "PATTERN..."_L1, 1, any},
+    Syntax{"excludelarger"_L1, Command::ExcludeLarger, "T"_L1, "[--try] MEGABYTES"_L1, 1, 1},
+    Syntax{"diskusage"_L1, Command::DiskUsage, ""_L1, ""_L1, 0, 0},
     Syntax{"runbackup"_L1, Command::RunBackup, "d"_L1, ""_L1, 0, 0},
     Syntax{"help"_L1, Command::Help, ""_L1, ""_L1, 0, 0},
 };
@@ -65,8 +76,13 @@ const Syntax& syntaxOf(const QString& name)
 /// The letter of an option that the command takes; anything else is refused.
 char optionLetter(const QString& argument, const Syntax& syntax)
 {
-    static constexpr std::array spellings{std::pair{"--block"_L1, 'b'}, std::pair{"--rotation"_L1, 'r'}};
-    char letter = argument.size() == 2 ? argument[1].toLatin1() : '\0';
+    static constexpr std::array spellings{std::pair{"--block"_L1, 'b'}, std::pair{"--rotation"_L1, 'r'},
+                                          std::pair{"--all"_L1, 'A'},   std::pair{"--hourly"_L1, 'H'},
+                                          std::pair{"--daily"_L1, 'D'}, std::pair{"--weekly"_L1, 'W'},
+                                          std::pair{"--try"_L1, 'T'}};
+    // Capital letters but X stand for what is spelled out only.
+    char letter =
+        argument.size() == 2 && (argument == "-X"_L1 || !argument[1].isUpper()) ? argument[1].toLatin1() : '\0';
     for (const auto& [spelling, meaning] : spellings) {
         if (argument == spelling)
             letter = meaning;
@@ -74,6 +90,18 @@ char optionLetter(const QString& argument, const Syntax& syntax)
     if (letter == '\0' || !syntax.options.contains(QLatin1Char(letter)))
         refuse(u"\"%1\" takes no option \"%2\"."_s.arg(syntax.name, argument));
     return letter;
+}
+
+/// The number that follows an option, which is stepped over.
+int numberAfter(QStringList::const_iterator& option, QStringList::const_iterator end)
+{
+    constexpr int most = 10000;
+    bool isNumber = false;
+    const QString name = *option;
+    const int number = ++option != end ? option->toInt(&isNumber) : 0;
+    if (!isNumber || number < 0 || number > most)
+        refuse(u"\"%1\" wants a number of backups, up to %2."_s.arg(name).arg(most));
+    return number;
 }
 
 } // namespace
@@ -88,7 +116,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     CommandLine line;
     line.command = syntax.command;
     bool optionsEnded = false;
-    for (auto argument = arguments.begin() + 1; argument != arguments.end(); ++argument) {
+    for (auto argument = arguments.cbegin() + 1; argument != arguments.cend(); ++argument) {
         if (optionsEnded || !argument->startsWith(u'-')) {
             line.operands.append(*argument);
             continue;
@@ -110,8 +138,23 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         case 'r':
             line.rotate = true;
             break;
+        case 'A':
+            line.all = true;
+            break;
+        case 'T':
+            line.trial = true;
+            break;
+        case 'H':
+            line.keep.hourly = numberAfter(argument, arguments.cend());
+            break;
+        case 'D':
+            line.keep.daily = numberAfter(argument, arguments.cend());
+            break;
+        case 'W':
+            line.keep.weekly = numberAfter(argument, arguments.cend());
+            break;
         case 'd':
-            if (++argument == arguments.end() || argument->isEmpty())
+            if (++argument == arguments.cend() || argument->isEmpty())
                 refuse(u"\"-d\" wants the identifier of a backup disk."_s);
             line.destination = *argument;
             break;

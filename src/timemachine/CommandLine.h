@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Retention.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -22,6 +24,17 @@ enum class Command {
     RemoveExclusion,
     ListExclusions,
     IsExcluded,
+    Verify,
+    RecoveryKey,
+    Adopt,
+    DeleteBackup,
+    Log,
+    ListUnread,
+    Retention,
+    ExcludeName,
+    IncludeName,
+    ExcludeLarger,
+    DiskUsage,
     RunBackup, ///< the worker that startbackup starts; not for people
     Help,
 };
@@ -29,11 +42,14 @@ enum class Command {
 /// A command line that makes sense.
 struct CommandLine {
     Command command = Command::Help;
-    bool xml = false;    ///< -X
-    bool append = false; ///< -a
-    bool block = false;  ///< -b, --block
-    bool rotate = false; ///< -r, --rotation
-    QString destination; ///< -d ID; empty when absent
+    bool xml = false;              ///< -X
+    bool append = false;           ///< -a; with listexclusions: all
+    bool block = false;            ///< -b, --block
+    bool rotate = false;           ///< -r, --rotation
+    bool all = false;              ///< --all
+    bool trial = false;            ///< --try
+    QString destination;           ///< -d ID; empty when absent
+    KeepRules keep = {-1, -1, -1}; ///< --hourly, --daily, --weekly; -1 where absent
     QStringList operands;
 
     /// Reads the arguments after the program's name. Throws Failure with ExitStatus::Usage.

@@ -7,20 +7,27 @@
 #include "Failure.h"
 #include "Folders.h"
 #include "History.h"
+#include "Output.h"
 #include "Paths.h"
 #include "PropertyList.h"
+#include "RepositoryFolder.h"
 #include "Restic.h"
 #include "Restore.h"
+#include "Room.h"
+#include "RunLog.h"
+#include "SetupCommands.h"
 #include "Snapshot.h"
 #include "SourceSet.h"
 #include "StatusReport.h"
+#include "StopRequest.h"
+#include "Verification.h"
 #include "Worker.h"
 #include "WorkerProcess.h"
 
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace quillon {
 
@@ -28,22 +35,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void print(const QByteArray& text)
-{
-    const auto size = static_cast<size_t>(text.size());
-    if (std::fwrite(text.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
-        throw Failure(ExitStatus::CannotWrite, u"Standard output cannot be written to."_s);
-}
-
-void print(const QStringList& lines)
-{
-    for (const QString& line : lines)
-        print(line.toUtf8() + '\n');
-}
-
 void status(const Folders& folders)
 {
-    const StatusReport report(folders.state);
+    const StatusReport report(folders);
     print(report.text());
     report.markReported();
 }
@@ -52,8 +46,6 @@ void destinationInfo(const Folders& folders, bool xml)
 {
     const Configuration configuration(folders);
     const History history(folders.state);
-    if (!history.isReadable())
-        throw Failure(ExitStatus::StateDamaged, history.lastFailure().value(u"Description"_s).toString());
     print(xml ? destinationXml(configuration.destinations(), history)
               : destinationText(configuration.destinations(), history));
 }
@@ -75,6 +67,20 @@ void printPaths(const QStringList& paths, bool xml)
     if (!list)
         throw Failure(ExitStatus::Configuration, u"A path cannot be written as XML."_s);
     print(*list);
+}
+
+/// Those that nobody has named come with the reason why they are left out.
+void listAllExclusions(const Folders& folders)
+{
+    const Configuration configuration(folders);
+    QStringList lines = configuration.exclusions();
+    for (const QString& name : configuration.excludedNames())
+        lines.append(u"%1 (by name)"_s.arg(name));
+    if (configuration.largestFile() > 0)
+        lines.append(u"files of more than %1 bytes"_s.arg(configuration.largestFile()));
+    for (const auto& [path, reason] : SourceSet::of(configuration, folders).automatic)
+        lines.append(u"%1 (%2)"_s.arg(path, reason));
+    print(lines << u"folders with a CACHEDIR.TAG (caches)"_s);
 }
 
 void isExcluded(const Folders& folders, const QStringList& paths)
@@ -105,6 +111,140 @@ void startBackup(const Folders& folders, const CommandLine& line)
         print(QStringList(remark));
 }
 
+/// The disk that was named, or else the usual one.
+Destination chosenDestination(const Folders& folders, const QString& id)
+{
+    const Configuration configuration(folders);
+    const auto& destinations = configuration.destinations();
+    return id.isEmpty() ? usualDestination(destinations, History(folders.state)) : namedDestination(destinations, id);
+}
+
+RepositoryFolder openRepository(const Destination& destination)
+{
+    auto repository = RepositoryFolder::open(destination);
+    if (!repository)
+        throw Failure(ExitStatus::DestinationMissing, u"The backup disk \"%1\" is not there."_s.arg(destination.name));
+    if (!repository->hasConfig() && repository->isEmpty())
+        throw Failure(ExitStatus::NoBackup, u"There are no backups."_s);
+    return std::move(*repository);
+}
+
+void verify(const Folders& folders, const CommandLine& line)
+{
+    if (RunState::current(folders.state))
+        throw Failure(ExitStatus::AlreadyRunning, u"A backup is running."_s);
+    const RepositoryFolder repository = openRepository(chosenDestination(folders, line.destination));
+    makePrivateFolder(folders.state);
+    const StopRequest stop;
+    if (const auto damage = Verification::runAndRemember(repository, folders, stop, line.all))
+        throw Failure(ExitStatus::Damaged, damage->description());
+    print(QStringList(u"No damage was found."_s));
+}
+
+/// All of those named, or none.
+void deleteBackups(const Folders& folders, const QStringList& names)
+{
+    if (RunState::current(folders.state))
+        throw Failure(ExitStatus::AlreadyRunning, u"A backup is running."_s);
+    const Configuration configuration(folders);
+    const StopRequest stop;
+    QStringList left = names;
+    std::vector<std::pair<RepositoryFolder, std::vector<Snapshot>>> found;
+    for (const Destination& destination : configuration.destinations()) {
+        auto repository = RepositoryFolder::open(destination);
+        if (!repository)
+            continue;
+        auto some = snapshotsIn(*repository, Restic(*repository, folders, &stop));
+        std::erase_if(some, [&names](const Snapshot& snapshot) { return !names.contains(snapshot.name()); });
+        for (const Snapshot& snapshot : some)
+            left.removeAll(snapshot.name());
+        if (!some.empty())
+            found.emplace_back(std::move(*repository), std::move(some));
+    }
+    if (!left.isEmpty())
+        throw Failure(ExitStatus::NoBackup, u"\"%1\" is no backup. See \"tmutil listbackups\"."_s.arg(left.first()));
+    Verification::stopRunning(folders.state);
+    for (const auto& [repository, snapshots] : found) {
+        const Restic restic(repository, folders, &stop);
+        forget(snapshots, restic);
+        if (const auto outcome = restic.runUnlocking({u"prune"_s}); outcome.exitStatus != 0)
+            throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
+    }
+}
+
+/// The run that made that backup; without a name the latest that made one.
+RunLog runOf(const Folders& folders, const QStringList& names)
+{
+    const auto runs = RunLog::all(folders.state);
+    const auto found = std::find_if(runs.rbegin(), runs.rend(), [&names](const RunLog& run) {
+        return names.isEmpty() ? !run.backup.isEmpty() : run.backup == names.first();
+    });
+    if (found == runs.rend())
+        throw Failure(ExitStatus::NoBackup, u"Nothing is known of such a backup. See \"tmutil log\"."_s);
+    return *found;
+}
+
+void log(const Folders& folders, const QStringList& names)
+{
+    if (!names.isEmpty())
+        return print(runOf(folders, names).text());
+    QStringList lines;
+    for (const RunLog& run : RunLog::all(folders.state))
+        lines.append(run.line());
+    print(lines);
+}
+
+void retention(const Folders& folders, const KeepRules& rules)
+{
+    Configuration configuration(folders);
+    if (rules.hourly >= 0 || rules.daily >= 0 || rules.weekly >= 0)
+        configuration.setKeepRules(rules);
+    const KeepRules now = configuration.keepRules();
+    print(QStringList(
+        u"%1 hourly, %2 daily and %3 weekly backups are kept."_s.arg(now.hourly).arg(now.daily).arg(now.weekly)));
+}
+
+void tryExclusion(const Folders& folders, const QStringList& names, qlonglong largest)
+{
+    const auto omission = SourceSet::of(Configuration(folders), folders).omittedBy(names, largest);
+    print(QStringList(u"%1 files of %2 bytes in all would be left out."_s.arg(omission.files).arg(omission.bytes)));
+}
+
+void excludeLarger(const Folders& folders, const CommandLine& line)
+{
+    bool isNumber = false;
+    const qlonglong megabytes = line.operands.first().toLongLong(&isNumber);
+    constexpr qlonglong most = 1'000'000'000;
+    if (!isNumber || megabytes < 0 || megabytes > most)
+        throw Failure(ExitStatus::Usage, u"\"%1\" is no number of megabytes."_s.arg(line.operands.first()));
+    constexpr qlonglong bytes = 1'000'000;
+    if (line.trial)
+        return tryExclusion(folders, {}, megabytes * bytes);
+    Configuration(folders).setLargestFile(megabytes * bytes);
+}
+
+/// What a backup has added is known of the runs that are logged; most of it is shared with others.
+void diskUsage(const Folders& folders)
+{
+    const Configuration configuration(folders);
+    const auto runs = RunLog::all(folders.state);
+    for (const Destination& destination : configuration.destinations()) {
+        const auto repository = RepositoryFolder::open(destination);
+        if (!repository)
+            continue;
+        const QStorageInfo room(destination.path);
+        QStringList lines{
+            u"%1: %2 of %3 bytes are free."_s.arg(destination.path).arg(room.bytesAvailable()).arg(room.bytesTotal())};
+        for (const Snapshot& snapshot : snapshotsIn(*repository, Restic(*repository, folders, nullptr))) {
+            const auto run = std::ranges::find(runs, snapshot.name(), &RunLog::backup);
+            lines.append(
+                snapshot.name() +
+                (run == runs.end() ? QString() : u"  %1 files, %2 bytes added"_s.arg(run->files).arg(run->bytesAdded)));
+        }
+        print(lines);
+    }
+}
+
 void runBackup(const Folders& folders, const QString& destinationId)
 {
     try {
@@ -123,15 +263,22 @@ std::vector<Snapshot> snapshots(const Folders& folders)
         throw Failure(ExitStatus::NoDestination, u"No backup disk is set. Set one with \"tmutil setdestination\"."_s);
     std::vector<Snapshot> all;
     for (const Destination& destination : configuration.destinations()) {
-        if (!destination.isPresent())
+        const auto repository = RepositoryFolder::open(destination);
+        if (!repository)
             continue;
-        const auto some = snapshotsOn(destination, Restic(destination, folders, nullptr));
+        const auto some = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
         all.insert(all.end(), some.begin(), some.end());
     }
     if (all.empty())
         throw Failure(ExitStatus::NoBackup, u"There are no backups."_s);
     std::ranges::stable_sort(all, {}, &Snapshot::time);
     return all;
+}
+
+void latestBackup(const Folders& folders)
+{
+    const auto all = snapshots(folders);
+    print(QStringList(latestOf(all, QDateTime::currentDateTimeUtc())->name()));
 }
 
 void listBackups(const Folders& folders)
@@ -153,8 +300,7 @@ void runCommand(const CommandLine& line)
     case Command::DestinationInfo:
         return destinationInfo(folders, line.xml);
     case Command::SetDestination:
-        Configuration(folders).setDestination(line.operands.first(), line.append);
-        return;
+        return setDestination(folders, line.operands.first(), line.append);
     case Command::RemoveDestination:
         return removeDestination(folders, line.operands.first());
     case Command::StartBackup:
@@ -162,7 +308,7 @@ void runCommand(const CommandLine& line)
     case Command::StopBackup:
         return stopWorker(folders.state);
     case Command::LatestBackup:
-        return print(QStringList(snapshots(folders).back().name()));
+        return latestBackup(folders);
     case Command::ListBackups:
         return listBackups(folders);
     case Command::Restore:
@@ -178,9 +324,35 @@ void runCommand(const CommandLine& line)
     case Command::RemoveExclusion:
         return Configuration(folders).removeExclusions(line.operands);
     case Command::ListExclusions:
+        if (line.append)
+            return listAllExclusions(folders);
         return printPaths(Configuration(folders).exclusions(), line.xml);
     case Command::IsExcluded:
         return isExcluded(folders, line.operands);
+    case Command::Verify:
+        return verify(folders, line);
+    case Command::RecoveryKey:
+        return renewRecoveryKey(folders, line.destination);
+    case Command::Adopt:
+        return adopt(folders, line.operands.first());
+    case Command::DeleteBackup:
+        return deleteBackups(folders, line.operands);
+    case Command::Log:
+        return log(folders, line.operands);
+    case Command::ListUnread:
+        return printPaths(runOf(folders, line.operands).unread, line.xml);
+    case Command::Retention:
+        return retention(folders, line.keep);
+    case Command::ExcludeName:
+        if (line.trial)
+            return tryExclusion(folders, line.operands, 0);
+        return Configuration(folders).addExcludedNames(line.operands);
+    case Command::IncludeName:
+        return Configuration(folders).removeExcludedNames(line.operands);
+    case Command::ExcludeLarger:
+        return excludeLarger(folders, line);
+    case Command::DiskUsage:
+        return diskUsage(folders);
     case Command::RunBackup:
         return runBackup(folders, line.destination);
     case Command::Help:

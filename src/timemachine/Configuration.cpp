@@ -6,15 +6,13 @@
 #include "ProcessLock.h"
 #include "PropertyList.h"
 #include "PropertyListFile.h"
+#include "RepositoryFolder.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QUuid>
 
 #include <algorithm>
-#include <cerrno>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace quillon {
 
@@ -24,6 +22,9 @@ namespace {
 
 constexpr auto destinationsKey = "Destinations"_L1;
 constexpr auto sourcesKey = "Sources"_L1;
+constexpr auto namesKey = "ExcludedNames"_L1;
+constexpr auto largestKey = "LargestFile"_L1;
+constexpr auto keepKey = "Keep"_L1;
 constexpr auto exclusionsKey = "Exclusions"_L1;
 
 void requireStorable(const QString& path)
@@ -61,33 +62,25 @@ QString volumeName(const QString& path)
     return last.isEmpty() ? path : last;
 }
 
-/// Folders that this user shares with the others who back up to the same disk: everyone may add to the outer one,
-/// nobody may touch what is another's. A file system without rights of its own has its mount options.
-void makeRepositoryFolder(const Destination& destination)
-{
-    const QByteArray shared = QFile::encodeName(Destination::backupFolder(destination.path));
-    const QByteArray own = QFile::encodeName(destination.repository());
-    if (mkdir(shared.constData(), S_IRWXU) == 0)
-        chmod(shared.constData(), S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO);
-    if ((mkdir(own.constData(), S_IRWXU) != 0 && errno != EEXIST) || access(own.constData(), W_OK) != 0)
-        throw Failure(ExitStatus::CannotWrite,
-                      u"\"%1\" cannot be written to: %2."_s.arg(destination.repository(), qt_error_string(errno)));
-}
-
 Destination fromDictionary(const QVariantMap& entry)
 {
-    return {entry.value(u"ID"_s).toString(), entry.value(u"Name"_s).toString(), entry.value(u"Path"_s).toString()};
+    return {entry.value(u"ID"_s).toString(), entry.value(u"Name"_s).toString(), entry.value(u"Path"_s).toString(),
+            entry.value(u"Repository"_s).toBool()};
 }
 
 QVariantMap toDictionary(const Destination& destination)
 {
-    return {{u"ID"_s, destination.id}, {u"Name"_s, destination.name}, {u"Path"_s, destination.path}};
+    QVariantMap entry{{u"ID"_s, destination.id}, {u"Name"_s, destination.name}, {u"Path"_s, destination.path}};
+    if (destination.bare)
+        entry.insert(u"Repository"_s, qlonglong{1});
+    return entry;
 }
 
 } // namespace
 
-Configuration::Configuration(const Folders& folders)
+Configuration::Configuration(const Folders& folders, IfLost ifLost)
     : folders_(folders)
+    , ifLost_(ifLost)
 {
     read();
 }
@@ -104,14 +97,37 @@ Destination Configuration::setDestination(const QString& path, bool append)
     Destination destination;
     change([&] {
         destination = destinationAt(folder);
-        makeRepositoryFolder(destination);
-        KeyStore(folders_.configuration).ensure(destination.id);
+        RepositoryFolder::make(destination);
+        const KeyStore keys(folders_.configuration);
+        const auto contents = RepositoryFolder::contents(destination);
+        // A new key would open nothing, and be taken for the right one.
+        if (!keys.contains(destination.id) && contents != RepositoryFolder::Contents::Empty)
+            throw Failure(
+                ExitStatus::WrongKey,
+                u"The key of the backups on this disk, \"%1\", is missing. Put it back, or take the disk up with "
+                "its recovery key by \"tmutil adopt\"."_s.arg(keys.path(destination.id)));
+        keys.ensure(destination.id);
         if (!append)
             destinations_.clear();
-        if (std::ranges::find(destinations_, destination) == destinations_.end())
-            destinations_.push_back(destination);
+        put(destination);
     });
     return destination;
+}
+
+void Configuration::takeUp(const Destination& destination)
+{
+    requireStorable(destination.path);
+    change([&] { put(destination); });
+}
+
+/// A disk is known by its identifier wherever it is mounted.
+void Configuration::put(const Destination& destination)
+{
+    const auto known = std::ranges::find(destinations_, destination.id, &Destination::id);
+    if (known != destinations_.end())
+        *known = destination;
+    else
+        destinations_.push_back(destination);
 }
 
 void Configuration::removeDestination(const QString& id)
@@ -151,6 +167,31 @@ void Configuration::removeSource(const QString& path)
     });
 }
 
+KeepRules Configuration::keepRules() const
+{
+    const QVariantMap entry = contents_.value(keepKey).toMap();
+    const auto number = [&entry](const QString& key, int usual) {
+        return entry.contains(key) ? static_cast<int>(entry.value(key).toLongLong()) : usual;
+    };
+    const KeepRules usual;
+    return {std::max(number(u"Hourly"_s, usual.hourly), 1), number(u"Daily"_s, usual.daily),
+            number(u"Weekly"_s, usual.weekly)};
+}
+
+void Configuration::setKeepRules(const KeepRules& rules)
+{
+    change([&] {
+        KeepRules now = keepRules();
+        for (int KeepRules::*const rule : {&KeepRules::hourly, &KeepRules::daily, &KeepRules::weekly}) {
+            if (rules.*rule >= 0)
+                now.*rule = rules.*rule;
+        }
+        contents_.insert(keepKey, QVariantMap{{u"Hourly"_s, qlonglong{now.hourly}},
+                                              {u"Daily"_s, qlonglong{now.daily}},
+                                              {u"Weekly"_s, qlonglong{now.weekly}}});
+    });
+}
+
 QStringList Configuration::exclusions() const
 {
     return contents_.value(exclusionsKey).toStringList();
@@ -185,6 +226,51 @@ void Configuration::removeExclusions(const QStringList& paths)
     });
 }
 
+QStringList Configuration::excludedNames() const
+{
+    return contents_.value(namesKey).toStringList();
+}
+
+qlonglong Configuration::largestFile() const
+{
+    return contents_.value(largestKey).toLongLong();
+}
+
+void Configuration::addExcludedNames(const QStringList& patterns)
+{
+    change([&] {
+        QStringList all = excludedNames();
+        for (const QString& pattern : patterns) {
+            requireStorable(pattern);
+            // What else restic takes for a pattern is not what people mean by it.
+            if (pattern.contains(u'/') || pattern.contains(u'[') || pattern.contains(u'\\'))
+                throw Failure(
+                    ExitStatus::NoInput,
+                    u"\"%1\" is no name: of what restic takes for a pattern only * and ? are known."_s.arg(pattern));
+            if (!all.contains(pattern))
+                all.append(pattern);
+        }
+        setPaths(namesKey, all);
+    });
+}
+
+void Configuration::removeExcludedNames(const QStringList& patterns)
+{
+    change([&] {
+        QStringList left = excludedNames();
+        for (const QString& pattern : patterns) {
+            if (left.removeAll(pattern) == 0)
+                throw Failure(ExitStatus::NotListed, u"The name \"%1\" is not left out."_s.arg(pattern));
+        }
+        setPaths(namesKey, left);
+    });
+}
+
+void Configuration::setLargestFile(qlonglong bytes)
+{
+    change([&] { contents_.insert(largestKey, bytes); });
+}
+
 /// On the newest contents, under the lock. What throws changes nothing.
 void Configuration::change(const std::function<void()>& edit)
 {
@@ -203,10 +289,17 @@ void Configuration::setPaths(const QString& key, const QStringList& paths)
 
 void Configuration::read()
 {
-    const auto contents = readPropertyListFile(file());
-    if (!contents)
-        throw Failure(ExitStatus::Configuration, u"The configuration \"%1\" is damaged."_s.arg(file()));
-    contents_ = *contents;
+    const auto kept = readKeptPropertyList(file());
+    if (!kept.contents && ifLost_ == IfLost::Refuse)
+        throw Failure(
+            ExitStatus::Configuration,
+            u"The configuration \"%1\" is damaged, and so is the version before it. Set the backup disk again with "
+            "\"tmutil setdestination\"; the damaged file is kept."_s.arg(file()));
+    complaint_ = kept.damaged
+                     ? u"The configuration \"%1\" is damaged or gone; the version before it is used. Look whether the "
+                       "disks and folders are right; the next change puts a damaged file aside."_s.arg(file())
+                     : QString();
+    contents_ = kept.contents.value_or(QVariantMap());
     destinations_.clear();
     for (const QVariant& entry : contents_.value(destinationsKey).toList()) {
         const Destination destination = fromDictionary(entry.toMap());
@@ -221,7 +314,7 @@ void Configuration::write()
     for (const Destination& destination : destinations_)
         entries.append(toDictionary(destination));
     contents_.insert(destinationsKey, entries);
-    if (!writePropertyListFile(file(), contents_))
+    if (!writeKeptPropertyList(file(), contents_))
         throw Failure(ExitStatus::CannotWrite, u"The configuration \"%1\" cannot be written."_s.arg(file()));
 }
 

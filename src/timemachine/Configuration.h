@@ -2,6 +2,7 @@
 
 #include "Destination.h"
 #include "Folders.h"
+#include "Retention.h"
 
 #include <QStringList>
 #include <QVariantMap>
@@ -15,7 +16,13 @@ namespace quillon {
 /// contents of the file, under a lock, and is whole on disk when the operation returns. All operations throw Failure.
 class Configuration {
 public:
-    explicit Configuration(const Folders& folders);
+    /// What is done when the file is damaged and the version before it is, too.
+    enum class IfLost { Refuse, BeginAnew };
+    explicit Configuration(const Folders& folders, IfLost ifLost = IfLost::Refuse);
+
+    /// What to say of a damaged file; empty where it is not.
+    const QString& complaint() const { return complaint_; }
+    QString file() const;
 
     const std::vector<Destination>& destinations() const { return destinations_; }
 
@@ -26,6 +33,9 @@ public:
     /// this user becomes the same destination again. Gives the destination.
     Destination setDestination(const QString& path, bool append);
 
+    /// Adds a destination whose repository and key are there.
+    void takeUp(const Destination& destination);
+
     /// Its backups stay on the disk, and its key is kept: setting that folder again brings both together.
     void removeDestination(const QString& id);
 
@@ -35,8 +45,21 @@ public:
     /// A folder that no longer exists can be removed too. Without any, the home folder is backed up again.
     void removeSource(const QString& path);
 
+    /// How long backups are kept. Of those to set, a number below zero leaves a rule as it is; one hourly backup is the
+    /// least, so that the last one is always kept.
+    KeepRules keepRules() const;
+    void setKeepRules(const KeepRules& rules);
+
     /// What is left out of backups: files and folders, by their paths.
     QStringList exclusions() const;
+
+    /// Files and folders are also left out by their names, with * and ? for what varies, and files by their size in
+    /// bytes; 0 stands for any.
+    QStringList excludedNames() const;
+    qlonglong largestFile() const;
+    void addExcludedNames(const QStringList& patterns);
+    void removeExcludedNames(const QStringList& patterns);
+    void setLargestFile(qlonglong bytes);
 
     /// All of them or, where one is refused, none.
     void addExclusions(const QStringList& paths);
@@ -44,13 +67,15 @@ public:
 
 private:
     void change(const std::function<void()>& edit);
+    void put(const Destination& destination);
     void setPaths(const QString& key, const QStringList& paths);
     void read();
     void write();
-    QString file() const;
     Destination destinationAt(const QString& path) const;
 
     Folders folders_;
+    IfLost ifLost_;
+    QString complaint_;
     QVariantMap contents_; ///< the whole file, entries of other versions included
     std::vector<Destination> destinations_;
 };

@@ -1,6 +1,8 @@
 #include "Destination.h"
 
-#include <QFileInfo>
+#include "RepositoryFolder.h"
+
+#include <QDir>
 
 namespace quillon {
 
@@ -8,12 +10,22 @@ using namespace Qt::StringLiterals;
 
 QString Destination::repository() const
 {
-    return backupFolder(path) + u'/' + id;
+    return bare ? path : backupFolder(path) + u'/' + id;
 }
 
 bool Destination::isPresent() const
 {
-    return QFileInfo(repository()).isDir();
+    return RepositoryFolder::open(*this).has_value();
+}
+
+QString Destination::absence() const
+{
+    // An empty mount point, or none, stands for a disk that is not connected.
+    if (bare || QDir(path).isEmpty())
+        return u"The backup disk \"%1\" is not there."_s.arg(name);
+    return u"The disk at \"%1\" has no backups of yours: it is another one, or has been erased. To begin anew on it, "
+           u"set "
+           "it again with \"tmutil setdestination\"."_s.arg(path);
 }
 
 QString Destination::backupFolder(const QString& path)

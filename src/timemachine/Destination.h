@@ -6,9 +6,10 @@ namespace quillon {
 
 /// A backup disk: a folder, usually where a disk is mounted, that holds this user's repository.
 struct Destination {
-    QString id;   ///< random UUID in upper case
-    QString name; ///< shown to people
-    QString path; ///< absolute, without links
+    QString id;        ///< random UUID in upper case
+    QString name;      ///< shown to people
+    QString path;      ///< absolute, without links
+    bool bare = false; ///< the path is that of a repository itself, which was made by hand and taken up
 
     bool operator==(const Destination&) const = default;
 
@@ -16,8 +17,11 @@ struct Destination {
     /// that the empty mount point of an absent disk, or another disk in its place, is not taken for it.
     QString repository() const;
 
-    /// Whether the disk is there.
+    /// Whether the disk is there, and what is on it is this user's.
     bool isPresent() const;
+
+    /// A sentence on a disk that is not there, or is another one than before.
+    QString absence() const;
 
     /// The folder of a disk in which the repositories of all its users lie.
     static QString backupFolder(const QString& path);

@@ -23,10 +23,9 @@ std::vector<Destination> presentOnes(const std::vector<Destination>& destination
     std::vector<Destination> present;
     std::ranges::copy_if(destinations, std::back_inserter(present), &Destination::isPresent);
     if (present.empty())
-        throw Failure(ExitStatus::DestinationMissing,
-                      destinations.size() == 1
-                          ? u"The backup disk \"%1\" is not there."_s.arg(destinations.front().name)
-                          : u"None of the backup disks is there."_s);
+        throw Failure(ExitStatus::DestinationMissing, destinations.size() == 1
+                                                          ? destinations.front().absence()
+                                                          : u"None of the backup disks is there."_s);
     return present;
 }
 
@@ -41,7 +40,7 @@ Destination namedDestination(const std::vector<Destination>& destinations, const
     if (found == destinations.end())
         throw Failure(ExitStatus::UnknownDestination, u"No backup disk has the identifier \"%1\"."_s.arg(id));
     if (!found->isPresent())
-        throw Failure(ExitStatus::DestinationMissing, u"The backup disk \"%1\" is not there."_s.arg(found->name));
+        throw Failure(ExitStatus::DestinationMissing, found->absence());
     return *found;
 }
 

@@ -4,6 +4,8 @@
 #include "History.h"
 #include "PropertyList.h"
 
+#include <QStorageInfo>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -19,6 +21,8 @@ QByteArray destinationText(const std::vector<Destination>& destinations, const H
         if (destination.isPresent())
             text += "Mount Point   : "_L1 + destination.path + u'\n';
         text += "ID            : "_L1 + destination.id + u'\n';
+        if (!history.recoveryKeyShown(destination.id).isValid())
+            text += "Recovery Key  : not shown yet; \"tmutil recoverykey -d ID\" makes one and shows it\n"_L1;
     }
     return text.toUtf8();
 }
@@ -32,10 +36,18 @@ QByteArray destinationXml(const std::vector<Destination>& destinations, const Hi
                           {u"Kind"_s, u"Local"_s},
                           {u"Path"_s, destination.path},
                           {u"LastDestination"_s, qlonglong{destination.id == history.lastDestination() ? 1 : 0}}};
-        if (destination.isPresent())
+        if (destination.isPresent()) {
             entry.insert(u"MountPoint"_s, destination.path);
+            const QStorageInfo room(destination.path);
+            entry.insert(u"BytesFree"_s, room.bytesAvailable());
+            entry.insert(u"BytesTotal"_s, room.bytesTotal());
+        }
+        if (const QVariantMap failure = history.lastFailure(destination.id); !failure.isEmpty())
+            entry.insert(u"LastFailure"_s, failure);
         if (const QDateTime last = history.lastBackup(destination.id); last.isValid())
             entry.insert(u"LastBackup"_s, last);
+        if (!history.recoveryKeyShown(destination.id).isValid())
+            entry.insert(u"RecoveryKeyMissing"_s, qlonglong{1});
         entries.append(entry);
     }
     const auto xml = propertylist::toXml(QVariantMap{{u"Destinations"_s, entries}});

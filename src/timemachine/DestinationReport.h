@@ -11,7 +11,8 @@ namespace quillon {
 class History;
 
 /// What `destinationinfo` says, for people and, as an XML property list, for programs, which are told "Path" and, where
-/// there is one, the date "LastBackup" besides what the system tool tells. A disk that is not there is listed without
+/// there is one, the date "LastBackup" besides what the system tool tells; of a disk that is there also "BytesFree" and
+/// "BytesTotal", and of one with a failure "LastFailure". A disk that is not there is listed without
 /// its mount point. Throws Failure for names that no property list can hold.
 QByteArray destinationText(const std::vector<Destination>& destinations, const History& history);
 QByteArray destinationXml(const std::vector<Destination>& destinations, const History& history);

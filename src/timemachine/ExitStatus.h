@@ -16,6 +16,10 @@ enum class ExitStatus {
     ResticMissing = 9,      ///< restic is not installed
     NotListed = 10,         ///< what was to be removed is not among the sources or exclusions
     LeftOut = 11,           ///< a folder would be backed up and left out at once
+    Incomplete = 12,        ///< a backup was made, but it lacks a folder that held files before
+    RestoredInPart = 13,    ///< a restore gave back all that could be read, and not all that was wanted
+    Damaged = 14,           ///< a verification has found damage
+    WrongKey = 15,          ///< the key of a backup disk is missing, or what was given in its place opens nothing
     Usage = 64,             ///< EX_USAGE: the command line makes no sense
     StateDamaged = 65,      ///< EX_DATAERR: what tmutil remembers of runs cannot be read
     NoInput = 66,           ///< EX_NOINPUT: a file or folder that was named does not exist, or cannot be one

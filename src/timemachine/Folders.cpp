@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <pwd.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -36,6 +37,14 @@ Folders Folders::ofUser()
     const QString home = homeFolder();
     return {home, ownFolder("XDG_CONFIG_HOME", home + "/.config"_L1),
             ownFolder("XDG_STATE_HOME", home + "/.local/state"_L1), ownFolder("XDG_CACHE_HOME", home + "/.cache"_L1)};
+}
+
+bool hasRoom(const QString& folder)
+{
+    constexpr unsigned long long smallFiles = 64ULL * 1024;
+    struct statvfs room {};
+    return statvfs(QFile::encodeName(folder).constData(), &room) != 0 || room.f_blocks == 0 ||
+           room.f_bavail * room.f_frsize >= smallFiles;
 }
 
 void makePrivateFolder(const QString& path)

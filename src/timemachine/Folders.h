@@ -15,6 +15,9 @@ struct Folders {
     static Folders ofUser();
 };
 
+/// Whether a small file can still be written there; true where that cannot be told.
+bool hasRoom(const QString& folder);
+
 /// Makes the folder, parents included, readable by the user only. Throws Failure.
 void makePrivateFolder(const QString& path);
 

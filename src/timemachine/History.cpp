@@ -1,11 +1,13 @@
 #include "History.h"
 
+#include "Folders.h"
+#include "ProcessLock.h"
 #include "PropertyListFile.h"
+#include "RunState.h"
 
-#include <QFile>
 #include <QFileInfo>
 
-#include <cstdio>
+#include <algorithm>
 
 namespace quillon {
 
@@ -13,11 +15,13 @@ using namespace Qt::StringLiterals;
 
 History::History(const QString& stateFolder)
     : file_(stateFolder + "/history.plist"_L1)
-    , damagedFile_(stateFolder + "/history-damaged.plist"_L1)
 {
-    const auto contents = readPropertyListFile(file_);
-    readable_ = contents.has_value();
-    contents_ = contents.value_or(QVariantMap());
+    const auto kept = readKeptPropertyList(file_);
+    damaged_ = kept.damaged;
+    contents_ = kept.contents.value_or(QVariantMap());
+    // Earlier versions knew one failure for all disks.
+    if (const QVariantMap only = contents_.take(u"LastFailure"_s).toMap(); !only.isEmpty())
+        setOfDestination(only.value(u"DestinationID"_s).toString(), u"LastFailure"_s, only);
 }
 
 QString History::lastDestination() const
@@ -37,7 +41,24 @@ QDateTime History::lastBackup(const QString& destinationId) const
 
 void History::setLastBackup(const QString& destinationId, const QDateTime& date)
 {
-    setOfDestination(destinationId, u"LastBackup"_s, date.toUTC());
+    setOfDestination(destinationId, u"LastBackup"_s, date.isValid() ? QVariant(date.toUTC()) : QVariant());
+}
+
+QDateTime History::recoveryKeyShown(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"RecoveryKeyShown"_s).toDateTime();
+}
+
+void History::setRecoveryKeyShown(const QString& destinationId, const QDateTime& date)
+{
+    setOfDestination(destinationId, u"RecoveryKeyShown"_s, date.isValid() ? QVariant(date.toUTC()) : QVariant());
+}
+
+void History::noteNewRepository(const QString& destinationId)
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    setLastPrune(destinationId, now);
+    setLastVerification(destinationId, now, 0);
 }
 
 QDateTime History::lastPrune(const QString& destinationId) const
@@ -50,32 +71,88 @@ void History::setLastPrune(const QString& destinationId, const QDateTime& date)
     setOfDestination(destinationId, u"LastPrune"_s, date.toUTC());
 }
 
-QVariantMap History::lastFailure() const
+QVariantMap History::lastFailure(const std::optional<QStringList>& destinationIds) const
 {
-    if (!readable_)
+    if (damaged_)
         return LastFailure{statusDate(QFileInfo(file_).lastModified()),
                            {},
                            u"HistoryUnreadable"_s,
                            u"The history \"%1\" cannot be read."_s.arg(file_)}
             .toDictionary();
-    return contents_.value(u"LastFailure"_s).toMap();
+    QVariantMap latest;
+    const QVariantMap destinations = contents_.value(u"Destinations"_s).toMap();
+    for (const QString& id : destinations.keys()) {
+        if (destinationIds && !destinationIds->contains(id))
+            continue;
+        // The dates are written so that they sort as texts.
+        if (const QVariantMap one = lastFailure(id);
+            latest.value(u"Date"_s).toString() < one.value(u"Date"_s).toString())
+            latest = one;
+    }
+    return latest;
 }
 
-void History::setLastFailure(const std::optional<LastFailure>& failure)
+QVariantMap History::lastFailure(const QString& destinationId) const
 {
-    if (failure)
-        contents_.insert(u"LastFailure"_s, failure->toDictionary());
-    else
-        contents_.remove(u"LastFailure"_s);
+    QVariantMap failure = ofDestination(destinationId, u"LastFailure"_s).toMap();
+    const auto found = damage(destinationId);
+    if (!found)
+        return failure;
+    // It stands beside what the last backup met with: neither may hide the other.
+    LastFailure both{std::max(found->date, failure.value(u"Date"_s).toString()), destinationId, u"Damaged"_s,
+                     (found->description() + u' ' + failure.value(u"Description"_s).toString()).trimmed()};
+    both.unreadFiles = failure.value(u"UnreadFiles"_s).toLongLong();
+    failure = both.toDictionary();
+    failure.insert(u"AffectedBackups"_s, QVariantList(found->backups.begin(), found->backups.end()));
+    return failure;
+}
+
+QDateTime History::lastVerification(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"LastVerification"_s).toDateTime();
+}
+
+int History::verifiedSlice(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"VerifiedSlice"_s).toInt();
+}
+
+void History::setLastVerification(const QString& destinationId, const QDateTime& date, int slice)
+{
+    setOfDestination(destinationId, u"LastVerification"_s, date.toUTC());
+    setOfDestination(destinationId, u"VerifiedSlice"_s, qlonglong{slice});
+}
+
+std::optional<Damage> History::damage(const QString& destinationId) const
+{
+    return Damage::fromDictionary(ofDestination(destinationId, u"Damage"_s).toMap());
+}
+
+void History::setDamage(const QString& destinationId, const std::optional<Damage>& damage)
+{
+    setOfDestination(destinationId, u"Damage"_s, damage ? damage->toDictionary() : QVariant());
+}
+
+bool History::change(const QString& stateFolder, const std::function<void(History&)>& edit)
+{
+    makePrivateFolder(stateFolder);
+    ProcessLock lock(RunState::lockPath(stateFolder));
+    if (!lock.tryLock())
+        return false;
+    History history(stateFolder);
+    edit(history);
+    return history.save();
+}
+
+void History::setLastFailure(const QString& destinationId, const std::optional<LastFailure>& failure)
+{
+    setOfDestination(destinationId, u"LastFailure"_s, failure ? failure->toDictionary() : QVariant());
 }
 
 bool History::save()
 {
-    if (!readable_) {
-        std::rename(QFile::encodeName(file_).constData(), QFile::encodeName(damagedFile_).constData());
-        readable_ = true;
-    }
-    return writePropertyListFile(file_, contents_);
+    damaged_ = false;
+    return writeKeptPropertyList(file_, contents_);
 }
 
 QVariant History::ofDestination(const QString& id, const QString& key) const
@@ -87,7 +164,10 @@ void History::setOfDestination(const QString& id, const QString& key, const QVar
 {
     QVariantMap all = contents_.value(u"Destinations"_s).toMap();
     QVariantMap one = all.value(id).toMap();
-    one.insert(key, value);
+    if (value.isValid())
+        one.insert(key, value);
+    else
+        one.remove(key);
     all.insert(id, one);
     contents_.insert(u"Destinations"_s, all);
 }

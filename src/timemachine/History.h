@@ -1,24 +1,24 @@
 #pragma once
 
 #include "LastFailure.h"
+#include "Verification.h"
 
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 #include <QVariantMap>
 
+#include <functional>
 #include <optional>
 
 namespace quillon {
 
 /// What past backups have left to be remembered, in a file of the state folder. Only the process that holds the
-/// worker's lock changes it.
+/// worker's lock changes it. Where the file is damaged the version before it counts, or else nothing is remembered,
+/// which must not keep the next backup from being made: save() puts the file aside.
 class History {
 public:
     explicit History(const QString& stateFolder);
-
-    /// False when the file is damaged or cannot be read. Past runs are then forgotten, which must not keep the next
-    /// backup from being made: save() sets the file aside.
-    bool isReadable() const { return readable_; }
 
     /// The destination of the last run that was begun; empty before the first.
     QString lastDestination() const;
@@ -28,25 +28,45 @@ public:
     QDateTime lastBackup(const QString& destinationId) const;
     void setLastBackup(const QString& destinationId, const QDateTime& date);
 
+    /// When a recovery key of that disk was shown to the user, or typed in; invalid where nobody may have seen one.
+    QDateTime recoveryKeyShown(const QString& destinationId) const;
+    void setRecoveryKeyShown(const QString& destinationId, const QDateTime& date);
+
+    /// There is nothing to prune or to verify in a new repository.
+    void noteNewRepository(const QString& destinationId);
+
     QDateTime lastPrune(const QString& destinationId) const;
     void setLastPrune(const QString& destinationId, const QDateTime& date);
 
-    /// As it stands in the status: empty when the last backup was without fault; a history that is not readable is a
-    /// failure of its own.
-    QVariantMap lastFailure() const;
-    void setLastFailure(const std::optional<LastFailure>& failure);
+    QDateTime lastVerification(const QString& destinationId) const;
+    /// The slice of the data that was verified last; 0 before the first.
+    int verifiedSlice(const QString& destinationId) const;
+    void setLastVerification(const QString& destinationId, const QDateTime& date, int slice);
+
+    /// What the last verification has found.
+    std::optional<Damage> damage(const QString& destinationId) const;
+    void setDamage(const QString& destinationId, const std::optional<Damage>& damage);
+
+    /// As it stands in the status: the latest of those disks, or of all that are remembered, empty when the last backup
+    /// on each was without fault. A history that is not readable is a failure of its own.
+    QVariantMap lastFailure(const std::optional<QStringList>& destinationIds) const;
+    QVariantMap lastFailure(const QString& destinationId) const;
+    /// A success on one disk says nothing of the others.
+    void setLastFailure(const QString& destinationId, const std::optional<LastFailure>& failure);
 
     /// False when it could not be written; the old contents then stand.
     bool save();
+
+    /// A change by a process that is no worker. False when nothing was changed since a backup runs.
+    static bool change(const QString& stateFolder, const std::function<void(History&)>& edit);
 
 private:
     QVariant ofDestination(const QString& id, const QString& key) const;
     void setOfDestination(const QString& id, const QString& key, const QVariant& value);
 
     QString file_;
-    QString damagedFile_;
     QVariantMap contents_;
-    bool readable_;
+    bool damaged_;
 };
 
 } // namespace quillon

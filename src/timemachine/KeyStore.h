@@ -5,7 +5,7 @@
 namespace quillon {
 
 /// The keys of the repositories, a file each, readable by the user only: restic's password files. A key is never
-/// removed or replaced, since without it the backups are lost.
+/// removed or overwritten, since without it the backups are lost.
 class KeyStore {
 public:
     explicit KeyStore(const QString& configurationFolder);
@@ -13,8 +13,14 @@ public:
     QString path(const QString& destinationId) const;
     bool contains(const QString& destinationId) const;
 
-    /// Makes a random key of 256 bits unless there is one. Throws Failure.
+    /// A random key of 256 bits.
+    static QString makeKey();
+
+    /// Makes a key unless there is one. Throws Failure.
     void ensure(const QString& destinationId) const;
+
+    /// Keeps that key. One that is there is put aside beside it, under a longer name. Throws Failure.
+    void store(const QString& destinationId, const QString& key) const;
 
 private:
     QString folder_;

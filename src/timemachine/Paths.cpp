@@ -2,8 +2,47 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStringDecoder>
+
+#include <algorithm>
 
 namespace quillon {
+
+QString decodePath(const QByteArray& path)
+{
+    QString text;
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    for (qsizetype at = 0; at < path.size();) {
+        // A character has up to four bytes, of which the first tells how many.
+        const auto lead = static_cast<unsigned char>(path[at]);
+        const qsizetype length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        const QString character = decoder(QByteArrayView(path).sliced(at, std::min(length, path.size() - at)));
+        if (decoder.hasError() || (lead >= 0x80 && lead < 0xC0)) {
+            text += QChar(static_cast<char16_t>(0xDC00 + lead));
+            decoder.resetState();
+            ++at;
+        } else {
+            text += character;
+            at += length;
+        }
+    }
+    return text;
+}
+
+QByteArray encodePath(const QString& path)
+{
+    QByteArray bytes;
+    for (qsizetype at = 0; at < path.size(); ++at) {
+        const QChar unit = path[at];
+        const bool pair = unit.isHighSurrogate() && at + 1 < path.size() && path[at + 1].isLowSurrogate();
+        if (!pair && unit.unicode() >= 0xDC80 && unit.unicode() <= 0xDCFF)
+            bytes += static_cast<char>(unit.unicode() - 0xDC00);
+        else
+            bytes += QStringView(path).sliced(at, pair ? 2 : 1).toUtf8();
+        at += pair ? 1 : 0;
+    }
+    return bytes;
+}
 
 QString absolutePath(const QString& path)
 {
@@ -17,6 +56,16 @@ QString ownPath(const QString& path)
     if (folder.isEmpty() || file.fileName().isEmpty())
         return file.filePath();
     return QDir(folder).filePath(file.fileName());
+}
+
+QString resolvedPath(const QString& path)
+{
+    for (QString existing = path; existing.size() > 1;
+         existing.truncate(std::max<qsizetype>(existing.lastIndexOf(u'/'), 0))) {
+        if (const QString canonical = QFileInfo(existing).canonicalFilePath(); !canonical.isEmpty())
+            return canonical + path.mid(existing.size());
+    }
+    return path;
 }
 
 bool covers(const QString& folder, const QString& path)

@@ -18,6 +18,9 @@ constexpr struct flock wholeFile {
     F_WRLCK, SEEK_SET, 0, 0, 0
 };
 
+// A pipe in the place of the file must not be waited for.
+constexpr int openFlags = O_CLOEXEC | O_NONBLOCK;
+
 } // namespace
 
 ProcessLock::ProcessLock(const QString& path)
@@ -45,7 +48,7 @@ void ProcessLock::lock()
 bool ProcessLock::set(int command)
 {
     if (descriptor_ < 0)
-        descriptor_ = open(QFile::encodeName(path_).constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        descriptor_ = open(QFile::encodeName(path_).constData(), O_RDWR | O_CREAT | openFlags, S_IRUSR | S_IWUSR);
     if (descriptor_ >= 0) {
         struct flock request = wholeFile;
         if (fcntl(descriptor_, command, &request) == 0)
@@ -59,7 +62,7 @@ bool ProcessLock::set(int command)
 
 std::optional<pid_t> ProcessLock::holder(const QString& path)
 {
-    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | openFlags);
     if (descriptor < 0 && errno == ENOENT)
         return std::nullopt;
     if (descriptor < 0)

@@ -2,10 +2,12 @@
 
 #include "Failure.h"
 #include "KeyStore.h"
+#include "RepositoryFolder.h"
 #include "StopRequest.h"
 
 #include <QDir>
 #include <QEventLoop>
+#include <QJsonDocument>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
@@ -13,6 +15,7 @@
 #include <chrono>
 #include <csignal>
 #include <sys/prctl.h>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -26,14 +29,20 @@ constexpr qsizetype errorTextBound = qsizetype{64} * 1024;
 // restic answers an interrupt at once; a disk that hangs may keep it.
 constexpr auto patience = 30s;
 
+// How often it is looked whether the disk is still there. Without it, restic would try for minutes.
+constexpr auto diskInterval = 500ms;
+constexpr auto patienceWithoutDisk = 3s;
+
 QStringList searchPath()
 {
     return {u"/usr/local/bin"_s, u"/usr/bin"_s, u"/bin"_s};
 }
 
 /// Runs in the child, between fork and exec.
-void prepareChild()
+void prepareChild(int folder)
 {
+    if (fchdir(folder) != 0)
+        _exit(126);
     sigset_t none{};
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
@@ -52,35 +61,57 @@ void readOutput(QProcess& process, const Restic::LineHandler& onOutput, ResticOu
         onOutput(process.readLine());
 }
 
+/// From 0.17 on, what ends a restic that was asked for JSON is a message, too (restic, "Scripting: JSON output").
+bool keepWordsOfEnd(const QByteArray& line, ResticOutcome& outcome)
+{
+    const auto message = QJsonDocument::fromJson(line);
+    if (message["message_type"_L1].toString() != "exit_error"_L1)
+        return false;
+    outcome.errorText += message["message"_L1].toString() + u'\n';
+    return true;
+}
+
 void readMessages(QProcess& process, const Restic::LineHandler& onMessage, ResticOutcome& outcome)
 {
     process.setReadChannel(QProcess::StandardError);
     while (process.canReadLine()) {
         const QByteArray line = process.readLine();
-        if (onMessage && line.startsWith('{'))
+        if (onMessage)
             onMessage(line);
-        else if (outcome.errorText.size() < errorTextBound)
+        const bool isMessage = line.startsWith('{');
+        const bool isKept = isMessage && keepWordsOfEnd(line, outcome);
+        if (!isKept && !(isMessage && onMessage) && outcome.errorText.size() < errorTextBound)
             outcome.errorText += QString::fromUtf8(line);
     }
 }
 
-void interrupt(QProcess& process)
+void interrupt(QProcess& process, std::chrono::milliseconds limit)
 {
     if (process.state() == QProcess::NotRunning)
         return; // it has no identifier any more
     ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-    QTimer::singleShot(patience, &process, &QProcess::kill);
+    QTimer::singleShot(limit, &process, &QProcess::kill);
 }
 
 } // namespace
 
-Restic::Restic(const Destination& destination, const Folders& folders, const StopRequest* stop)
-    : executable_(executable())
-    , repository_(destination.repository())
-    , environment_({u"HOME="_s + folders.home, u"PATH="_s + searchPath().join(u':'),
-                    u"RESTIC_CACHE_DIR="_s + cacheFolder(folders), u"TMPDIR="_s + cacheFolder(folders),
-                    u"RESTIC_PASSWORD_FILE="_s + KeyStore(folders.configuration).path(destination.id),
-                    u"RESTIC_PROGRESS_FPS=3"_s})
+ResticDiagnosis ResticOutcome::diagnosis() const
+{
+    return diskGone ? ResticDiagnosis::of(ResticProblem::DiskGone)
+                    : ResticDiagnosis::of(errorText, exitStatus, workFolder);
+}
+
+Restic::Restic(const RepositoryFolder& repository, const Folders& folders, const StopRequest* stop,
+               const QString& keyFile)
+    : repository_(repository)
+    , executable_(executable())
+    , environment_(
+          {u"HOME="_s + folders.home, u"PATH="_s + searchPath().join(u':'),
+           u"RESTIC_CACHE_DIR="_s + cacheFolder(folders), u"TMPDIR="_s + cacheFolder(folders),
+           u"RESTIC_PASSWORD_FILE="_s +
+               (keyFile.isEmpty() ? KeyStore(folders.configuration).path(repository.destination().id) : keyFile),
+           u"RESTIC_PROGRESS_FPS=3"_s})
+    , workFolder_(cacheFolder(folders))
     , stop_(stop)
 {
     QDir().mkpath(cacheFolder(folders)); // its temporary files need it ahead of its cache
@@ -94,25 +125,14 @@ QString Restic::executable()
     return found;
 }
 
-QString Restic::tag()
-{
-    return u"quillon"_s;
-}
-
 ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOutput, const LineHandler& onMessage) const
-{
-    return runOn(repository_, arguments, onOutput, onMessage);
-}
-
-ResticOutcome Restic::runOn(const QString& repository, const QStringList& arguments, const LineHandler& onOutput,
-                            const LineHandler& onMessage) const
 {
     ResticOutcome outcome;
     QProcess process;
     QEventLoop loop;
     process.setEnvironment(environment_);
     process.setStandardInputFile(QProcess::nullDevice());
-    process.setChildProcessModifier(prepareChild);
+    process.setChildProcessModifier([folder = repository_.descriptor()] { prepareChild(folder); });
     QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
                      [&] { readOutput(process, onOutput, outcome); });
     QObject::connect(&process, &QProcess::readyReadStandardError, &process,
@@ -123,21 +143,49 @@ ResticOutcome Restic::runOn(const QString& repository, const QStringList& argume
             loop.quit();
     });
     if (stop_ != nullptr)
-        QObject::connect(stop_, &StopRequest::made, &process, [&process] { interrupt(process); });
+        QObject::connect(stop_, &StopRequest::made, &process, [&process] { interrupt(process, patience); });
+    QTimer diskWatch;
+    QObject::connect(&diskWatch, &QTimer::timeout, &process, [&] {
+        if (repository_.isStillThere())
+            return;
+        outcome.diskGone = true;
+        diskWatch.stop();
+        interrupt(process, patienceWithoutDisk);
+    });
+    diskWatch.start(diskInterval);
 
-    process.start(executable_, QStringList{u"--repo"_s, repository} + arguments);
+    process.start(executable_, QStringList{u"--repo"_s, u"."_s} + arguments);
     if (!process.waitForStarted()) {
-        return {.exitStatus = 127, .output = {}, .errorText = process.errorString()};
+        return {.exitStatus = 127, .output = {}, .errorText = process.errorString(), .workFolder = {}};
     }
     if (stop_ != nullptr && stop_->isMade())
-        interrupt(process);
+        interrupt(process, patience);
     if (process.state() != QProcess::NotRunning)
         loop.exec();
 
     readOutput(process, onOutput, outcome);
     readMessages(process, onMessage, outcome);
+    outcome.workFolder = workFolder_;
+    outcome.diskGone = outcome.diskGone || !repository_.isStillThere();
     outcome.exitStatus = process.exitStatus() == QProcess::CrashExit ? -process.exitCode() : process.exitCode();
     return outcome;
+}
+
+ResticOutcome Restic::runUnlocking(const QStringList& arguments, const LineHandler& onMessage) const
+{
+    const auto isStopped = [this] { return stop_ != nullptr && stop_->isMade(); };
+    auto outcome = run(arguments, {}, onMessage);
+    if (outcome.exitStatus != 0 && outcome.diagnosis().problem == ResticProblem::Locked && !isStopped() &&
+        run({u"unlock"_s}).exitStatus == 0 && !isStopped())
+        outcome = run(arguments, {}, onMessage);
+    return outcome;
+}
+
+Restic Restic::withFeature(const QString& name) const
+{
+    Restic other = *this;
+    other.environment_.append(u"RESTIC_FEATURES="_s + name);
+    return other;
 }
 
 QString Restic::literalPattern(const QString& path)
@@ -146,7 +194,9 @@ QString Restic::literalPattern(const QString& path)
     for (const QChar character : path) {
         if (u"\\*?["_s.contains(character))
             pattern += u'\\';
-        pattern += character;
+        // A byte that is no UTF-8, as decodePath() gives it, cannot be passed on; restic takes each for one character.
+        const bool isByte = character.unicode() >= 0xDC80 && character.unicode() <= 0xDCFF;
+        pattern += isByte && !(pattern.size() > 0 && pattern.back().isHighSurrogate()) ? QChar(u'?') : character;
     }
     return pattern;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Destination.h"
 #include "Folders.h"
 #include "ResticDiagnosis.h"
 
@@ -11,50 +10,56 @@
 
 namespace quillon {
 
+class RepositoryFolder;
 class StopRequest;
 
 /// How a run of restic ended.
 struct ResticOutcome {
-    int exitStatus = 0; ///< the signal's number, negative, where a signal ended it
-    QByteArray output;  ///< standard output, where no handler took it
-    QString errorText;  ///< standard error without its JSON messages, up to a bound
+    int exitStatus = 0;    ///< the signal's number, negative, where a signal ended it
+    QByteArray output;     ///< standard output, where no handler took it
+    QString errorText;     ///< standard error without its JSON messages, up to a bound
+    QString workFolder;    ///< where it had its temporary files
+    bool diskGone = false; ///< the repository's folder was no longer where it had been; restic was ended for it
 
-    ResticDiagnosis diagnosis() const { return ResticDiagnosis::of(errorText, exitStatus); }
+    ResticDiagnosis diagnosis() const;
 };
 
 /// Runs restic on one repository. It gets nothing of this program's environment, is given up on gently when a stop is
-/// requested, and does not outlive this program.
+/// requested, and does not outlive this program. It works inside the repository's folder: when the disk goes away it
+/// fails, and writes nothing to what then lies at the same path.
 class Restic {
 public:
     using LineHandler = std::function<void(const QByteArray& line)>;
 
-    /// Throws Failure where restic is not installed. `stop` may be absent; it must outlive this object.
-    Restic(const Destination& destination, const Folders& folders, const StopRequest* stop);
+    /// Throws Failure where restic is not installed. `stop` may be absent; it and the folder must outlive this object.
+    /// It is opened with the key that is kept for the destination, unless another file with one is given.
+    Restic(const RepositoryFolder& repository, const Folders& folders, const StopRequest* stop,
+           const QString& keyFile = {});
 
     /// The executable. Throws Failure where there is none.
     static QString executable();
 
-    /// The tag of all snapshots made here; others in the same repository are left alone.
-    static QString tag();
-
     /// Runs one command and waits for it in an event loop. Lines of standard output go to `onOutput` where it is given,
-    /// JSON messages on standard error to `onMessage`.
+    /// all lines of standard error to `onMessage`.
     ResticOutcome run(const QStringList& arguments, const LineHandler& onOutput = {},
                       const LineHandler& onMessage = {}) const;
 
-    /// The same on another folder than the destination's own.
-    ResticOutcome runOn(const QString& repository, const QStringList& arguments, const LineHandler& onOutput = {},
-                        const LineHandler& onMessage = {}) const;
+    /// The same; where a process that has died left its lock, that is removed and it runs once more.
+    ResticOutcome runUnlocking(const QStringList& arguments, const LineHandler& onMessage = {}) const;
 
-    /// A path as a pattern that matches it and nothing else.
+    /// The same restic with a feature that it does not have by default.
+    Restic withFeature(const QString& name) const;
+
+    /// A path as a pattern that matches it and, unless it has bytes that are no UTF-8, nothing else.
     static QString literalPattern(const QString& path);
 
     static QString cacheFolder(const Folders& folders);
 
 private:
+    const RepositoryFolder& repository_;
     QString executable_;
-    QString repository_;
     QStringList environment_;
+    QString workFolder_;
     const StopRequest* stop_;
 };
 

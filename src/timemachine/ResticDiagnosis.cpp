@@ -29,11 +29,9 @@ constexpr std::array signs{
     Sign{"operation not permitted"_L1, true, ResticProblem::NoPermission},
 };
 
-bool shows(const QStringList& lines, const Sign& sign)
+bool shows(const QString& line, const Sign& sign)
 {
-    return std::ranges::any_of(lines, [&sign](const QString& line) {
-        return sign.endsLine ? line.endsWith(sign.words) : line.contains(sign.words);
-    });
+    return sign.endsLine ? line.endsWith(sign.words) : line.contains(sign.words);
 }
 
 /// File names may hold anything, and what is not a character of XML could not be remembered.
@@ -70,6 +68,12 @@ QString sentence(ResticProblem problem)
         return u"The backup disk is full."_s;
     case ResticProblem::NoPermission:
         return u"The backup disk cannot be written to."_s;
+    case ResticProblem::NoWorkSpace:
+        return u"restic's temporary files cannot be written: the disk of the home folder is full, or its cache folder "
+               u"is not "
+               "writable."_s;
+    case ResticProblem::DiskGone:
+        return u"The backup disk was taken away."_s;
     case ResticProblem::Unknown:
         break;
     }
@@ -91,22 +95,40 @@ QString ResticDiagnosis::cause() const
         return u"NoSpace"_s;
     case ResticProblem::NoPermission:
         return u"NoPermission"_s;
+    case ResticProblem::NoWorkSpace:
+        return u"NoWorkSpace"_s;
+    case ResticProblem::DiskGone:
+        return u"DestinationMissing"_s;
     case ResticProblem::Unknown:
         break;
     }
     return u"Unknown"_s;
 }
 
-ResticDiagnosis ResticDiagnosis::of(const QString& errorText, int exitStatus)
+ResticDiagnosis ResticDiagnosis::of(ResticProblem problem)
 {
+    return {problem, sentence(problem)};
+}
+
+ResticDiagnosis ResticDiagnosis::of(const QString& errorText, int exitStatus, const QString& workFolder)
+{
+    static constexpr std::array statuses{std::pair{10, ResticProblem::NoRepository},
+                                         std::pair{11, ResticProblem::Locked}, std::pair{12, ResticProblem::WrongKey}};
+    for (const auto& [status, problem] : statuses) {
+        if (exitStatus == status)
+            return of(problem);
+    }
     QStringList lines;
     for (const QString& line : errorText.split(u'\n')) {
         if (const QString trimmed = line.trimmed(); !trimmed.isEmpty())
             lines.append(trimmed);
     }
     for (const Sign& sign : signs) {
-        if (shows(lines, sign))
-            return {sign.problem, sentence(sign.problem)};
+        if (const auto line = std::ranges::find_if(lines, [&](const QString& one) { return shows(one, sign); });
+            line != lines.end()) {
+            const bool ownFiles = sign.endsLine && !workFolder.isEmpty() && line->contains(workFolder);
+            return of(ownFiles ? ResticProblem::NoWorkSpace : sign.problem);
+        }
     }
     return {ResticProblem::Unknown, ownWords(lines, exitStatus)};
 }

@@ -4,14 +4,16 @@
 
 namespace quillon {
 
-/// What restic 0.14 can mean by failing. Its exit statuses do not tell, so its words on standard error are read; they
-/// are known nowhere else.
+/// What restic can mean by failing. The exit statuses of 0.14 do not tell, so its words on standard error are read;
+/// those of 0.17 and later do in part (restic, "Scripting: Exit codes"). Both are known nowhere else.
 enum class ResticProblem {
     Locked,       ///< another process, or one that died, holds the repository
     NoRepository, ///< there is no repository, or a part of it is gone
     WrongKey,     ///< the key does not open it
     NoSpace,
     NoPermission,
+    NoWorkSpace, ///< its own temporary files and its cache, on this computer, cannot be written
+    DiskGone,    ///< not from restic's words: the disk was taken away while it worked
     Unknown,
 };
 
@@ -22,8 +24,12 @@ struct ResticDiagnosis {
     /// A word for programs, such as "NoSpace".
     QString cause() const;
 
-    /// Reads the standard error of a restic that failed with that exit status.
-    static ResticDiagnosis of(const QString& errorText, int exitStatus);
+    /// The description that goes with the problem.
+    static ResticDiagnosis of(ResticProblem problem);
+
+    /// Reads the standard error of a restic that failed with that exit status and had that folder for its temporary
+    /// files and its cache. The repository's own files have relative paths.
+    static ResticDiagnosis of(const QString& errorText, int exitStatus, const QString& workFolder = {});
 };
 
 } // namespace quillon

@@ -1,22 +1,24 @@
 #include "Restore.h"
 
 #include "Failure.h"
+#include "FolderTree.h"
 #include "Paths.h"
+#include "RepositoryFolder.h"
 #include "Restic.h"
+#include "RestoreErrors.h"
 #include "Snapshot.h"
 #include "StopRequest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
+#include <QUuid>
 
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <filesystem>
+#include <sys/file.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace quillon {
@@ -27,7 +29,7 @@ namespace {
 
 /// What is to be restored from where.
 struct Wanted {
-    Destination destination;
+    RepositoryFolder repository;
     Snapshot snapshot;
     QString path; ///< absolute; empty for everything
 };
@@ -36,16 +38,17 @@ Wanted find(const QString& source, const std::vector<Destination>& destinations,
 {
     const QString clean = QDir::cleanPath(source);
     for (const Destination& destination : destinations) {
-        if (!covers(destination.path, clean) || !destination.isPresent())
+        auto repository = covers(destination.path, clean) ? RepositoryFolder::open(destination) : std::nullopt;
+        if (!repository)
             continue;
-        const auto snapshots = snapshotsOn(destination, Restic(destination, folders, nullptr));
+        const auto snapshots = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
         const auto named = [&clean](const Snapshot& snapshot) { return covers(snapshot.name(), clean); };
         const auto found = std::ranges::find_if(snapshots, named);
         if (found == snapshots.end())
             continue;
         if (std::ranges::count_if(snapshots, named) > 1)
             throw Failure(ExitStatus::NoBackup, u"\"%1\" names more than one backup."_s.arg(found->name()));
-        return {destination, *found, clean.mid(found->name().size())};
+        return {std::move(*repository), *found, clean.mid(found->name().size())};
     }
     throw Failure(ExitStatus::NoBackup, u"\"%1\" is not in any backup. See \"tmutil listbackups\"."_s.arg(source));
 }
@@ -60,15 +63,16 @@ QString freeTarget(const QString& target)
     return file.filePath();
 }
 
-/// Moves without overwriting. A folder that its owner may not write, which cannot be moved, is made writable for it.
-void move(const QString& from, const QString& to)
+/// Moves without overwriting; false where there is nothing to be moved. A folder that its owner may not write, which
+/// cannot be moved, is made writable for it.
+bool move(const QString& from, const QString& to)
 {
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray target = QFile::encodeName(to);
+    const QByteArray source = encodePath(from);
+    const QByteArray target = encodePath(to);
     struct stat state {};
     if (lstat(source.constData(), &state) != 0)
-        throw Failure(ExitStatus::NoBackup, u"The backup has nothing at that path."_s);
-    const QByteArray parent = QFile::encodeName(QFileInfo(from).path());
+        return false;
+    const QByteArray parent = source.left(source.lastIndexOf('/'));
     const bool readOnlyFolder = S_ISDIR(state.st_mode) && (state.st_mode & S_IWUSR) == 0;
     chmod(parent.constData(), S_IRWXU);
     if (readOnlyFolder)
@@ -81,37 +85,114 @@ void move(const QString& from, const QString& to)
         chmod((moved ? target : source).constData(), state.st_mode & ALLPERMS);
     if (!moved)
         throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be made: %2."_s.arg(to, qt_error_string(error)));
+    return true;
 }
 
-/// Where restic restores to: beside the target, so that moving it there is one step.
+/// Where restic restores to: beside the target, so that moving it there is one step. The folder is locked as long as
+/// somebody works in it, which tells what a killed restore has left behind.
 class WorkFolder {
 public:
     explicit WorkFolder(const QString& target)
-        : folder_(QFileInfo(target).path() + "/.tmutil-restore-XXXXXX"_L1)
+        : parent_(open(encodePath(QFileInfo(target).path()).constData(), linkFlags))
+        , name_(".tmutil-restore-" + QUuid::createUuid().toByteArray(QUuid::Id128))
+        , parentPath_(QFileInfo(target).path())
     {
-        if (!folder_.isValid())
-            throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be made: %2."_s.arg(target, folder_.errorString()));
+        removeAbandoned();
+        if (mkdirat(parent_, name_.constData(), S_IRWXU) == 0)
+            folder_ = openat(parent_, name_.constData(), flags);
+        if (folder_ < 0 || flock(folder_, LOCK_EX | LOCK_NB) != 0) {
+            const QString reason = qt_error_string(errno);
+            close(parent_);
+            throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot be made: %2."_s.arg(target, reason));
+        }
     }
     WorkFolder(const WorkFolder&) = delete;
     WorkFolder& operator=(const WorkFolder&) = delete;
-
-    /// Folders that came back read-only, or half of what was wanted, don't stay behind.
     ~WorkFolder()
     {
-        namespace fs = std::filesystem;
-        std::error_code error;
-        fs::recursive_directory_iterator entry(QFile::encodeName(folder_.path()).constData(), error);
-        for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error)) {
-            if (entry->symlink_status(error).type() == fs::file_type::directory)
-                fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, error);
+        removeFolderTree(parent_, name_.constData());
+        close(folder_);
+        close(parent_);
+    }
+
+    QString path() const { return parentPath_ + u'/' + QString::fromLatin1(name_); }
+
+private:
+    static constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    static constexpr int linkFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC; // the way to the target is the user's own
+
+    void removeAbandoned() const
+    {
+        for (const QString& name : QDir(parentPath_).entryList({u".tmutil-restore-*"_s}, QDir::Dirs | QDir::Hidden)) {
+            const int folder = openat(parent_, QFile::encodeName(name).constData(), flags);
+            struct stat state {};
+            if (folder >= 0 && fstat(folder, &state) == 0 && state.st_uid == geteuid() &&
+                flock(folder, LOCK_EX | LOCK_NB) == 0)
+                removeFolderTree(parent_, QFile::encodeName(name).constData());
+            if (folder >= 0)
+                close(folder);
         }
     }
 
-    QString path() const { return folder_.path(); }
-
-private:
-    QTemporaryDir folder_;
+    int parent_;
+    QByteArray name_;
+    QString parentPath_;
+    int folder_ = -1;
 };
+
+mode_t modeOf(const QByteArray& path)
+{
+    struct stat state {};
+    return lstat(path.constData(), &state) == 0 ? state.st_mode : 0;
+}
+
+/// Renames within its folder, which may be one that its owner may not write.
+bool addSuffix(const QString& file, const QString& suffix)
+{
+    const QByteArray from = encodePath(file);
+    const QByteArray folder = from.left(from.lastIndexOf('/'));
+    const mode_t mode = modeOf(folder) & ALLPERMS;
+    chmod(folder.constData(), mode | S_IRWXU);
+    const bool renamed = std::rename(from.constData(), encodePath(file + suffix).constData()) == 0;
+    chmod(folder.constData(), mode);
+    return renamed;
+}
+
+/// What came back of a file that is damaged must not be taken for the file. Gives those that still may be.
+QStringList markDamaged(const QString& tree, QStringList paths)
+{
+    paths.removeIf([&tree](const QString& path) {
+        const QString file = tree + path;
+        QString suffix = u".incomplete"_s;
+        while (modeOf(encodePath(file + suffix)) != 0)
+            suffix += u'~';
+        return !S_ISREG(modeOf(encodePath(file))) || addSuffix(file, suffix);
+    });
+    return paths;
+}
+
+QString partsLost(const RestoreErrors& errors, const QStringList& unmarked)
+{
+    QStringList sentences;
+    if (const QStringList damaged = errors.damaged(); !damaged.isEmpty())
+        sentences.append(u"All but what is damaged in the backup was restored. Missing or, by the name of "
+                         "FILE.incomplete, with holes: %1"_s.arg(damaged.join(u", "_s)));
+    if (!unmarked.isEmpty())
+        sentences.append(u"By their own names, with holes: %1"_s.arg(unmarked.join(u", "_s)));
+    if (errors.lackAttributes())
+        sentences.append(u"Some files lack their owner, their rights or other attributes; their contents are whole."_s);
+    return sentences.join(u' ');
+}
+
+QStringList argumentsFor(const Wanted& wanted, const QString& path, const QString& tree)
+{
+    QStringList arguments{u"restore"_s, wanted.snapshot.id, u"--target"_s, tree};
+    if (!path.isEmpty())
+        arguments << u"--include"_s << Restic::literalPattern(path);
+    if (!wanted.repository.isWritable())
+        arguments << u"--no-lock"_s; // a disk that is mounted read-only
+    return arguments;
+}
 
 } // namespace
 
@@ -122,18 +203,36 @@ void restore(const QString& source, const QString& target, const std::vector<Des
     const Wanted wanted = find(source, destinations, folders);
     const StopRequest stop; // while there is a folder to be cleared away
     const WorkFolder work(free);
-    const QString tree = work.path() + "/tree"_L1;
-    QStringList arguments{u"restore"_s, wanted.snapshot.id, u"--target"_s, tree};
-    if (!wanted.path.isEmpty())
-        arguments << u"--include"_s << Restic::literalPattern(wanted.path);
-    if (!QFileInfo(wanted.destination.repository() + "/locks"_L1).isWritable())
-        arguments << u"--no-lock"_s; // a disk that is mounted read-only
-    const auto outcome = Restic(wanted.destination, folders, &stop).run(arguments);
-    if (stop.isMade())
-        throw Failure(ExitStatus::Stopped, u"The restore was stopped; nothing was restored."_s);
-    if (outcome.exitStatus != 0)
-        throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
-    move(tree + wanted.path, free);
+    // A backup knows its files by paths without links; people know them by others.
+    QStringList paths{wanted.path, resolvedPath(wanted.path)};
+    paths.removeDuplicates();
+    for (const QString& path : paths) {
+        const QString tree = work.path() + "/tree"_L1 + QString::number(paths.indexOf(path));
+        QByteArrayList lines;
+        const auto outcome =
+            Restic(wanted.repository, folders, &stop)
+                .runUnlocking(argumentsFor(wanted, path, tree), [&](const QByteArray& line) { lines.append(line); });
+        if (stop.isMade())
+            throw Failure(ExitStatus::Stopped, u"The restore was stopped; nothing was restored."_s);
+        RestoreErrors errors([&](const QString& one) { return one == path || modeOf(encodePath(tree + one)) != 0; });
+        for (const QByteArray& line : lines)
+            errors.readLine(QString::fromUtf8(line));
+        const QStringList damaged = errors.damaged();
+        if (!errors.targetProblem().isEmpty())
+            throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot take all that is to be restored: %2. Nothing was "
+                                                   "restored."_s.arg(target, errors.targetProblem()));
+        if (outcome.exitStatus < 0 || (outcome.exitStatus != 0 && damaged.isEmpty() && !errors.lackAttributes()))
+            throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
+        if (damaged.contains(path))
+            throw Failure(ExitStatus::Failed, u"\"%1\" is damaged in the backup."_s.arg(path));
+        const QStringList unmarked = markDamaged(tree, damaged);
+        if (!move(tree + path, free))
+            continue;
+        if (const QString lost = partsLost(errors, unmarked); !lost.isEmpty())
+            throw Failure(ExitStatus::RestoredInPart, lost);
+        return;
+    }
+    throw Failure(ExitStatus::NoBackup, u"The backup has nothing at that path."_s);
 }
 
 } // namespace quillon

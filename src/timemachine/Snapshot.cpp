@@ -1,9 +1,9 @@
 #include "Snapshot.h"
 
 #include "Failure.h"
+#include "RepositoryFolder.h"
 #include "Restic.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,30 +14,54 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+QString Snapshot::tag(bool complete)
+{
+    return complete ? u"quillon"_s : u"quillon-incomplete"_s;
+}
+
 QString Snapshot::name() const
 {
     return (mountPoint.endsWith(u'/') ? mountPoint : mountPoint + u'/') + host + u'/' +
-           time.toLocalTime().toString(u"yyyy-MM-dd-HHmmss"_s);
+           time.toLocalTime().toString(u"yyyy-MM-dd-HHmmss"_s) + (complete ? QString() : u".incomplete"_s);
 }
 
-std::vector<Snapshot> snapshotsOn(const Destination& destination, const Restic& restic)
+std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Restic& restic)
 {
-    if (!QFile::exists(destination.repository() + "/config"_L1))
+    if (!repository.hasConfig() && repository.isEmpty())
         return {};
     // Reading the list needs no lock, so it works during a prune and on a disk that cannot be written.
-    const auto outcome = restic.run({u"snapshots"_s, u"--json"_s, u"--no-lock"_s, u"--tag"_s, Restic::tag()});
+    const auto outcome = restic.run({u"snapshots"_s, u"--json"_s, u"--no-lock"_s});
     const auto list = QJsonDocument::fromJson(outcome.output);
     if (outcome.exitStatus != 0 || !list.isArray())
         throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
 
     std::vector<Snapshot> snapshots;
     for (const QJsonValue entry : list.array()) {
-        snapshots.push_back({entry["id"_L1].toString(),
-                             QDateTime::fromString(entry["time"_L1].toString(), Qt::ISODateWithMs),
-                             entry["hostname"_L1].toString(), destination.path});
+        const QJsonArray tags = entry["tags"_L1].toArray();
+        const bool own = tags.contains(Snapshot::tag(true)) || tags.contains(Snapshot::tag(false));
+        if (!own && !repository.destination().bare)
+            continue;
+        Snapshot snapshot{.id = entry["id"_L1].toString(),
+                          .time = QDateTime::fromString(entry["time"_L1].toString(), Qt::ISODateWithMs),
+                          .host = entry["hostname"_L1].toString(),
+                          .mountPoint = repository.destination().path,
+                          .sources = entry["paths"_L1].toVariant().toStringList(),
+                          .own = own,
+                          .complete = !tags.contains(Snapshot::tag(false))};
+        snapshots.push_back(std::move(snapshot));
     }
     std::ranges::stable_sort(snapshots, {}, &Snapshot::time);
     return snapshots;
+}
+
+const Snapshot* latestOf(const std::vector<Snapshot>& snapshots, const QDateTime& now)
+{
+    const Snapshot* latest = nullptr;
+    for (const Snapshot& snapshot : snapshots) {
+        if (snapshot.complete && snapshot.time <= now && (latest == nullptr || latest->time <= snapshot.time))
+            latest = &snapshot;
+    }
+    return latest != nullptr || snapshots.empty() ? latest : &snapshots.back();
 }
 
 } // namespace quillon

@@ -1,28 +1,38 @@
 #pragma once
 
-#include "Destination.h"
-
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
 namespace quillon {
 
+class RepositoryFolder;
 class Restic;
 
 /// One backup.
 struct Snapshot {
     QString id;
-    QDateTime time;
+    QDateTime time; ///< with the offset of the zone in which it was made
     QString host;
     QString mountPoint;
+    QStringList sources;  ///< the folders that it was made of
+    bool own = true;      ///< made here; others are listed in a repository that was taken up, and never thinned
+    bool complete = true; ///< false where it lacks a source that held files before
 
-    /// How people name it: "/media/disk/HOST/2026-11-21-072258", in local time.
+    /// Snapshots made here bear one of two tags.
+    static QString tag(bool complete);
+
+    /// How people name it: "/media/disk/HOST/2026-11-21-072258", in local time; an incomplete one says so at its end.
     QString name() const;
 };
 
-/// The backups of this program on one disk, oldest first. Throws Failure.
-std::vector<Snapshot> snapshotsOn(const Destination& destination, const Restic& restic);
+/// The backups of this program in one repository, and all of them in one that was made by hand, oldest first. Throws
+/// Failure.
+std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Restic& restic);
+
+/// The latest complete one that is not dated later than now; else the last of all. Nothing where there is none.
+const Snapshot* latestOf(const std::vector<Snapshot>& snapshots, const QDateTime& now);
 
 } // namespace quillon

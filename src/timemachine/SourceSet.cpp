@@ -4,9 +4,12 @@
 #include "Paths.h"
 #include "Restic.h"
 
+#include <QDirIterator>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <fnmatch.h>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -17,6 +20,14 @@ namespace {
 bool coveredByAny(const QStringList& folders, const QString& path)
 {
     return std::ranges::any_of(folders, [&path](const QString& folder) { return covers(folder, path); });
+}
+
+/// restic looks for the tag beside each item: in a source it would leave nothing of it but the tag, and beside a source
+/// not even that. Naming a folder is how the user says that it is to be backed up.
+bool isTaggedAsCache(const QString& source)
+{
+    constexpr auto tag = "/CACHEDIR.TAG"_L1;
+    return QFileInfo::exists(source + tag) || QFileInfo::exists(QFileInfo(source).path() + tag);
 }
 
 /// A backup disk that lies in a source is left out whole, unless a source lies in it in turn: then only the backups.
@@ -30,10 +41,12 @@ QString excludedFolder(const Destination& destination, const QStringList& source
 
 } // namespace
 
-SourceSet SourceSet::of(const Configuration& configuration, const Folders& folders)
+SourceSet SourceSet::of(const Configuration& configuration, const Folders& folders, const MountTable& mounts)
 {
     SourceSet set;
     set.excluded = configuration.exclusions();
+    set.excludedNames = configuration.excludedNames();
+    set.largestFile = configuration.largestFile();
     for (const QString& source : configuration.sources()) {
         const QString canonical = QFileInfo(source).canonicalFilePath();
         if (canonical.isEmpty())
@@ -46,13 +59,74 @@ SourceSet SourceSet::of(const Configuration& configuration, const Folders& folde
     set.folders.removeDuplicates();
 
     for (const Destination& destination : configuration.destinations())
-        set.excluded.append(excludedFolder(destination, set.folders));
+        set.leaveOut(excludedFolder(destination, set.folders), u"a backup disk"_s);
     for (const QString& own : {folders.cache, folders.state}) {
         const QString canonical = QFileInfo(own).canonicalFilePath();
-        set.excluded.append(canonical.isEmpty() ? own : canonical);
+        set.leaveOut(canonical.isEmpty() ? own : canonical, u"tmutil's own files"_s);
     }
-    set.excluded.removeDuplicates();
+    set.leaveOutUnlessSource(resolvedPath(QFileInfo(folders.cache).path()), u"caches"_s);
+    set.leaveOutUnlessSource(resolvedPath(folders.home) + "/.local/share/Trash"_L1, u"the wastebasket"_s);
+    for (const QString& source : set.folders) {
+        set.leaveOutUnlessSource(source + "/.Trash-"_L1 + QString::number(getuid()), u"the wastebasket"_s);
+        for (const QString& point : mounts.foreignMountPointsIn(source))
+            set.leaveOutUnlessSource(point, u"another file system"_s);
+    }
     return set;
+}
+
+void SourceSet::leaveOut(const QString& path, const QString& reason)
+{
+    if (excluded.contains(path))
+        return;
+    excluded.append(path);
+    automatic.emplace_back(path, reason);
+}
+
+/// Naming a folder is how the user says that it is to be backed up.
+void SourceSet::leaveOutUnlessSource(const QString& path, const QString& reason)
+{
+    if (std::ranges::none_of(folders, [&path](const QString& source) { return covers(path, source); }))
+        leaveOut(path, reason);
+}
+
+QStringList SourceSet::withoutFiles() const
+{
+    QStringList without;
+    std::ranges::copy_if(folders, std::back_inserter(without), [](const QString& folder) {
+        return !QDirIterator(folder, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDirIterator::Subdirectories)
+                    .hasNext();
+    });
+    return without;
+}
+
+SourceSet::Omission SourceSet::omittedBy(const QStringList& names, qlonglong largest) const
+{
+    Omission omission;
+    const auto matches = [](const QStringList& patterns, const QString& part) {
+        return std::ranges::any_of(patterns, [&part](const QString& pattern) {
+            return fnmatch(pattern.toUtf8().constData(), part.toUtf8().constData(), 0) == 0;
+        });
+    };
+    const auto isNamed = [&](const QStringList& patterns, const QString& path) {
+        const QStringList parts = path.split(u'/', Qt::SkipEmptyParts);
+        return std::ranges::any_of(parts, [&](const QString& part) { return matches(patterns, part); });
+    };
+    for (const QString& folder : folders) {
+        for (QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks,
+                                QDirIterator::Subdirectories);
+             files.hasNext();) {
+            const QFileInfo file = files.nextFileInfo();
+            const QString path = file.filePath();
+            if (coveredByAny(excluded, path) || isNamed(excludedNames, path) ||
+                (largestFile > 0 && file.size() > largestFile))
+                continue;
+            if (isNamed(names, path) || (largest > 0 && file.size() > largest)) {
+                ++omission.files;
+                omission.bytes += file.size();
+            }
+        }
+    }
+    return omission;
 }
 
 bool SourceSet::contains(const QString& path) const
@@ -63,8 +137,14 @@ bool SourceSet::contains(const QString& path) const
 QStringList SourceSet::arguments() const
 {
     QStringList arguments;
+    if (std::ranges::none_of(folders, isTaggedAsCache))
+        arguments << u"--exclude-caches"_s;
     for (const QString& path : excluded)
         arguments << u"--exclude"_s << Restic::literalPattern(path);
+    for (const QString& name : excludedNames)
+        arguments << u"--exclude"_s << name;
+    if (largestFile > 0)
+        arguments << u"--exclude-larger-than"_s << QString::number(largestFile);
     return arguments << u"--"_s << folders;
 }
 

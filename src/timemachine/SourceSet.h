@@ -1,8 +1,12 @@
 #pragma once
 
 #include "Folders.h"
+#include "MountTable.h"
 
 #include <QStringList>
+
+#include <utility>
+#include <vector>
 
 namespace quillon {
 
@@ -10,19 +14,42 @@ class Configuration;
 
 /// What a backup reads and what it leaves out.
 struct SourceSet {
-    QStringList folders; ///< those that are there, free of links: restic would store a link itself
-    QStringList missing; ///< those that are not
-    QStringList leftOut; ///< those that an exclusion leaves nothing of
-    QStringList excluded;
+    QStringList folders;  ///< those that are there, free of links: restic would store a link itself
+    QStringList missing;  ///< those that are not
+    QStringList leftOut;  ///< those that an exclusion leaves nothing of
+    QStringList excluded; ///< by the user or not
 
-    /// Backup disks, restic's cache and the state folder are always left out, besides what the user excludes.
-    static SourceSet of(const Configuration& configuration, const Folders& folders);
+    QStringList excludedNames;
+    qlonglong largestFile = 0; ///< bytes; 0 for any
+
+    /// Of those the ones that no user has named, each with the reason.
+    std::vector<std::pair<QString, QString>> automatic;
+
+    /// Backup disks, restic's cache and the state folder are always left out, besides what the user excludes; the
+    /// user's cache folder, the wastebaskets and other file systems are, unless a source lies in them.
+    static SourceSet of(const Configuration& configuration, const Folders& folders,
+                        const MountTable& mounts = MountTable::current());
+
+    /// Of the folders those in which no file is found, be it that they cannot be read.
+    QStringList withoutFiles() const;
+
+    /// What those names and that size, which stand for themselves, leave out of what would be read.
+    struct Omission {
+        qlonglong files = 0;
+        qlonglong bytes = 0;
+    };
+    Omission omittedBy(const QStringList& names, qlonglong largest) const;
 
     /// Whether a backup reads that path, if there is something.
     bool contains(const QString& path) const;
 
-    /// The arguments of `restic backup` that say so.
+    /// The arguments of `restic backup` that say so. Folders that are tagged as caches are left out, too, unless a
+    /// source is one.
     QStringList arguments() const;
+
+private:
+    void leaveOut(const QString& path, const QString& reason);
+    void leaveOutUnlessSource(const QString& path, const QString& reason);
 };
 
 } // namespace quillon

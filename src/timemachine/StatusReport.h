@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Folders.h"
 #include "RunState.h"
 
 #include <QByteArray>
@@ -13,7 +14,7 @@ namespace quillon {
 class StatusReport {
 public:
     /// Throws Failure where it cannot be told whether a backup runs.
-    explicit StatusReport(const QString& stateFolder);
+    explicit StatusReport(const Folders& folders);
 
     /// A heading line and an old-style property list. Progress is there while copying only; the cause of the last
     /// failure stands under "LastFailure" until a backup has succeeded. Throws Failure.
@@ -25,7 +26,9 @@ public:
 private:
     QVariantMap dictionary() const;
 
-    QString stateFolder_;
+    QVariantMap failure() const;
+
+    Folders folders_;
     std::optional<RunState> run_;
 };
 

@@ -5,6 +5,8 @@
 #include "Failure.h"
 #include "History.h"
 #include "ReportMarks.h"
+#include "UtilityPriority.h"
+#include "Verification.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -14,8 +16,6 @@
 
 #include <chrono>
 #include <functional>
-#include <linux/ioprio.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -35,14 +35,6 @@ constexpr auto lockWait = 5s;
 
 // Nobody looks more often than five times a second.
 constexpr auto progressInterval = 200ms;
-
-/// Best effort, but last in line: in the idle class the disk's other users could keep even `status` from an answer.
-void lowerPriority()
-{
-    constexpr int leastOfBestEffort = 7;
-    syscall(SYS_ioprio_set, IOPRIO_WHO_PROCESS, 0, IOPRIO_PRIO_VALUE(IOPRIO_CLASS_BE, leastOfBestEffort));
-    [[maybe_unused]] const int niceness = nice(10);
-}
 
 /// Lets events pass until the condition holds; it is asked every 50 ms.
 void waitUntil(const std::function<bool()>& condition)
@@ -66,12 +58,29 @@ void removeUnfinishedFiles(const QString& stateFolder)
         folder.remove(name);
 }
 
+QString wordFor(BackupResult::End end)
+{
+    switch (end) {
+    case BackupResult::End::Completed:
+        return u"Completed"_s;
+    case BackupResult::End::Incomplete:
+        return u"Incomplete"_s;
+    case BackupResult::End::Stopped:
+        return u"Stopped"_s;
+    case BackupResult::End::Failed:
+        break;
+    }
+    return u"Failed"_s;
+}
+
 Failure endOf(const BackupResult& result)
 {
     const QString description = result.failure ? result.failure->description : QString();
     switch (result.end) {
     case BackupResult::End::Completed:
         return {ExitStatus::Success, description};
+    case BackupResult::End::Incomplete:
+        return {ExitStatus::Incomplete, description};
     case BackupResult::End::Stopped:
         return {ExitStatus::Stopped, u"The backup was stopped."_s};
     case BackupResult::End::Failed:
@@ -90,19 +99,18 @@ Worker::Worker(const Folders& folders)
 
 void Worker::run(const QString& destinationId)
 {
-    lowerPriority();
+    lowerToUtilityPriority();
     const Destination destination = namedDestination(configuration_.destinations(), destinationId);
     begin(destination);
     const CallerChannel caller;
     caller.tellReady();
+    Verification::stopRunning(folders_.state); // it reads on when the backup has ended
 
     History history(folders_.state);
     history.setLastDestination(destination.id);
     history.save();
     connectStop();
-    Backup backup(destination, configuration_, folders_, history, stop_,
-                  [this](QLatin1StringView phase, const auto& progress) { show(phase, progress); });
-    const BackupResult result = backup.run();
+    const BackupResult result = backUp(destination, history);
     record(result, history);
     waitUntilSeen(result);
 
@@ -110,6 +118,26 @@ void Worker::run(const QString& destinationId)
     lock_.reset();
     const Failure end = endOf(result);
     caller.tellEnd(end.status(), end.message());
+    if (result.end == BackupResult::End::Completed && !stop_.isMade())
+        verifyIfDue(destination);
+}
+
+/// The disk is let go of when it is done.
+BackupResult Worker::backUp(const Destination& destination, History& history)
+{
+    const QString begun = statusDate(QDateTime::currentDateTimeUtc());
+    Backup backup(destination, configuration_, folders_, history, stop_,
+                  [this](QLatin1StringView phase, const auto& progress) { show(phase, progress); });
+    const BackupResult result = backup.run();
+    RunLog log = backup.log();
+    log.begun = begun;
+    log.ended = statusDate(QDateTime::currentDateTimeUtc());
+    log.destinationId = destination.id;
+    log.disk = destination.name;
+    log.result = wordFor(result.end);
+    log.description = result.failure ? result.failure->description : QString();
+    log.write(folders_.state);
+    return result;
 }
 
 void Worker::begin(const Destination& destination)
@@ -129,7 +157,7 @@ void Worker::begin(const Destination& destination)
     removeUnfinishedFiles(folders_.state);
     if (abandoned) {
         History history(folders_.state);
-        history.setLastFailure(abandoned->interruption());
+        history.setLastFailure(abandoned->destinationId, abandoned->interruption());
         history.save();
     }
     ReportMarks(folders_.state).clear();
@@ -142,7 +170,11 @@ void Worker::begin(const Destination& destination)
               .stopping = false,
               .progress = {}};
     if (!show(phase::starting))
-        throw Failure(ExitStatus::CannotWrite, u"The folder \"%1\" cannot be written to."_s.arg(folders_.state));
+        throw Failure(ExitStatus::CannotWrite,
+                      hasRoom(folders_.state)
+                          ? u"The folder \"%1\" cannot be written to."_s.arg(folders_.state)
+                          : u"The disk that holds \"%1\" is full; no backup can be made until there is room."_s.arg(
+                                folders_.state));
 }
 
 void Worker::connectStop()
@@ -171,8 +203,21 @@ bool Worker::show(QLatin1StringView phase, const std::optional<BackupProgress>& 
 void Worker::record(const BackupResult& result, History& history) const
 {
     if (result.end != BackupResult::End::Stopped)
-        history.setLastFailure(result.failure);
+        history.setLastFailure(state_.destinationId, result.failure);
     history.save();
+}
+
+/// By now nobody takes this process for a backup any more, and the next one ends it.
+void Worker::verifyIfDue(const Destination& destination) const
+{
+    if (!Verification::isDue(History(folders_.state), destination.id))
+        return;
+    const auto repository = RepositoryFolder::open(destination);
+    try {
+        if (repository)
+            Verification::runAndRemember(*repository, folders_, stop_, false);
+    } catch (const Failure&) { // it is due again after the next backup
+    }
 }
 
 void Worker::waitUntilSeen(const BackupResult& result)

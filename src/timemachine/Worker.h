@@ -25,10 +25,12 @@ public:
 
 private:
     void begin(const Destination& destination);
+    BackupResult backUp(const Destination& destination, History& history);
     void connectStop();
     bool show(QLatin1StringView phase, const std::optional<BackupProgress>& progress = {});
     void record(const BackupResult& result, History& history) const;
     void waitUntilSeen(const BackupResult& result);
+    void verifyIfDue(const Destination& destination) const;
 
     Folders folders_;
     Configuration configuration_;

@@ -3,6 +3,7 @@
 #include "CallerChannel.h"
 #include "Failure.h"
 #include "RunState.h"
+#include "Verification.h"
 
 #include <QDeadlineTimer>
 #include <QThread>
@@ -132,6 +133,8 @@ void stopWorker(const QString& stateFolder)
 {
     constexpr auto patience = 10s;
     const auto run = RunState::current(stateFolder);
+    if (!run)
+        Verification::stopRunning(stateFolder);
     if (!run || run->isFinishing())
         return;
     kill(run->worker, SIGTERM);

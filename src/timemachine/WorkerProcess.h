@@ -10,7 +10,7 @@ namespace quillon {
 QString startWorker(const QString& destinationId, bool block);
 
 /// Asks the running worker to end and returns once its state tells so. Does nothing where no backup runs or where it is
-/// complete but for the good-bye.
+/// complete but for the good-bye. A verification is ended, too.
 void stopWorker(const QString& stateFolder);
 
 } // namespace quillon

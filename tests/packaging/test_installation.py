@@ -8,6 +8,7 @@ import subprocess
 import tempfile
 import unittest
 from pathlib import Path
+from unittest import mock
 from xml.etree import ElementTree
 
 SOURCE = Path(__file__).resolve().parents[2]
@@ -25,7 +26,7 @@ class InstallationTest(unittest.TestCase):
         cls.home = Path(scratch.name, "home")
         cls.home.mkdir(mode=0o700)
         cls.share = cls.prefix / "share"
-        cls.tmutil = cls.prefix / "libexec/quillon/tmutil"
+        cls.tmutil = cls.prefix / "bin/tmutil"
 
     def run_program(self, program, *arguments):
         """What an installed program prints, in a home of its own and without a display."""
@@ -56,9 +57,20 @@ class InstallationTest(unittest.TestCase):
     def test_programs_find_each_other_below_any_prefix(self):
         self.assertRegex(self.run_program(self.prefix / "bin/quillonctl", "status"), r"^failed: +no\n")
 
+    def test_tmutil_backs_up_when_it_is_called_by_its_name_alone(self):
+        disk, source = self.home / "disk", self.home / "source"
+        for folder in (disk, source):
+            folder.mkdir()
+        (source / "file").write_text("content")
+        with mock.patch.dict(os.environ, PATH=f"{self.tmutil.parent}:{os.environ['PATH']}"):
+            for arguments in (("setdestination", disk), ("addsource", source), ("startbackup", "--block")):
+                self.run_program("tmutil", *arguments)
+            self.assertTrue(self.run_program("tmutil", "latestbackup").strip())
+
     def test_every_program_has_a_page_with_exactly_its_options(self):
         pages = {program.name: self.page(program.name) for program in (self.prefix / "bin").iterdir()}
         self.assertIn("quillon", pages)
+        self.assertEqual(pages.pop("tmutil"), self.page("quillon-tmutil"))  # has commands, and a test of its own
         for name, page in pages.items():
             with self.subTest(name):
                 offered = set(OPTION.findall(self.run_program(self.prefix / "bin" / name, "--help")))
@@ -66,7 +78,7 @@ class InstallationTest(unittest.TestCase):
                 self.assertEqual(offered, set(OPTION.findall(described)))
 
     def test_the_page_of_tmutil_has_its_commands_options_and_exit_statuses(self):
-        page = self.page("quillon-tmutil")
+        page = self.page("tmutil")
         usage = self.run_program(self.tmutil, "help")
         commands, statuses = page.split(".SH COMMANDS\n")[1].split(".SH EXIT STATUS\n")
         statuses = statuses.split(".SH")[0]

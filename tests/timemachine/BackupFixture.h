@@ -7,6 +7,8 @@
 #include <QFile>
 
 #include <gtest/gtest.h>
+#include <iostream>
+#include <optional>
 #include <unistd.h>
 
 namespace quillon {
@@ -50,10 +52,33 @@ protected:
         return practice.watch(command.first(), command.mid(1));
     }
 
+    /// Runs a script that may mount what it likes; users who are not root become it in a name space of their own. Says
+    /// so where this machine allows no mounts: nothing is returned then.
+    std::optional<Answer> runWhereMountsAreAllowed(const QString& script) const
+    {
+        QStringList arguments{u"--mount"_s};
+        if (geteuid() != 0)
+            arguments << u"--map-root-user"_s;
+        if (runProgram(u"/usr/bin/unshare"_s,
+                       arguments + QStringList{u"/bin/mount"_s, u"-t"_s, u"tmpfs"_s, u"none"_s, practice_.source()})
+                .status != 0) {
+            std::cout << "NOT TESTED with a mounted file system: this machine allows no mounts\n";
+            return std::nullopt;
+        }
+        return practice_.watch(
+            u"/usr/bin/unshare"_s,
+            arguments + QStringList{u"/bin/sh"_s, u"-c"_s, u"PATH=/usr/bin:/bin:/usr/sbin:/sbin\n"_s + script});
+    }
+
     /// What a restore would leave beside its target.
     QStringList hiddenFolders() const
     {
         return QDir(practice_.path(u"."_s)).entryList({u".tmutil-*"_s}, QDir::Dirs | QDir::Hidden);
+    }
+
+    QString failureCause() const
+    {
+        return practice_.status().value(u"LastFailure"_s).toMap().value(u"Cause"_s).toString();
     }
 
     pid_t worker() const { return ProcessLock::holder(practice_.stateFolder() + "/worker.lock"_L1).value_or(0); }

@@ -1,9 +1,5 @@
 #include "BackupOutput.h"
 
-#include "Retention.h"
-
-#include <QTimeZone>
-
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -34,6 +30,13 @@ TEST(BackupOutput, TheFractionIsUnknownUntilTheScanHasEnded)
     EXPECT_EQ(output.progress()->fraction, 0.5);
     EXPECT_EQ(output.progress()->secondsRemaining, 12);
 
+    // From restic 0.16 on the end of the scan is told like this (written from its documentation, "JSON output").
+    BackupOutput later;
+    EXPECT_FALSE(later.readLine(R"({"message_type":"verbose_status","action":"scan_finished","item":"","duration":0.2,)"
+                                R"("data_size":2000,"total_files":301})"));
+    ASSERT_TRUE(later.readLine(R"({"message_type":"status","percent_done":0.5,"files_done":1,"bytes_done":1000})"));
+    EXPECT_EQ(later.progress()->fraction, 0.5);
+
     // A file grew while it was read.
     ASSERT_TRUE(output.readLine(R"({"message_type":"status","percent_done":1.25,"files_done":1,"bytes_done":2500})"));
     EXPECT_EQ(output.progress()->fraction, 1.0);
@@ -47,6 +50,7 @@ TEST(BackupOutput, TheSummaryNamesTheSnapshot)
                                 R"("total_bytes_processed":50900000,"total_duration":0.77,"snapshot_id":"c324f869"})"));
     EXPECT_EQ(output.snapshotId(), u"c324f869"_s);
     EXPECT_EQ(output.progress()->bytes, 50900000);
+    EXPECT_EQ(output.newFiles(), 301);
     EXPECT_EQ(output.progress()->fraction, 1.0);
 }
 
@@ -58,24 +62,31 @@ TEST(BackupOutput, AnUnreadFileCountsOnce)
             QByteArray(R"({"message_type":"error","error":{"Op":"open","Path":"a/3","Err":13},"during":")") + during +
             R"(","item":"/a/3"})");
     output.readMessage("{ no JSON");
-    EXPECT_EQ(output.unreadFiles(), 1);
+    EXPECT_EQ(output.unreadPaths(), QStringList(u"/a/3"_s));
     EXPECT_FALSE(output.readLine("half a li"));
 }
 
-TEST(Retention, KeepsHourlyDailyAndWeeklyBackupsOfAllSources)
+TEST(BackupOutput, ASourceIsEmptyUntilAFileOfItHasBeenSeen)
 {
-    EXPECT_EQ(forgetArguments(u"tag"_s).join(u' '),
-              u"forget --tag tag --group-by  --keep-hourly 24 --keep-daily 30 --keep-weekly 520"_s);
+    BackupOutput output({u"/a"_s, u"/b & c"_s, u"/b"_s});
+    for (const char* item : {"/a/folder/", "/a/", "/", "/b \\u0026 c/d/file", "/ab"})
+        output.readLine(QByteArray(R"({"message_type":"verbose_status","action":"new","item":")") + item + R"("})");
+    EXPECT_EQ(output.emptySources(), (QStringList{u"/a"_s, u"/b"_s}));
+    output.readLine(R"({"message_type":"verbose_status","action":"unchanged","item":"/a/file"})");
+    EXPECT_EQ(output.emptySources(), QStringList(u"/b"_s));
 }
 
-TEST(Retention, PrunesOnceAWeekWhateverTheClockDoes)
+TEST(BackupOutput, WhatIsStoredAnewAfterARepairWasRead)
 {
-    const QDateTime now(QDate(2026, 11, 21), QTime(12, 0), QTimeZone::utc());
-    EXPECT_TRUE(isPruneDue({}, now));
-    EXPECT_FALSE(isPruneDue(now, now));
-    EXPECT_FALSE(isPruneDue(now.addDays(-6), now));
-    EXPECT_TRUE(isPruneDue(now.addDays(-7), now));
-    EXPECT_TRUE(isPruneDue(now.addDays(400), now)) << "the clock has been set back";
+    BackupOutput output({}, true);
+    for (const char* item : {"/a/lost", "/a/unreadable", "/a/late"}) {
+        if (QByteArrayView(item) == "/a/late") // standard output may be read ahead of standard error
+            output.readLine(R"({"message_type":"verbose_status","action":"unchanged","item":"/a/late"})");
+        output.readMessage(QByteArray(R"({"message_type":"error","error":{},"during":"archival","item":")") + item +
+                           R"("})");
+    }
+    output.readLine(R"({"message_type":"verbose_status","action":"unchanged","item":"/a/lost"})");
+    EXPECT_EQ(output.unreadPaths(), QStringList(u"/a/unreadable"_s));
 }
 
 } // namespace quillon

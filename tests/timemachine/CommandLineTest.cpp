@@ -26,6 +26,8 @@ TEST(CommandLine, TakesWhatTheSystemToolTakes)
     EXPECT_EQ(CommandLine::parse({u"isexcluded"_s, u"/a"_s, u"/b"_s, u"--"_s, u"-c"_s}).operands,
               (QStringList{u"/a"_s, u"/b"_s, u"-c"_s}));
     EXPECT_EQ(CommandLine::parse({u"--help"_s}).command, Command::Help);
+    const auto rules = CommandLine::parse({u"retention"_s, u"--weekly"_s, u"0"_s, u"--hourly"_s, u"48"_s}).keep;
+    EXPECT_TRUE(rules.hourly == 48 && rules.daily == -1 && rules.weekly == 0);
 }
 
 TEST(CommandLine, RefusesEverythingElse)
@@ -43,6 +45,10 @@ TEST(CommandLine, RefusesEverythingElse)
                                          {u"startbackup"_s, u"-"_s},
                                          {u"startbackup"_s, u"-br"_s},
                                          {u"addexclusion"_s},
+                                         {u"verify"_s, u"-A"_s},
+                                         {u"retention"_s, u"--daily"_s},
+                                         {u"retention"_s, u"--daily"_s, u"-1"_s},
+                                         {u"retention"_s, u"--daily"_s, u"many"_s},
                                          {u"removedestination"_s, u"ID"_s, u"another"_s},
                                          {u"restore"_s, u"only one"_s}}) {
         try {

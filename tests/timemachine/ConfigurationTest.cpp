@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <tuple>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -199,7 +201,7 @@ TEST_F(ConfigurationTest, NothingIsBackedUpAndLeftOutAtOnce)
     EXPECT_EQ(set.leftOut, QStringList(moved.home));
 }
 
-TEST_F(ConfigurationTest, WhatAnotherVersionWroteSurvivesAndDamageIsNotOverwritten)
+TEST_F(ConfigurationTest, WhatAnotherVersionWroteSurvivesAndSoDoesADamagedFile)
 {
     const QString file = folder(u"config"_s) + "/configuration.plist"_L1;
     ASSERT_TRUE(writePropertyListFile(file, {{u"Later"_s, u"kept"_s}, {u"Destinations"_s, u"of a wrong kind"_s}}));
@@ -207,9 +209,37 @@ TEST_F(ConfigurationTest, WhatAnotherVersionWroteSurvivesAndDamageIsNotOverwritt
     EXPECT_EQ(readPropertyListFile(file)->value(u"Later"_s), u"kept"_s);
     EXPECT_EQ(destinations().size(), 1U);
 
+    // A file that was truncated gives way to the version before it, and stays beside it.
+    set(u"Other"_s, true);
     QFile::resize(file, 100);
-    EXPECT_EQ(statusOf([this] { set(u"Disk"_s, false); }), ExitStatus::Configuration);
-    EXPECT_EQ(QFileInfo(file).size(), 100);
+    EXPECT_EQ(destinations().size(), 1U);
+    EXPECT_FALSE(Configuration(folders_).complaint().isEmpty());
+    EXPECT_EQ(QFileInfo(file).size(), 100) << "reading changes nothing";
+    set(u"Other"_s, true);
+    EXPECT_EQ(destinations().size(), 2U);
+    EXPECT_EQ(readPropertyListFile(file)->value(u"Later"_s), u"kept"_s);
+    EXPECT_EQ(QFileInfo(folder(u"config"_s) + "/configuration-damaged.plist"_L1).size(), 100);
+
+    // One that is gone gives way, too: what has no configuration yet has no version before it.
+    ASSERT_TRUE(QFile::remove(file));
+    EXPECT_EQ(destinations().size(), 1U);
+    EXPECT_FALSE(Configuration(folders_).complaint().isEmpty());
+    set(u"Other"_s, true);
+
+    // Where that is damaged, too, only setting a disk begins anew.
+    QFile::resize(file, 100);
+    QFile::resize(folder(u"config"_s) + "/configuration-previous.plist"_L1, 100);
+    EXPECT_EQ(statusOf([this] { Configuration(folders_).addSource(folder(u"a"_s)); }), ExitStatus::Configuration);
+    Configuration(folders_, Configuration::IfLost::BeginAnew).setDestination(folder(u"Disk"_s), false);
+    EXPECT_EQ(destinations().size(), 1U);
+}
+
+TEST_F(ConfigurationTest, KeepRulesAreSetOneByOneAndAlwaysKeepTheLastBackup)
+{
+    Configuration(folders_).setKeepRules({.hourly = -1, .daily = 7, .weekly = -1});
+    Configuration(folders_).setKeepRules({.hourly = 0, .daily = -1, .weekly = 0});
+    const KeepRules rules = Configuration(folders_).keepRules();
+    EXPECT_EQ(std::tuple(rules.hourly, rules.daily, rules.weekly), std::tuple(1, 7, 0));
 }
 
 TEST_F(ConfigurationTest, TheUsualDiskIsTheLastUsedOrTheFirstPresent)
@@ -255,21 +285,26 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     history.setLastDestination(first.id);
     const QDateTime date(QDate(2026, 11, 21), QTime(7, 22, 58), Qt::UTC);
     history.setLastBackup(second.id, date);
+    history.setRecoveryKeyShown(first.id, date);
     const auto xml = propertylist::parse(destinationXml(destinations(), history));
     ASSERT_TRUE(xml);
     const QVariantList entries = xml->toMap().value(u"Destinations"_s).toList();
     ASSERT_EQ(entries.size(), 2);
-    EXPECT_EQ(entries[0].toMap(), (QVariantMap{{u"ID"_s, first.id},
-                                               {u"Name"_s, u"1 & <2>"_s},
-                                               {u"Kind"_s, u"Local"_s},
-                                               {u"Path"_s, first.path},
-                                               {u"MountPoint"_s, first.path},
-                                               {u"LastDestination"_s, qlonglong{1}}}));
+    QVariantMap told = entries[0].toMap();
+    EXPECT_GT(told.take(u"BytesTotal"_s).toLongLong(), told.take(u"BytesFree"_s).toLongLong());
+    EXPECT_EQ(told, (QVariantMap{{u"ID"_s, first.id},
+                                 {u"Name"_s, u"1 & <2>"_s},
+                                 {u"Kind"_s, u"Local"_s},
+                                 {u"Path"_s, first.path},
+                                 {u"MountPoint"_s, first.path},
+                                 {u"LastDestination"_s, qlonglong{1}}}));
     EXPECT_FALSE(entries[1].toMap().contains(u"MountPoint"_s)) << "it is not there";
+    EXPECT_EQ(entries[1].toMap().value(u"RecoveryKeyMissing"_s), qlonglong{1});
     EXPECT_EQ(entries[1].toMap().value(u"Path"_s), second.path);
     EXPECT_EQ(entries[1].toMap().value(u"LastBackup"_s), date);
     EXPECT_EQ(entries[1].toMap().value(u"LastDestination"_s), qlonglong{0});
     history.setLastDestination(second.id);
+    history.setRecoveryKeyShown(second.id, date);
     EXPECT_EQ(destinationText({second}, history),
               "> " + QByteArray(50, '=') +
                   "\nName          : 2\nKind          : Local\nID            : " + second.id.toUtf8() + '\n');
@@ -280,6 +315,7 @@ TEST_F(ConfigurationTest, OwnFilesAndDisksAreNeverBackedUp)
     const Destination inside = set(u"home/disk *"_s, true);
     const Destination around = set(u"outer"_s, true);
     const QStringList sources{folder(u"home"_s), folder(u"outer/photos"_s), folder(u"missing"_s)};
+    const QString trash = u"/.Trash-%1"_s.arg(getuid());
     for (const QString& source : sources)
         Configuration(folders_).addSource(source);
     Configuration(folders_).addSource(folder(u"linked"_s));
@@ -287,13 +323,28 @@ TEST_F(ConfigurationTest, OwnFilesAndDisksAreNeverBackedUp)
     QDir(root_.path()).rmdir(u"linked"_s);
     QFile::link(folder(u"home"_s), root_.filePath(u"linked"_s));
 
-    const SourceSet set = SourceSet::of(Configuration(folders_), folders_);
+    // Another file system with a blank in its name, a part of the same one, and one that is a source by itself.
+    const QByteArray home = folder(u"home"_s).toUtf8();
+    const MountTable mounts("22 1 8:1 / / rw - ext4 /dev/sda1 rw\n"
+                            "30 22 0:40 / " +
+                            home +
+                            "/cloud\\040drive rw - fuse cloud rw\n"
+                            "31 22 8:1 /part " +
+                            home +
+                            "/part rw - ext4 /dev/sda1 rw\n"
+                            "32 22 8:17 / " +
+                            sources[1].toUtf8() + " rw - ext4 /dev/sdb1 rw\n");
+    const SourceSet set = SourceSet::of(Configuration(folders_), folders_, mounts);
     EXPECT_EQ(set.folders, sources.mid(0, 2)) << "a link would be stored as a link";
     EXPECT_EQ(set.missing, sources.mid(2));
-    EXPECT_EQ(set.excluded,
-              (QStringList{inside.path, around.path + "/Quillon.backups"_L1, folders_.cache, folders_.state}))
-        << "a disk that holds a source is not left out whole";
+    EXPECT_EQ(set.excluded, (QStringList{inside.path, around.path + "/Quillon.backups"_L1, folders_.cache,
+                                         folders_.state, root_.path() + "/.local/share/Trash"_L1, sources[0] + trash,
+                                         folder(u"home"_s) + "/cloud drive"_L1, sources[1] + trash}))
+        << "neither a disk nor a cache folder that holds a source is left out whole";
     EXPECT_TRUE(set.arguments().contains(folder(u"home"_s) + "/disk \\*"_L1)) << "patterns are literal";
+    EXPECT_TRUE(set.arguments().contains(u"--exclude-caches"_s));
+    folder(u"home/CACHEDIR.TAG"_s);
+    EXPECT_FALSE(set.arguments().contains(u"--exclude-caches"_s)) << "it would leave nothing of a source";
 }
 
 } // namespace quillon

@@ -60,6 +60,26 @@ TEST(ResticDiagnosis, WhatIsUnknownIsToldInResticsOwnWords)
     EXPECT_TRUE(ResticDiagnosis::of({}, 77).description.contains(u"77"_s));
 }
 
+// restic 0.17 and later, written from its documentation ("Scripting: Exit codes"): the status tells, whatever is said.
+TEST(ResticDiagnosis, TheExitStatusesOfLaterVersionsTell)
+{
+    for (const auto& [status, problem] :
+         {std::pair{10, ResticProblem::NoRepository}, std::pair{11, ResticProblem::Locked},
+          std::pair{12, ResticProblem::WrongKey}, std::pair{130, ResticProblem::Unknown}})
+        EXPECT_EQ(ResticDiagnosis::of(u"Fatal: words that nobody knows yet\n"_s, status).problem, problem);
+}
+
+TEST(ResticDiagnosis, AFullComputerIsNoFullDisk)
+{
+    const QString folder = u"/home/a/.cache/quillon-timemachine/restic"_s;
+    for (const char* reason : {"no space left on device", "permission denied"}) {
+        const QString words = u"Fatal: unable to save snapshot: write %1/restic-temp-pack-12: %2\n"_s.arg(
+            folder, QLatin1StringView(reason));
+        EXPECT_EQ(ResticDiagnosis::of(words, 1, folder).problem, ResticProblem::NoWorkSpace);
+    }
+    EXPECT_EQ(ResticDiagnosis::of(noSpace, 1, folder).problem, ResticProblem::NoSpace);
+}
+
 TEST(ResticDiagnosis, AFileNameIsNoDiagnosis)
 {
     const QString text = u"error: open /home/a/permission denied.txt: input/output error\n"

@@ -15,6 +15,7 @@
 #include <atomic>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -65,8 +66,18 @@ private:
 
 class StatusReportTest : public testing::Test {
 protected:
-    QVariantMap report() const { return parseStatus(StatusReport(state()).text()).value_or(QVariantMap()); }
+    QVariantMap report() const { return parseStatus(StatusReport(folders_).text()).value_or(QVariantMap()); }
     QString state() const { return root_.path(); }
+
+    void setDisks(const QStringList& ids) const
+    {
+        QVariantList disks;
+        for (const QString& id : ids)
+            disks.append(QVariantMap{{u"ID"_s, id}, {u"Path"_s, u"/disk"_s}});
+        QDir().mkpath(folders_.configuration);
+        ASSERT_TRUE(
+            writeKeptPropertyList(folders_.configuration + "/configuration.plist"_L1, {{u"Destinations"_s, disks}}));
+    }
 
     RunState run(pid_t worker) const
     {
@@ -83,13 +94,14 @@ protected:
     }
 
     QTemporaryDir root_;
+    Folders folders_{root_.path(), root_.filePath(u"config"_s), root_.path(), root_.filePath(u"cache"_s)};
 };
 
 } // namespace
 
 TEST_F(StatusReportTest, ReadsBackAsItWasWritten)
 {
-    EXPECT_TRUE(StatusReport(state()).text().startsWith("Backup session status:\n{\n"));
+    EXPECT_TRUE(StatusReport(folders_).text().startsWith("Backup session status:\n{\n"));
     EXPECT_EQ(report(), (QVariantMap{{u"ClientID"_s, u"com.apple.backupd"_s}, {u"Running"_s, u"0"_s}}));
 
     const LockHolder worker(RunState::lockPath(state()));
@@ -147,11 +159,14 @@ TEST_F(StatusReportTest, WhatCannotBeReadIsNeverToldAsAnEmptyAnswer)
     EXPECT_EQ(report().value(u"Running"_s), u"0"_s) << "left behind by a power failure: nobody holds the lock";
     {
         const LockHolder worker(RunState::lockPath(state()));
-        EXPECT_THROW(StatusReport{state()}, Failure) << "a backup may be running";
+        EXPECT_THROW(StatusReport{folders_}, Failure) << "a backup may be running";
     }
     ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
     ASSERT_TRUE(QFile::link(u"worker.lock"_s, state() + "/worker.lock"_L1));
-    EXPECT_THROW(StatusReport{state()}, Failure) << "a link to itself cannot be opened";
+    EXPECT_THROW(StatusReport{folders_}, Failure) << "a link to itself cannot be opened";
+    ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
+    ASSERT_EQ(mkfifo(QFile::encodeName(state() + "/worker.lock"_L1).constData(), 0600), 0);
+    EXPECT_EQ(report().value(u"Running"_s), u"0"_s) << "nobody writes to a pipe in the lock's place";
     ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
 
     // What is forgotten of past backups keeps neither the state from being told nor the next backup from being made.
@@ -164,20 +179,58 @@ TEST_F(StatusReportTest, WhatCannotBeReadIsNeverToldAsAnEmptyAnswer)
     EXPECT_FALSE(report().contains(u"LastFailure"_s));
     EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
     EXPECT_TRUE(QFile::exists(state() + "/history-damaged.plist"_L1)) << "set aside, not overwritten";
+
+    // The version before is what counts then; a pipe that nobody writes to is no reason to wait.
+    history.setLastBackup(u"ID"_s, QDateTime::currentDateTimeUtc());
+    ASSERT_TRUE(history.save());
+    ASSERT_TRUE(damage(u"history.plist"_s));
+    EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
+    ASSERT_TRUE(QDir(state()).remove(u"history.plist"_s));
+    ASSERT_EQ(mkfifo(QFile::encodeName(state() + "/history.plist"_L1).constData(), 0600), 0);
+    EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
 }
 
-TEST_F(StatusReportTest, TheLastFailureStandsUntilTheNextSuccess)
+TEST_F(StatusReportTest, ADamagedConfigurationIsToldAndAFailureOfAForgottenDiskIsNot)
 {
+    const QString file = folders_.configuration + "/configuration.plist"_L1;
+    const auto cause = [this] { return report().value(u"LastFailure"_s).toMap().value(u"Cause"_s).toString(); };
     History history(state());
-    history.setLastFailure(LastFailure{u"2026-11-21 07:22:58 +0000"_s, u"ID"_s, u"NoSpace"_s, u"The disk is full."_s});
+    history.setLastFailure(u"A"_s, LastFailure{u"2026-11-21 07:22:58 +0000"_s, u"A"_s, u"NoSpace"_s, u"Full."_s});
+    ASSERT_TRUE(history.save());
+    setDisks({u"A"_s});
+    EXPECT_EQ(cause(), u"NoSpace"_s);
+    setDisks({u"B"_s});
+    EXPECT_EQ(cause(), QString());
+    QFile::resize(file, 50);
+    EXPECT_EQ(cause(), u"ConfigurationDamaged"_s);
+    QFile::remove(folders_.configuration + "/configuration-previous.plist"_L1);
+    EXPECT_EQ(cause(), u"ConfigurationDamaged"_s);
+}
+
+TEST_F(StatusReportTest, AFailureStandsUntilTheNextSuccessOnTheSameDisk)
+{
+    const auto failure = [](const QString& date, const QString& id) {
+        return LastFailure{date, id, u"NoSpace"_s, u"The disk is full."_s};
+    };
+    setDisks({u"A"_s, u"B"_s, u"C"_s});
+    History history(state());
+    history.setLastFailure(u"A"_s, failure(u"2026-11-21 07:22:58 +0000"_s, u"A"_s));
+    history.setLastFailure(u"B"_s, failure(u"2026-11-20 07:22:58 +0000"_s, u"B"_s));
     ASSERT_TRUE(history.save());
     EXPECT_EQ(report().value(u"LastFailure"_s).toMap(), (QVariantMap{{u"Date"_s, u"2026-11-21 07:22:58 +0000"_s},
-                                                                     {u"DestinationID"_s, u"ID"_s},
+                                                                     {u"DestinationID"_s, u"A"_s},
                                                                      {u"Cause"_s, u"NoSpace"_s},
                                                                      {u"Description"_s, u"The disk is full."_s}}));
-    history.setLastFailure(std::nullopt);
+    history.setLastFailure(u"A"_s, std::nullopt);
+    ASSERT_TRUE(history.save());
+    EXPECT_EQ(report().value(u"LastFailure"_s).toMap().value(u"DestinationID"_s), u"B"_s);
+    history.setLastFailure(u"B"_s, std::nullopt);
     ASSERT_TRUE(history.save());
     EXPECT_FALSE(report().contains(u"LastFailure"_s));
+
+    const QVariantMap old = failure(u"2026-11-19 07:22:58 +0000"_s, u"C"_s).toDictionary();
+    ASSERT_TRUE(writePropertyListFile(state() + "/history.plist"_L1, {{u"LastFailure"_s, old}}));
+    EXPECT_EQ(report().value(u"LastFailure"_s).toMap(), old) << "as earlier versions wrote it";
 }
 
 TEST_F(StatusReportTest, ReportsAreMarkedForTheirOwnRunAndKind)
@@ -187,14 +240,14 @@ TEST_F(StatusReportTest, ReportsAreMarkedForTheirOwnRunAndKind)
     marks.clear();
     RunState running = run(worker.process());
     running.write(state());
-    const StatusReport before(state());
+    const StatusReport before(folders_);
     running.phase = phase::finishing;
     running.write(state());
     EXPECT_FALSE(marks.isReported(u"run"_s)) << "not before the caller has it";
     before.markReported();
     EXPECT_TRUE(marks.isReported(u"run"_s));
     EXPECT_FALSE(marks.isFinishingReported(u"run"_s)) << "what a slow caller was told is older";
-    StatusReport(state()).markReported();
+    StatusReport(folders_).markReported();
     EXPECT_TRUE(marks.isFinishingReported(u"run"_s));
     EXPECT_FALSE(marks.isReported(u"another"_s));
 }

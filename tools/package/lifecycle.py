@@ -18,7 +18,7 @@ from pathlib import Path
 
 PATIENCE = 120  # seconds
 USER = "quill"
-TMUTIL = "/usr/libexec/quillon/tmutil"
+TMUTIL = "tmutil"
 RUNNING, COMPLETED = "icon=2", "icon=3"  # what the menu-bar item shows
 
 

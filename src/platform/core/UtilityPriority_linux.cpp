@@ -1,6 +1,7 @@
 #include "UtilityPriority.h"
 
 #include <linux/ioprio.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -8,14 +9,15 @@ namespace quillon {
 
 namespace {
 
-constexpr int utilityNiceness = 10; // what nice(1) adds by itself
-constexpr int lowestBestEffort = 7; // ioprio_set(2); the idle class could starve for as long as a backup runs
+constexpr int utilityNiceness = 10; // what nice(1) adds to a shell's 0
+constexpr int lowestBestEffort = 7; // ioprio_set(2); in the idle class other users of the disk could starve `status`
 
 } // namespace
 
 void lowerToUtilityPriority() noexcept
 {
-    [[maybe_unused]] const int niceness = nice(utilityNiceness);
+    if (getpriority(PRIO_PROCESS, 0) < utilityNiceness)
+        setpriority(PRIO_PROCESS, 0, utilityNiceness);
     syscall(SYS_ioprio_set, IOPRIO_WHO_PROCESS, 0, IOPRIO_PRIO_VALUE(IOPRIO_CLASS_BE, lowestBestEffort));
 }
 

@@ -7,13 +7,14 @@ namespace quillon {
 
 namespace {
 
-constexpr int utilityNiceness = 10; // what nice(1) adds by itself
+constexpr int utilityNiceness = 10; // what nice(1) adds to a shell's 0
 
 } // namespace
 
 void lowerToUtilityPriority() noexcept
 {
-    [[maybe_unused]] const int niceness = nice(utilityNiceness);
+    if (getpriority(PRIO_PROCESS, 0) < utilityNiceness)
+        setpriority(PRIO_PROCESS, 0, utilityNiceness);
     setiopolicy_np(IOPOL_TYPE_DISK, IOPOL_SCOPE_PROCESS, IOPOL_UTILITY); // getiopolicy_np(3)
 }
 

@@ -1,10 +1,12 @@
 #include "CommandLine.h"
 #include "Commands.h"
 #include "Failure.h"
+#include "Paths.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
+#include <algorithm>
+#include <array>
 #include <clocale>
 #include <cstdio>
 #include <memory>
@@ -16,8 +18,10 @@ namespace {
 /// Whether the command runs restic and so needs an event loop; `status`, run every few seconds, must not pay for one.
 bool needsEventLoop(Command command)
 {
-    return command == Command::RunBackup || command == Command::LatestBackup || command == Command::ListBackups ||
-           command == Command::Restore;
+    static constexpr std::array commands{
+        Command::RunBackup, Command::LatestBackup, Command::ListBackups, Command::Restore,      Command::SetDestination,
+        Command::Verify,    Command::Adopt,        Command::RecoveryKey, Command::DeleteBackup, Command::DiskUsage};
+    return std::ranges::find(commands, command) != commands.end();
 }
 
 } // namespace
@@ -28,7 +32,7 @@ int main(int argc, char** argv)
     qputenv("LC_ALL", "C.UTF-8");
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
-        arguments.append(QFile::decodeName(argv[index]));
+        arguments.append(decodePath(argv[index]));
     try {
         const CommandLine line = CommandLine::parse(arguments);
         std::unique_ptr<QCoreApplication> application;

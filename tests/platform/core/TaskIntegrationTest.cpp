@@ -1,6 +1,7 @@
 #include "EventLoop.h"
 #include "ScopedEnvironment.h"
 #include "Task.h"
+#include "UtilityPriority.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -156,7 +157,16 @@ TEST_F(TaskIntegrationTest, TheChildRunsAtUtilityPriority)
     const int own = getpriority(PRIO_PROCESS, 0);
     const auto result = run(shell(u"/usr/bin/nice; /usr/bin/ionice -p $$"_s));
     ASSERT_TRUE(result.output);
-    EXPECT_EQ(*result.output, QByteArray::number(std::min(own + 10, 19)) + "\nbest-effort: prio 7\n");
+    EXPECT_EQ(*result.output, QByteArray::number(std::max(own, 10)) + "\nbest-effort: prio 7\n");
+    const pid_t child = fork();
+    if (child == 0) {
+        lowerToUtilityPriority();
+        lowerToUtilityPriority(); // as a child of such a process does
+        _exit(getpriority(PRIO_PROCESS, 0));
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(WEXITSTATUS(status), std::max(own, 10));
 }
 
 TEST_F(TaskIntegrationTest, AGrandchildThatKeepsTheOutputOpenDelaysNothing)

@@ -1,0 +1,24 @@
+#include "Output.h"
+
+#include "Failure.h"
+
+#include <cstdio>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+void print(const QByteArray& text)
+{
+    const auto size = static_cast<size_t>(text.size());
+    if (std::fwrite(text.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        throw Failure(ExitStatus::CannotWrite, u"Standard output cannot be written to."_s);
+}
+
+void print(const QStringList& lines)
+{
+    for (const QString& line : lines)
+        print(line.toUtf8() + '\n');
+}
+
+} // namespace quillon

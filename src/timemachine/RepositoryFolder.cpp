@@ -1,0 +1,243 @@
+#include "RepositoryFolder.h"
+
+#include "Failure.h"
+#include "FolderTree.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUuid>
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+/// A descriptor that is closed in the end.
+class Descriptor {
+public:
+    explicit Descriptor(int number)
+        : number_(number)
+    {
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor()
+    {
+        if (number_ >= 0)
+            close(number_);
+    }
+    int get() const { return number_; }
+    int release() { return std::exchange(number_, -1); }
+
+private:
+    int number_;
+};
+
+QByteArray encoded(const QString& path)
+{
+    return QFile::encodeName(path);
+}
+
+QByteArray lastPart(const QByteArray& path)
+{
+    return path.mid(path.lastIndexOf('/') + 1);
+}
+
+/// The name of the destination's folder in the one around it.
+QByteArray nameOf(const Destination& destination)
+{
+    return lastPart(encoded(destination.repository()));
+}
+
+/// The folder around the destination's own, which all users of the disk share. The way to the disk's own folder was
+/// free of links when it was set.
+int openShared(const Destination& destination)
+{
+    if (destination.bare)
+        return open(encoded(QFileInfo(destination.path).path()).constData(), folderFlags & ~O_NOFOLLOW);
+    const Descriptor disk(open(encoded(destination.path).constData(), folderFlags & ~O_NOFOLLOW));
+    return openat(disk.get(), lastPart(encoded(Destination::backupFolder(destination.path))).constData(), folderFlags);
+}
+
+/// Root can do as it likes anyway, and so can the owner of the disk: on a file system without rights of its own, all of
+/// it belongs to whoever has mounted it.
+bool isOwn(const Destination& destination, int descriptor)
+{
+    struct stat folder {};
+    struct stat disk {};
+    if (fstat(descriptor, &folder) != 0)
+        return false;
+    return folder.st_uid == geteuid() || folder.st_uid == 0 ||
+           (stat(encoded(destination.path).constData(), &disk) == 0 && folder.st_uid == disk.st_uid);
+}
+
+/// What restic would follow or wait for.
+bool holdsTrap(int descriptor)
+{
+    for (const char* name : {"data", "index", "keys", "locks", "snapshots"}) {
+        struct stat entry {};
+        if (fstatat(descriptor, name, &entry, AT_SYMLINK_NOFOLLOW) == 0 && !S_ISDIR(entry.st_mode))
+            return true;
+    }
+    struct stat config {};
+    return fstatat(descriptor, "config", &config, AT_SYMLINK_NOFOLLOW) == 0 && !S_ISREG(config.st_mode);
+}
+
+Failure cannotBeWritten(const QString& path, int error)
+{
+    QString message = u"\"%1\" cannot be written to: %2."_s.arg(path, qt_error_string(error));
+    if (error == EACCES)
+        message += u" Whoever administers this computer can give you that folder."_s;
+    return {ExitStatus::CannotWrite, message};
+}
+
+} // namespace
+
+RepositoryFolder::Contents RepositoryFolder::contents(const Destination& destination)
+{
+    const Descriptor shared(openShared(destination));
+    const QByteArray name = nameOf(destination);
+    struct stat entry {};
+    if (shared.get() < 0 || fstatat(shared.get(), name.constData(), &entry, AT_SYMLINK_NOFOLLOW) != 0)
+        return Contents::Absent;
+    const auto folder = open(destination);
+    if (!folder)
+        return Contents::Foreign;
+    if (folder->hasConfig())
+        return Contents::Repository;
+    return folder->isEmpty() ? Contents::Empty : Contents::Damaged;
+}
+
+std::optional<RepositoryFolder> RepositoryFolder::open(const Destination& destination)
+{
+    const Descriptor shared(openShared(destination));
+    Descriptor own(openat(shared.get(), nameOf(destination).constData(), folderFlags));
+    if (own.get() < 0 || !isOwn(destination, own.get()) || holdsTrap(own.get()))
+        return std::nullopt;
+    return RepositoryFolder(destination, encoded(destination.repository()), own.release());
+}
+
+/// Everyone may add to the outer folder, nobody may touch what is another's. A file system without rights of its own
+/// has its mount options.
+void RepositoryFolder::make(const Destination& destination)
+{
+    const QString sharedPath = Destination::backupFolder(destination.path);
+    const Descriptor disk(::open(encoded(destination.path).constData(), folderFlags & ~O_NOFOLLOW));
+    const QByteArray sharedName = lastPart(encoded(sharedPath));
+    const bool isNew = mkdirat(disk.get(), sharedName.constData(), S_IRWXU) == 0;
+    if (!isNew && errno != EEXIST)
+        throw cannotBeWritten(sharedPath, errno);
+    const Descriptor shared(openat(disk.get(), sharedName.constData(), folderFlags));
+    if (shared.get() < 0)
+        throw cannotBeWritten(sharedPath, errno);
+    if (isNew)
+        fchmod(shared.get(), S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO);
+
+    if (mkdirat(shared.get(), encoded(destination.id).constData(), S_IRWXU) != 0 && errno != EEXIST)
+        throw cannotBeWritten(destination.repository(), errno);
+    const auto own = open(destination);
+    if (!own || !own->isWritable())
+        throw cannotBeWritten(destination.repository(), own ? errno : EACCES);
+}
+
+RepositoryFolder RepositoryFolder::makeBeside(const Destination& destination)
+{
+    const Descriptor shared(openShared(destination));
+    const QString name = destination.id + u'-' + QUuid::createUuid().toString(QUuid::Id128);
+    const QString path = Destination::backupFolder(destination.path) + u'/' + name;
+    if (mkdirat(shared.get(), encoded(name).constData(), S_IRWXU) != 0)
+        throw cannotBeWritten(path, errno);
+    const int own = openat(shared.get(), encoded(name).constData(), folderFlags);
+    if (own < 0)
+        throw cannotBeWritten(path, errno);
+    return {destination, encoded(path), own};
+}
+
+RepositoryFolder::RepositoryFolder(const Destination& destination, QByteArray path, int descriptor)
+    : destination_(destination)
+    , path_(std::move(path))
+    , descriptor_(descriptor)
+{
+}
+
+RepositoryFolder::RepositoryFolder(RepositoryFolder&& other) noexcept
+    : destination_(std::move(other.destination_))
+    , path_(std::move(other.path_))
+    , descriptor_(std::exchange(other.descriptor_, -1))
+{
+}
+
+RepositoryFolder& RepositoryFolder::operator=(RepositoryFolder&& other) noexcept
+{
+    std::swap(destination_, other.destination_);
+    std::swap(path_, other.path_);
+    std::swap(descriptor_, other.descriptor_);
+    return *this;
+}
+
+RepositoryFolder::~RepositoryFolder()
+{
+    if (descriptor_ >= 0)
+        close(descriptor_);
+}
+
+bool RepositoryFolder::isEmptyFolder(const char* name) const
+{
+    const int copy = openat(descriptor_, name, folderFlags);
+    DIR* folder = copy >= 0 ? fdopendir(copy) : nullptr;
+    if (folder == nullptr)
+        return false;
+    int entries = 0;
+    while (readdir(folder) != nullptr)
+        ++entries;
+    closedir(folder);
+    return entries <= 2; // itself and its parent
+}
+
+bool RepositoryFolder::isWritable() const
+{
+    return faccessat(descriptor_, ".", W_OK, AT_EACCESS) == 0;
+}
+
+bool RepositoryFolder::hasConfig() const
+{
+    return faccessat(descriptor_, "config", F_OK, AT_EACCESS) == 0;
+}
+
+bool RepositoryFolder::isStillThere() const
+{
+    struct stat held {};
+    struct stat found {};
+    return fstat(descriptor_, &held) == 0 && lstat(path_.constData(), &found) == 0 && held.st_dev == found.st_dev &&
+           held.st_ino == found.st_ino;
+}
+
+std::optional<QString> RepositoryFolder::moveIntoPlace()
+{
+    const Descriptor shared(openShared(destination_));
+    if (renameat(shared.get(), lastPart(path_).constData(), shared.get(), encoded(destination_.id).constData()) != 0)
+        return qt_error_string(errno);
+    path_ = encoded(destination_.repository());
+    return std::nullopt;
+}
+
+void RepositoryFolder::remove()
+{
+    const Descriptor shared(openShared(destination_));
+    if (isStillThere())
+        removeFolderTree(shared.get(), lastPart(path_).constData());
+}
+
+} // namespace quillon

@@ -1,0 +1,165 @@
+#include "RepositorySetup.h"
+
+#include "Failure.h"
+#include "KeyStore.h"
+#include "RecoveryKey.h"
+#include "StopRequest.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUuid>
+
+#include <cerrno>
+#include <sys/mman.h>
+#include <unistd.h>
+#include <vector>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// restic notes a user with each key.
+constexpr QLatin1StringView recoveryUser{"quillon-recovery"};
+
+/// A secret in a file that no disk holds, so that it ends with this process however that ends: restic takes none as an
+/// argument.
+class SecretFile {
+public:
+    explicit SecretFile(const QString& secret)
+        : descriptor_(memfd_create("secret", MFD_CLOEXEC))
+    {
+        const QByteArray line = secret.toUtf8() + '\n';
+        if (descriptor_ >= 0 && write(descriptor_, line.constData(), static_cast<size_t>(line.size())) == line.size())
+            return;
+        const QString reason = qt_error_string(errno);
+        close(descriptor_);
+        throw Failure(ExitStatus::CannotWrite, u"The key cannot be given to restic: %1."_s.arg(reason));
+    }
+    SecretFile(const SecretFile&) = delete;
+    SecretFile& operator=(const SecretFile&) = delete;
+    ~SecretFile() { close(descriptor_); }
+
+    /// For the user's own processes, as long as this object is there (proc(5)).
+    QString path() const { return u"/proc/%1/fd/%2"_s.arg(getpid()).arg(descriptor_); }
+
+private:
+    int descriptor_;
+};
+
+void require(const ResticOutcome& outcome)
+{
+    if (outcome.exitStatus != 0)
+        throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
+}
+
+void addKey(const Restic& restic, const QString& passwordFile, const QString& user)
+{
+    require(restic.runUnlocking({u"key"_s, u"add"_s, u"--new-password-file"_s, passwordFile, u"--user"_s, user}));
+}
+
+/// The repositories that may be meant by a path: those on a backup disk, and one that lies at the path itself.
+std::vector<Destination> candidates(const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    std::vector<Destination> found;
+    for (const QString& id : QDir(Destination::backupFolder(path)).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        found.push_back({id, name, path});
+    const QString inside = QFileInfo(path).path();
+    if (QFileInfo(inside).fileName() == QFileInfo(Destination::backupFolder(u"/"_s)).fileName())
+        found.push_back({name, QFileInfo(QFileInfo(inside).path()).fileName(), QFileInfo(inside).path()});
+    else
+        found.push_back({QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(), name, path, true});
+    std::erase_if(found, [](const Destination& destination) {
+        return RepositoryFolder::contents(destination) != RepositoryFolder::Contents::Repository;
+    });
+    return found;
+}
+
+bool opens(const Restic& restic)
+{
+    const auto outcome = restic.run({u"cat"_s, u"config"_s, u"--no-lock"_s});
+    if (outcome.exitStatus != 0 && outcome.diagnosis().problem != ResticProblem::WrongKey)
+        require(outcome);
+    return outcome.exitStatus == 0;
+}
+
+} // namespace
+
+NewRepository makeRepository(const Destination& destination, const Folders& folders, const StopRequest& stop)
+{
+    Restic::executable(); // without one nothing is to be left on the disk
+    RepositoryFolder fresh = RepositoryFolder::makeBeside(destination);
+    NewRepository made{
+        .folder = std::nullopt, .outcome = Restic(fresh, folders, &stop).run({u"init"_s}), .refusal = {}};
+    if (made.outcome.exitStatus == 0 && !stop.isMade()) {
+        made.refusal = fresh.moveIntoPlace().value_or(QString());
+        if (made.refusal.isEmpty()) {
+            made.folder = std::move(fresh);
+            return made;
+        }
+    }
+    fresh.remove();
+    return made;
+}
+
+QStringList recoveryKeys(const Restic& restic)
+{
+    const auto outcome = restic.runUnlocking({u"key"_s, u"list"_s, u"--json"_s, u"--no-lock"_s});
+    require(outcome);
+    QStringList identifiers;
+    for (const QJsonValue key : QJsonDocument::fromJson(outcome.output).array()) {
+        if (key["userName"_L1].toString() == recoveryUser)
+            identifiers.append(key["id"_L1].toString());
+    }
+    return identifiers;
+}
+
+QString addRecoveryKey(const Restic& restic)
+{
+    QString key = makeRecoveryKey();
+    addKey(restic, SecretFile(key).path(), recoveryUser);
+    return key;
+}
+
+void removeRecoveryKeys(const Restic& restic, const QStringList& identifiers)
+{
+    for (const QString& identifier : identifiers)
+        require(restic.runUnlocking({u"key"_s, u"remove"_s, identifier}));
+}
+
+Destination takeUpRepository(const QString& path, const QString& passphrase, const Folders& folders,
+                             const StopRequest& stop)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const auto found = canonical.isEmpty() ? std::vector<Destination>() : candidates(canonical);
+    if (found.empty())
+        throw Failure(ExitStatus::NoBackup, u"There are no backups of yours at \"%1\"."_s.arg(path));
+    const QString recoveryKey = recoveryKeyFrom(passphrase);
+    const SecretFile secret(recoveryKey.isEmpty() ? passphrase : recoveryKey);
+    const KeyStore keys(folders.configuration);
+    for (const Destination& destination : found) {
+        const auto repository = RepositoryFolder::open(destination);
+        if (!repository)
+            continue;
+        const Restic byPassphrase(*repository, folders, &stop, secret.path());
+        if (!opens(byPassphrase))
+            continue;
+        if (keys.contains(destination.id) && opens(Restic(*repository, folders, &stop)))
+            return destination;
+        QString key = recoveryKey.isEmpty() ? passphrase : recoveryKey;
+        if (repository->isWritable()) { // else to restore is all that can be done
+            key = KeyStore::makeKey();
+            addKey(byPassphrase, SecretFile(key).path(), u"quillon"_s);
+        }
+        keys.store(destination.id, key);
+        return destination;
+    }
+    throw Failure(ExitStatus::WrongKey, u"That opens none of the backups at \"%1\"."_s.arg(path));
+}
+
+} // namespace quillon

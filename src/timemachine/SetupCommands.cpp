@@ -1,0 +1,182 @@
+#include "SetupCommands.h"
+
+#include "Configuration.h"
+#include "DestinationChoice.h"
+#include "Failure.h"
+#include "History.h"
+#include "KeyStore.h"
+#include "Output.h"
+#include "RepositorySetup.h"
+#include "Snapshot.h"
+#include "StopRequest.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+#include <cstdio>
+#include <sys/stat.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void printRecoveryKey(const Destination& destination, const QString& key)
+{
+    print(QStringList{
+        u"The recovery key of the backup disk \"%1\":"_s.arg(destination.name),
+        {},
+        u"    "_s + key,
+        {},
+        u"Write it down and keep it away from this computer and from the disk. It is shown only now; whoever has it "
+        u"and the "
+        "disk can read the backups. On another computer \"tmutil adopt PATH\" asks for it and takes the backups up."_s});
+}
+
+/// Until that has been noted, whatever ends this process, the disk's report asks for a recovery key.
+void noteRecoveryKeyShown(const Folders& folders, const QString& destinationId)
+{
+    History::change(folders.state, [&](History& history) {
+        history.setRecoveryKeyShown(destinationId, QDateTime::currentDateTimeUtc());
+    });
+}
+
+/// What the disk has is what counts, also where another computer has written it or somebody has erased it.
+void takeStock(const RepositoryFolder& repository, const Restic& restic, const Folders& folders)
+{
+    const auto snapshots = snapshotsIn(repository, restic);
+    const Snapshot* const latest = latestOf(snapshots, QDateTime::currentDateTimeUtc());
+    const QDateTime date = latest != nullptr && latest->complete ? latest->time : QDateTime();
+    History::change(folders.state, [&](History& history) { history.setLastBackup(repository.destination().id, date); });
+}
+
+RepositoryFolder newRepository(const Destination& destination, const Folders& folders, const StopRequest& stop)
+{
+    NewRepository made = makeRepository(destination, folders, stop);
+    if (!made.folder)
+        throw Failure(ExitStatus::Failed, made.refusal.isEmpty() ? made.outcome.diagnosis().description : made.refusal);
+    History::change(folders.state, [&](History& history) {
+        history.noteNewRepository(destination.id);
+        history.setLastBackup(destination.id, {});
+        history.setRecoveryKeyShown(destination.id, {});
+    });
+    return std::move(*made.folder);
+}
+
+/// Repositories of this user that nothing on this computer opens: most often those of the computer before it.
+bool hasUnknownRepositories(const Destination& destination, const Folders& folders)
+{
+    const KeyStore keys(folders.configuration);
+    const auto names = QDir(Destination::backupFolder(destination.path)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return std::ranges::any_of(names, [&](const QString& id) {
+        return !keys.contains(id) &&
+               RepositoryFolder::contents({id, {}, destination.path}) == RepositoryFolder::Contents::Repository;
+    });
+}
+
+/// A backup beside the only copy goes with it.
+QStringList sourcesOnSameDisk(const Configuration& configuration, const QString& path)
+{
+    struct stat disk {};
+    stat(QFile::encodeName(path).constData(), &disk);
+    QStringList same = configuration.sources();
+    same.removeIf([&disk](const QString& source) {
+        struct stat folder {};
+        return stat(QFile::encodeName(source).constData(), &folder) != 0 || folder.st_dev != disk.st_dev;
+    });
+    return same;
+}
+
+/// One line, which a terminal does not show.
+QString readSecret()
+{
+    const bool terminal = isatty(STDIN_FILENO) != 0;
+    termios before{};
+    if (terminal) {
+        tcgetattr(STDIN_FILENO, &before);
+        termios silent = before;
+        silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        std::fputs("Recovery key or passphrase: ", stderr);
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
+    }
+    QByteArray line;
+    for (int character = std::getchar(); character != EOF && character != '\n'; character = std::getchar())
+        line += static_cast<char>(character);
+    if (terminal) {
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &before);
+        std::fputc('\n', stderr);
+    }
+    return QString::fromUtf8(line);
+}
+
+} // namespace
+
+void setDestination(const Folders& folders, const QString& path, bool append)
+{
+    Configuration configuration(folders, Configuration::IfLost::BeginAnew);
+    const Destination destination = configuration.setDestination(path, append);
+    if (const QStringList same = sourcesOnSameDisk(configuration, destination.path); !same.isEmpty())
+        print(
+            QStringList(u"\"%1\" is on the same disk as \"%2\": when that breaks, the backups are lost with it."_s.arg(
+                destination.path, same.first())));
+    if (hasUnknownRepositories(destination, folders))
+        print(QStringList(
+            u"This disk also has backups whose key is not on this computer. If they are yours, \"tmutil adopt "
+            "%1\" takes them up."_s.arg(destination.path)));
+    try {
+        const StopRequest stop;
+        const bool isNew = RepositoryFolder::contents(destination) == RepositoryFolder::Contents::Empty;
+        const auto repository = isNew ? newRepository(destination, folders, stop) : RepositoryFolder::open(destination);
+        const Restic restic(*repository, folders, &stop);
+        if (!isNew)
+            takeStock(*repository, restic, folders);
+        if (isNew || recoveryKeys(restic).isEmpty()) {
+            printRecoveryKey(destination, addRecoveryKey(restic));
+            // Programs that set a disk need not show what is printed.
+            if (isatty(STDOUT_FILENO) != 0)
+                noteRecoveryKeyShown(folders, destination.id);
+        }
+    } catch (const Failure& failure) {
+        print(
+            QStringList(u"There is no recovery key for this disk yet: %1 \"tmutil recoverykey -d %2\" makes one."_s.arg(
+                failure.message(), destination.id)));
+    }
+}
+
+void renewRecoveryKey(const Folders& folders, const QString& destinationId)
+{
+    const Configuration configuration(folders);
+    const auto& destinations = configuration.destinations();
+    const Destination destination = destinationId.isEmpty() ? usualDestination(destinations, History(folders.state))
+                                                            : namedDestination(destinations, destinationId);
+    const auto repository = RepositoryFolder::open(destination);
+    const StopRequest stop;
+    const Restic restic(*repository, folders, &stop);
+    const QStringList older = recoveryKeys(restic);
+    printRecoveryKey(destination, addRecoveryKey(restic));
+    noteRecoveryKeyShown(folders, destination.id);
+    try {
+        removeRecoveryKeys(restic, older);
+    } catch (const Failure& failure) {
+        throw Failure(failure.status(),
+                      u"An older recovery key opens the backups as well: %1"_s.arg(failure.message()));
+    }
+}
+
+void adopt(const Folders& folders, const QString& path)
+{
+    const StopRequest stop;
+    const Destination destination = takeUpRepository(path, readSecret(), folders, stop);
+    Configuration(folders, Configuration::IfLost::BeginAnew).takeUp(destination);
+    const auto repository = RepositoryFolder::open(destination);
+    takeStock(*repository, Restic(*repository, folders, &stop), folders);
+    noteRecoveryKeyShown(folders, destination.id); // it has been typed
+    print(
+        QStringList(u"The backups at \"%1\" are taken up. \"tmutil listbackups\" names them."_s.arg(destination.path)));
+}
+
+} // namespace quillon

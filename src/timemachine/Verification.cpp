@@ -1,0 +1,235 @@
+#include "Verification.h"
+
+#include "Failure.h"
+#include "Folders.h"
+#include "History.h"
+#include "ProcessLock.h"
+#include "Restic.h"
+#include "Retention.h"
+#include "RunState.h"
+#include "Snapshot.h"
+#include "StopRequest.h"
+
+#include <QDeadlineTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QThread>
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <set>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// restic answers an interrupt at once and is killed after half a minute.
+constexpr auto stopPatience = 45s;
+
+void collect(const QString& text, const QString& pattern, QStringList& identifiers)
+{
+    const QRegularExpression words(pattern);
+    for (auto match = words.globalMatch(text); match.hasNext();)
+        identifiers.append(match.next().captured(1));
+}
+
+} // namespace
+
+CheckFindings CheckFindings::of(const QString& errorText)
+{
+    // "not referenced in any index" is said of files that an interrupted backup has left, and harms nothing.
+    CheckFindings findings;
+    for (const QString& line : errorText.split(u'\n')) {
+        if (line.contains("not referenced"_L1))
+            continue;
+        collect(line, u"[Pp]ack(?: ID does not match, want|:)? ([0-9a-f]{64})"_s, findings.packs);
+        collect(line, u"tree ([0-9a-f]{64})"_s, findings.trees);
+    }
+    findings.packs.removeDuplicates();
+    findings.trees.removeDuplicates();
+    return findings;
+}
+
+bool CheckFindings::cover(const CheckFindings& others) const
+{
+    const auto holdsAll = [](const QStringList& mine, const QStringList& theirs) {
+        return std::ranges::all_of(theirs, [&mine](const QString& one) { return mine.contains(one); });
+    };
+    if (others == CheckFindings())
+        return *this == others;
+    return holdsAll(packs, others.packs) && holdsAll(trees, others.trees);
+}
+
+QVariantMap Damage::toDictionary() const
+{
+    return {{u"Date"_s, date},
+            {u"Packs"_s, QVariantList(findings.packs.begin(), findings.packs.end())},
+            {u"Trees"_s, QVariantList(findings.trees.begin(), findings.trees.end())},
+            {u"Backups"_s, QVariantList(backups.begin(), backups.end())},
+            {u"Slice"_s, qlonglong{slice}},
+            {u"Repaired"_s, qlonglong{repaired ? 1 : 0}},
+            {u"Lasting"_s, qlonglong{lasting ? 1 : 0}}};
+}
+
+std::optional<Damage> Damage::fromDictionary(const QVariantMap& entry)
+{
+    if (entry.isEmpty())
+        return std::nullopt;
+    return Damage{.date = entry.value(u"Date"_s).toString(),
+                  .findings = {entry.value(u"Packs"_s).toStringList(), entry.value(u"Trees"_s).toStringList()},
+                  .backups = entry.value(u"Backups"_s).toStringList(),
+                  .repaired = entry.value(u"Repaired"_s).toBool(),
+                  .slice = entry.value(u"Slice"_s).toInt(),
+                  .lasting = entry.value(u"Lasting"_s).toBool()};
+}
+
+QString Damage::description() const
+{
+    QString next = repaired ? u"A backup has mended what it could."_s : u"The next backup mends what it can."_s;
+    if (lasting)
+        next =
+            u"That cannot be mended. What is sound can be restored; \"tmutil deletebackup\" removes backups that lack "
+            "something."_s;
+    if (lasting && !findings.packs.isEmpty())
+        next += u" restic 0.16 or later can mend more: once it is installed, let \"tmutil verify --all\" look again."_s;
+    return backups.isEmpty()
+               ? u"The backup disk is damaged, and any of its backups may lack something. "_s + next
+               : u"The backup disk is damaged; backups that lack something: %1. "_s.arg(backups.join(u", "_s)) + next;
+}
+
+bool Damage::outlasts(int soundSlice) const
+{
+    const bool mayBeMended = repaired && !lasting;
+    return findings == CheckFindings() && !mayBeMended && soundSlice != 0 && soundSlice != slice;
+}
+
+Damage Damage::after(const std::optional<Damage>& known) const
+{
+    Damage now = *this;
+    if (known && known->repaired && known->findings.cover(findings)) {
+        now.date = known->date; // it is no news
+        now.repaired = true;
+        now.lasting = true;
+    }
+    return now;
+}
+
+Verification::Verification(const RepositoryFolder& repository, const Folders& folders, const StopRequest& stop)
+    : repository_(repository)
+    , folders_(folders)
+    , stop_(stop)
+{
+}
+
+std::optional<Damage> Verification::run(int slice, const std::optional<Damage>& known) const
+{
+    const QString data = slice == 0 ? u"--read-data"_s : u"--read-data-subset=%1/%2"_s.arg(slice).arg(slices);
+    const Restic restic(repository_, folders_, &stop_);
+    const auto outcome = restic.runUnlocking({u"check"_s, data});
+    if (stop_.isMade())
+        throw Failure(ExitStatus::Stopped, u"The verification was stopped."_s);
+    const ResticDiagnosis diagnosis = outcome.diagnosis();
+    CheckFindings findings = CheckFindings::of(outcome.errorText);
+    if (outcome.exitStatus != 0 && !tellsOfDamage(outcome, findings))
+        throw Failure(ExitStatus::Failed, u"The backups could not be verified: %1"_s.arg(diagnosis.description));
+    if (known)
+        findings.packs += damagedPacks(repository_, known->findings.packs);
+    findings.packs.removeDuplicates();
+    if (outcome.exitStatus == 0 && findings == CheckFindings())
+        return known && known->outlasts(slice) ? known : std::nullopt;
+    return Damage{.date = statusDate(QDateTime::currentDateTimeUtc()),
+                  .findings = findings,
+                  .backups = affectedBackups(findings),
+                  .slice = slice}
+        .after(known);
+}
+
+/// restic tells for each part of a repository which snapshots need it.
+QStringList Verification::affectedBackups(const CheckFindings& findings) const
+{
+    const Restic restic(repository_, folders_, &stop_);
+    std::set<QString> identifiers;
+    for (const auto& [kind, parts] : {std::pair{u"--pack"_s, findings.packs}, std::pair{u"--tree"_s, findings.trees}}) {
+        if (parts.isEmpty())
+            continue;
+        const auto outcome = restic.run(QStringList{u"find"_s, u"--json"_s, u"--no-lock"_s, kind} + parts);
+        for (const QJsonValue entry : QJsonDocument::fromJson(outcome.output).array())
+            identifiers.insert(entry["snapshot"_L1].toString());
+    }
+    QStringList names;
+    try {
+        for (const Snapshot& snapshot : snapshotsIn(repository_, restic)) {
+            if (identifiers.contains(snapshot.id))
+                names.append(snapshot.name());
+        }
+    } catch (const Failure&) {
+        return {}; // not even their list can be read
+    }
+    return names;
+}
+
+bool Verification::tellsOfDamage(const ResticOutcome& outcome, const CheckFindings& findings)
+{
+    // It has come to this verdict itself, and was not killed or kept from running (restic, "Scripting: Exit codes").
+    constexpr int commandFailed = 1;
+    const ResticProblem problem = outcome.diagnosis().problem;
+    if (outcome.diskGone || outcome.exitStatus <= 0)
+        return false;
+    return findings != CheckFindings() || problem == ResticProblem::NoRepository ||
+           (problem == ResticProblem::Unknown && outcome.exitStatus == commandFailed);
+}
+
+bool Verification::isDue(const History& history, const QString& destinationId)
+{
+    const auto damage = history.damage(destinationId);
+    return (damage && damage->repaired && !damage->lasting) ||
+           isWeekOver(history.lastVerification(destinationId), QDateTime::currentDateTimeUtc());
+}
+
+std::optional<Damage> Verification::runAndRemember(const RepositoryFolder& repository, const Folders& folders,
+                                                   const StopRequest& stop, bool all)
+{
+    ProcessLock lock(lockPath(folders.state));
+    if (!lock.tryLock())
+        throw Failure(ExitStatus::AlreadyRunning, u"A verification is already running."_s);
+    const QString id = repository.destination().id;
+    const History before(folders.state);
+    const int slice = all ? 0 : before.verifiedSlice(id) % slices + 1;
+    auto known = before.damage(id);
+    if (known && all)
+        known->repaired = false;
+    const auto damage = Verification(repository, folders, stop).run(slice, known);
+    History::change(folders.state, [&](History& history) {
+        history.setDamage(id, damage);
+        // What was damaged is looked at again once it has been repaired.
+        history.setLastVerification(id, QDateTime::currentDateTimeUtc(),
+                                    all || (damage && !damage->lasting) ? history.verifiedSlice(id) : slice);
+    });
+    return damage;
+}
+
+QString Verification::lockPath(const QString& stateFolder)
+{
+    return stateFolder + "/verification.lock"_L1;
+}
+
+bool Verification::stopRunning(const QString& stateFolder)
+{
+    const auto holder = ProcessLock::holder(lockPath(stateFolder));
+    if (!holder)
+        return false;
+    kill(*holder, SIGTERM);
+    for (const QDeadlineTimer limit(stopPatience); !limit.hasExpired(); QThread::msleep(20)) {
+        if (ProcessLock::holder(lockPath(stateFolder)) != holder)
+            break;
+    }
+    return true;
+}
+
+} // namespace quillon

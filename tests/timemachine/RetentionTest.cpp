@@ -1,0 +1,135 @@
+#include "Retention.h"
+
+#include <QTimeZone>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QDateTime noon(QDate(2026, 11, 21), QTime(12, 0), QTimeZone::utc());
+
+Snapshot at(const QDateTime& time, bool complete = true)
+{
+    Snapshot snapshot;
+    snapshot.id = time.toString(Qt::ISODate) + (complete ? u""_s : u" incomplete"_s);
+    snapshot.time = time;
+    snapshot.complete = complete;
+    return snapshot;
+}
+
+/// Made by a computer of folders, with its minutes before noon as the identifier.
+Snapshot of(const QString& host, const QStringList& sources, int minutes, bool complete = true)
+{
+    Snapshot snapshot = at(noon.addSecs(-60LL * minutes), complete);
+    snapshot.id = QString::number(minutes);
+    snapshot.host = host;
+    snapshot.sources = sources;
+    return snapshot;
+}
+
+std::vector<QString> identifiers(const std::vector<Snapshot>& snapshots)
+{
+    std::vector<QString> identifiers;
+    std::ranges::transform(snapshots, std::back_inserter(identifiers), &Snapshot::id);
+    return identifiers;
+}
+
+/// The times that are not kept, in hours before noon.
+std::vector<qint64> forgotten(const std::vector<Snapshot>& snapshots, const KeepRules& rules, const QString& made = {})
+{
+    std::vector<qint64> hours;
+    for (const Snapshot& snapshot : dispensable(snapshots, rules, made, noon))
+        hours.push_back(snapshot.time.secsTo(noon) / 3600);
+    return hours;
+}
+
+} // namespace
+
+TEST(Retention, KeepsTheLastOfEachHourDayAndWeek)
+{
+    std::vector<Snapshot> snapshots;
+    for (int hours = 72; hours >= 0; hours -= 6)
+        snapshots.push_back(at(noon.addSecs(-hours * 3600)));
+    EXPECT_EQ(forgotten(snapshots, KeepRules()), std::vector<qint64>());
+    // Saturday noon: the days end 18, 42 and 66 hours before, and the week before ended on Sunday.
+    EXPECT_EQ(forgotten(snapshots, {.hourly = 3, .daily = 3, .weekly = 2}),
+              (std::vector<qint64>{72, 66, 60, 54, 48, 36, 30, 24}));
+    snapshots.insert(snapshots.begin(), at(noon.addDays(-6)));
+    EXPECT_EQ(forgotten(snapshots, {.hourly = 1, .daily = 1, .weekly = 2}),
+              (std::vector<qint64>{72, 66, 60, 54, 48, 42, 36, 30, 24, 18, 12, 6}));
+}
+
+TEST(Retention, IncompleteBackupsNeverDisplaceCompleteOnes)
+{
+    std::vector<Snapshot> snapshots;
+    for (int day = 40; day >= 0; --day) {
+        snapshots.push_back(at(noon.addDays(-day)));
+        snapshots.push_back(at(noon.addDays(-day).addSecs(60), false));
+    }
+    snapshots.pop_back(); // which would be dated after now
+    const auto forgotten = dispensable(snapshots, KeepRules(), {}, noon);
+    std::vector<Snapshot> alone;
+    std::ranges::copy_if(snapshots, std::back_inserter(alone), &Snapshot::complete);
+    EXPECT_EQ(std::ranges::count_if(forgotten, &Snapshot::complete), dispensable(alone, KeepRules(), {}, noon).size());
+    EXPECT_GT(std::ranges::count(forgotten, false, &Snapshot::complete), 5) << "these are thinned, too";
+}
+
+TEST(Retention, AFolderThatWasGivenUpAndAnotherComputerKeepTheirLastCompleteBackup)
+{
+    const QString one = u"one"_s;
+    const QString other = u"other"_s;
+    const std::vector snapshots{of(one, {u"/a"_s, u"/given up"_s}, 55),
+                                of(one, {u"/a"_s, u"/given up"_s}, 50),
+                                of(one, {u"/a"_s}, 40),
+                                of(one, {u"/a"_s, u"/given up"_s}, 30, false),
+                                of(one, {u"/a"_s}, 20),
+                                of(other, {u"/a"_s}, 15),
+                                of(other, {u"/a"_s}, 10)};
+    EXPECT_EQ(identifiers(dispensable(snapshots, {.hourly = 1, .daily = 0, .weekly = 0}, {}, noon)),
+              (std::vector{u"55"_s, u"40"_s, u"15"_s}));
+}
+
+TEST(Retention, AClockThatWasWrongNeitherStopsThinningNorCostsTheBackupJustMade)
+{
+    const Snapshot older = at(noon.addSecs(-1200));
+    const Snapshot made = at(noon.addSecs(-600));
+    const Snapshot later = at(noon.addSecs(-300)); // made ahead of it, by a clock that was fast
+    const Snapshot farLater = at(noon.addYears(80));
+    EXPECT_EQ(dispensable({older, made, later, farLater}, {.hourly = 1, .daily = 1, .weekly = 1}, made.id, noon).size(),
+              1U);
+    EXPECT_EQ(latestOf({older, made, later, farLater}, noon)->id, later.id);
+    EXPECT_EQ(latestOf({older, at(noon.addSecs(-60), false)}, noon)->id, older.id) << "an incomplete one is no match";
+    EXPECT_EQ(latestOf({farLater}, noon)->id, farLater.id) << "better than none";
+}
+
+TEST(Retention, WantOfRoomNeverTakesTheLastCompleteBackupOfASource)
+{
+    const QString one = u"one"_s;
+    const QString other = u"other"_s;
+    std::vector snapshots{of(one, {u"/a"_s}, 90),        of(one, {u"/a"_s, u"/gone"_s}, 80),
+                          of(one, {u"/a"_s}, 70),        of(one, {u"/a"_s}, 60),
+                          of(one, {u"/a"_s}, 50, false), of(other, {u"/a"_s}, 45),
+                          of(one, {u"/a"_s}, 40, false), of(other, {u"/a"_s}, 35)};
+    snapshots[2].own = false;
+    EXPECT_EQ(identifiers(leastMissed(snapshots, noon)), (std::vector{u"90"_s, u"50"_s, u"45"_s}));
+    // A clock was wrong once.
+    snapshots.push_back(of(one, {u"/a"_s, u"/b"_s}, -1000));
+    snapshots.push_back(of(one, {u"/a"_s}, -2000));
+    EXPECT_EQ(identifiers(leastMissed(snapshots, noon)), (std::vector{u"90"_s, u"50"_s, u"45"_s, u"-2000"_s}));
+}
+
+TEST(Retention, AWeekIsOverOnceWhateverTheClockDoes)
+{
+    EXPECT_TRUE(isWeekOver({}, noon));
+    EXPECT_FALSE(isWeekOver(noon, noon));
+    EXPECT_FALSE(isWeekOver(noon.addDays(-6), noon));
+    EXPECT_TRUE(isWeekOver(noon.addDays(-7), noon));
+    EXPECT_TRUE(isWeekOver(noon.addDays(400), noon)) << "the clock has been set back";
+}
+
+} // namespace quillon
