@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>Das Backup konnte nicht gestartet werden. Time Machine meldete den Fehlercode %1.</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>Das Backup-Volume ist nicht verbunden.</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>Das Programm restic, das die Backups erstellt, ist nicht installiert.</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1 ist verfügbar</translation>
@@ -324,6 +332,11 @@ Alle Backups auflisten:
 Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen:
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>Es wurde noch kein Backup abgeschlossen. Falls ein Backup-Volume ältere enthält, listet dieser Befehl sie auf:
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>Wiederhergestellt</translation>
@@ -347,11 +360,15 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>Zeitplan</translation>
+        <translation>Zeitplan:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>Warnung zu automatischen Backups</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>Informationen zu den Backup-Volumes</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -413,7 +430,11 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="settingsIntervalHours">
         <source></source>
-        <translation>Std.</translation>
+        <translation>Stunden</translation>
+    </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>Stunde</translation>
     </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
@@ -442,7 +463,7 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>Ab einer Stunde werden auch die Minuten angezeigt, ab einem Tag auch die Stunden.</translation>
+        <translation>Zum Beispiel „1 Std., 30 Min.“ statt „1 Std.“</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>Zu ihren Zeiten werden keine Backups mehr gestartet.</translation>
+        <translation>Die Regel wird entfernt, und Quillon startet zu ihrer Zeit keine Backups mehr.</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
         <source></source>
         <translation>Falls Time Machine auch automatisch Backups erstellt, sollte dies ausgeschaltet werden, damit Backups nur nach Zeitplan starten. Auf dem Mac: „Systemeinstellungen“ &gt; „Allgemein“ &gt; „Time Machine“ &gt; „Optionen“ öffnen und die Häufigkeit der Backups auf „Manuell“ setzen.</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>Backups werden erstellt auf:
+%1
+
+Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfernt.</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>Es ist noch kein Backup-Volume eingerichtet, und ohne eines kann kein Backup starten. In den Time Machine-Einstellungen lässt sich eines hinzufügen.</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>Backup-Volumes werden in den Time Machine-Einstellungen ausgewählt.</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>Hilfe</translation>
@@ -551,11 +587,11 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>Danksagung</translation>
+        <translation>Quillon baut auf Qt, ICU und libplist auf. Unter Linux erstellt restic die Backups.</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>App-Symbol</translation>
+        <translation>Symbol von %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Backups werden auf diesen Volumes erstellt. Alles darauf ist verschlüsselt; die Schlüssel liegen im Benutzerordner.</translation>
+        <translation>Backups werden auf diesen Volumes erstellt. Die Backups sind verschlüsselt; alles andere auf einem Volume bleibt, wie es ist. Die Schlüssel liegen im Benutzerordner.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@ Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>Die Backups darauf bleiben erhalten, ebenso ihr Schlüssel. Wird derselbe Ordner erneut hinzugefügt, werden sie fortgesetzt.</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>Stattdessen den ganzen Benutzerordner sichern?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>„%1“ ist der einzige Ordner in der Liste. Ist die Liste leer, wird alles im Benutzerordner gesichert.</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

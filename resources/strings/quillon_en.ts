@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>The backup could not be started. Time Machine answered with error code %1.</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>The backup disk is not connected.</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>The program restic, which makes the backups, is not installed.</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1 is available</translation>
@@ -324,6 +332,11 @@ List all backups:
 Restore a folder from the latest one, as a copy in your home folder:
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>No backup has been completed yet. If a backup disk holds earlier ones, this command lists them:
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>Restored</translation>
@@ -347,11 +360,15 @@ Restore a folder from the latest one, as a copy in your home folder:
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>Schedule</translation>
+        <translation>Schedule:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>Warning about automatic backups</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>About the backup disks</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -413,7 +430,11 @@ Restore a folder from the latest one, as a copy in your home folder:
     </message>
     <message id="settingsIntervalHours">
         <source></source>
-        <translation>h</translation>
+        <translation>hours</translation>
+    </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>hour</translation>
     </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
@@ -442,7 +463,7 @@ Restore a folder from the latest one, as a copy in your home folder:
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>From an hour on, times also show minutes; from a day on, they also show hours.</translation>
+        <translation>For example, “1h 30m” instead of “1h”.</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@ Restore a folder from the latest one, as a copy in your home folder:
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>Backups will no longer start at its times.</translation>
+        <translation>The rule is removed, and Quillon no longer starts backups at its time.</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@ Restore a folder from the latest one, as a copy in your home folder:
         <source></source>
         <translation>If Time Machine also backs up automatically, switch that off, so that backups start only when you have scheduled them. On a Mac, open System Settings, choose General &gt; Time Machine &gt; Options, and set “Back up frequency” to “Manually”.</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>Backups are made to:
+%1
+
+Backup disks are added and removed in the Time Machine settings.</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>No backup disk is set up yet, and without one no backup can start. Add one in the Time Machine settings.</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>Backup disks are chosen in the Time Machine settings.</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>Help</translation>
@@ -551,11 +587,11 @@ Restore a folder from the latest one, as a copy in your home folder:
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>Credits</translation>
+        <translation>Quillon is built on Qt, ICU, and libplist. On Linux, restic makes the backups.</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>App Icon</translation>
+        <translation>Icon from %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@ Restore a folder from the latest one, as a copy in your home folder:
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Backups are made to these disks. Everything on them is encrypted; the keys are kept in your home folder.</translation>
+        <translation>Backups are made to these disks. The backups are encrypted; whatever else is on a disk is left as it is. The keys are kept in your home folder.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@ Restore a folder from the latest one, as a copy in your home folder:
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>The backups on it are kept, and so is their key. Add the same folder again to go on with them.</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>Back up your whole home folder instead?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>“%1” is the only folder on the list. When the list is empty, everything in your home folder is backed up.</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>No se ha podido iniciar la copia de seguridad. Time Machine ha respondido con el código de error %1.</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>El disco de copia de seguridad no está conectado.</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>El programa restic, que hace las copias, no está instalado.</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1 está disponible</translation>
@@ -324,6 +332,11 @@ Ver la lista de todas las copias:
 Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio:
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>Aún no se ha completado ninguna copia de seguridad. Si un disco contiene copias anteriores, este comando las muestra:
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>Restaurado</translation>
@@ -347,11 +360,15 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>Programación</translation>
+        <translation>Programación:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>Advertencia sobre las copias automáticas</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>Acerca de los discos de copia de seguridad</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -413,7 +430,11 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="settingsIntervalHours">
         <source></source>
-        <translation>h</translation>
+        <translation>horas</translation>
+    </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>hora</translation>
     </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
@@ -442,7 +463,7 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>A partir de una hora se muestran también los minutos; a partir de un día, también las horas.</translation>
+        <translation>Por ejemplo, “1h 30min” en vez de “1h”.</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>Ya no se iniciarán copias a las horas que indica.</translation>
+        <translation>La regla se elimina y Quillon deja de iniciar copias a la hora que indica.</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
         <source></source>
         <translation>Si Time Machine también hace copias automáticas, desactívalas para que las copias solo se inicien cuando las hayas programado. En un Mac, abre Ajustes del Sistema, selecciona General &gt; Time Machine &gt; Opciones y elige “Manualmente” como frecuencia de las copias.</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>Las copias de seguridad se hacen en:
+%1
+
+Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time Machine.</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>Aún no hay ningún disco de copia de seguridad configurado, y sin él no puede iniciarse ninguna copia. Añade uno en los ajustes de Time Machine.</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>Los discos de copia de seguridad se eligen en los ajustes de Time Machine.</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>Ayuda</translation>
@@ -551,11 +587,11 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>Créditos</translation>
+        <translation>Quillon se basa en Qt, ICU y libplist. En Linux, restic hace las copias.</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>Icono de la app</translation>
+        <translation>Icono de %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Las copias de seguridad se hacen en estos discos. Todo su contenido está cifrado; las claves se guardan en tu carpeta personal.</translation>
+        <translation>Las copias de seguridad se hacen en estos discos. Las copias están cifradas; lo demás que haya en un disco no se toca. Las claves se guardan en tu carpeta personal.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@ Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>Las copias que contiene se conservan, y también su clave. Para continuarlas, vuelve a añadir la misma carpeta.</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>¿Hacer copia de toda tu carpeta personal en su lugar?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>“%1” es la única carpeta de la lista. Si la lista está vacía, se hace copia de todo el contenido de tu carpeta personal.</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

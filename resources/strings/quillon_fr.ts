@@ -292,6 +292,14 @@
         <source></source>
         <translation>La sauvegarde n’a pas pu démarrer. Time Machine a répondu par le code d’erreur %1.</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>Le disque de sauvegarde n’est pas connecté.</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>Le programme restic, qui effectue les sauvegardes, n’est pas installé.</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1 est disponible</translation>
@@ -324,6 +332,11 @@ Lister toutes les sauvegardes :
 Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier personnel :
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>Aucune sauvegarde n’a encore été terminée. Si un disque de sauvegarde en contient d’anciennes, cette commande les liste :
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>Restauration</translation>
@@ -347,11 +360,15 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>Programmation</translation>
+        <translation>Programmation :</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>Avertissement sur les sauvegardes automatiques</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>À propos des disques de sauvegarde</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -413,7 +430,11 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     </message>
     <message id="settingsIntervalHours">
         <source></source>
-        <translation>h</translation>
+        <translation>heures</translation>
+    </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>heure</translation>
     </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
@@ -442,7 +463,7 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>À partir d’une heure, les minutes s’affichent aussi ; à partir d’un jour, les heures aussi.</translation>
+        <translation>Par exemple, « 1h 30min » au lieu de « 1h ».</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>Les sauvegardes ne démarreront plus aux heures qu’elle indique.</translation>
+        <translation>La règle est supprimée, et Quillon ne lance plus de sauvegarde à l’heure qu’elle indique.</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
         <source></source>
         <translation>Si Time Machine effectue aussi des sauvegardes automatiques, désactivez-les afin que les sauvegardes ne démarrent qu’aux heures programmées. Sur un Mac, ouvrez Réglages Système, choisissez Général &gt; Time Machine &gt; Options et réglez la fréquence des sauvegardes sur « Manuellement ».</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>Les sauvegardes sont effectuées sur :
+%1
+
+Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Machine.</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>Aucun disque de sauvegarde n’est encore configuré, et sans lui aucune sauvegarde ne peut démarrer. Ajoutez-en un dans les réglages Time Machine.</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>Les disques de sauvegarde se choisissent dans les réglages Time Machine.</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>Aide</translation>
@@ -551,11 +587,11 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>Remerciements</translation>
+        <translation>Quillon repose sur Qt, ICU et libplist. Sous Linux, restic effectue les sauvegardes.</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>Icône de l’app</translation>
+        <translation>Icône de %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Les sauvegardes sont effectuées sur ces disques. Tout y est chiffré ; les clés se trouvent dans votre dossier personnel.</translation>
+        <translation>Les sauvegardes sont effectuées sur ces disques. Elles sont chiffrées ; le reste du disque n’est pas modifié. Les clés se trouvent dans votre dossier personnel.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@ Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier per
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>Les sauvegardes qui s’y trouvent sont conservées, ainsi que leur clé. Ajoutez à nouveau le même dossier pour les poursuivre.</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>Sauvegarder tout votre dossier personnel à la place ?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>« %1 » est le seul dossier de la liste. Si la liste est vide, tout le contenu de votre dossier personnel est sauvegardé.</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>Impossibile avviare il backup. Time Machine ha risposto con il codice di errore %1.</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>Il disco di backup non è collegato.</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>Il programma restic, che esegue i backup, non è installato.</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1 è disponibile</translation>
@@ -324,6 +332,11 @@ Elencare tutti i backup:
 Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio:
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>Non è stato ancora completato alcun backup. Se un disco di backup ne contiene di precedenti, questo comando li elenca:
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>Ripristino</translation>
@@ -347,11 +360,15 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>Programmazione</translation>
+        <translation>Programmazione:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>Avviso sui backup automatici</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>Informazioni sui dischi di backup</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -413,7 +430,11 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     </message>
     <message id="settingsIntervalHours">
         <source></source>
-        <translation>h</translation>
+        <translation>ore</translation>
+    </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>ora</translation>
     </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
@@ -442,7 +463,7 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>A partire da un’ora vengono mostrati anche i minuti; a partire da un giorno, anche le ore.</translation>
+        <translation>Ad esempio “1h 30min” anziché “1h”.</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>I backup non inizieranno più agli orari che indica.</translation>
+        <translation>La regola viene eliminata e Quillon non avvia più backup all’orario che indica.</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
         <source></source>
         <translation>Se Time Machine esegue anche backup automatici, disattivali: così i backup inizieranno solo quando li hai programmati. Sul Mac, apri Impostazioni di Sistema, scegli Generali &gt; Time Machine &gt; Opzioni e imposta la frequenza dei backup su “Manualmente”.</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>I backup vengono eseguiti su:
+%1
+
+I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>Non è ancora configurato alcun disco di backup e, senza, nessun backup può iniziare. Aggiungine uno nelle impostazioni Time Machine.</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>I dischi di backup si scelgono nelle impostazioni Time Machine.</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>Aiuto</translation>
@@ -551,11 +587,11 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>Riconoscimenti</translation>
+        <translation>Quillon si basa su Qt, ICU e libplist. Su Linux i backup sono eseguiti da restic.</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>Icona dell’app</translation>
+        <translation>Icona di %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>I backup vengono eseguiti su questi dischi. Tutto il contenuto è codificato; le chiavi si trovano nella tua cartella Inizio.</translation>
+        <translation>I backup vengono eseguiti su questi dischi. I backup sono codificati; il resto del disco rimane com’è. Le chiavi si trovano nella tua cartella Inizio.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@ Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>I backup che contiene vengono conservati, e così la loro chiave. Per continuarli, aggiungi di nuovo la stessa cartella.</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>Eseguire invece il backup di tutta la cartella Inizio?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>“%1” è l’unica cartella dell’elenco. Se l’elenco è vuoto, viene eseguito il backup di tutta la cartella Inizio.</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

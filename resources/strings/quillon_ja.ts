@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>バックアップを開始できませんでした。Time Machineからエラーコード%1が返されました。</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>バックアップディスクが接続されていません。</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>バックアップを作成するプログラムresticがインストールされていません。</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1が利用可能です</translation>
@@ -324,6 +332,11 @@
 最新のバックアップからフォルダを復元（ホームフォルダにコピーを作成）：
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>完了したバックアップはまだありません。バックアップディスクに以前のバックアップがある場合は、次のコマンドで一覧を表示できます：
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>復元</translation>
@@ -347,11 +360,15 @@
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>スケジュール</translation>
+        <translation>スケジュール:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>自動バックアップについての警告</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>バックアップディスクについて</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -415,6 +432,10 @@
         <source></source>
         <translation>時間</translation>
     </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>時間</translation>
+    </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
         <translation>間隔はまだ使用されません。バックアップは、ルールの曜日と時刻に開始されます。</translation>
@@ -442,7 +463,7 @@
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>1時間以上では分も、1日以上では時間も表示します。</translation>
+        <translation>例：「1h」ではなく「1h30m」と表示します。</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>このルールの時刻にはバックアップが開始されなくなります。</translation>
+        <translation>このルールは削除され、Quillonはその時刻にバックアップを開始しなくなります。</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@
         <source></source>
         <translation>Time Machineの自動バックアップがオンの場合は、予定した時刻にだけバックアップが開始されるように、オフにしてください。Macでは、「システム設定」を開き、「一般」&gt;「Time Machine」&gt;「オプション」と選択して、バックアップの頻度を「手動」に設定します。</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>バックアップの作成先：
+%1
+
+バックアップディスクの追加と削除は「Time Machine」設定で行います。</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>バックアップディスクがまだ設定されていないため、バックアップを開始できません。「Time Machine」設定で追加してください。</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>バックアップディスクは「Time Machine」設定で選びます。</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>ヘルプ</translation>
@@ -551,11 +587,11 @@
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>クレジット</translation>
+        <translation>QuillonはQt、ICU、libplistを使用しています。Linuxではresticがバックアップを作成します。</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>アプリのアイコン</translation>
+        <translation>アイコンの提供元：%1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>バックアップはこれらのディスクに作成されます。内容はすべて暗号化され、鍵はホームフォルダに保管されます。</translation>
+        <translation>バックアップはこれらのディスクに作成されます。バックアップは暗号化され、ディスク上のほかの項目は変更されません。鍵はホームフォルダに保管されます。</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>保存されているバックアップとその鍵は残ります。同じフォルダをもう一度追加すると、続きから使用できます。</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>代わりにホームフォルダ全体をバックアップしますか?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>「%1」はリストにある唯一のフォルダです。リストが空の場合は、ホームフォルダの内容がすべてバックアップされます。</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>De reservekopie kon niet worden gestart. Time Machine antwoordde met foutcode %1.</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>De reservekopieschijf is niet aangesloten.</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>Het programma restic, dat de reservekopieën maakt, is niet geïnstalleerd.</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1 is beschikbaar</translation>
@@ -324,6 +332,11 @@ Alle reservekopieën tonen:
 Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>Er is nog geen reservekopie voltooid. Als op een schijf oudere reservekopieën staan, toont deze opdracht ze:
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>Hersteld</translation>
@@ -347,11 +360,15 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>Schema</translation>
+        <translation>Schema:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>Waarschuwing over automatische reservekopieën</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>Over de reservekopieschijven</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -415,6 +432,10 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
         <source></source>
         <translation>uur</translation>
     </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>uur</translation>
+    </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
         <translation>Het interval wordt nog niet gebruikt: reservekopieën starten op de dagen en tijden van de regels.</translation>
@@ -442,7 +463,7 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>Vanaf een uur worden ook de minuten getoond, vanaf een dag ook de uren.</translation>
+        <translation>Bijvoorbeeld ‘1 u, 30 m’ in plaats van ‘1 u’.</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>Op de tijden van deze regel worden geen reservekopieën meer gestart.</translation>
+        <translation>De regel wordt verwijderd en Quillon start op dat tijdstip geen reservekopie meer.</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
         <source></source>
         <translation>Als Time Machine ook automatisch reservekopieën maakt, schakel je dat uit, zodat reservekopieën alleen starten wanneer jij ze hebt gepland. Op een Mac open je Systeeminstellingen, kies je ‘Algemeen’ &gt; ‘Time Machine’ &gt; ‘Opties’ en stel je de frequentie van de reservekopieën in op ‘Handmatig’.</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>Reservekopieën worden gemaakt op:
+%1
+
+Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen.</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>Er is nog geen reservekopieschijf ingesteld en zonder schijf kan geen reservekopie starten. Voeg er een toe in de Time Machine-instellingen.</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>Reservekopieschijven kies je in de Time Machine-instellingen.</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>Help</translation>
@@ -551,11 +587,11 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>Dankbetuiging</translation>
+        <translation>Quillon is gebouwd op Qt, ICU en libplist. Op Linux maakt restic de reservekopieën.</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>Appsymbool</translation>
+        <translation>Symbool van %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Reservekopieën worden op deze schijven gemaakt. Alles erop is versleuteld; de sleutels staan in je thuismap.</translation>
+        <translation>Reservekopieën worden op deze schijven gemaakt. De reservekopieën zijn versleuteld; wat er verder op een schijf staat, blijft zoals het is. De sleutels staan in je thuismap.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@ Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>De reservekopieën erop blijven bewaard, en de sleutel ook. Voeg dezelfde map opnieuw toe om ermee door te gaan.</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>In plaats daarvan een reservekopie van je hele thuismap maken?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>‘%1’ is de enige map in de lijst. Als de lijst leeg is, wordt een reservekopie gemaakt van alles in je thuismap.</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

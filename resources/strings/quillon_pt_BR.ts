@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>Não foi possível iniciar o backup. O Time Machine respondeu com o código de erro %1.</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>O disco de backup não está conectado.</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>O programa restic, que faz os backups, não está instalado.</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>O Quillon %1 está disponível</translation>
@@ -324,6 +332,11 @@ Listar todos os backups:
 Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>Nenhum backup foi concluído ainda. Se um disco de backup contém backups anteriores, este comando os lista:
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>Restaurado</translation>
@@ -347,11 +360,15 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>Programação</translation>
+        <translation>Programação:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>Aviso sobre backups automáticos</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>Sobre os discos de backup</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -413,7 +430,11 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="settingsIntervalHours">
         <source></source>
-        <translation>h</translation>
+        <translation>horas</translation>
+    </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>hora</translation>
     </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
@@ -442,7 +463,7 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>A partir de uma hora, os minutos também são mostrados; a partir de um dia, também as horas.</translation>
+        <translation>Por exemplo, “1 h 30 min” em vez de “1 h”.</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>Os backups não começarão mais nos horários dela.</translation>
+        <translation>A regra é apagada, e o Quillon deixa de iniciar backups no horário dela.</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
         <source></source>
         <translation>Se o Time Machine também fizer backups automáticos, desative-os para que os backups comecem somente quando você os tiver programado. No Mac, abra os Ajustes do Sistema, escolha Geral &gt; Time Machine &gt; Opções e defina a frequência dos backups como “Manualmente”.</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>Os backups são feitos em:
+%1
+
+Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>Ainda não há um disco de backup configurado, e sem ele nenhum backup pode começar. Adicione um nos Ajustes do Time Machine.</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>Os discos de backup são escolhidos nos Ajustes do Time Machine.</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>Ajuda</translation>
@@ -551,11 +587,11 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>Créditos</translation>
+        <translation>O Quillon é feito com Qt, ICU e libplist. No Linux, o restic faz os backups.</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>Ícone do App</translation>
+        <translation>Ícone de %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Os backups são feitos nestes discos. Tudo neles é criptografado; as chaves ficam na sua pasta pessoal.</translation>
+        <translation>Os backups são feitos nestes discos. Os backups são criptografados; o restante do disco permanece como está. As chaves ficam na sua pasta pessoal.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@ Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>Os backups nele são mantidos, assim como a chave. Para continuá-los, adicione a mesma pasta novamente.</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>Fazer backup de toda a pasta pessoal em vez disso?</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>“%1” é a única pasta da lista. Quando a lista está vazia, é feito o backup de tudo o que há na sua pasta pessoal.</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

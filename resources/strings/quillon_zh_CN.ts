@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none. -->
+<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -292,6 +292,14 @@
         <source></source>
         <translation>未能开始备份。“时间机器”返回了错误代码 %1。</translation>
     </message>
+    <message id="startDiskAwayMessage">
+        <source></source>
+        <translation>备份磁盘未连接。</translation>
+    </message>
+    <message id="startResticMissingMessage">
+        <source></source>
+        <translation>未安装用于备份的程序 restic。</translation>
+    </message>
     <message id="appUpdateAvailableAlertTitle">
         <source></source>
         <translation>Quillon %1 可供下载</translation>
@@ -324,6 +332,11 @@
 从最近一次备份中恢复文件夹，拷贝到个人文件夹：
 %3</translation>
     </message>
+    <message id="restoreGuideEmptyMessage">
+        <source></source>
+        <translation>尚未完成任何备份。如果备份磁盘上有较早的备份，可用此命令列出：
+%1</translation>
+    </message>
     <message id="restoreFolderName">
         <source></source>
         <translation>已恢复</translation>
@@ -347,11 +360,15 @@
     </message>
     <message id="scheduleTitle">
         <source></source>
-        <translation>计划</translation>
+        <translation>计划:</translation>
     </message>
     <message id="warningButtonTitle">
         <source></source>
         <translation>关于自动备份的警告</translation>
+    </message>
+    <message id="setupDisksButtonTitle">
+        <source></source>
+        <translation>关于备份磁盘</translation>
     </message>
     <message id="addRuleTitle">
         <source></source>
@@ -415,6 +432,10 @@
         <source></source>
         <translation>小时</translation>
     </message>
+    <message id="settingsIntervalHour">
+        <source></source>
+        <translation>小时</translation>
+    </message>
     <message id="settingsIntervalNotYetUsed">
         <source></source>
         <translation>间隔尚未启用：备份会在规则指定的日期和时间开始。</translation>
@@ -442,7 +463,7 @@
     </message>
     <message id="settingsShowDetailedTimeInMenuBarDetails">
         <source></source>
-        <translation>一小时起也显示分钟，一天起也显示小时。</translation>
+        <translation>例如“1小时30分钟”而非“1小时”。</translation>
     </message>
     <message id="settingsShowMenuBarIconOnly">
         <source></source>
@@ -483,7 +504,7 @@
     </message>
     <message id="confirmDeleteRuleMessage">
         <source></source>
-        <translation>备份将不再于此规则的时间开始。</translation>
+        <translation>此规则将被移除，Quillon 不再于其时间开始备份。</translation>
     </message>
     <message id="retryAfterMissedBackupTitle">
         <source></source>
@@ -528,6 +549,21 @@
         <source></source>
         <translation>如果“时间机器”也会自动备份，请将其关闭，以便备份只在你计划的时间开始。在 Mac 上，打开“系统设置”，选取“通用”&gt;“时间机器”&gt;“选项”，然后将备份频率设为“手动”。</translation>
     </message>
+    <message id="setupDisksMessage">
+        <source></source>
+        <translation>备份储存在：
+%1
+
+可在“时间机器”设置中添加和移除备份磁盘。</translation>
+    </message>
+    <message id="setupNoDiskMessage">
+        <source></source>
+        <translation>尚未设置备份磁盘，因此无法开始备份。请在“时间机器”设置中添加一个。</translation>
+    </message>
+    <message id="setupUnknownDisksMessage">
+        <source></source>
+        <translation>备份磁盘在“时间机器”设置中选取。</translation>
+    </message>
     <message id="AlertButtonHelp">
         <source></source>
         <translation>帮助</translation>
@@ -551,11 +587,11 @@
     </message>
     <message id="creditsTitle">
         <source></source>
-        <translation>致谢</translation>
+        <translation>Quillon 基于 Qt、ICU 和 libplist 构建。在 Linux 上，备份由 restic 完成。</translation>
     </message>
     <message id="appIconCreditsTitle">
         <source></source>
-        <translation>App 图标</translation>
+        <translation>图标来自 %1</translation>
     </message>
     <message id="privacyPolicyDetailsMessage">
         <source></source>
@@ -600,7 +636,7 @@
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>备份储存在这些磁盘上。其中的所有内容均已加密；密钥保存在你的个人文件夹中。</translation>
+        <translation>备份储存在这些磁盘上。备份经过加密，磁盘上的其他内容保持不变。密钥保存在你的个人文件夹中。</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -689,6 +725,14 @@
     <message id="disksRemoveAlertInformative">
         <source></source>
         <translation>其中的备份及其密钥都会保留。再次添加同一文件夹即可继续使用。</translation>
+    </message>
+    <message id="disksHomeAlertMessage">
+        <source></source>
+        <translation>要改为备份整个个人文件夹吗？</translation>
+    </message>
+    <message id="disksHomeAlertInformative">
+        <source></source>
+        <translation>“%1”是列表中唯一的文件夹。列表为空时，将备份个人文件夹中的所有内容。</translation>
     </message>
     <message id="disksReadFailed">
         <source></source>

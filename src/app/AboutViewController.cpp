@@ -70,7 +70,7 @@ void AboutViewController::fillOutlets(RunLoop& runLoop)
     // A table may hold a friendlier text for the address; without one the address itself is shown.
     ui_->emailButton->setText(localizedString(makersite::supportAddress().toUtf8().constData()));
     ui_->websiteButton->setText(localizedString("websiteButtonTitle"));
-    ui_->appIconCreditsButton->setText(localizedString("appIconCreditsTitle"));
+    ui_->appIconCreditsButton->setText(localizedString("appIconCreditsTitle").arg(makersite::iconCollection().host()));
     ui_->privacyPolicyButton->setText(localizedString("privacyPolicyAlertTitle"));
     ui_->termsButton->setText(localizedString("termsButtonTitle"));
 }

@@ -5,6 +5,7 @@
 #include "MakerSite.h"
 #include "Notifications.h"
 #include "SettingsKeys.h"
+#include "SetupAdvice.h"
 #include "SystemVersion.h"
 #include "TextComparison.h"
 
@@ -32,6 +33,7 @@ AppDelegate::AppDelegate(const Services& services)
     , notifications_(services.notifications)
     , workspace_(services.workspace)
     , alerts_(services.alerts)
+    , tmutil_(services.tmutilQueue, services.launcher, services.runLoop, services.workspace, services.alerts)
     , version_(services.version)
 {
 }
@@ -41,8 +43,12 @@ void AppDelegate::applicationDidFinishLaunching()
     isRunning_ = true;
     checkNowAndDaily();
     connect(&workspace_, &Workspace::didWake, this, &AppDelegate::checkNowAndDaily);
-    if (!defaults_.boolean(settingskeys::didShowAlertAtFirstLaunch))
-        presentFirstLaunchAlert();
+    if (defaults_.boolean(settingskeys::didShowAlertAtFirstLaunch))
+        return;
+    giveSetupAdvice(tmutil_, runLoop_, [self = QPointer(this)](const SetupAdvice& advice) {
+        if (self)
+            self->presentFirstLaunchAlert(advice);
+    });
 }
 
 void AppDelegate::checkNowAndDaily()
@@ -77,20 +83,22 @@ void AppDelegate::scheduleCheckForAppUpdateTimer()
     checkForAppUpdateTimer_ = runLoop_.scheduleRepeating(updateCheckPeriod, [this] { retrieveLatestAppVersion(); });
 }
 
-void AppDelegate::presentFirstLaunchAlert()
+void AppDelegate::presentFirstLaunchAlert(const SetupAdvice& advice)
 {
     AlertRequest alert;
-    alert.messageText = localizedString("firstStartInfoAlertTitle").arg(u"Quillon"_s);
-    alert.informativeText =
-        localizedString("firstStartInfoAlertMessage").arg(disableTimeMachineInstruction(), u"Quillon"_s);
+    const QString name = u"Quillon"_s;
+    alert.messageText = localizedString("firstStartInfoAlertTitle").arg(name);
+    alert.informativeText = localizedString("firstStartInfoAlertMessage").arg(advice.text, name);
     alert.buttons = {localizedString("AlertButtonClose"), localizedString("AlertButtonHelp")};
     alert.escapeButton = 0;
-    alerts_.present(alert, [self = QPointer(this)](int response) {
+    alerts_.present(alert, [self = QPointer(this), name, diskIsMissing = advice.diskIsMissing](int response) {
         if (!self)
             return;
         if (response == alertSecondButtonReturn)
             self->workspace_.openURL(makersite::page(u"/quillon/manual/"_s), {});
         self->defaults_.setObject(settingskeys::didShowAlertAtFirstLaunch, true);
+        if (diskIsMissing)
+            self->tmutil_.openTimeMachineSettings(name);
     });
 }
 

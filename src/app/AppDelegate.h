@@ -3,6 +3,7 @@
 #include "AlertPresenter.h"
 #include "NotificationCenter.h"
 #include "RunLoop.h"
+#include "TMUtil.h"
 #include "UserDefaults.h"
 #include "Workspace.h"
 
@@ -11,8 +12,11 @@
 
 namespace quillon {
 
+struct SetupAdvice;
+
 /// What belongs to the program as a whole: the check for a newer version, at launch, on wake and once a day, and the
-/// alert of the first launch. Main thread only.
+/// alert of the first launch, which is followed by Time Machine's settings where a disk is yet to be set up. Main
+/// thread only.
 class AppDelegate final : public QObject {
     Q_OBJECT
 
@@ -23,6 +27,8 @@ public:
         NotificationCenter& notifications;
         Workspace& workspace;
         AlertPresenter& alerts;
+        TMUtilQueue& tmutilQueue;
+        TaskLauncher& launcher;
         QString version; ///< of the program, such as 2.4.1
     };
 
@@ -46,13 +52,14 @@ public:
 
 private:
     void checkNowAndDaily();
-    void presentFirstLaunchAlert();
+    void presentFirstLaunchAlert(const SetupAdvice& advice);
 
     RunLoop& runLoop_;
     UserDefaults& defaults_;
     NotificationCenter& notifications_;
     Workspace& workspace_;
     AlertPresenter& alerts_;
+    TMUtil tmutil_;
     const QString version_;
     bool isRunning_ = false;
     Timer checkForAppUpdateTimer_;

@@ -1,22 +1,30 @@
 #include "MakerService.h"
 
+#include "Obfuscated.h"
+
 namespace quillon::makerservice {
 
-using namespace Qt::StringLiterals;
+namespace {
+
+constexpr Obfuscated hiddenId(QUILLON_SERVICE_APPLICATION_ID);
+constexpr Obfuscated hiddenKey(QUILLON_SERVICE_API_KEY);
+constexpr auto encodedAddress = base64(QUILLON_SERVICE_ADDRESS);
+
+} // namespace
 
 QString applicationId()
 {
-    return u"" QUILLON_SERVICE_APPLICATION_ID ""_s;
+    return hiddenId.text();
 }
 
 QString apiKey()
 {
-    return u"" QUILLON_SERVICE_API_KEY ""_s;
+    return hiddenKey.text();
 }
 
 QString address()
 {
-    return u"" QUILLON_SERVICE_ADDRESS ""_s;
+    return QString::fromUtf8(QByteArray::fromBase64(QByteArray(encodedAddress.data(), encodedAddress.size())));
 }
 
 } // namespace quillon::makerservice

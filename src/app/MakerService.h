@@ -3,6 +3,7 @@
 #include <QString>
 
 /// The maker's configuration service, as the build says (cmake/Maker.cmake); all empty in a build that says nothing.
+/// The program holds the identifier and the key obfuscated and the address in base64, none of them as readable text.
 namespace quillon::makerservice {
 
 QString applicationId();

@@ -4,6 +4,7 @@
 #include "DateFormatter.h"
 #include "LocalizedString.h"
 
+#include <QDir>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -122,9 +123,7 @@ ListPage* DisksWindow::makeSourcesPage()
             change({u"addsource"_s, u"--"_s, path}, localizedString("disksAddFailed").arg(lastComponent(path)));
         });
     });
-    connect(page, &ListPage::removeRequested, this, [this](const QString& path, const QString& name) {
-        change({u"removesource"_s, u"--"_s, path}, localizedString("disksRemoveFailed").arg(name));
-    });
+    connect(page, &ListPage::removeRequested, this, &DisksWindow::removeSource);
     return page;
 }
 
@@ -270,16 +269,36 @@ void DisksWindow::addDisk(const QString& path)
 
 void DisksWindow::confirmDiskRemoval(const QString& id, const QString& name)
 {
-    alerts_.present(
-        {.style = AlertStyle::Warning,
-         .messageText = localizedString("disksRemoveAlertMessage").arg(name),
-         .informativeText = localizedString("disksRemoveAlertInformative"),
-         .buttons = {localizedString("disksCancelTitle"), localizedString("disksRemoveTitle")},
-         .destructiveButton = 1},
-        [this, id, name](int response) {
-            if (response == alertSecondButtonReturn)
+    confirm(localizedString("disksRemoveAlertMessage").arg(name), localizedString("disksRemoveAlertInformative"),
+            [this, id, name] {
                 change({u"removedestination"_s, u"--"_s, id}, localizedString("disksRemoveFailed").arg(name));
-        });
+            });
+}
+
+void DisksWindow::removeSource(const QString& path, const QString& name)
+{
+    const auto remove = [this, path, name] {
+        change({u"removesource"_s, u"--"_s, path}, localizedString("disksRemoveFailed").arg(name));
+    };
+    // The home folder takes the place of the last folder that was named. Nobody expects that much.
+    if (sources_.size() == 1 && path != QDir::homePath())
+        confirm(localizedString("disksHomeAlertMessage"), localizedString("disksHomeAlertInformative").arg(name),
+                remove);
+    else
+        remove();
+}
+
+void DisksWindow::confirm(const QString& message, const QString& informative, const std::function<void()>& remove)
+{
+    alerts_.present({.style = AlertStyle::Warning,
+                     .messageText = message,
+                     .informativeText = informative,
+                     .buttons = {localizedString("disksCancelTitle"), localizedString("disksRemoveTitle")},
+                     .destructiveButton = 1},
+                    [remove](int response) {
+                        if (response == alertSecondButtonReturn)
+                            remove();
+                    });
 }
 
 void DisksWindow::choose(const QString& title, bool files, const std::function<void(const QString& path)>& take)

@@ -56,6 +56,9 @@ private:
     void fillDiskMenu(QMenu& menu);
     void addDisk(const QString& path);
     void confirmDiskRemoval(const QString& id, const QString& name);
+    void removeSource(const QString& path, const QString& name);
+    /// Asks ahead of a removal, which is made if the user says so.
+    void confirm(const QString& message, const QString& informative, const std::function<void()>& remove);
     void choose(const QString& title, bool files, const std::function<void(const QString& path)>& take);
 
     RunLoop& runLoop_;

@@ -3,24 +3,34 @@
 #include "LocalizedString.h"
 #include "StatusMenu.h"
 
+#include <utility>
+
 namespace quillon {
 
 BackupDisksMenu::BackupDisksMenu(QWidget* parent)
     : QMenu(parent)
 {
+    connect(this, &QMenu::aboutToShow, this, &BackupDisksMenu::fill);
 }
 
 void BackupDisksMenu::setEntries(const QList<Entry>& entries)
 {
-    if (entries == entries_)
+    wanted_ = entries;
+    if (!isVisible())
+        fill();
+}
+
+void BackupDisksMenu::fill()
+{
+    if (entries_ == wanted_)
         return;
-    entries_ = entries;
+    entries_ = wanted_;
     clear();
     QAction* choice = addAction(QString());
     StatusMenu::setTitle(choice, localizedString("letMacOsDecideBackupDiskTitle"));
     connect(choice, &QAction::triggered, this, &BackupDisksMenu::systemChoiceClicked);
     addSeparator();
-    for (const auto& entry : entries) {
+    for (const auto& entry : std::as_const(entries_)) {
         QAction* item = addAction(QString());
         StatusMenu::setTitle(item, entry.title);
         item->setData(entry.identifier);

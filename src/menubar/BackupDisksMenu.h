@@ -21,8 +21,7 @@ public:
     /// The parent is the menu that it opens from.
     explicit BackupDisksMenu(QWidget* parent);
 
-    /// What it offers beside the choice of the system; entries that are there already stay as they are, so that a
-    /// submenu on screen does not flicker.
+    /// What it offers beside the choice of the system, once it has been closed: a click is meant for what was there.
     void setEntries(const QList<Entry>& entries);
 
 Q_SIGNALS:
@@ -30,6 +29,9 @@ Q_SIGNALS:
     void diskClicked(const QString& identifier);
 
 private:
+    void fill();
+
+    QList<Entry> wanted_;
     QList<Entry> entries_;
 };
 

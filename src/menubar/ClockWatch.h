@@ -1,14 +1,16 @@
 #pragma once
 
+#include "Calendar.h"
 #include "RunLoop.h"
 
-#include <QString>
+#include <QList>
 
 #include <chrono>
 
 namespace quillon {
 
-/// Notices that the wall clock was set, or the time zone changed, since it was last looked at.
+/// Notices that the wall clock was set, or the time zone changed, since it was last looked at. A zone is what it does
+/// in the coming year, not its name: /etc/localtime keeps its name, and a law changes what a name stands for.
 class ClockWatch {
 public:
     struct Change {
@@ -22,9 +24,19 @@ public:
     Change look();
 
 private:
+    struct ZoneYear {
+        Date begin;
+        int offset = 0;
+        QList<OffsetChange> changes;
+
+        bool operator==(const ZoneYear&) const = default;
+    };
+
+    static ZoneYear zoneYearFrom(Date begin);
+
     const RunLoop& runLoop_;
     std::chrono::milliseconds wallAheadOfUptime_{};
-    QString timeZone_;
+    ZoneYear zone_;
 };
 
 } // namespace quillon

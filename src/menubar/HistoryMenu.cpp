@@ -8,9 +8,11 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QWidgetAction>
 
 #include <memory>
+#include <utility>
 
 namespace quillon {
 
@@ -36,38 +38,51 @@ QLabel* plainLabel(const QString& text, QWidget* parent)
 class RowView final : public QWidget {
 public:
     explicit RowView(const HistoryMenu::Row& row)
-        : heading_(plainLabel(row.heading, this))
+        : row_(row)
+        , label_(new QLabel(this))
     {
         setAccessibleName(row.title());
-        QFont bold = font();
-        bold.setBold(true);
-        heading_->setFont(bold);
+        label_->setTextFormat(Qt::RichText);
         auto* layout = new QHBoxLayout(this);
         layout->setContentsMargins(sideMargin, rowMargin, sideMargin, rowMargin);
-        layout->setSpacing(0);
-        layout->addWidget(heading_);
-        layout->addWidget(plainLabel(": "_L1 + row.value, this));
-        layout->addStretch();
-        colourHeading();
+        layout->addWidget(label_);
+        showRow();
     }
 
 protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        const auto* menu = qobject_cast<const QMenu*>(parentWidget());
+        const auto* chosen = menu ? qobject_cast<const QWidgetAction*>(menu->activeAction()) : nullptr;
+        if (!chosen || chosen->defaultWidget() != this)
+            return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QColor ground = palette().color(QPalette::WindowText);
+        ground.setAlphaF(0.08F); // fainter than on an item that does something
+        painter.setBrush(ground);
+        painter.setPen(palette().color(QPalette::Highlight));
+        constexpr qreal cornerRadius = 4;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 0.5, -1.5, -0.5), cornerRadius, cornerRadius);
+    }
     void changeEvent(QEvent* event) override
     {
         QWidget::changeEvent(event);
         if (event->type() == QEvent::PaletteChange)
-            colourHeading();
+            showRow();
     }
 
 private:
-    void colourHeading()
+    /// In one text: of two labels the second would begin a little late.
+    void showRow()
     {
-        QPalette blue = palette();
-        blue.setColor(QPalette::WindowText, systemBlueColor(palette()));
-        heading_->setPalette(blue);
+        const QString shown = u"<p style=\"white-space:pre\"><b style=\"color:%1\">%2</b>: %3</p>"_s;
+        label_->setText(
+            shown.arg(systemBlueColor(palette()).name(), row_.heading.toHtmlEscaped(), row_.value.toHtmlEscaped()));
     }
 
-    QLabel* heading_;
+    const HistoryMenu::Row row_;
+    QLabel* label_;
 };
 
 } // namespace
@@ -75,21 +90,38 @@ private:
 HistoryMenu::HistoryMenu(QWidget* parent)
     : QMenu(parent)
 {
+    connect(this, &QMenu::aboutToShow, this, &HistoryMenu::fill);
+    connect(this, &QMenu::hovered, this, &HistoryMenu::giveKeyboardTo);
 }
 
 void HistoryMenu::setRows(const QList<Row>& rows)
 {
-    if (rows == rows_)
+    wanted_ = rows;
+    if (!isVisible())
+        fill();
+}
+
+void HistoryMenu::fill()
+{
+    if (rows_ == wanted_)
         return;
-    rows_ = rows;
+    rows_ = wanted_;
     clear();
     addTitle();
     addSeparator();
-    for (const auto& row : rows)
+    for (const auto& row : std::as_const(rows_))
         addRow(row);
     const auto items = actions();
     for (QAction* item : items)
         item->setMenuRole(QAction::NoRole);
+}
+
+/// Qt leaves it where it was: with nobody when the menu opens, with the help button on the rows below it.
+void HistoryMenu::giveKeyboardTo(QAction* item)
+{
+    auto* row = qobject_cast<QWidgetAction*>(item);
+    QWidget* view = row ? row->defaultWidget() : nullptr;
+    (view && view->focusPolicy() != Qt::NoFocus ? view : this)->setFocus(Qt::TabFocusReason);
 }
 
 void HistoryMenu::addTitle()

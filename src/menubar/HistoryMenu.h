@@ -25,17 +25,20 @@ public:
     /// The parent is the menu that it opens from.
     explicit HistoryMenu(QWidget* parent);
 
-    /// Rows that are there already stay as they are, so that a submenu on screen does not flicker.
+    /// What it lists, once it has been closed: rows do not move under the pointer.
     void setRows(const QList<Row>& rows);
 
 Q_SIGNALS:
     void helpButtonPressed();
 
 private:
+    void fill();
+    void giveKeyboardTo(QAction* item);
     void addTitle();
     QWidget* createAllBackupInfoTitleMenuItemView();
     void addRow(const Row& row);
 
+    QList<Row> wanted_;
     QList<Row> rows_;
 };
 

@@ -4,16 +4,19 @@
 #include "LocalizedString.h"
 #include "PauseDurations.h"
 
-#include <QEvent>
+#include <QActionEvent>
 #include <QScreen>
+#include <QStyleOptionMenuItem>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
-StatusMenu::StatusMenu()
+StatusMenu::StatusMenu(const RunLoop& runLoop)
     : phaseMenuItem(addItem(u"phaseMenuItem"_s))
     , backupDiskMenuItem(addItem(u"backupDiskMenuItem"_s))
     , pauseScheduleMenuItem(addGroup(u"pauseScheduleMenuItem"_s))
@@ -28,45 +31,83 @@ StatusMenu::StatusMenu()
     , preferencesMenuItem(addItem(u"preferencesMenuItem"_s))
     , aboutMenuItem(addItem(u"aboutMenuItem"_s))
     , quitMenuItem(addGroup(u"quitMenuItem"_s))
+    , runLoop_(runLoop)
 {
-    // These only inform.
-    for (QAction* item : {phaseMenuItem, backupDiskMenuItem, remainingTimeMenuItem})
+    for (QAction* item : information())
         item->setEnabled(false);
     for (QAction* item : {backupDiskMenuItem, skipRetryAttemptMenuItem, resumeScheduleMenuItem, resumeScheduleSeparator,
                           updateAvailableMenuItem})
         item->setVisible(false);
     addPauseDurations();
     setFont(withColorEmoji(font()));
-    dimInformation();
 }
 
-void StatusMenu::dimInformation()
+std::array<QAction*, 3> StatusMenu::information() const
 {
-    // Items that only inform are disabled, but people read them: paler than the others, at least 4.5:1 to the ground.
-    constexpr float strength = 0.7F;
-    QPalette dimmed = palette();
-    QColor text = dimmed.color(QPalette::Active, QPalette::WindowText);
+    return {phaseMenuItem, backupDiskMenuItem, remainingTimeMenuItem};
+}
+
+void StatusMenu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const
+{
+    QMenu::initStyleOption(option, action);
+    if (action->isEnabled() || std::ranges::count(information(), action) == 0)
+        return;
+    // People read them: paler than what can be chosen, at least 4.5:1 to the ground, and yet no command that is off.
+    constexpr float strength = 0.75F;
+    QColor text = palette().color(QPalette::Active, QPalette::WindowText);
     text.setAlphaF(strength);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        dimmed.setColor(QPalette::Disabled, role, text);
-    if (dimmed != palette())
-        setPalette(dimmed);
-}
-
-void StatusMenu::changeEvent(QEvent* event)
-{
-    QMenu::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        dimInformation();
+        option->palette.setColor(QPalette::Disabled, role, text);
 }
 
 void StatusMenu::resizeEvent(QResizeEvent* event)
 {
     QMenu::resizeEvent(event);
-    // Titles grow and submenus appear while the menu is open.
+    // Titles grow while the menu is open.
     const QRect available = screen()->availableGeometry();
     if (isVisible() && geometry().right() > available.right())
         move(std::max(available.left(), available.right() + 1 - width()), y());
+}
+
+void StatusMenu::setShown(QAction* item, bool shown)
+{
+    if (isVisible())
+        shownNext_[item] = shown;
+    else
+        item->setVisible(shown);
+}
+
+void StatusMenu::hideEvent(QHideEvent* event)
+{
+    QMenu::hideEvent(event);
+    for (const auto& [item, shown] : std::exchange(shownNext_, {}).asKeyValueRange())
+        item->setVisible(shown);
+}
+
+void StatusMenu::showEvent(QShowEvent* event)
+{
+    QMenu::showEvent(event);
+    const auto items = actions();
+    for (const QAction* item : items)
+        readings_[item] = {item->text(), item->menu() != nullptr};
+}
+
+void StatusMenu::actionEvent(QActionEvent* event)
+{
+    QMenu::actionEvent(event);
+    if (!isVisible() || event->type() != QEvent::ActionChanged)
+        return;
+    const QAction* item = event->action();
+    Reading& reading = readings_[item];
+    if (reading.title != item->text() || reading.opensSubmenu != (item->menu() != nullptr))
+        reading = {item->text(), item->menu() != nullptr, runLoop_.uptime()};
+}
+
+bool StatusMenu::hasJustChanged(const QAction* item) const
+{
+    constexpr auto timeToReact = 500ms; // from seeing something to not clicking any more
+    const auto changed = readings_.value(item).changed;
+    return changed && runLoop_.uptime() - *changed < timeToReact;
 }
 
 void StatusMenu::addPauseDurations()

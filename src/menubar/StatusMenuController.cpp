@@ -59,6 +59,7 @@ void StatusMenuController::awakeFromNib()
     restorePause();
     startTimerWithInterval(pollintervals::idle);
     firePollTimer();
+    requestBackupDisks(); // the first menu is to be whole as it opens
     createPopovers();
     registerObservers();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AlertPopover.h"
 #include "AlertPresenter.h"
 #include "BackupDisksMenu.h"
 #include "ClockWatch.h"
@@ -151,7 +152,9 @@ private:
     void markCompletion(const TMStatus& status);
     void requestBackupDisks();
     /// Asks what Time Machine does now and acts once, however many reports the answer brings.
-    void askForState(std::function<void(TMState state)> act);
+    void askForStatus(std::function<void(const TMStatus& status)> act);
+    /// Takes an answer in as a poll's, and its state also in place of "starting".
+    void takeOverStatus(const TMStatus& status);
 
     // State machine
     bool isActive() const;
@@ -184,6 +187,7 @@ private:
 
     // Commands
     void requestStart(const QString& identifier, bool rotateBackupDisks);
+    void answerBackupNow(const TMStatus& status, bool offeredToStop);
     void requestStop();
     void tellOfFailedStart(std::int32_t exitStatus);
     void showPopover(Popover& popover);
@@ -192,20 +196,22 @@ private:
     // Schedule
     void startScheduledBackup();
     void askForScheduledStart(const ScheduleSwitches& switches);
-    void answerScheduledStart(TMState state, const ScheduleSwitches& switches);
+    void answerScheduledStart(const TMStatus& status, const ScheduleSwitches& switches);
+    /// The backup-now item is disabled until commandSettled(): clicks would have no effect.
+    void commandBegins();
     /// A start or a stop has been answered: the next one may come.
     void commandSettled();
     void startAccepted();
-    void setRetryInFiveMinutesIfEnabled(const QString& enablingKey);
+    /// Whether a retry was planned: the key is on and the schedule not paused.
+    bool setRetryInFiveMinutesIfEnabled(const QString& enablingKey);
     Date freshRetryDate() const;
 
     // Sleep, wake, clock
     void prepareForSleep();
     void handleWake(Wake wake);
-    bool scheduleWasMissed() const;
+    bool scheduleWasMissed(Wake wake) const;
     void checkClock();
     ClockWatch::Change takeClockAsItIs();
-    void reviveSchedule();
 
     // Pause
     void pauseTimerFired(Date end);
@@ -229,11 +235,12 @@ private:
     LoginItem& loginItem_;
     StatusItem& statusItem_;
     TMUtil tmutil_;
-    StatusMenu statusMenu_;
+    StatusMenu statusMenu_{runLoop_};
     BackupDisksMenu backupDisksMenu_{&statusMenu_};
     HistoryMenu historyMenu_{&statusMenu_};
     std::unique_ptr<Popover> aboutPopover_;
     std::unique_ptr<Popover> preferencesPopover_;
+    std::weak_ptr<AlertPopover> historyHelp_;
     const char* enterTimeMachineTitleLocaleKey_ = nullptr;
     const char* skipThisBackupTitleLocaleKey_ = nullptr;
 
@@ -247,6 +254,7 @@ private:
     bool commandIsUnderWay_ = false; ///< a start or a stop, by the user or by the schedule
     std::optional<ScheduleSwitches> waitingStart_;
     bool menuDisksAreAwaited_ = false; ///< the menu has been opened and not yet filled
+    bool disksAreAwaited_ = false;     ///< for the name of a run's disk
     std::optional<Date> backupCompleteDate_;
     std::optional<QString> activeBackupDiskIdentifier_;
     QList<BackupDestination> backupDisks_;
@@ -258,7 +266,7 @@ private:
     Timer repeatingIntervalTimer_;
     double pollInterval_ = 0;
     int pollsAwaited_ = 0;
-    std::chrono::milliseconds lastAnswerUptime_{0}; ///< of a status question or an accepted start
+    std::chrono::milliseconds startAccepted_{0}; ///< on the uptime clock
     bool pollIsFired_ = false;
     Timer checkPauseScheduleExpirationTimer_;
     ClockWatch clockWatch_;

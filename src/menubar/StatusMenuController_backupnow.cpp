@@ -1,30 +1,44 @@
 #include "LocalizedString.h"
 #include "SettingsKeys.h"
+#include "StartFailure.h"
 #include "StatusMenuController.h"
 
-#include <utility>
-
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 
 void StatusMenuController::backupNowClicked()
 {
     // A second click while the first one is under way would take effect twice.
-    if (std::exchange(commandIsUnderWay_, true))
+    if (commandIsUnderWay_)
         return;
-    askForState([this](TMState state) {
-        tmState_ = state;
-        updateStatusBar(); // a run that has ended since the last poll is to be recorded before the next one begins
-        if (state == TMState::Running || state == TMState::Stopping)
-            requestStop();
-        else
-            requestStart({}, switchIsOn(settingskeys::rotateBackupDisks));
-    });
+    const bool offeredToStop = isActive();
+    commandBegins();
+    askForStatus([this, offeredToStop](const TMStatus& status) { answerBackupNow(status, offeredToStop); });
+}
+
+void StatusMenuController::answerBackupNow(const TMStatus& status, bool offeredToStop)
+{
+    if (offeredToStop && status.state == TMState::Unknown) { // the next poll may know more
+        commandSettled();
+        return;
+    }
+    const bool mayBeAboutToRun = tmState_ == TMState::Starting;
+    takeOverStatus(status); // a run that has ended since the last poll is to be recorded before the next one begins
+    if (status.state == TMState::Running || status.state == TMState::Stopping || mayBeAboutToRun)
+        requestStop();
+    else if (offeredToStop)
+        commandSettled(); // who wanted to end a run does not want another one
+    else
+        requestStart({}, switchIsOn(settingskeys::rotateBackupDisks));
 }
 
 void StatusMenuController::backupNowSubMenuItemClicked(const QString& identifier)
 {
-    if (!std::exchange(commandIsUnderWay_, true))
-        requestStart(identifier, false);
+    if (commandIsUnderWay_)
+        return;
+    commandBegins();
+    requestStart(identifier, false);
 }
 
 void StatusMenuController::requestStop()
@@ -42,10 +56,12 @@ void StatusMenuController::requestStart(const QString& identifier, bool rotateBa
 {
     tmutil_.startBackupOnDiskWithIdentifier(
         identifier, rotateBackupDisks, [this](std::int32_t exitStatus, bool success) {
-            if (success)
+            if (success) {
+                waitingStart_.reset(); // the backup that it was to start begins now
                 startAccepted();
-            else
+            } else {
                 runLoop_.enqueue([this, exitStatus] { tellOfFailedStart(exitStatus); });
+            }
             commandSettled();
         });
 }
@@ -55,6 +71,8 @@ void StatusMenuController::tellOfFailedStart(std::int32_t exitStatus)
     AlertRequest warning;
     warning.messageText = localizedString("AlertTitleWarning");
     warning.informativeText = localizedString("failedToStartBackupMessage").arg(exitStatus);
+    if (const QString reason = startFailureReason(exitStatus); !reason.isEmpty())
+        warning.informativeText += u"\n\n"_s + reason;
     warning.buttons = {localizedString("AlertButtonClose")};
     alerts_.present(warning, {});
 }

@@ -14,7 +14,12 @@ using namespace Qt::StringLiterals;
 void StatusMenuController::connectCommands()
 {
     connect(&statusMenu_, &QMenu::aboutToShow, this, &StatusMenuController::menuWillOpen);
-    const auto onClick = [this](QAction* item, auto command) { connect(item, &QAction::triggered, this, command); };
+    const auto onClick = [this](QAction* item, auto command) {
+        connect(item, &QAction::triggered, this, [this, item, command] {
+            if (!statusMenu_.hasJustChanged(item))
+                QMetaObject::invokeMethod(this, command);
+        });
+    };
     onClick(statusMenu_.backupNowMenuItem, [this] {
         if (!statusMenu_.backupNowMenuItem->menu()) // with a submenu the item only opens it
             backupNowClicked();
@@ -52,8 +57,10 @@ void StatusMenuController::enterTimeMachineClicked()
         if (opened)
             return;
         QStringList latestBackups;
-        for (const auto& row : historyRows())
-            latestBackups.append(row.title());
+        if (!sharedDataManager_.latestBackupInfo().isEmpty()) {
+            for (const auto& row : historyRows())
+                latestBackups.append(row.title());
+        }
         if (const auto guide = restoreGuide(latestBackups))
             alerts_.present(*guide, {});
     });
@@ -84,6 +91,7 @@ void StatusMenuController::aboutClicked()
 
 void StatusMenuController::showPopover(Popover& popover)
 {
+    statusMenu_.close(); // which a second start of the program finds open; it would lie on top
     popover.showRelativeTo(statusItem_.anchor(), RectEdge::MinY);
 }
 

@@ -47,11 +47,16 @@ void StatusMenuController::showHistory()
 
 void StatusMenuController::allBackupInfoHelpButtonPressed()
 {
-    statusMenu_.close(); // it holds the keyboard and the pointer
-    AlertRequest help;
-    help.informativeText = localizedString("allBackupInfoHelpMessage");
-    help.buttons = {localizedString("AlertButtonClose")};
-    AlertPopover::create(help)->runAsPopoverForView(statusItem_.anchor(), RectEdge::MinY);
+    statusMenu_.close();             // it holds the keyboard and the pointer
+    auto help = historyHelp_.lock(); // there already, or pushed aside by another one: once is enough
+    if (!help) {
+        AlertRequest request;
+        request.informativeText = localizedString("allBackupInfoHelpMessage");
+        request.buttons = {localizedString("AlertButtonClose")};
+        help = AlertPopover::create(request);
+        historyHelp_ = help;
+    }
+    help->runAsPopoverForView(statusItem_.anchor(), RectEdge::MinY);
 }
 
 } // namespace quillon

@@ -17,7 +17,7 @@ void StatusMenuController::updateMenuItems()
                                                   tmState_ == TMState::NotRunning);
     updateBackupNowItem();
     updatePauseItemTitle();
-    statusMenu_.updateAvailableMenuItem->setVisible(latestAppVersion_.has_value());
+    statusMenu_.setShown(statusMenu_.updateAvailableMenuItem, latestAppVersion_.has_value());
 }
 
 QString StatusMenuController::backupText(std::optional<Date> date, std::int64_t bytes) const
@@ -80,10 +80,13 @@ void StatusMenuController::updateBackupNowItem()
         title = localizedString(skipThisBackupTitleLocaleKey_);
         withdrawSubmenus();
     }
-    statusMenu_.skipRetryAttemptMenuItem->setVisible(sharedDataManager_.retryBackupDate().has_value());
+    statusMenu_.setShown(statusMenu_.skipRetryAttemptMenuItem, sharedDataManager_.retryBackupDate().has_value());
     StatusMenu::setTitle(item, title);
+    const auto disks = backupDisksMenu_.actions(); // which may be open at this moment
+    for (QAction* disk : disks)
+        disk->setEnabled(!commandIsUnderWay_);
     if (shouldEnableMenuButons_)
-        item->setEnabled(!stopBackupConfirmed_ && tmState_ != TMState::Stopping);
+        item->setEnabled(!commandIsUnderWay_ && !stopBackupConfirmed_ && tmState_ != TMState::Stopping);
 }
 
 void StatusMenuController::updatePauseItemTitle()
@@ -104,14 +107,14 @@ void StatusMenuController::updateBackupDiskMenuItem()
 {
     QAction* item = statusMenu_.backupDiskMenuItem;
     if (backupDisks_.size() < 2) {
-        item->setVisible(false);
+        statusMenu_.setShown(item, false);
         return;
     }
     QString identifier = defaults_.string(settingskeys::lastBackupDiskIdentifier);
     if (tmState_ == TMState::Running || tmState_ == TMState::Stopping)
         identifier = activeBackupDiskIdentifier_.value_or(QString());
     const QString name = nameForBackupDiskWithIdentifier(identifier);
-    item->setVisible(!name.isEmpty());
+    statusMenu_.setShown(item, !name.isEmpty());
     StatusMenu::setTitle(item, u"%1: %2"_s.arg(localizedString("backupDiskTitle"), name));
 }
 

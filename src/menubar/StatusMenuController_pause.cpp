@@ -36,8 +36,8 @@ void StatusMenuController::pauseForClicked(std::int64_t tag)
 void StatusMenuController::showPaused(Date end, std::int64_t tag)
 {
     StatusMenu::setState(statusMenu_.pauseScheduleMenuItem, true);
-    statusMenu_.resumeScheduleMenuItem->setVisible(true);
-    statusMenu_.resumeScheduleSeparator->setVisible(true);
+    statusMenu_.setShown(statusMenu_.resumeScheduleMenuItem, true);
+    statusMenu_.setShown(statusMenu_.resumeScheduleSeparator, true);
     titlePauseItem(end);
     setTogglesForPauseMenuItems(tag);
 }
@@ -54,8 +54,8 @@ void StatusMenuController::resumeScheduleClicked()
 void StatusMenuController::showNotPaused()
 {
     StatusMenu::setState(statusMenu_.pauseScheduleMenuItem, false);
-    statusMenu_.resumeScheduleMenuItem->setVisible(false);
-    statusMenu_.resumeScheduleSeparator->setVisible(false);
+    statusMenu_.setShown(statusMenu_.resumeScheduleMenuItem, false);
+    statusMenu_.setShown(statusMenu_.resumeScheduleSeparator, false);
     StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem, localizedString("pauseScheduleForTitle"));
     setTogglesForPauseMenuItems(0);
 }

@@ -1,3 +1,4 @@
+#include "PollIntervals.h"
 #include "StatusMenuController.h"
 
 #include <memory>
@@ -9,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::seconds longestTrustedSilence{30};
+// A run that has not been reported for so long is not about to be.
+constexpr std::chrono::minutes closelyWatchedStart{1};
 
 } // namespace
 
@@ -28,6 +30,9 @@ void StatusMenuController::stopTimer()
 void StatusMenuController::pollTimerTicked()
 {
     checkClock();
+    // "Starting" has no time-out, but nobody needs to look for the run five times a second for ever.
+    if (pollInterval_ == pollintervals::starting && runLoop_.uptime() - startAccepted_ > closelyWatchedStart)
+        startTimerWithInterval(pollintervals::running);
     requestTimeMachineStatus();
 }
 
@@ -65,11 +70,8 @@ void StatusMenuController::handleStatus(const TMStatus& status)
 
 void StatusMenuController::noteRunState(const TMStatus& status)
 {
-    const auto silence = runLoop_.uptime() - std::exchange(lastAnswerUptime_, runLoop_.uptime());
-    // A start was accepted and Time Machine does not report the run yet. After a long silence that can't be said: the
-    // run may have come and gone while the tool hung.
-    if (status.state == TMState::NotRunning && tmState_ == TMState::Starting && silence < longestTrustedSilence)
-        return;
+    if (status.state == TMState::NotRunning && tmState_ == TMState::Starting)
+        return; // a start was accepted and Time Machine does not report the run yet
     if (tmPhase_ == "Copying"_L1 && status.phase != "Copying"_L1)
         progress_.copyPhaseEnded(runLoop_.now());
     tmState_ = status.state;
@@ -86,24 +88,29 @@ void StatusMenuController::markCompletion(const TMStatus& status)
 
 void StatusMenuController::requestBackupDisks()
 {
+    if (std::exchange(disksAreAwaited_, true))
+        return; // one list tells all who ask before it is there, and holds up no second poll
     tmutil_.getBackupDestinationsWithCompletionHandler([this](bool, const QList<BackupDestination>& destinations) {
+        disksAreAwaited_ = false;
         backupDisks_ = destinations;
         updateBackupDiskMenuItem();
     });
 }
 
-void StatusMenuController::askForState(std::function<void(TMState state)> act)
+void StatusMenuController::askForStatus(std::function<void(const TMStatus& status)> act)
 {
-    struct Answer {
-        TMState lastReport = TMState::Unknown;
-        bool reported = false;
-    };
-    const auto answer = std::make_shared<Answer>();
-    tmutil_.getStatusWithCompletionHandler([this, answer, act = std::move(act)](const TMStatus& status) {
-        answer->lastReport = status.state;
-        if (!std::exchange(answer->reported, true))
-            runLoop_.enqueue([answer, act] { act(answer->lastReport); }); // a second report comes before this
+    const auto lastReport = std::make_shared<std::optional<TMStatus>>();
+    tmutil_.getStatusWithCompletionHandler([this, lastReport, act = std::move(act)](const TMStatus& status) {
+        if (!std::exchange(*lastReport, status))
+            runLoop_.enqueue([lastReport, act] { act(**lastReport); }); // a second report comes before this
     });
+}
+
+void StatusMenuController::takeOverStatus(const TMStatus& status)
+{
+    if (tmState_ == TMState::Starting)
+        tmState_ = status.state; // the run that was waited for may have come and gone
+    handleStatus(status);
 }
 
 } // namespace quillon

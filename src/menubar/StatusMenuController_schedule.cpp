@@ -29,39 +29,49 @@ void StatusMenuController::startScheduledBackup()
 
 void StatusMenuController::askForScheduledStart(const ScheduleSwitches& switches)
 {
-    if (std::exchange(commandIsUnderWay_, true)) {
+    if (commandIsUnderWay_) {
         waitingStart_ = switches; // the user is starting or stopping a backup at this moment
         return;
     }
-    askForState([this, switches](TMState state) { answerScheduledStart(state, switches); });
+    commandBegins();
+    askForStatus([this, switches](const TMStatus& status) { answerScheduledStart(status, switches); });
 }
 
-void StatusMenuController::answerScheduledStart(TMState state, const ScheduleSwitches& switches)
+void StatusMenuController::answerScheduledStart(const TMStatus& status, const ScheduleSwitches& switches)
 {
-    const bool startIsPending = tmState_ == TMState::Starting && state == TMState::NotRunning;
-    const bool stillWanted =
-        switches == ScheduleSwitches{sharedDataManager_.isScheduleEnabled(), runningPause(defaults_, runLoop_.now())};
-    if (!startIsPending) {
-        tmState_ = state;
-        updateStatusBar(); // a run that has ended since the last poll is to be recorded before the next one begins
-    }
-    if (startIsPending || state != TMState::NotRunning || !stillWanted) {
+    if (status.state == TMState::Unknown) { // which is no reason to do anything, and tells nothing of a run
         commandSettled();
         return;
     }
+    const bool stillWanted =
+        switches == ScheduleSwitches{sharedDataManager_.isScheduleEnabled(), runningPause(defaults_, runLoop_.now())};
+    if (status.state != TMState::NotRunning || !stillWanted) {
+        handleStatus(status);
+        commandSettled();
+        return;
+    }
+    takeOverStatus(status); // a run that has ended since the last poll is to be recorded before the next one begins
     tmutil_.startBackupOnDiskWithIdentifier({}, switchIsOn(settingskeys::rotateBackupDisks),
                                             [this](std::int32_t, bool success) {
                                                 if (success) {
-                                                    requestBackupDisks();
                                                     startAccepted();
+                                                    // Behind the first poll, lest a slow list hide a short run.
+                                                    runLoop_.enqueue([this] { requestBackupDisks(); });
                                                 }
                                                 commandSettled();
                                             });
 }
 
+void StatusMenuController::commandBegins()
+{
+    commandIsUnderWay_ = true;
+    updateBackupNowItem();
+}
+
 void StatusMenuController::commandSettled()
 {
     commandIsUnderWay_ = false;
+    updateStatusBar();
     if (const auto waiting = std::exchange(waitingStart_, std::nullopt))
         askForScheduledStart(*waiting);
 }
@@ -70,19 +80,20 @@ void StatusMenuController::startAccepted()
 {
     tmState_ = TMState::Starting;
     tmPhase_ = u"Starting"_s;
-    lastAnswerUptime_ = runLoop_.uptime();
+    startAccepted_ = runLoop_.uptime();
     runLoop_.enqueue([this] {
         firePollTimer();
         startTimerWithInterval(pollintervals::starting);
     });
 }
 
-void StatusMenuController::setRetryInFiveMinutesIfEnabled(const QString& enablingKey)
+bool StatusMenuController::setRetryInFiveMinutesIfEnabled(const QString& enablingKey)
 {
     const bool paused = defaults_.integer(settingskeys::pauseUntilTag) != 0;
-    if (!paused && switchIsOn(enablingKey)) {
+    const bool enabled = !paused && switchIsOn(enablingKey);
+    if (enabled)
         sharedDataManager_.setRetryBackupDate(freshRetryDate());
-    }
+    return enabled;
 }
 
 Date StatusMenuController::freshRetryDate() const

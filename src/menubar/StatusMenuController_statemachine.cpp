@@ -82,10 +82,9 @@ void StatusMenuController::closeDeadEnds()
 {
     // A stop that was accepted just as the run ended would keep the backup-now item disabled for ever.
     stopBackupConfirmed_ = false;
-    // A start whose run was never reported would be looked for five times a second for ever.
-    if (pollInterval_ == pollintervals::starting)
+    // A start whose run was never reported would be looked for every few seconds for ever.
+    if (pollInterval_ != pollintervals::idle)
         startTimerWithInterval(pollintervals::idle);
-    reviveSchedule();
 }
 
 void StatusMenuController::beginRun()

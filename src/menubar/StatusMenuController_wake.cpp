@@ -31,18 +31,20 @@ void StatusMenuController::handleWake(Wake wake)
     if (keepsRetry) {
         // After a step back it is no farther ahead than a fresh one would be.
         sharedDataManager_.setRetryBackupDate(std::min(*retry, freshRetryDate()));
-    } else if (scheduleWasMissed()) {
+    } else if (scheduleWasMissed(wake)) {
         setMenuBarIconState(MenuBarIconState::MissedSchedule);
-        setRetryInFiveMinutesIfEnabled(settingskeys::enableRetryAtMissedSchedule);
+        if (!setRetryInFiveMinutesIfEnabled(settingskeys::enableRetryAtMissedSchedule))
+            sharedDataManager_.scheduleNextBackup(); // the mark stands, and the schedule goes on
     } else {
         sharedDataManager_.scheduleNextBackup();
     }
     updateStatusBar();
 }
 
-bool StatusMenuController::scheduleWasMissed() const
+bool StatusMenuController::scheduleWasMissed(Wake wake) const
 {
-    if (menuBarIconState_ == MenuBarIconState::MissedSchedule)
+    // A mark that stands earns a fresh retry at each wake-up; setting a clock is none.
+    if (wake == Wake::FromSleep && menuBarIconState_ == MenuBarIconState::MissedSchedule)
         return true;
     const auto last = defaults_.date(settingskeys::lastBackupDate);
     const auto next = sharedDataManager_.nextScheduledBackupDate();
@@ -71,16 +73,6 @@ ClockWatch::Change StatusMenuController::takeClockAsItIs()
     if (change.step < std::chrono::milliseconds(0))
         sharedDataManager_.clockWasSetBack(-change.step);
     return change;
-}
-
-void StatusMenuController::reviveSchedule()
-{
-    // A missed start without a retry leaves a date in the past and no timer: without this no backup would ever be
-    // started again.
-    const auto next = sharedDataManager_.nextScheduledBackupDate();
-    const bool timerIsArmed = sharedDataManager_.startBackupTimer().isValid();
-    if (!asleepSince_ && sharedDataManager_.isScheduleEnabled() && next && *next < runLoop_.now() && !timerIsArmed)
-        sharedDataManager_.scheduleNextBackup();
 }
 
 } // namespace quillon

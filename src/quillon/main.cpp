@@ -1,5 +1,6 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
+#include "Calendar.h"
 #include "ChangePrinter.h"
 #include "Cirrel.h"
 #include "DataManager.h"
@@ -8,6 +9,7 @@
 #include "LoginItemFactory.h"
 #include "MakerService.h"
 #include "ModalAlertPresenter.h"
+#include "ModalWindow.h"
 #include "NotificationCenter.h"
 #include "Options.h"
 #include "QtRunLoop.h"
@@ -18,7 +20,6 @@
 #include "TMUtilQueue.h"
 #include "Task.h"
 #include "UserDefaultsStore.h"
-#include "WindowSystem.h"
 #include "WorkspaceFactory.h"
 
 #include <QApplication>
@@ -45,9 +46,7 @@ void printLine(std::FILE* stream, const QString& text)
 /// A second start of the program asks for the settings, not for the menu: the item may be hidden in a crowded bar.
 void present(StatusMenuController& controller)
 {
-    if (QWidget* alert = QApplication::activeModalWidget()) // which waits for an answer and blocks everything else
-        bringToFront(*alert);
-    else
+    if (!bringModalWindowToFront())
         controller.preferencesClicked();
 }
 
@@ -58,7 +57,7 @@ int runApplication(const Options& options, SingleInstance& instance)
     Task launcher;
     NotificationCenter notifications;
     ModalAlertPresenter alerts;
-    const auto defaults = openUserDefaults(DefaultsAccess::ReadWrite);
+    const auto defaults = openUserDefaults(DefaultsAccess::ReadWrite, runLoop);
     const auto workspace = makeWorkspace(
         runLoop, {{TMUtil::settingsAddress(), QCoreApplication::applicationDirPath() + "/quillon-disks"_L1}});
     const auto loginItem =
@@ -69,7 +68,8 @@ int runApplication(const Options& options, SingleInstance& instance)
     const auto statusItem = makeStatusItem(options.placement);
     StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutilQueue, launcher, alerts,
                                      dataManager, *loginItem, *statusItem});
-    AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, bundleShortVersion()});
+    AppDelegate delegate(
+        {runLoop, *defaults, notifications, *workspace, alerts, tmutilQueue, launcher, bundleShortVersion()});
 
     std::unique_ptr<ChangePrinter> printer;
     if (options.printChanges)
@@ -116,11 +116,13 @@ int main(int argc, char** argv)
         printLine(stdout, options->help ? Options::helpText() : u"Quillon %1"_s.arg(bundleShortVersion()));
         return 0;
     }
+    Calendar::followSystemTimeZone(); // while there are no threads
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(u"Quillon"_s);
     QApplication::setApplicationVersion(bundleShortVersion());
     QApplication::setDesktopFileName(u"com.Orvane.Quillon"_s);
+    QApplication::setWindowIcon(QIcon(u":/icon/com.Orvane.Quillon.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false);
     installStringTable();
     const QuitSignals quitSignals;

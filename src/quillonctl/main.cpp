@@ -85,9 +85,10 @@ int run(const Arguments& arguments)
         return print(report::destinations(destinations.list, arguments.json)) ? 0 : exitFailed;
     }
     case Arguments::Command::Next: {
-        const auto defaults = openUserDefaults(DefaultsAccess::ReadOnly);
+        QtRunLoop runLoop;
+        const auto defaults = openUserDefaults(DefaultsAccess::ReadOnly, runLoop);
         defaults->registerDefaults(registeredDefaults());
-        const Date from = arguments.from.value_or(QtRunLoop().now());
+        const Date from = arguments.from.value_or(runLoop.now());
         const auto starts = comingStarts(*defaults, from, arguments.count);
         return print(report::starts(starts, arguments.json)) ? 0 : exitFailed;
     }

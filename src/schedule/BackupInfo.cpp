@@ -25,6 +25,13 @@ bool isAbsentOr(const QVariant& value, std::initializer_list<QMetaType::Type> ty
     return !value.isValid() || std::find(types.begin(), types.end(), value.typeId()) != types.end();
 }
 
+/// A dictionary of other keys alone is another program's.
+bool hasAnyField(const QVariantMap& fields)
+{
+    const auto keys = {identifierKey, nameKey, dateKey, bytesKey};
+    return std::any_of(keys.begin(), keys.end(), [&](const QString& key) { return fields.contains(key); });
+}
+
 bool hasRightTypes(const QVariantMap& fields)
 {
     return isAbsentOr(fields.value(identifierKey), {QMetaType::QString}) &&
@@ -61,7 +68,7 @@ std::optional<BackupInfo> BackupInfo::unarchiveFromData(const QByteArray& data)
     if (!list || list->typeId() != QMetaType::QVariantMap)
         return std::nullopt;
     const QVariantMap fields = list->toMap();
-    if (!hasRightTypes(fields))
+    if (!hasAnyField(fields) || !hasRightTypes(fields))
         return std::nullopt;
     BackupInfo info;
     info.diskIdentifier_ = fields.value(identifierKey).toString();

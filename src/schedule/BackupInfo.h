@@ -29,7 +29,8 @@ public:
     /// The record as a binary property list.
     std::optional<QByteArray> archivedData() const;
 
-    /// Reads archivedData(). A missing field is empty, the date too; anything else that is wrong gives nothing.
+    /// Reads archivedData(). A missing field is empty, the date too; a dictionary with none of the fields is no record,
+    /// and anything else that is wrong gives nothing either.
     static std::optional<BackupInfo> unarchiveFromData(const QByteArray& data);
 
     bool operator==(const BackupInfo&) const = default;

@@ -6,6 +6,15 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+bool isRule(const QVariant& entry)
+{
+    return entry.typeId() == QMetaType::QVariantMap;
+}
+
+} // namespace
+
 CalendarIntervalRule CalendarIntervalRule::fromDictionary(const QVariantMap& dictionary)
 {
     CalendarIntervalRule rule;
@@ -27,17 +36,32 @@ QList<CalendarIntervalRule> CalendarIntervalRule::listFromArray(const QVariantLi
 {
     QList<CalendarIntervalRule> rules;
     for (const auto& entry : array) {
-        if (entry.typeId() == QMetaType::QVariantMap)
+        if (isRule(entry))
             rules.append(fromDictionary(entry.toMap()));
     }
     return rules;
 }
 
-QVariantList CalendarIntervalRule::listToArray(const QList<CalendarIntervalRule>& rules)
+QList<CalendarIntervalRule::Foreign> CalendarIntervalRule::foreignInArray(const QVariantList& array)
+{
+    QList<Foreign> foreign;
+    qsizetype rules = 0;
+    for (const auto& entry : array) {
+        if (isRule(entry))
+            ++rules;
+        else
+            foreign.append({rules, entry});
+    }
+    return foreign;
+}
+
+QVariantList CalendarIntervalRule::listToArray(const QList<CalendarIntervalRule>& rules, const QList<Foreign>& foreign)
 {
     QVariantList array;
     for (const auto& rule : rules)
         array.append(rule.toDictionary());
+    for (qsizetype i = 0; i < foreign.size(); ++i)
+        array.insert(foreign[i].rulesAhead + i, foreign[i].entry);
     return array;
 }
 

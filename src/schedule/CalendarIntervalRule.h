@@ -19,9 +19,16 @@ struct CalendarIntervalRule {
     static CalendarIntervalRule fromDictionary(const QVariantMap& dictionary);
     QVariantMap toDictionary() const;
 
-    /// Entries that are no dictionaries are left out.
+    /// An entry of the stored array that is no dictionary, and how many rules stand ahead of it; not ours to lose.
+    struct Foreign {
+        qsizetype rulesAhead = 0;
+        QVariant entry;
+    };
+
+    /// Foreign entries are left out.
     static QList<CalendarIntervalRule> listFromArray(const QVariantList& array);
-    static QVariantList listToArray(const QList<CalendarIntervalRule>& rules);
+    static QList<Foreign> foreignInArray(const QVariantList& array);
+    static QVariantList listToArray(const QList<CalendarIntervalRule>& rules, const QList<Foreign>& foreign = {});
 
     /// Whether the rule applies on a weekday, 1 Sunday to 7 Saturday.
     bool allowsWeekday(int weekday) const;

@@ -39,7 +39,9 @@ DataManager::DataManager(const Services& services)
 {
     registerUserDefaults();
     isScheduleEnabled_ = defaults_.integer(settingskeys::enableSchedule) == 1;
-    calendarIntervalSettings_ = CalendarIntervalRule::listFromArray(defaults_.array(settingskeys::calendarIntervals));
+    const QVariantList storedRules = defaults_.array(settingskeys::calendarIntervals);
+    calendarIntervalSettings_ = CalendarIntervalRule::listFromArray(storedRules);
+    foreignEntries_ = CalendarIntervalRule::foreignInArray(storedRules);
     latestBackupInfo_ = loadLatestBackupInfo();
     scheduleNextBackup();
 
@@ -84,13 +86,19 @@ void DataManager::updateBackupScheduleAtIndex(std::size_t index, qlonglong value
 
 void DataManager::deleteBackupScheduleAtIndex(std::size_t index)
 {
-    calendarIntervalSettings_.removeAt(static_cast<qsizetype>(index));
+    const auto position = static_cast<qsizetype>(index);
+    calendarIntervalSettings_.removeAt(position);
+    for (auto& foreign : foreignEntries_) {
+        if (foreign.rulesAhead > position)
+            --foreign.rulesAhead;
+    }
     saveAndBackupCalendarIntervalSettings();
 }
 
 void DataManager::saveAndBackupCalendarIntervalSettings()
 {
-    defaults_.setObject(settingskeys::calendarIntervals, CalendarIntervalRule::listToArray(calendarIntervalSettings_));
+    defaults_.setObject(settingskeys::calendarIntervals,
+                        CalendarIntervalRule::listToArray(calendarIntervalSettings_, foreignEntries_));
     const auto next = getNextBackupDate();
     // Without rules there is nothing that could come before the retry, so it is kept.
     if (retryBackupDate_ && (!next || *retryBackupDate_ <= *next)) {

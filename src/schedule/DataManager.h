@@ -99,6 +99,7 @@ private:
     bool isScheduleEnabled_ = false;
     std::optional<Date> retryBackupDate_;
     QList<CalendarIntervalRule> calendarIntervalSettings_;
+    QList<CalendarIntervalRule::Foreign> foreignEntries_; ///< among the stored rules
     std::optional<Date> nextScheduledBackupDate_;
     QList<BackupInfo> latestBackupInfo_;
     const char* openSystemPreferencesTitleLocaleKey_ = nullptr;

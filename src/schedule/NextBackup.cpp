@@ -10,18 +10,28 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int daysSearched = 8;
+// A gap before midnight may have moved the start of the day before past it.
+constexpr int firstDay = -1;
+constexpr int lastDay = 7;
+
+/// 1 Sunday to 7 Saturday.
+int weekdayAfter(int weekday, int days)
+{
+    return (weekday - 1 + days + 7) % 7 + 1;
+}
 
 std::optional<Date> nextOccurrence(const CalendarIntervalRule& rule, const LocalTime& referenceDay, Date reference,
                                    const Calendar& calendar)
 {
     const TimeComponents time = timeComponents(static_cast<double>(rule.time));
-    for (int day = 0; day < daysSearched; ++day) {
+    for (int day = firstDay; day <= lastDay; ++day) {
+        if (!rule.allowsWeekday(weekdayAfter(referenceDay.weekday, day)))
+            continue;
         // Made anew from the rule's own time of day: the shift of a daylight-saving gap holds for that day only.
         const LocalTime local{referenceDay.year, referenceDay.month, referenceDay.day + day,
                               time.hour,         time.minute,        time.second};
         const Date candidate = calendar.date(local);
-        if (candidate >= reference && rule.allowsWeekday(calendar.localTime(candidate).weekday))
+        if (candidate >= reference)
             return candidate;
     }
     return std::nullopt;

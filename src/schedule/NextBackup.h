@@ -27,8 +27,9 @@ TimeComponents timeComponents(double secondsSinceMidnight);
 /// Dates up to `lastFired` are passed over: the wall clock may have been set back since.
 Date referenceDate(Date now, std::optional<Date> pauseUntil, std::optional<Date> lastFired);
 
-/// The earliest date that a rule gives at or after `reference`; nothing without rules. A rule that matches none of the
-/// eight days from the reference day on is given up.
+/// The earliest date that a rule gives at or after `reference`; nothing without rules. A rule holds for the day that it
+/// names, also where a gap moves its time past midnight. One that matches none of the eight days from the reference day
+/// on is given up.
 std::optional<Date> nextBackupDate(const QList<CalendarIntervalRule>& rules, Date reference, const Calendar& calendar);
 
 } // namespace quillon::nextbackup

@@ -101,6 +101,11 @@ QAbstractButton* CalendarIntervalCellView::deleteButton() const
     return ui_->deleteButton;
 }
 
+void CalendarIntervalCellView::takeKeyboard()
+{
+    ui_->calendarIntervalDayPopupButton->setFocus(Qt::TabFocusReason);
+}
+
 QWidget* CalendarIntervalCellView::setTabOrderAfter(QWidget* widget)
 {
     setTabOrder(widget, ui_->calendarIntervalDayPopupButton);

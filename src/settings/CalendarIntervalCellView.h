@@ -31,6 +31,8 @@ public:
     QTime time() const;
     QAbstractButton* deleteButton() const;
 
+    /// Gives the keyboard to the row's first control.
+    void takeKeyboard();
     /// Puts the row's controls behind `widget` in the order of the Tab key; returns the last of them.
     QWidget* setTabOrderAfter(QWidget* widget);
 

@@ -6,7 +6,7 @@
 #include "NotificationCenter.h"
 #include "Notifications.h"
 #include "ScreenFittingArea.h"
-#include "SystemVersion.h"
+#include "SetupAdvice.h"
 #include "ui_SettingsView.h"
 
 #include <QHideEvent>
@@ -70,7 +70,6 @@ void SettingsViewController::titleControls()
     ui_->scheduleLabel->setText(localizedString("scheduleTitle"));
     ui_->addCalendarIntervalButton->setText(localizedString("addRuleTitle"));
     ui_->intervalLabel->setText(localizedString("settingsIntervalEvery"));
-    ui_->intervalUnit->setText(localizedString("settingsIntervalHours"));
     ui_->intervalNote->setText(localizedString("settingsIntervalNotYetUsed"));
     ui_->nextBackupTitle->setText(caption.arg(localizedString("nextBackupTitle")));
 
@@ -96,10 +95,12 @@ void SettingsViewController::nameControls()
     const QString schedule = ui_->scheduleGroupLabel->text();
     explain(ui_->enableScheduleCheckmark, {}, schedule);
     explain(ui_->schedulePopup, ui_->enableScheduleCheckmark->text(), schedule);
-    explain(ui_->warningButton, localizedString("warningButtonTitle"), disableTimeMachineInstruction());
+    const SetupAdvice advice = setupAdvice(std::nullopt);
+    explain(ui_->warningButton, advice.subject, advice.text);
+    ui_->warningButton->setAlertStyle(advice.style);
     explain(ui_->calendarIntervalTable, ui_->scheduleLabel->text(), schedule);
     explain(ui_->addCalendarIntervalButton, {}, ui_->scheduleLabel->text());
-    const QString interval = u"%1 %2"_s.arg(ui_->intervalLabel->text(), ui_->intervalUnit->text());
+    const QString interval = u"%1 %2"_s.arg(ui_->intervalLabel->text(), localizedString("settingsIntervalHours"));
     explain(ui_->scheduleIntervalValueTextField, interval, ui_->intervalNote->text());
     explain(ui_->scheduleIntervalValueStepper, interval, ui_->intervalNote->text());
     explain(ui_->nextBackupLabel, {}, ui_->nextBackupTitle->text());
@@ -135,7 +136,7 @@ void SettingsViewController::arrangeForStyle()
     ui_->showRemainingMinutesDetails->setContentsMargins(indicator, 0, 0, 0);
     for (QLabel* caption : {ui_->scheduleLabel, ui_->intervalLabel}) // on one line with either page's first row
         caption->setMinimumHeight(ui_->calendarIntervalTable->heightOfFirstRow());
-    ui_->warningButton->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this));
+    ui_->menuBarGroupLabel->setMinimumHeight(ui_->showRemainingMinutesCheckmark->sizeHint().height());
     constexpr int digits = 3;
     ui_->scheduleIntervalValueTextField->setFixedWidth(ui_->scheduleIntervalValueTextField->minimumSizeHint().width() +
                                                        digits * fontMetrics().horizontalAdvance(u'0'));

@@ -25,6 +25,7 @@ class LoginItem;
 class NotificationCenter;
 class RunLoop;
 class UserDefaults;
+struct SetupAdvice;
 
 /// The settings panel. Every control acts and is stored the moment the user changes it; there is nothing to apply or to
 /// cancel. Main thread only.
@@ -110,6 +111,7 @@ private:
     // Alerts
     void connectAlertControls();
     void warningButtonPressed();
+    void showSetupAdvice(const SetupAdvice& advice);
     void deleteButtonPressed(const CalendarIntervalCellView& sender);
     void deleteRule(int row);
     void showRuleLimit();
@@ -133,6 +135,7 @@ private:
     QList<CalendarIntervalRule> calendarIntervalSettings_;
     int scheduleIntervalValue_ = 2;
     bool shouldDisableUserControls_ = false;
+    bool setupAdviceIsAwaited_ = false;
 };
 
 } // namespace quillon

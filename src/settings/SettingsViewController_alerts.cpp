@@ -2,7 +2,7 @@
 #include "DataManager.h"
 #include "LocalizedString.h"
 #include "SettingsViewController.h"
-#include "SystemVersion.h"
+#include "SetupAdvice.h"
 #include "ui_SettingsView.h"
 
 #include <QPointer>
@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 void SettingsViewController::connectAlertControls()
 {
-    connect(ui_->warningButton, &QToolButton::clicked, this, &SettingsViewController::warningButtonPressed);
+    connect(ui_->warningButton, &SignButton::clicked, this, &SettingsViewController::warningButtonPressed);
     connect(ui_->retryAtMissedScheduleHelpButton, &HelpButton::clicked, this,
             &SettingsViewController::retryAtMissedScheduleHelpButtonPressed);
     connect(ui_->retryAtFailureHelpButton, &HelpButton::clicked, this,
@@ -24,10 +24,24 @@ void SettingsViewController::connectAlertControls()
 
 void SettingsViewController::warningButtonPressed()
 {
+    if (std::exchange(setupAdviceIsAwaited_, true))
+        return;
+    giveSetupAdvice(tmutil_, runLoop_, [self = QPointer(this)](const SetupAdvice& advice) {
+        if (!self)
+            return;
+        self->setupAdviceIsAwaited_ = false;
+        // The user may have turned to something else meanwhile.
+        if (self->ui_->warningButton->isVisible() && !self->shouldDisableUserControls_)
+            self->showSetupAdvice(advice);
+    });
+}
+
+void SettingsViewController::showSetupAdvice(const SetupAdvice& advice)
+{
     AlertRequest warning;
-    warning.style = AlertStyle::Warning;
-    warning.messageText = localizedString("AlertTitleWarning");
-    warning.informativeText = disableTimeMachineInstruction();
+    warning.style = advice.style;
+    warning.messageText = advice.title;
+    warning.informativeText = advice.text;
     warning.buttons = {u"%1..."_s.arg(localizedString(sharedDataManager_.openSystemPreferencesTitleLocaleKey())),
                        localizedString("AlertButtonClose")};
     runAlert(warning, ui_->warningButton, RectEdge::MaxX, [this](int response) {

@@ -122,6 +122,8 @@ void SettingsViewController::updateScheduleIntervalValueControls()
     if (ui_->scheduleIntervalValueTextField->text() != text) // leaves the cursor of whoever is typing alone
         ui_->scheduleIntervalValueTextField->setText(text);
     ui_->scheduleIntervalValueStepper->setValue(scheduleIntervalValue_);
+    ui_->intervalUnit->setText(
+        localizedString(scheduleIntervalValue_ == 1 ? "settingsIntervalHour" : "settingsIntervalHours"));
 }
 
 void SettingsViewController::addCalendarIntervalButtonPressed()
@@ -132,7 +134,10 @@ void SettingsViewController::addCalendarIntervalButtonPressed()
     }
     sharedDataManager_.addNewSchedule();
     reloadCalendarIntervalTableView();
-    ui_->calendarIntervalTable->scrollRowToVisible(ui_->calendarIntervalTable->numberOfRows() - 1);
+    const int added = ui_->calendarIntervalTable->numberOfRows() - 1;
+    ui_->calendarIntervalTable->scrollRowToVisible(added);
+    if (!ui_->addCalendarIntervalButton->underMouse()) // whose user goes on with the mouse, and turns its wheel
+        ui_->calendarIntervalTable->viewAtRow(added)->takeKeyboard();
 }
 
 void SettingsViewController::calendarIntervalDayPopupButtonChanged(const CalendarIntervalCellView& sender)

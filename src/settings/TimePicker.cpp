@@ -37,13 +37,29 @@ bool TimePicker::eventFilter(QObject* watched, QEvent* event)
     if (watched != lineEdit() || event->type() != QEvent::MouseButtonRelease)
         return QTimeEdit::eventFilter(watched, event);
     lineEdit()->event(event);
+    typedDigits_ = 0;
     setSelectedSection(currentSection());
     return true;
 }
 
+bool TimePicker::event(QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::Hide)
+        typedDigits_ = 0;
+    return QTimeEdit::event(event);
+}
+
 void TimePicker::keyPressEvent(QKeyEvent* event)
 {
-    const bool isPlain = (event->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier;
+    const bool isPlain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
+    const int digit = isPlain && event->text().size() == 1 ? event->text().front().digitValue() : -1;
+    if (lineEdit()->selectedText() == text() && digit >= 0)
+        setSelectedSection(HourSection);
+    if (digit >= 0 && currentSection() != AmPmSection) {
+        type(digit);
+        return;
+    }
+    typedDigits_ = 0;
     switch (isPlain ? event->key() : 0) {
     case Qt::Key_Left:
         selectPart(currentSectionIndex() - 1);
@@ -69,6 +85,50 @@ void TimePicker::keyPressEvent(QKeyEvent* event)
         break;
     }
     QTimeEdit::keyPressEvent(event);
+}
+
+/// Qt drops a digit that a part has no use for, and whatever is typed over more than one part.
+void TimePicker::type(int digit)
+{
+    constexpr int ten = 10;
+    if (typedPart_ != currentSection())
+        typedDigits_ = 0;
+    if (typedDigits_ > 0 && ten * typed_ + digit > largest(currentSection())) {
+        if (currentSection() == HourSection)
+            setSelectedSection(MinuteSection);
+        typedDigits_ = 0;
+    }
+    const Section part = currentSection();
+    typedPart_ = part;
+    typed_ = typedDigits_ > 0 ? ten * typed_ + digit : digit;
+    ++typedDigits_;
+    setPart(part, typed_);
+    setSelectedSection(part);
+    if (typedDigits_ == 2 || ten * typed_ > largest(part)) {
+        typedDigits_ = 0;
+        selectPart(currentSectionIndex() + 1);
+    }
+}
+
+int TimePicker::largest(Section part) const
+{
+    constexpr int lastMinute = 59;
+    constexpr int lastHour = 23;
+    if (part == MinuteSection)
+        return lastMinute;
+    return displayedSections().testFlag(AmPmSection) ? noon : lastHour;
+}
+
+void TimePicker::setPart(Section part, int value)
+{
+    const QTime before = time();
+    if (part == MinuteSection) {
+        setTime(QTime(before.hour(), value));
+        return;
+    }
+    const bool twelveHours = displayedSections().testFlag(AmPmSection);
+    const int half = twelveHours && before.hour() >= noon ? noon : 0;
+    setTime(QTime(twelveHours ? half + value % noon : value, before.minute()));
 }
 
 void TimePicker::selectPart(int index)

@@ -63,9 +63,10 @@ TMStatus runningStatus(const QVariantMap& status)
     if (const auto progress = dictionary(status, u"Progress"_s)) {
         readProgress(*progress, status, result);
     } else {
-        // A missing key reads as 0 and so gives 0, as having only one of the two does.
-        result.percent =
-            fraction(scalar(status, u"FractionOfProgressBar"_s)) * fraction(scalar(status, u"FractionDone"_s));
+        const auto share = scalar(status, u"FractionOfProgressBar"_s);
+        const auto done = scalar(status, u"FractionDone"_s);
+        if (share.isValid() && done.isValid()) // one of the two may be infinite, which times 0 is not 0
+            result.percent = fraction(share) * fraction(done);
     }
     return result;
 }

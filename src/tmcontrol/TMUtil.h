@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <list>
 #include <memory>
 
 namespace quillon {
@@ -53,8 +54,7 @@ private:
     RunLoop& runLoop_;
     Workspace& workspace_;
     AlertPresenter& alerts_;
-    std::unique_ptr<RunningTask> settingsScript_;
-    Timer scriptLimit_;
+    std::list<std::unique_ptr<RunningTask>> settingsScripts_; ///< each may wait for what the user answers the system
 };
 
 } // namespace quillon

@@ -6,7 +6,8 @@ using namespace Qt::StringLiterals;
 
 QString tmutilPath()
 {
-    return qEnvironmentVariable("QUILLON_TMUTIL", u"/usr/bin/tmutil"_s);
+    const QString chosen = qEnvironmentVariable("QUILLON_TMUTIL");
+    return chosen.isEmpty() ? u"/usr/bin/tmutil"_s : chosen;
 }
 
 } // namespace quillon

@@ -6,12 +6,6 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr std::chrono::minutes longestScript{1};
-
-} // namespace
-
 QUrl TMUtil::settingsAddress()
 {
     return QUrl(u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s);
@@ -23,8 +17,6 @@ void TMUtil::openTimeMachineSettings(const QString& applicationName)
         workspace_.openURL(settingsAddress(), {});
         return;
     }
-    if (settingsScript_)
-        return; // it is being opened
     TaskRequest script;
     script.executable = u"/usr/bin/osascript"_s;
     script.arguments = {u"-e"_s, u"tell Application \"System Preferences\""_s,
@@ -34,12 +26,10 @@ void TMUtil::openTimeMachineSettings(const QString& applicationName)
     script.environmentName = u"command"_s;
     script.environmentValue = u"OpenTimeMachinePrefs"_s;
     script.captureOutput = false;
-    // A repeating timer, because it does not follow a wall clock that is set back.
-    scriptLimit_ = runLoop_.scheduleRepeating(longestScript, [this] { settingsScript_->kill(); });
-    settingsScript_ = launcher_.launch(script, [this, applicationName](const TaskResult& result) {
-        scriptLimit_.invalidate();
-        runLoop_.enqueue([this, applicationName, allowed = result.status == 0] {
-            settingsScript_.reset();
+    const auto running = settingsScripts_.emplace(settingsScripts_.end());
+    *running = launcher_.launch(script, [this, running, applicationName](const TaskResult& result) {
+        runLoop_.enqueue([this, running, applicationName, allowed = result.status == 0] {
+            settingsScripts_.erase(running);
             if (!allowed)
                 presentPermissionAlert(applicationName);
         });

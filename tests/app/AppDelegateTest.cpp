@@ -4,11 +4,14 @@
 #include "Cirrel.h"
 #include "FakePoster.h"
 #include "FakeServices.h"
+#include "MakerSite.h"
 #include "MemoryDefaults.h"
 #include "Notifications.h"
 #include "ScopedEnvironment.h"
 #include "SettingsKeys.h"
-#include "VirtualRunLoop.h"
+#include "SimulatedTimeMachine.h"
+#include "SystemVersion.h"
+#include "TMUtil.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -51,8 +54,9 @@ protected:
     void launch()
     {
         delegate = std::make_unique<AppDelegate>(
-            AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts, u"2.9"_s});
+            AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts, queue, machine, u"2.9"_s});
         delegate->applicationDidFinishLaunching();
+        runLoop.advance(1s);
     }
 
     QStringList announcedFor(const QString& latest)
@@ -68,6 +72,8 @@ protected:
     NotificationCenter notifications;
     FakeWorkspace workspace;
     FakeAlerts alerts;
+    SimulatedTimeMachine machine{runLoop};
+    TMUtilQueue queue{machine, runLoop, u"tmutil"_s};
     FakePoster* network = new FakePoster; // the services' own
     Cirrel::Services services{runLoop, defaults, std::unique_ptr<FormPoster>(network)};
     QObject observer;
@@ -153,38 +159,49 @@ TEST_F(AppDelegateTest, AnAnswerThatComesAfterQuittingReachesNobody)
     EXPECT_TRUE(workspace.opened.isEmpty());
 }
 
-TEST_F(AppDelegateTest, TheFirstLaunchSaysOnceHowToSwitchAutomaticBackupsOff)
+TEST_F(AppDelegateTest, TheFirstLaunchSaysOnceWhereBackupsGoAndLeadsToTheSettingsWhereThatIsNowhere)
 {
-    for (const int response : {alertFirstButtonReturn, alertSecondButtonReturn}) {
-        defaults.stored.clear();
-        alerts.presented.clear();
-        launch();
-        ASSERT_EQ(alerts.presented.size(), 1U);
-        const auto [request, answered] = alerts.presented.front();
-        EXPECT_EQ(request.style, AlertStyle::Informational);
-        EXPECT_EQ(request.messageText, u"Welcome to Quillon"_s);
-        EXPECT_TRUE(request.informativeText.startsWith(u"Quillon is in"_s));
-        EXPECT_TRUE(request.informativeText.contains(u"open System Settings"_s))
-            << request.informativeText.toStdString();
-        EXPECT_EQ(request.buttons, (QStringList{u"Close"_s, u"Help"_s}));
-        EXPECT_EQ(request.escapeButton, 0);
-        EXPECT_FALSE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch)) << "not before it is answered";
-        answered(response);
-        EXPECT_TRUE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch));
-        EXPECT_EQ(workspace.opened.size(), response == alertSecondButtonReturn ? 1 : 0);
-        launch();
-        EXPECT_EQ(alerts.presented.size(), 1U);
+    for (const bool hasDisk : {true, false}) {
+        for (const int response : {alertFirstButtonReturn, alertSecondButtonReturn}) {
+            machine.destinations = {};
+            if (hasDisk)
+                machine.destinations = {{u"A"_s, u"Studio Disk"_s}};
+            defaults.stored.clear();
+            alerts.presented.clear();
+            workspace.opened.clear();
+            launch();
+            ASSERT_EQ(alerts.presented.size(), 1U);
+            const auto [request, answered] = alerts.presented.front();
+            EXPECT_EQ(request.style, AlertStyle::Informational);
+            EXPECT_EQ(request.messageText, u"Welcome to Quillon"_s);
+            EXPECT_TRUE(request.informativeText.startsWith(u"Quillon is in"_s));
+            EXPECT_TRUE(request.informativeText.contains(hasDisk ? u"Studio Disk"_s : u"No backup disk"_s))
+                << request.informativeText.toStdString();
+            EXPECT_EQ(request.buttons, (QStringList{u"Close"_s, u"Help"_s}));
+            EXPECT_EQ(request.escapeButton, 0);
+            EXPECT_FALSE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch)) << "not before it is answered";
+            EXPECT_TRUE(workspace.opened.isEmpty());
+            answered(response);
+            EXPECT_TRUE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch));
+            QList<QUrl> expected;
+            if (response == alertSecondButtonReturn)
+                expected.append(makersite::page(u"/quillon/manual/"_s));
+            if (!hasDisk)
+                expected.append(TMUtil::settingsAddress());
+            EXPECT_EQ(workspace.opened, expected);
+            launch();
+            EXPECT_EQ(alerts.presented.size(), 1U);
+        }
     }
-    EXPECT_EQ(workspace.opened.first().path(), u"/quillon/manual/"_s);
-    EXPECT_EQ(workspace.opened.first().scheme(), u"https"_s);
 }
 
-TEST_F(AppDelegateTest, BeforeVersion13TheInstructionNamesSystemPreferences)
+TEST(DisableTimeMachineInstruction, NamesTheSettingsAsTheSystemsVersionDoes)
 {
-    const ScopedEnvironment older("QUILLON_SYSTEM_VERSION", "12.7.6");
-    defaults.stored.clear();
-    launch();
-    EXPECT_TRUE(alerts.presented.front().first.informativeText.contains(u"open System Preferences"_s));
+    for (const auto& [version, words] :
+         {std::pair{"12.7.6", u"open System Preferences"_s}, {"13.0", u"open System Settings"_s}}) {
+        const ScopedEnvironment system("QUILLON_SYSTEM_VERSION", version);
+        EXPECT_TRUE(disableTimeMachineInstruction().contains(words)) << version;
+    }
 }
 
 } // namespace quillon

@@ -267,7 +267,9 @@ TEST_F(CirrelTest, AFailedRefreshGivesTheCachedOrTheDefaultValueAndLeavesTheCach
 TEST_F(CirrelTest, TheCacheOutlivesTheProgramAndWhatSettingsCannotHold)
 {
     const QTemporaryDir folder;
-    const auto open = [&] { return FileUserDefaults(folder.filePath(u"settings.plist"_s), DefaultsAccess::ReadWrite); };
+    const auto open = [&] {
+        return FileUserDefaults(folder.filePath(u"settings.plist"_s), DefaultsAccess::ReadWrite, runLoop);
+    };
     const auto startWith = [&](UserDefaults& settings) {
         services.reset(); // one at a time
         network = new FakePoster;

@@ -8,8 +8,9 @@
 #include "ReferenceServer.h"
 #include "ScopedEnvironment.h"
 #include "SettingsKeys.h"
+#include "SimulatedTimeMachine.h"
+#include "TMUtilQueue.h"
 #include "TestCertificate.h"
-#include "VirtualRunLoop.h"
 
 #include <gtest/gtest.h>
 
@@ -86,7 +87,9 @@ protected:
     Cirrel::Services services{runLoop, defaults, std::make_unique<CountingPoster>(runLoop, reported)};
     QObject observer;
     QStringList announced;
-    AppDelegate delegate{{runLoop, defaults, notifications, workspace, alerts, u"2.9"_s}};
+    SimulatedTimeMachine machine{runLoop};
+    TMUtilQueue queue{machine, runLoop, u"tmutil"_s};
+    AppDelegate delegate{{runLoop, defaults, notifications, workspace, alerts, queue, machine, u"2.9"_s}};
 };
 
 } // namespace

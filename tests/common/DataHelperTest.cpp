@@ -20,7 +20,7 @@ protected:
 
 Date berlin(int y, int m, int d, int hour = 12, int minute = 0, int second = 0)
 {
-    return Calendar(u"Europe/Berlin"_s).date({y, m, d, hour, minute, second});
+    return Calendar().date({y, m, d, hour, minute, second});
 }
 
 QString day(Date date, Date now)
@@ -57,7 +57,7 @@ TEST_F(DataHelperTest, DaysAreNamedRightAcrossClockChangesAndTheTurnOfTheYear)
     EXPECT_EQ(day(berlin(2027, 1, 1, 0, 0), berlin(2026, 12, 31, 23, 59)), u"Tomorrow"_s);
     EXPECT_EQ(day(berlin(2026, 12, 30), berlin(2027, 1, 2)), u"Wednesday"_s);
     const ScopedEnvironment gapAtMidnight("TZ", "America/Sao_Paulo");
-    const Calendar saoPaulo(u"America/Sao_Paulo"_s);
+    const Calendar saoPaulo;
     EXPECT_EQ(day(saoPaulo.date({2018, 11, 4, 9, 0, 0}), saoPaulo.date({2018, 11, 3, 9, 0, 0})), u"Tomorrow"_s);
     EXPECT_EQ(day(saoPaulo.date({2018, 11, 4, 9, 0, 0}), saoPaulo.date({2018, 11, 5, 9, 0, 0})), u"Yesterday"_s);
 }

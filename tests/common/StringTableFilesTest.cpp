@@ -113,9 +113,13 @@ TEST_F(StringTableFiles, HoldNeitherTypewriterQuotesNorWhatTheCodeAdds)
 {
     static const QRegularExpression unwanted(u"[\"']|(:|：|\\.\\.\\.)$|^ | $| \n|^\n|\n$"_s);
     for (auto table = tables.cbegin(); table != tables.cend(); ++table) {
-        for (auto text = table->cbegin(); text != table->cend(); ++text)
+        for (auto text = table->cbegin(); text != table->cend(); ++text) {
+            if (text.key() ==
+                "scheduleTitle"_L1) // shown as it stands, above a caption that gets its colon from the code
+                continue;
             EXPECT_FALSE(unwanted.match(*text).hasMatch())
                 << table.key().toStdString() << ' ' << text.key().toStdString();
+        }
     }
 }
 

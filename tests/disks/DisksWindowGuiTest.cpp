@@ -279,6 +279,25 @@ TEST_F(DisksWindowTest, TheHomeFolderThatIsBackedUpByDefaultStaysWhenAFolderIsAd
     EXPECT_TRUE(eventuallyShows(Sources, {name, u"other"_s}));
 }
 
+TEST_F(DisksWindowTest, TheHomeFolderTakesThePlaceOfTheLastFolderOnlyWhenTheUserWantsThat)
+{
+    open();
+    ASSERT_TRUE(eventuallyShows(Sources, {u"source"_s}));
+    const auto ask = [this] {
+        clickEntry(Sources, 0);
+        click(Sources, localizedString("disksRemoveTitle"));
+        EXPECT_EQ(textOfAlert(u"messageText"_s), localizedString("disksHomeAlertMessage"));
+    };
+    ask();
+    answerAlert("disksCancelTitle");
+    EXPECT_EQ(practice_.run({u"listsources"_s}).output.trimmed(), practice_.source().toUtf8());
+    ask();
+    answerAlert("disksRemoveTitle");
+    const auto home = [this] { return QString::fromUtf8(practice_.run({u"listsources"_s}).output.trimmed()); };
+    EXPECT_TRUE(runUntil([&] { return home() != practice_.source(); }));
+    EXPECT_TRUE(eventuallyShows(Sources, {QFileInfo(home()).fileName()}));
+}
+
 TEST_F(DisksWindowTest, ARefusalIsShownInTheToolsOwnWords)
 {
     open();

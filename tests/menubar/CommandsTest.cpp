@@ -1,5 +1,6 @@
 #include "Bundle.h"
 #include "ControllerFixture.h"
+#include "LocalizedString.h"
 
 namespace quillon {
 
@@ -133,13 +134,15 @@ TEST_F(Commands, ImpatientClicksStartOneBackup)
     launch();
     runLoop.advance(Seconds(3));
     for (int click = 0; click < 5; ++click) {
-        menu().backupNowMenuItem->trigger();
+        controller->backupNowClicked(); // as the submenu does that was open before
         controller->backupNowSubMenuItemClicked(u"B"_s);
         runLoop.advance(Seconds(0.5));
+        EXPECT_FALSE(menu().backupNowMenuItem->isEnabled()) << "it has no effect";
     }
     runLoop.advance(Seconds(10));
     EXPECT_EQ(calls(u"startbackup"_s).size(), 1);
     EXPECT_TRUE(calls(u"stopbackup"_s).isEmpty());
+    EXPECT_TRUE(menu().backupNowMenuItem->isEnabled());
 }
 
 TEST_F(Commands, AClickWhileTheScheduleStartsABackupNeitherStopsNorRepeatsIt)
@@ -148,7 +151,7 @@ TEST_F(Commands, AClickWhileTheScheduleStartsABackupNeitherStopsNorRepeatsIt)
     launch();
     runLoop.advanceTo(local(2026, 11, 21, 12, 0, 1));
     for (int click = 0; click < 5; ++click) {
-        menu().backupNowMenuItem->trigger();
+        controller->backupNowClicked(); // as the submenu does that was open before
         controller->backupNowSubMenuItemClicked(u"B"_s);
         runLoop.advance(Seconds(0.5));
     }
@@ -172,19 +175,31 @@ TEST_F(Commands, AScheduledStartThatMeetsTheUsersWaitsForItsOutcome)
         runLoop.advance(Seconds(20));
         EXPECT_EQ(calls(u"startbackup"_s).size(), starts + (refused ? 2 : 1));
         EXPECT_EQ(icon(), MenuBarIconState::Running);
+        while (machine.liveChildren() > 0)
+            runLoop.advance(Seconds(0.1));
     }
     EXPECT_EQ(machine.starts(), 2);
 }
 
-TEST_F(Commands, ARefusedStartIsToldWithItsCode)
+TEST_F(Commands, ARefusedStartIsToldWithItsCodeAndWhatItMeans)
 {
     launch();
     openMenu();
-    machine.injection = {1, TmutilScript::Fault::None, 17, u"startbackup"_s};
+    int starts = 0;
+    for (const auto& [status, key] :
+         {std::pair{2, "setupNoDiskMessage"}, {4, "startDiskAwayMessage"}, {9, "startResticMissingMessage"}}) {
+        machine.injection = {++starts, TmutilScript::Fault::None, status, u"startbackup"_s};
+        controller->backupNowClicked();
+        runLoop.advance(Seconds(1));
+        EXPECT_TRUE(onlyAlert().informativeText.contains(QString::number(status)));
+        EXPECT_TRUE(onlyAlert().informativeText.endsWith(u"\n\n"_s + localizedString(key))) << status;
+        alerts.presented.clear();
+    }
+    machine.injection = {++starts, TmutilScript::Fault::None, 17, u"startbackup"_s};
     menu().backupNowMenuItem->menu()->actions().at(2)->trigger();
     runLoop.advance(Seconds(1));
     EXPECT_EQ(onlyAlert().messageText, u"Warning"_s);
-    EXPECT_TRUE(onlyAlert().informativeText.contains(u"17"_s));
+    EXPECT_EQ(onlyAlert().informativeText, localizedString("failedToStartBackupMessage").arg(17));
     EXPECT_EQ(onlyAlert().style, AlertStyle::Informational);
     EXPECT_EQ(onlyAlert().buttons, QStringList{u"Close"_s});
     EXPECT_EQ(controller->tmState(), TMState::NotRunning);
@@ -206,7 +221,7 @@ TEST_F(Commands, AStartThatHangsIsToldAfterItsTimeAndPollingGoesOn)
     EXPECT_EQ(calls(u"status"_s).size(), polls + 2);
 }
 
-TEST_F(Commands, ARunThatEndedSinceTheLastPollIsRecordedBeforeTheNextOne)
+TEST_F(Commands, SkippingARunThatHasEndedStartsNoOtherOne)
 {
     machine.phases = {{u"Copying"_s, 20, true}, {u"Finishing"_s, 6.5}};
     launch();
@@ -216,11 +231,25 @@ TEST_F(Commands, ARunThatEndedSinceTheLastPollIsRecordedBeforeTheNextOne)
     ASSERT_EQ(controller->uiState(), TMState::Running) << "nobody has looked since it ended";
     menu().backupNowMenuItem->trigger();
     runLoop.advance(Seconds(1));
-    ASSERT_EQ(machine.starts(), 2);
+    EXPECT_EQ(machine.starts(), 1);
     EXPECT_EQ(manager->latestBackupInfo().size(), 1);
-    EXPECT_EQ(icon(), MenuBarIconState::Running);
-    runLoop.advance(Seconds(60));
-    EXPECT_EQ(manager->latestBackupInfo().size(), 2);
+    EXPECT_EQ(text(menu().backupNowMenuItem), u"Back Up Now"_s);
+    EXPECT_TRUE(menu().backupNowMenuItem->isEnabled());
+}
+
+TEST_F(Commands, AClickDuringARunThatCannotBeAnsweredLeavesItAlone)
+{
+    launch();
+    machine.start(u"A"_s);
+    runLoop.advance(Seconds(20));
+    machine.injection = {int(calls(u"status"_s).size()) + 1, TmutilScript::Fault::NotUtf8, 0, u"status"_s};
+    int iconChanges = 0;
+    QObject::connect(controller.get(), &StatusMenuController::menuBarIconStateChanged, [&] { ++iconChanges; });
+    menu().backupNowMenuItem->trigger();
+    runLoop.advance(Seconds(5));
+    EXPECT_EQ(iconChanges, 0);
+    EXPECT_TRUE(calls(u"startbackup"_s).isEmpty());
+    EXPECT_TRUE(menu().backupNowMenuItem->isEnabled());
 }
 
 TEST_F(Commands, SkippingTheRetryBringsTheRegularDateBack)
@@ -245,11 +274,16 @@ TEST_F(Commands, TimeMachineIsOpenedOrTheCommandsThatTakeItsPlaceAreShown)
     menu().enterTimeMachineMenuItem->trigger();
     EXPECT_EQ(workspace.openedApplications, QStringList{u"com.apple.backup.launcher"_s});
     EXPECT_TRUE(alerts.presented.empty());
+    workspace.opens = false;
+    openMenu(); // which asks for the disks
+    menu().enterTimeMachineMenuItem->trigger();
+    EXPECT_FALSE(onlyAlert().informativeText.contains(u"restore"_s)) << "there is nothing to restore yet";
+    EXPECT_TRUE(onlyAlert().informativeText.contains(u"tmutil' listbackups"_s));
+    alerts.presented.clear();
     machine.start(u"A"_s);
     runLoop.advance(Seconds(120));
-    workspace.opens = false;
     menu().enterTimeMachineMenuItem->trigger();
-    const QString& guide = onlyAlert().informativeText;
+    const QString guide = onlyAlert().informativeText;
     EXPECT_TRUE(guide.contains(u"First: Today, 10:0"_s)) << guide.toStdString();
     EXPECT_TRUE(guide.contains(uR"x('/opt/it'\''s/tmutil' listbackups)x"_s)) << guide.toStdString();
     EXPECT_TRUE(guide.contains(uR"x('/opt/it'\''s/tmutil' restore "$('/opt/it'\''s/tmutil' latestbackup)"')x"_s));

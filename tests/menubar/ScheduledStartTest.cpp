@@ -65,6 +65,66 @@ TEST_F(ScheduledStart, ARuleEditedWithTheScheduleOffArmsTheTimerAndItStarts)
     EXPECT_FALSE(manager->nextScheduledBackupDate());
 }
 
+TEST_F(ScheduledStart, AnAcceptedStartThatNoRunFollowsStopsNoLaterOne)
+{
+    machine.phases = {{u"Copying"_s, 0}};
+    launch();
+    runLoop.advanceTo(local(2026, 11, 21, 12, 2));
+    EXPECT_EQ(controller->tmState(), TMState::Starting);
+    const auto calls = machine.launched().size();
+    runLoop.advance(Seconds(60));
+    EXPECT_EQ(machine.launched().size(), calls + 20) << "nobody looks for the run five times a second any more";
+    runLoop.advanceTo(local(2026, 11, 22, 12, 0, 5));
+    EXPECT_EQ(machine.starts(), 2);
+    EXPECT_EQ(controller->tmState(), TMState::Starting) << "the tool reports no run, which is no end of starting";
+    menu().backupNowMenuItem->trigger(); // it offers to skip
+    runLoop.advance(Seconds(5));
+    EXPECT_EQ(controller->tmState(), TMState::NotRunning);
+    EXPECT_EQ(machine.starts(), 2);
+    EXPECT_EQ(machine.launched().last().arguments, QStringList{u"status"_s});
+    EXPECT_TRUE(menu().backupNowMenuItem->isEnabled());
+}
+
+TEST_F(ScheduledStart, LooksForTheRunBeforeItAsksForTheDisks)
+{
+    launch();
+    runLoop.advanceTo(local(2026, 11, 21, 12, 0, 5));
+    QStringList commands;
+    for (const auto& request : machine.launched())
+        commands.append(request.arguments.first());
+    const auto start = commands.indexOf(u"startbackup"_s);
+    EXPECT_EQ(commands.value(start + 1), u"status"_s) << "a short run would be over before a slow list is there";
+    EXPECT_EQ(commands.sliced(start).count(u"destinationinfo"_s), 1);
+}
+
+TEST_F(ScheduledStart, AQuestionThatCannotBeReadChangesNothing)
+{
+    launch();
+    runLoop.advanceTo(local(2026, 11, 21, 12) - 20s);
+    machine.start(u"A"_s);
+    runLoop.advanceTo(local(2026, 11, 21, 12));
+    ASSERT_EQ(icon(), MenuBarIconState::Running);
+    machine.injection = {int(machine.launched().size()) + 1, TmutilScript::Fault::NotUtf8};
+    int iconChanges = 0;
+    QObject::connect(controller.get(), &StatusMenuController::menuBarIconStateChanged, [&] { ++iconChanges; });
+    runLoop.advance(Seconds(5));
+    EXPECT_EQ(iconChanges, 0);
+}
+
+TEST_F(ScheduledStart, ARunThatItsQuestionFindsIsShownWhole)
+{
+    machine.destinations = {{u"A"_s, u"First"_s}, {u"B"_s, u"Second"_s}};
+    runLoop.advance(Seconds(7)); // no poll comes between the run's begin and the start
+    launch();
+    runLoop.advanceTo(local(2026, 11, 21, 12) - 8s);
+    machine.start(u"B"_s);
+    runLoop.advanceTo(local(2026, 11, 21, 12) + 100ms);
+    EXPECT_TRUE(text(menu().phaseMenuItem).startsWith(u"Phase: Copying (3."_s))
+        << text(menu().phaseMenuItem).toStdString();
+    runLoop.advance(Seconds(0.1));
+    EXPECT_EQ(text(menu().backupDiskMenuItem), u"Backup Disk: Second"_s);
+}
+
 TEST_F(ScheduledStart, RightAfterAnotherRunKeepsTheTwoApart)
 {
     launch();

@@ -47,8 +47,44 @@ TEST_F(SleepAndClock, AScheduleMissedWithoutARetryStillGoesOn)
     sleepUntil(local(2026, 11, 21, 14));
     EXPECT_EQ(icon(), MenuBarIconState::MissedSchedule);
     EXPECT_FALSE(manager->retryBackupDate());
+    {
+        const ScopedEnvironment travel("TZ", "Europe/London");
+        runLoop.advance(Seconds(16));
+        EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 22, 12)) << "noon of the new zone";
+    }
+    for (int hour = 8; hour < 12; ++hour) {
+        sleepUntil(local(2026, 11, 22, hour));
+        EXPECT_EQ(icon(), MenuBarIconState::MissedSchedule) << "the mark stands";
+    }
     runLoop.advanceTo(local(2026, 11, 22, 12, 0, 5));
     EXPECT_EQ(machine.starts(), 2);
+}
+
+TEST_F(SleepAndClock, AScheduleMissedInAPauseGoesOnAfterIt)
+{
+    launch();
+    completeABackup();
+    sleepUntil(local(2026, 11, 21, 14));
+    controller->pauseForClicked(24 * 3600);
+    sleepUntil(local(2026, 11, 21, 16));
+    EXPECT_EQ(icon(), MenuBarIconState::MissedSchedule);
+    EXPECT_FALSE(manager->retryBackupDate());
+    runLoop.advanceTo(local(2026, 11, 23, 12, 0, 5));
+    EXPECT_EQ(machine.starts(), 2);
+}
+
+TEST_F(SleepAndClock, ASetClockPlansNoRetryAnewThatTheUserHasSkipped)
+{
+    launch();
+    completeABackup();
+    sleepUntil(local(2026, 11, 21, 14));
+    ASSERT_TRUE(manager->retryBackupDate());
+    controller->skipRetryAttemptClicked();
+    runLoop.stepWallClock(10min);
+    runLoop.advance(Seconds(16));
+    EXPECT_EQ(icon(), MenuBarIconState::MissedSchedule);
+    EXPECT_FALSE(manager->retryBackupDate());
+    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 22, 12));
 }
 
 TEST_F(SleepAndClock, NothingStartsWhileAsleepAndTheTimersStandStill)

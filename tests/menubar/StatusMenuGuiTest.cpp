@@ -16,6 +16,8 @@
 #include <QScreen>
 #include <QSvgGenerator>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
 #include <QWidgetAction>
 
 namespace quillon {
@@ -83,14 +85,6 @@ protected:
         return clipped;
     }
 
-    /// The arrow keys reach the row, and with it its button.
-    static void goToHelp(QMenu& history)
-    {
-        QTest::keyClick(&history, Qt::Key_Down);
-        QTest::keyClick(&history, Qt::Key_Up);
-        ASSERT_TRUE(qobject_cast<HelpButton*>(history.focusWidget()));
-    }
-
     /// Waits for the help and answers it with its button.
     static void closeHelp()
     {
@@ -129,8 +123,13 @@ TEST_F(StatusMenuGui, EverythingIsReachedByKeyboard)
     QTest::keyClick(&statusMenu(), Qt::Key_Right);
     QMenu* history = menu().phaseMenuItem->menu();
     ASSERT_TRUE(runUntil([&] { return history->isVisible(); }));
-    goToHelp(*history);
-    QTest::keyClick(history->focusWidget(), Qt::Key_Left);
+    EXPECT_TRUE(qobject_cast<HelpButton*>(history->focusWidget())) << "the first row's button has the keyboard at once";
+    auto* row = qobject_cast<QWidgetAction*>(history->actions().at(2))->defaultWidget();
+    const QImage plain = row->grab().toImage();
+    QTest::keyClick(history->focusWidget(), Qt::Key_Down);
+    EXPECT_NE(row->grab().toImage(), plain) << "it shows that it is chosen";
+    EXPECT_EQ(history->focusWidget(), history) << "the button is not pressed from another row";
+    QTest::keyClick(history, Qt::Key_Left);
     EXPECT_TRUE(runUntil([&] { return !history->isVisible(); }));
     QTest::keyClick(&statusMenu(), Qt::Key_Down);
     EXPECT_EQ(statusMenu().activeAction(), menu().pauseScheduleMenuItem);
@@ -157,6 +156,7 @@ TEST_F(StatusMenuGui, TheHistorysHelpClosesTheMenuAndOpensAPopoverThatItsButtonC
     QTest::mouseClick(help, Qt::LeftButton);
     EXPECT_FALSE(statusMenu().isVisible()) << "it would hold the pointer";
     EXPECT_FALSE(history.isVisible());
+    controller->allBackupInfoHelpButtonPressed(); // pressed again while it is there
     closeHelp();
 }
 
@@ -170,7 +170,6 @@ TEST_F(StatusMenuGui, TheHistorysHelpIsPressedByKeyboard)
         QTest::keyClick(&statusMenu(), Qt::Key_Right);
         QMenu* history = menu().phaseMenuItem->menu();
         ASSERT_TRUE(runUntil([&] { return history->isVisible(); }));
-        goToHelp(*history);
         QTest::keyClick(history->focusWidget(), key);
         closeHelp();
     }
@@ -185,10 +184,42 @@ TEST_F(StatusMenuGui, RowsOfTheHistoryShowNamesAsHeadingsAndTellAssistiveTechnol
     QMenu& history = openSubmenu(statusMenu(), menu().phaseMenuItem);
     auto* row = qobject_cast<QWidgetAction*>(history.actions().at(2))->defaultWidget();
     EXPECT_EQ(row->accessibleName(), u"<b>Bold</b> &  : N/A"_s);
-    auto* heading = row->findChild<QLabel*>();
-    EXPECT_EQ(heading->textFormat(), Qt::PlainText);
-    EXPECT_TRUE(heading->font().bold());
-    EXPECT_GE(heading->width(), heading->fontMetrics().horizontalAdvance(heading->text())) << "nothing is clipped";
+    const auto labels = row->findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 1) << "a second one would leave a gap ahead of the colon";
+    QTextDocument shown;
+    shown.setHtml(labels.first()->text());
+    EXPECT_EQ(shown.toPlainText(), row->accessibleName());
+    const auto heading = shown.begin().begin().fragment();
+    EXPECT_EQ(heading.text(), u"<b>Bold</b> &  "_s);
+    EXPECT_GT(heading.charFormat().fontWeight(), QFont::Normal);
+}
+
+TEST_F(StatusMenuGui, WhatInformsCanBeReadAndACommandThatIsOffLooksOff)
+{
+    for (const auto preference : {ColorSchemePreference::Light, ColorSchemePreference::Dark}) {
+        applyColorScheme(preference);
+        launch();
+        manager->setIsScheduleEnabled(false);
+        runLoop.advance(Seconds(16)); // a poll later
+        openMenu();
+        answer();
+        const QImage picture = statusMenu().grab().toImage();
+        const auto ink = [&](QAction* action) { // what differs most from the ground, but for frame and arrow
+            const QRect whole = statusMenu().actionGeometry(action);
+            const QRect row = whole.adjusted(3, 3, -whole.height(), -3);
+            int most = 0;
+            for (int x = row.left(); x <= row.right(); ++x)
+                for (int y = row.top(); y <= row.bottom(); ++y)
+                    most = std::max(most, std::abs(picture.pixelColor(x, y).lightness() -
+                                                   picture.pixelColor(row.topLeft()).lightness()));
+            return most;
+        };
+        ASSERT_FALSE(menu().pauseScheduleMenuItem->isEnabled());
+        EXPECT_GT(ink(menu().remainingTimeMenuItem), ink(menu().pauseScheduleMenuItem) + 30);
+        EXPECT_GT(ink(menu().quitMenuItem), ink(menu().remainingTimeMenuItem) + 10);
+        statusMenu().close();
+    }
+    applyColorScheme(ColorSchemePreference::None);
 }
 
 TEST_F(StatusMenuGui, ATrayThatDrawsTheMenuGetsPlainRowsAndHelpAsAnItem)
@@ -216,6 +247,9 @@ TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
     controller->menuWillOpen();
     answer();
     EXPECT_TRUE(disks.isVisible()) << "more disks do not close it";
+    EXPECT_EQ(disks.actions().size(), 4) << "nor move what somebody is about to click";
+    disks.close();
+    openSubmenu(statusMenu(), menu().backupNowMenuItem);
     EXPECT_EQ(disks.actions().size(), 5);
     machine.start(u"A"_s);
     runLoop.advance(Seconds(16));
@@ -225,6 +259,44 @@ TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
     click(statusMenu(), menu().backupNowMenuItem);
     answer();
     EXPECT_EQ(controller->tmState(), TMState::Stopping);
+}
+
+TEST_F(StatusMenuGui, RowsOfAnOpenMenuStayWhereTheyAre)
+{
+    launch();
+    openMenu();
+    const QRect before = statusMenu().geometry();
+    const QRect quit = statusMenu().actionGeometry(menu().quitMenuItem);
+    manager->setRetryBackupDate(runLoop.now() + std::chrono::minutes(5));
+    notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"2.0"_s}});
+    answer();
+    EXPECT_EQ(statusMenu().geometry().bottom(), before.bottom());
+    EXPECT_EQ(statusMenu().geometry().top(), before.top());
+    EXPECT_EQ(statusMenu().actionGeometry(menu().quitMenuItem).top(), quit.top());
+    statusMenu().close();
+    openMenu();
+    EXPECT_TRUE(menu().skipRetryAttemptMenuItem->isVisible());
+    EXPECT_TRUE(menu().updateAvailableMenuItem->isVisible());
+}
+
+TEST_F(StatusMenuGui, AClickOnAnItemThatHasJustBecomeAnotherOneDoesNothing)
+{
+    machine.destinations.removeLast();
+    launch();
+    const QString offersStart = text(menu().backupNowMenuItem);
+    for (const bool late : {false, true}) {
+        openMenu();
+        machine.start(u"A"_s);
+        while (text(menu().backupNowMenuItem) == offersStart)
+            runLoop.advance(Seconds(0.1));
+        if (late)
+            runLoop.advance(Seconds(1));
+        click(statusMenu(), menu().backupNowMenuItem);
+        EXPECT_FALSE(statusMenu().isVisible());
+        answer();
+        EXPECT_EQ(controller->tmState(), late ? TMState::Stopping : TMState::Running);
+        runLoop.advance(Seconds(120));
+    }
 }
 
 TEST_F(StatusMenuGui, NothingIsClippedInAnyLanguageOrSize)
@@ -265,6 +337,9 @@ TEST_F(StatusMenuGui, AHangingToolDoesNotFreezeTheMenu)
 TEST_F(StatusMenuGui, SettingsAndAboutHangBelowTheItemAndGoWithEscape)
 {
     launch();
+    openMenu();
+    controller->preferencesClicked(); // a second start of the program
+    EXPECT_FALSE(statusMenu().isVisible()) << "it would lie on top";
     for (QAction* command : {menu().preferencesMenuItem, menu().aboutMenuItem}) {
         openMenu();
         click(statusMenu(), command);

@@ -96,14 +96,21 @@ TEST_F(Model, AYearOfScheduleStartsEachRuleOnceADay)
     EXPECT_EQ(started.first(), local(2026, 11, 22, 0) + 1ms);
 }
 
-TEST_F(Model, WhatElseARuleHoldsSurvivesAnEdit)
+TEST_F(Model, WhatElseTheStoredRulesHoldSurvivesAnEditAtItsPlace)
 {
-    const QVariantMap foreign{{u"day"_s, 2LL}, {u"time"_s, 3600LL}, {u"note"_s, u"kept"_s}};
-    defaults.stored[settingskeys::calendarIntervals] = QVariantList{foreign};
-    make().updateBackupScheduleAtIndex(0, 7200, u"time"_s);
-    auto expected = foreign;
-    expected.insert(u"time"_s, 7200LL);
-    EXPECT_EQ(defaults.array(settingskeys::calendarIntervals), QVariantList{expected});
+    const auto rule = [](qlonglong time) {
+        return QVariantMap{{u"day"_s, 2LL}, {u"time"_s, time}, {u"note"_s, u"kept"_s}};
+    };
+    defaults.stored[settingskeys::calendarIntervals] =
+        QVariantList{u"first"_s, rule(60), u"between"_s, 7LL, rule(120), u"last"_s};
+    make().updateBackupScheduleAtIndex(1, 180, u"time"_s);
+    EXPECT_EQ(defaults.array(settingskeys::calendarIntervals),
+              (QVariantList{u"first"_s, rule(60), u"between"_s, 7LL, rule(180), u"last"_s}));
+    manager->deleteBackupScheduleAtIndex(0);
+    manager->addNewSchedule();
+    EXPECT_EQ(
+        defaults.array(settingskeys::calendarIntervals),
+        (QVariantList{u"first"_s, u"between"_s, 7LL, rule(180), u"last"_s, CalendarIntervalRule().toDictionary()}));
 }
 
 TEST_F(Model, ARetryReplacesTheRegularStartUnlessThatComesFirst)
@@ -199,6 +206,7 @@ TEST(BackupInfoRecord, MissingFieldsAreEmptyAndWrongOnesDropIt)
     EXPECT_FALSE(unarchive({{u"diskName"_s, 7LL}}));
     EXPECT_FALSE(unarchive({{u"date"_s, u"today"_s}}));
     EXPECT_FALSE(unarchive({{u"totalBytes"_s, u"12"_s}}));
+    EXPECT_FALSE(unarchive({{u"name"_s, u"another program's"_s}}));
     EXPECT_FALSE(BackupInfo::unarchiveFromData({}));
     BackupInfo info(u"\u05d0\U0001f600"_s, local(2026, 11, 21, 10));
     info.setTotalBytes(std::numeric_limits<std::int64_t>::max());

@@ -21,13 +21,15 @@ constexpr qlonglong at(int hour, int minute = 0)
 
 std::optional<Date> nextIn(const char* zone, const QList<CalendarIntervalRule>& rules, const LocalTime& now)
 {
-    const Calendar calendar(QString::fromLatin1(zone));
+    const ScopedEnvironment scope("TZ", zone);
+    const Calendar calendar;
     return nextBackupDate(rules, calendar.date(now), calendar);
 }
 
 Date in(const char* zone, const LocalTime& time)
 {
-    return Calendar(QString::fromLatin1(zone)).date(time);
+    const ScopedEnvironment scope("TZ", zone);
+    return Calendar().date(time);
 }
 
 constexpr auto berlin = "Europe/Berlin";
@@ -61,7 +63,8 @@ TEST(NextBackup, ATimeThatComesTwiceCountsTheFirstTimeOnly)
     const QList<CalendarIntervalRule> rules{{0, at(2, 30)}};
     const Date first = in("UTC", {2026, 10, 25, 0, 30});
     EXPECT_EQ(nextIn(berlin, rules, {2026, 10, 25, 0}), first);
-    const Calendar calendar(QString::fromLatin1(berlin));
+    const ScopedEnvironment zone("TZ", berlin);
+    const Calendar calendar;
     EXPECT_EQ(nextBackupDate(rules, first + 1ms, calendar), in("UTC", {2026, 10, 26, 1, 30}));
 }
 
@@ -72,13 +75,20 @@ TEST(NextBackup, ATimeInAGapIsShiftedForThatDayOnly)
     EXPECT_EQ(nextIn(berlin, rules, {2027, 3, 28, 4}), in("UTC", {2027, 3, 29, 0, 30}));
     EXPECT_EQ(nextIn("America/Sao_Paulo", {{1, at(0)}}, {2018, 11, 3, 12}), in("UTC", {2018, 11, 4, 3}))
         << "a midnight that does not exist";
+    // On Saturday 27 March 2027 the last hour of the day is left out.
+    EXPECT_EQ(nextIn("America/Scoresbysund", {{7, at(23, 30)}}, {2027, 3, 27, 12}), in("UTC", {2027, 3, 28, 1, 30}))
+        << "Saturday's start, although the clock shows Sunday";
+    EXPECT_EQ(nextIn("America/Scoresbysund", {{7, at(23, 30)}}, {2027, 3, 28, 0, 10}), in("UTC", {2027, 3, 28, 1, 30}));
+    EXPECT_EQ(nextIn("America/Scoresbysund", {{1, at(23, 30)}}, {2027, 3, 27, 12}), in("UTC", {2027, 3, 29, 0, 30}))
+        << "Sunday has one start, not two";
 }
 
 TEST(NextBackup, IsLookedForFromTheEndOfAPauseOn)
 {
     const Date now = in(berlin, {2026, 11, 21, 10});
     const Date end = in(berlin, {2026, 11, 24, 15});
-    const Calendar calendar(QString::fromLatin1(berlin));
+    const ScopedEnvironment zone("TZ", berlin);
+    const Calendar calendar;
     EXPECT_EQ(nextBackupDate({{0, at(12)}}, referenceDate(now, end, std::nullopt), calendar),
               in(berlin, {2026, 11, 25, 12}));
     EXPECT_EQ(referenceDate(now, now - 1h, std::nullopt), now);
@@ -92,7 +102,8 @@ TEST(NextBackup, ADateThatHasFiredIsPassedOver)
     EXPECT_EQ(referenceDate(now, std::nullopt, now - 1h), now);
     EXPECT_EQ(referenceDate(now, std::nullopt, now + 3h), now + 3h + 1ms);
     // A weekly rule that fired just after midnight, and the clock goes back before it: eight days are enough.
-    const Calendar calendar(QString::fromLatin1(berlin));
+    const ScopedEnvironment zone("TZ", berlin);
+    const Calendar calendar;
     const Date fired = in(berlin, {2026, 11, 23, 0, 30});
     EXPECT_EQ(nextBackupDate({{2, at(0, 30)}}, referenceDate(fired - 2h, std::nullopt, fired), calendar),
               in(berlin, {2026, 11, 30, 0, 30}));

@@ -2,6 +2,7 @@
 #include "SettingsFixture.h"
 
 #include <QPointer>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
@@ -52,7 +53,7 @@ TEST_F(ScheduleSettings, EditsReachTheFileOfTheDefaultsAsIntegers)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"defaults.plist"_s);
-    FileUserDefaults file(path, DefaultsAccess::ReadWrite);
+    FileUserDefaults file(path, DefaultsAccess::ReadWrite, runLoop_);
     file.setObject(settingskeys::calendarIntervals, CalendarIntervalRule::listToArray({{}}));
     DataManager manager({runLoop_, file, notifications_, loginItem_});
     SettingsViewController panel(
@@ -225,6 +226,39 @@ TEST_F(ScheduleSettings, ThePanelComesBackAsItWasLeftInTheMiddleOfAnEdit)
     EXPECT_EQ(storedRules(), QVariantList{rule(0, 77400)});
 }
 
+TEST_F(ScheduleSettings, DigitsFillTheTimeFromItsHoursOn)
+{
+    const struct {
+        const char* locale;
+        QString keys;
+        QTime time;
+    } table[] = {
+        {"en_US.UTF-8", u"0815"_s, {20, 15}}, {"en_US.UTF-8", u"130"_s, {13, 30}}, {"en_US.UTF-8", u"1215A"_s, {0, 15}},
+        {"de_DE.UTF-8", u"0815"_s, {8, 15}},  {"de_DE.UTF-8", u"130"_s, {13, 0}},  {"de_DE.UTF-8", u"245"_s, {2, 45}},
+        {"de_DE.UTF-8", u"97"_s, {9, 7}},     {"ko_KR.UTF-8", u"130"_s, {13, 30}},
+    };
+    for (const auto& [locale, keys, time] : table) {
+        const ScopedEnvironment language("LC_ALL", locale);
+        open({{0, 12 * 3600 + 45 * 60}});
+        picker(0).setFocus();
+        QTest::keyClick(&picker(0), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(&picker(0), keys);
+        EXPECT_EQ(picker(0).time(), time) << locale << ' ' << keys.toStdString();
+        EXPECT_EQ(storedRules(), QVariantList{rule(0, QTime(0, 0).secsTo(time))})
+            << locale << ' ' << keys.toStdString();
+    }
+}
+
+TEST_F(ScheduleSettings, ARuleAddedByKeyboardHasTheKeyboard)
+{
+    open();
+    auto& add = control<QPushButton>("addCalendarIntervalButton");
+    add.setFocus();
+    QTest::keyClick(&add, Qt::Key_Space);
+    ASSERT_EQ(rows().size(), 2);
+    EXPECT_TRUE(dayMenu(1).hasFocus());
+}
+
 TEST_F(ScheduleSettings, WhatIsTypedReplacesThePartOfTheTimeThatWasClickedOn)
 {
     for (const auto& [locale, keys] : {std::pair{"en_US.UTF-8", u"0745AM"_s}, {"de_DE.UTF-8", u"0745"_s}}) {
@@ -278,9 +312,12 @@ TEST_F(ScheduleSettings, TheIntervalPageKeepsItsControlsInStepAndSaysThatItDrive
     EXPECT_EQ(field.text(), u"2"_s);
     QTest::keyClick(&stepper, Qt::Key_Up);
     EXPECT_EQ(field.text(), u"3"_s);
-    field.setFocus();
-    field.selectAll();
-    QTest::keyClicks(&field, u"24"_s);
+    for (const auto& [typed, unit] : {std::pair{u"1"_s, u"hour"_s}, {u"24"_s, u"hours"_s}}) {
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, typed);
+        EXPECT_EQ(control<QLabel>("intervalUnit").text(), unit);
+    }
     EXPECT_EQ(stepper.value(), 24);
     QTest::keyClick(&stepper, Qt::Key_Up);
     EXPECT_EQ(stepper.value(), 24) << "a day at most";
@@ -296,13 +333,16 @@ TEST_F(ScheduleSettings, TheIntervalPageKeepsItsControlsInStepAndSaysThatItDrive
     EXPECT_EQ(nextBackup(), u"Today, 12:00\u202fPM"_s);
 }
 
-TEST_F(ScheduleSettings, TheWarningLeadsToTimeMachinesSettings)
+TEST_F(ScheduleSettings, TheAdviceSaysWhereBackupsGoAndLeadsToTimeMachinesSettings)
 {
     open();
     click("warningButton");
+    clickSetupAdvice(); // an impatient user asks once
+    EXPECT_TRUE(shownAlertText().contains(u"First Disk"_s)) << shownAlertText().toStdString();
     answerAlert(u"Close"_s);
     EXPECT_TRUE(workspace_.opened.isEmpty());
-    click("warningButton");
+    EXPECT_FALSE(isBlocked());
+    clickSetupAdvice();
     answerAlert(u"Open Time Machine Settings..."_s);
     EXPECT_EQ(workspace_.opened, QList<QUrl>{TMUtil::settingsAddress()});
     EXPECT_FALSE(isBlocked());

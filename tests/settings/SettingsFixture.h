@@ -100,6 +100,12 @@ protected:
         // On the far left of a check box there is its box.
         QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(button.height() / 2, button.height() / 2));
     }
+    /// The tool is asked for the disks before it says anything.
+    void clickSetupAdvice()
+    {
+        click("warningButton");
+        runLoop_.advance(Seconds(1));
+    }
     /// With the keyboard, as a user does.
     static void choose(QComboBox& menu, const QString& item)
     {

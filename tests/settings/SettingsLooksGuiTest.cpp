@@ -48,7 +48,7 @@ protected:
     }
 
     /// On both pages, and in the alert with the longest text.
-    std::string clippedAnywhere() const
+    std::string clippedAnywhere()
     {
         std::string clipped;
         auto& pages = control<QComboBox>("schedulePopup");
@@ -57,7 +57,7 @@ protected:
             QCoreApplication::processEvents();
             clipped += clippedTexts(*panel_);
         }
-        click("warningButton");
+        clickSetupAdvice();
         const QString close = localizedString("AlertButtonClose");
         EXPECT_TRUE(runUntil([&] { return alertButton(close); }));
         clipped += clippedTexts(*alertButton(close)->window());
@@ -99,6 +99,7 @@ TEST_F(SettingsLooks, TabGoesThroughThePanelFromAboveOnEitherPageAlsoWhenRowsCam
 {
     open();
     click("addCalendarIntervalButton");
+    control("enableScheduleCheckmark").setFocus();
     constexpr int ofTheScheduleAlone = 1; // the button that adds rules
     constexpr int ofARow = 3;
     constexpr int ofTheIntervalAlone = 2;

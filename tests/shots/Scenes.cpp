@@ -45,8 +45,25 @@ void launchForTheFirstTime(Stage& stage)
 {
     auto& program = stage.program();
     const Cirrel::Services unused(program.runLoop, program.defaults, nullptr); // by a build without a service
-    AppDelegate({program.runLoop, program.defaults, program.notifications, program.workspace, program.alerts, u"1.0"_s})
-        .applicationDidFinishLaunching();
+    AppDelegate delegate({program.runLoop, program.defaults, program.notifications, program.workspace, program.alerts,
+                          program.queue, program.machine, u"1.0"_s});
+    delegate.applicationDidFinishLaunching();
+    program.runLoop.advance(Seconds(1));
+    stage.showAlert();
+}
+
+void failToStart(Stage& stage, int status)
+{
+    stage.program().machine.injection = {1, TmutilScript::Fault::None, status, u"startbackup"_s};
+    stage.program().controller->backupNowClicked();
+    stage.program().runLoop.advance(Seconds(1));
+    stage.showAlert();
+}
+
+void browseBackups(Stage& stage)
+{
+    stage.program().workspace.opens = false;
+    stage.program().controller->enterTimeMachineClicked();
     stage.showAlert();
 }
 
@@ -96,6 +113,7 @@ constexpr std::array scenes{
     Scene{"menu-schedule-off",
           [](Stage& stage) {
               stage.program().manager->setIsScheduleEnabled(false);
+              stage.program().notifications.post(notifications::shouldUpdateStatusBar);
               stage.openMenu();
           }},
     Scene{"settings", openSettings},
@@ -112,12 +130,21 @@ constexpr std::array scenes{
           }},
     Scene{"settings-delete", [](Stage& stage) { pressInSettings(stage, "deleteButton"); }},
     Scene{"settings-limit", [](Stage& stage) { pressInSettings(stage, "addCalendarIntervalButton"); }},
-    Scene{"settings-warning", [](Stage& stage) { pressInSettings(stage, "warningButton"); }},
+    Scene{"settings-advice",
+          [](Stage& stage) {
+              pressInSettings(stage, "warningButton");
+              stage.program().runLoop.advance(Seconds(1));
+          }},
     Scene{"settings-help-missed", [](Stage& stage) { pressInSettings(stage, "retryAtMissedScheduleHelpButton"); }},
     Scene{"settings-help-failed", [](Stage& stage) { pressInSettings(stage, "retryAtFailureHelpButton"); }},
     Scene{"about", openAbout},
     Scene{"history-help", [](Stage& stage) { stage.program().controller->allBackupInfoHelpButtonPressed(); }},
     Scene{"alert-first-launch", launchForTheFirstTime},
+    Scene{"alert-first-launch-no-disk",
+          [](Stage& stage) {
+              stage.program().machine.destinations.clear();
+              launchForTheFirstTime(stage);
+          }},
     Scene{"alert-mail",
           [](Stage& stage) {
               stage.program().workspace.opens = false;
@@ -131,13 +158,8 @@ constexpr std::array scenes{
               stage.press("privacyPolicyButton");
               stage.showAlert();
           }},
-    Scene{"alert-failed-start",
-          [](Stage& stage) {
-              stage.program().machine.injection = {1, TmutilScript::Fault::None, 17, u"startbackup"_s};
-              stage.program().controller->backupNowClicked();
-              stage.program().runLoop.advance(Seconds(1));
-              stage.showAlert();
-          }},
+    Scene{"alert-failed-start", [](Stage& stage) { failToStart(stage, 17); }},
+    Scene{"alert-failed-start-no-disk", [](Stage& stage) { failToStart(stage, 2); }},
     Scene{"alert-update",
           [](Stage& stage) {
               announceUpdate(stage);
@@ -147,10 +169,9 @@ constexpr std::array scenes{
     Scene{"alert-restore",
           [](Stage& stage) {
               completeABackup(stage);
-              stage.program().workspace.opens = false;
-              stage.program().controller->enterTimeMachineClicked();
-              stage.showAlert();
+              browseBackups(stage);
           }},
+    Scene{"alert-restore-nothing", browseBackups},
     Scene{"alert-permission",
           [](Stage& stage) {
               const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6");

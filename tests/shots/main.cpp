@@ -59,9 +59,9 @@ bool takeScenes(const QDir& folder, qreal textScale)
     font.setPointSizeF(font.pointSizeF() * textScale);
     QApplication::setFont(font);
     for (const auto& [preference, scheme] : schemes) {
-        applyColorScheme(preference);
         for (const auto& scene : allScenes()) {
             Stage stage;
+            applyColorScheme(preference); // in place of the desktop's, which the stage's item takes
             stage.launch();
             scene.play(stage);
             const QString path = folder.filePath(u"%1-%2.png"_s.arg(scheme, QLatin1StringView(scene.name)));

@@ -61,7 +61,8 @@ TEST(ReadingTheStatus, ProgressIsScaledToTheWholeBackup)
                 0.75, 1e-6);
     EXPECT_DOUBLE_EQ(running("Progress = { }; EventFractionOfTotalProgressBar = 0.5;").percent, 0);
     EXPECT_NEAR(running("FractionOfProgressBar = 0.5; FractionDone = 0.4;").percent, 0.2, 1e-6);
-    EXPECT_DOUBLE_EQ(running("FractionOfProgressBar = 0.5;").percent, 0);
+    for (const auto* one : {"FractionOfProgressBar = 0.5;", "FractionOfProgressBar = 1e50;", "FractionDone = 1e50;"})
+        EXPECT_DOUBLE_EQ(running(one).percent, 0) << one;
     EXPECT_DOUBLE_EQ(running("Progress = { Percent = \"1.5\"; };").percent, 1.5) << "nothing is clamped from above";
     EXPECT_NE(running("Progress = { Percent = \"0.1\"; };").percent, 0.1) << "values are single-precision";
 }

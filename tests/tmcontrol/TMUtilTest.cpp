@@ -2,7 +2,9 @@
 
 #include "BackupPhase.h"
 #include "FakeServices.h"
+#include "LocalizedString.h"
 #include "ScopedEnvironment.h"
+#include "SetupAdvice.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>
@@ -143,15 +145,20 @@ TEST_F(Tmutil, QuittingEndsWhatReadsAndLeavesAStartToFinish)
 
 TEST_F(Tmutil, SettingsAreALinkFromVersion13OnAndAScriptBefore)
 {
-    play(R"([{"expect":["-e","tell Application \"System Preferences\"","-e","activate","-e",
-              "set the current pane to pane id \"com.apple.prefs.backup\"","-e","end tell"],"status":1}])");
+    const QByteArray script = R"({"expect":["-e","tell Application \"System Preferences\"","-e","activate","-e",
+        "set the current pane to pane id \"com.apple.prefs.backup\"","-e","end tell"],"status":1,"delay":)";
+    play('[' + script + "600}," + script + "1}]");
     tmutil->openTimeMachineSettings(u"Quillon"_s);
     EXPECT_EQ(workspace.opened.size(), 1);
     const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6");
     tmutil->openTimeMachineSettings(u"Quillon"_s);
-    runLoop.advance(Seconds(1));
+    runLoop.advance(Seconds(590));
+    EXPECT_EQ(launcher->liveChildren(), 1) << "the system may still be asking the user";
     EXPECT_EQ(launcher->launched().first().executable, u"/usr/bin/osascript"_s);
     EXPECT_EQ(launcher->launched().first().environmentValue, u"OpenTimeMachinePrefs"_s);
+    tmutil->openTimeMachineSettings(u"Quillon"_s);
+    runLoop.advance(Seconds(2));
+    EXPECT_EQ(launcher->launched().size(), 2) << "another request is another script";
     ASSERT_EQ(alerts.presented.size(), 1U);
     const auto& [alert, answer] = alerts.presented.front();
     EXPECT_EQ(alert.style, AlertStyle::Critical);
@@ -178,6 +185,34 @@ TEST(BackupPhases, FoldRawWordsIntoPhrasesAndLeaveNewOnesAlone)
     for (const auto& unknown : {u"copying"_s, u"NotRunning"_s, u"LazyThinning"_s}) {
         EXPECT_EQ(phrase(unknown), unknown);
         EXPECT_EQ(localizationKey(phrase(unknown)), nullptr);
+    }
+}
+
+TEST_F(Tmutil, TheAdviceNamesTheDisksAndSaysSoOnlyWhenItIsKnownThatThereIsNone)
+{
+    const QString list = u"<plist><dict><key>Destinations</key><array>%1</array></dict></plist>"_s;
+    const QString disk = u"<dict><key>ID</key><string>%1</string><key>Name</key><string>%1%20Disk</string></dict>"_s;
+    const struct {
+        QString answer;
+        QString text;
+        bool diskIsMissing;
+    } cases[] = {
+        {u"\"output\":\"%1\""_s.arg(list.arg(disk.arg(u"A"_s) + disk.arg(u"B"_s))),
+         localizedString("setupDisksMessage").arg(u"A Disk\nB Disk"_s), false},
+        {u"\"output\":\"%1\""_s.arg(list.arg(QString())), localizedString("setupNoDiskMessage"), true},
+        {u"\"output\":\"<plist><dict>\""_s, localizedString("setupUnknownDisksMessage"), false},
+        {u"\"status\":78"_s, localizedString("setupUnknownDisksMessage"), false},
+        {u"\"fault\":\"hang\""_s, localizedString("setupUnknownDisksMessage"), false},
+    };
+    for (const auto& [answer, text, diskIsMissing] : cases) {
+        play(u"[{\"expect\":[\"destinationinfo\",\"-X\"],%1}]"_s.arg(answer).toUtf8());
+        QList<SetupAdvice> given;
+        giveSetupAdvice(*tmutil, runLoop, [&given](const SetupAdvice& advice) { given.append(advice); });
+        runLoop.advance(Seconds(61));
+        ASSERT_EQ(given.size(), 1) << answer.toStdString();
+        EXPECT_EQ(given.first().text, text) << answer.toStdString();
+        EXPECT_EQ(given.first().diskIsMissing, diskIsMissing) << answer.toStdString();
+        EXPECT_EQ(given.first().style, AlertStyle::Informational);
     }
 }
 

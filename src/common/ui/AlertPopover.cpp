@@ -60,6 +60,8 @@ void AlertPopover::runAsPopoverForView(const PopoverAnchor& view, RectEdge prefe
     targetView_ = view;
     if (view.view && view.view->isVisible())
         targetView_.screenRect = QRect(view.view->mapToGlobal(QPoint()), view.view->size());
+    auto* panel = view.view ? qobject_cast<Popover*>(view.view->window()) : nullptr;
+    panelStaysOpen_ = panel ? panel->keepOpen() : nullptr;
     isAnswered_ = false;
 
     Stack& alerts = stack();
@@ -100,6 +102,7 @@ void AlertPopover::stopSynchronousPopoverAlert(const QAbstractButton* sender)
     const Popover* answered = parentPopover_.get();
     const int response = qobject_cast<const Alert*>(answered->contentView())->responseOf(sender);
     isAnswered_ = true;
+    panelStaysOpen_.reset();
     if (const auto block = std::exchange(completionBlock_, {}))
         block(response);
     if (parentPopover_.get() != answered) // the block has shown another alert, which goes on from here

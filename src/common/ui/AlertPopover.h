@@ -13,7 +13,8 @@ namespace quillon {
 
 /// An alert inside a popover that points at the control it is about. One of them is visible at a time in the whole
 /// process: a newer one pushes it aside, and it comes back when the newer one has been answered, the one pushed aside
-/// last first. It closes by its buttons only. It lives as long as it is shown or waits. Main thread only.
+/// last first. It closes by its buttons only, and a popover that it points into stays open until then. It lives as long
+/// as it is shown or waits. Main thread only.
 class AlertPopover final : public std::enable_shared_from_this<AlertPopover> {
 public:
     using CompletionBlock = std::function<void(int response)>;
@@ -53,6 +54,7 @@ private:
     CompletionBlock completionBlock_;
     PopoverAnchor targetView_;
     PopoverPointer parentPopover_;
+    std::shared_ptr<void> panelStaysOpen_; ///< the popover that the view lies in, until the answer
     bool isAnswered_ = false;
 };
 

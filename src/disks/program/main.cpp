@@ -52,8 +52,7 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(u"com.Orvane.Quillon.Disks"_s);
     installStringTable();
     QApplication::setApplicationDisplayName(localizedString("disksWindowTitle"));
-    QApplication::setWindowIcon(
-        symbolIcon({.name = u"clock.arrow.circlepath"_s, .paletteColor = {}}, QApplication::palette()));
+    QApplication::setWindowIcon(symbolIcon({.name = u"clock.arrow.circlepath"_s, .paletteColor = {}}));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(u"The settings of Time Machine: backup disks, folders, exclusions."_s);

@@ -1,13 +1,15 @@
 #include "Calendar.h"
 
-#include "IcuText.h"
+#include <QFile>
+#include <QtGlobal>
 
 #include <algorithm>
 #include <cstdint>
-#include <unicode/basictz.h>
+#include <ctime>
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono;
 
 namespace {
@@ -16,10 +18,12 @@ namespace {
 constexpr Date earliest = sys_days(year::min() / 1 / 2);
 constexpr Date latest = sys_days(year::max() / 12 / 30);
 
-double icuDate(Date date)
-{
-    return static_cast<double>(date.time_since_epoch().count());
-}
+// Farther from a local time than any zone is from Greenwich, and nearer than two changes of one zone are to each other.
+constexpr auto besideAnyChange = days(1);
+
+constexpr auto sampling = weeks(1);
+
+const QString systemZoneFile = u"/etc/localtime"_s;
 
 sys_days dayOf(const LocalTime& time)
 {
@@ -30,36 +34,49 @@ sys_days dayOf(const LocalTime& time)
     return sys_days(year::min() / January / 1 + months(month)) + days(time.day - 1);
 }
 
+std::tm brokenDown(Date date)
+{
+    const std::time_t instant = floor<seconds>(date.time_since_epoch()).count();
+    std::tm fields{};
+    localtime_r(&instant, &fields);
+    return fields;
+}
+
+/// What TZ says, less the colon that may stand before a name or a path (tzset(3)).
+QString zoneVariable()
+{
+    const QString value = qEnvironmentVariable("TZ");
+    return value.startsWith(u':') ? value.sliced(1) : value;
+}
+
 } // namespace
 
-struct Calendar::Implementation {
-    explicit Implementation(icu::TimeZone* adopted)
-        : zone(static_cast<icu::BasicTimeZone*>(adopted)) // all of ICU's zones are of this class (basictz.h)
-    {
-    }
-
-    std::unique_ptr<icu::BasicTimeZone> zone;
-};
-
 Calendar::Calendar()
-    : implementation_(std::make_unique<Implementation>(icu::TimeZone::detectHostTimeZone()))
 {
+    tzset(); // localtime_r need not look at a zone that has changed
 }
 
-Calendar::Calendar(const QString& timeZone)
-    : implementation_(std::make_unique<Implementation>(icu::TimeZone::createTimeZone(toIcu(timeZone))))
+void Calendar::followSystemTimeZone()
 {
+    if (zoneVariable() == systemZoneFile)
+        qunsetenv("TZ");
 }
 
-Calendar::Calendar(Calendar&&) noexcept = default;
-Calendar& Calendar::operator=(Calendar&&) noexcept = default;
-Calendar::~Calendar() = default;
-
-QString Calendar::hostTimeZone()
+QString Calendar::hostTimeZone(Date now)
 {
-    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
-    icu::UnicodeString name;
-    return fromIcu(zone->getID(name));
+    if (qEnvironmentVariableIsSet("TZ") && zoneVariable().isEmpty())
+        return u"UTC"_s;
+    QString name = zoneVariable();
+    if (name.isEmpty() || name == systemZoneFile)
+        name = QFile::symLinkTarget(systemZoneFile);
+    const QString folder = u"/zoneinfo/"_s;
+    if (const auto found = name.indexOf(folder); found >= 0)
+        return name.sliced(found + folder.size());
+    if (!name.isEmpty() && !name.startsWith(u'/'))
+        return name;
+    tzset();
+    const QString abbreviation = QString::fromLocal8Bit(brokenDown(now).tm_zone);
+    return abbreviation.isEmpty() ? u"UTC"_s : abbreviation; // a path that leads nowhere
 }
 
 LocalTime Calendar::localTime(Date date) const
@@ -80,22 +97,43 @@ LocalTime Calendar::localTime(Date date) const
 Date Calendar::date(const LocalTime& time) const
 {
     const Date wall = dayOf(time) + hours(time.hour) + minutes(time.minute) + seconds(time.second);
-    int32_t rawOffset = 0;
-    int32_t daylightSaving = 0;
-    UErrorCode status = U_ZERO_ERROR;
-    // The offset from before a change turns a repeated time into its first occurrence and moves one inside a gap on.
-    implementation_->zone->getOffsetFromLocal(icuDate(wall), UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, rawOffset,
-                                              daylightSaving, status);
-    return wall - milliseconds(rawOffset + daylightSaving);
+    // mktime chooses either of two equal local times, and moves one in a gap either way.
+    const int before = offsetFromUtc(wall - besideAnyChange);
+    const Date first = wall - seconds(before);
+    if (offsetFromUtc(first) == before)
+        return first;
+    const int after = offsetFromUtc(wall + besideAnyChange);
+    const Date second = wall - seconds(after);
+    return offsetFromUtc(second) == after ? second : first;
 }
 
 int Calendar::offsetFromUtc(Date date) const
 {
-    int32_t rawOffset = 0;
-    int32_t daylightSaving = 0;
-    UErrorCode status = U_ZERO_ERROR;
-    implementation_->zone->getOffset(icuDate(date), false, rawOffset, daylightSaving, status);
-    return (rawOffset + daylightSaving) / 1000;
+    return static_cast<int>(brokenDown(std::clamp(date, earliest, latest)).tm_gmtoff);
+}
+
+QList<OffsetChange> Calendar::offsetChanges(Date from, Date until) const
+{
+    QList<OffsetChange> changes;
+    const Date last = floor<seconds>(until);
+    Date known = floor<seconds>(from);
+    int offset = offsetFromUtc(known);
+    while (known < last) {
+        const Date next = std::min<Date>(known + sampling, last);
+        if (offsetFromUtc(next) == offset) {
+            known = next;
+            continue;
+        }
+        Date end = next;
+        while (end - known > seconds(1)) {
+            const Date middle = known + floor<seconds>((end - known) / 2);
+            (offsetFromUtc(middle) == offset ? known : end) = middle;
+        }
+        changes.append({end, offset, offsetFromUtc(end)});
+        offset = changes.last().after;
+        known = end;
+    }
+    return changes;
 }
 
 } // namespace quillon

@@ -13,7 +13,7 @@ public:
     enum Unit { Days = 1, Hours = 2, Minutes = 4, SecondsUnit = 8 };
     Q_DECLARE_FLAGS(Units, Unit)
 
-    /// Raw values of the original platform.
+    /// Raw values of macOS.
     enum class UnitsStyle { Positional = 0, Abbreviated = 1 };
     enum class ZeroFormatting { None = 0, DropLeading = 2 };
 

@@ -1,5 +1,6 @@
 #include "DateFormatter.h"
 
+#include "Calendar.h"
 #include "IcuText.h"
 #include "UserLocale.h"
 
@@ -8,6 +9,7 @@
 #include <string>
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
+#include <unicode/simpletz.h>
 #include <unicode/smpdtfmt.h>
 
 namespace quillon {
@@ -57,11 +59,37 @@ void applyHourCycle(icu::SimpleDateFormat& format, const icu::Locale& locale)
         format.applyPattern(generator->getBestPattern(skeleton, status));
 }
 
+/// Formats are made in a zone that needs no looking for: ICU's own search for the host's zone reads the whole folder of
+/// zones where /etc/localtime is no link. Each use sets the offset that holds then.
+void keepIcuFromSearchingTheHostsZone()
+{
+    [[maybe_unused]] static const bool done = [] {
+        icu::TimeZone::adoptDefault(icu::TimeZone::getGMT()->clone());
+        return true;
+    }();
+}
+
+/// The zone data of ICU is as old as ICU: the offset is the host's, for that one instant.
+std::unique_ptr<icu::TimeZone> fixedZone(Date date)
+{
+    return std::make_unique<icu::SimpleTimeZone>(Calendar().offsetFromUtc(date) * 1000, icu::UnicodeString());
+}
+
+/// Nothing where the pattern is none.
+std::unique_ptr<icu::SimpleDateFormat> patternFormat(const QString& pattern)
+{
+    keepIcuFromSearchingTheHostsZone();
+    UErrorCode status = U_ZERO_ERROR;
+    auto format = std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), icu::Locale(userLocale().c_str()), status);
+    return U_SUCCESS(status) ? std::move(format) : nullptr;
+}
+
 /// Nothing where both styles are None.
 std::unique_ptr<icu::DateFormat> styledFormat(DateFormatterStyle dateStyle, DateFormatterStyle timeStyle)
 {
     if (dateStyle == DateFormatterStyle::None && timeStyle == DateFormatterStyle::None)
         return nullptr;
+    keepIcuFromSearchingTheHostsZone();
     const icu::Locale locale(userLocale().c_str());
     std::unique_ptr<icu::DateFormat> format(
         icu::DateFormat::createDateTimeInstance(icuStyle(dateStyle), icuStyle(timeStyle), locale));
@@ -72,9 +100,22 @@ std::unique_ptr<icu::DateFormat> styledFormat(DateFormatterStyle dateStyle, Date
 
 QString formatted(icu::DateFormat& format, Date date)
 {
-    format.adoptTimeZone(icu::TimeZone::detectHostTimeZone());
+    format.adoptTimeZone(fixedZone(date).release());
     icu::UnicodeString text;
     return fromIcu(format.format(icuDate(date), text));
+}
+
+/// The instant at which the clock on the wall shows what `wall` is in Greenwich; nothing where a gap leaves it out.
+std::optional<Date> shownAt(Date wall)
+{
+    using namespace std::chrono;
+    const auto day = floor<days>(wall);
+    const auto time = wall - day;
+    const Calendar calendar;
+    const Date date = calendar.date({1970, 1, 1 + static_cast<int>(day.time_since_epoch().count()), 0, 0,
+                                     static_cast<int>(floor<seconds>(time).count())}) +
+                      time % seconds(1);
+    return date + seconds(calendar.offsetFromUtc(date)) == wall ? std::optional(date) : std::nullopt;
 }
 
 } // namespace
@@ -95,28 +136,30 @@ QString DateFormatter::pattern(DateFormatterStyle dateStyle, DateFormatterStyle 
 
 QString DateFormatter::string(Date date, const QString& pattern)
 {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::SimpleDateFormat format(toIcu(pattern), icu::Locale(userLocale().c_str()), status);
-    return U_SUCCESS(status) ? formatted(format, date) : QString();
+    const auto format = patternFormat(pattern);
+    return format ? formatted(*format, date) : QString();
 }
 
 std::optional<Date> DateFormatter::date(const QString& text, const QString& pattern)
 {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::SimpleDateFormat format(toIcu(pattern), icu::Locale(userLocale().c_str()), status);
-    if (U_FAILURE(status))
+    const auto format = patternFormat(pattern);
+    if (!format)
         return std::nullopt;
-    std::unique_ptr<icu::Calendar> calendar(format.getCalendar()->clone());
-    calendar->setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
-    calendar->adoptTimeZone(icu::TimeZone::detectHostTimeZone());
-    format.adoptCalendar(calendar.release());
-    format.setLenient(false);
-
+    format->setLenient(false);
+    // Read as if the clock on the wall showed Greenwich time, under a name that no text can give.
+    const icu::UnicodeString wallZone(u"wall");
+    const std::unique_ptr<icu::Calendar> fields(format->getCalendar()->clone());
+    fields->clear();
+    fields->setLenient(false);
+    fields->adoptTimeZone(new icu::SimpleTimeZone(0, wallZone));
     icu::ParsePosition end(0);
-    const UDate date = format.parse(toIcu(text), end);
-    if (end.getErrorIndex() >= 0 || end.getIndex() != text.size())
+    format->parse(toIcu(text), *fields, end);
+    UErrorCode status = U_ZERO_ERROR;
+    const Date read(std::chrono::milliseconds(static_cast<std::int64_t>(fields->getTime(status))));
+    if (U_FAILURE(status) || end.getErrorIndex() >= 0 || end.getIndex() != text.size())
         return std::nullopt;
-    return Date(std::chrono::milliseconds(static_cast<std::int64_t>(date)));
+    icu::UnicodeString zone;
+    return fields->getTimeZone().getID(zone) == wallZone ? shownAt(read) : read;
 }
 
 QString DateFormatter::weekdayName(int weekday)

@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// Lengths of a date or time text, with the original platform's raw values.
+/// Lengths of a date or time text, with the raw values of macOS.
 enum class DateFormatterStyle { None = 0, Short = 1, Medium = 2, Long = 3, Full = 4 };
 
 /// Date and time texts in the user's locale and the host's current time zone.

@@ -2,12 +2,12 @@
 
 #include "PropertyList.h"
 
-#include <QDeadlineTimer>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QThread>
+#include <QVariantList>
 
 #include <cerrno>
 #include <chrono>
@@ -22,9 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Writing takes a few milliseconds: who cannot get the lock in this time tries again with the next change.
-constexpr std::chrono::milliseconds lockPatience{100};
-constexpr std::chrono::milliseconds pauseBetweenTries{2};
+// Writing takes a few milliseconds: whoever holds the lock has let go of it by then.
+constexpr std::chrono::seconds untilNextTry{1};
 
 /// The kernel's lock on a folder: it leaves nothing behind, and ends with its process at whatever instant that dies.
 class FolderLock {
@@ -41,16 +40,8 @@ public:
             close(descriptor_);
     }
 
-    bool tryLock(std::chrono::milliseconds patience) const
-    {
-        const QDeadlineTimer deadline(patience);
-        while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
-            if (errno != EWOULDBLOCK || deadline.hasExpired())
-                return false;
-            QThread::msleep(pauseBetweenTries.count());
-        }
-        return true;
-    }
+    /// Takes the lock. Where the file system has none, or there is no folder yet, there is nobody to wait for.
+    bool isHeldByAnother() const { return flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; }
 
 private:
     const int descriptor_;
@@ -66,29 +57,49 @@ void apply(const QVariantMap& changes, QVariantMap& values)
     }
 }
 
-/// The change of one key, with the value that a program reads which starts next; nothing when it cannot be written.
-std::optional<QVariantMap> asFileGivesItBack(const QString& key, const QVariant& value)
+/// The value as a program reads it that starts next.
+QVariant asFileGivesItBack(const QVariant& value)
 {
-    if (!value.isValid())
-        return QVariantMap{{key, value}};
-    const auto text = propertylist::toXml(QVariantMap{{key, value}});
-    const auto back = text ? propertylist::parse(*text) : std::nullopt;
-    return back ? std::optional(back->toMap()) : std::nullopt;
+    switch (value.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+        return value.toLongLong();
+    case QMetaType::Float:
+        return value.toDouble();
+    case QMetaType::QDateTime: {
+        const std::chrono::milliseconds exact(value.toDateTime().toMSecsSinceEpoch());
+        return QDateTime::fromSecsSinceEpoch(std::chrono::floor<std::chrono::seconds>(exact).count(), Qt::UTC);
+    }
+    case QMetaType::QVariantList: {
+        QVariantList elements = value.toList();
+        std::transform(elements.begin(), elements.end(), elements.begin(), asFileGivesItBack);
+        return elements;
+    }
+    case QMetaType::QVariantMap: {
+        QVariantMap entries = value.toMap();
+        std::transform(entries.begin(), entries.end(), entries.begin(), asFileGivesItBack);
+        return entries;
+    }
+    default:
+        return value;
+    }
 }
 
 } // namespace
 
-FileUserDefaults::FileUserDefaults(const QString& path, DefaultsAccess access)
+FileUserDefaults::FileUserDefaults(const QString& path, DefaultsAccess access, RunLoop& runLoop)
     : path_(path)
     , access_(access)
+    , runLoop_(runLoop)
 {
     values_ = fileValues().value_or(QVariantMap());
 }
 
 FileUserDefaults::~FileUserDefaults()
 {
+    // Without the lock at worst a change that another program makes in this very instant is lost, not ours for certain.
     if (!unsaved_.isEmpty())
-        save();
+        write();
 }
 
 QVariant FileUserDefaults::storedValue(const QString& key) const
@@ -98,21 +109,18 @@ QVariant FileUserDefaults::storedValue(const QString& key) const
 
 void FileUserDefaults::storeValue(const QString& key, const QVariant& value)
 {
-    const auto change = asFileGivesItBack(key, value);
-    if (!change) {
+    const QVariantMap change{{key, asFileGivesItBack(value)}};
+    if (value.isValid() && !propertylist::toXml(change)) {
         complain(u"the value of %1 cannot be stored"_s.arg(key));
         return;
     }
-    if (unsaved_.isEmpty() && change->value(key) == values_.value(key))
+    if (unsaved_.isEmpty() && change.value(key) == values_.value(key))
         return;
-    apply(*change, values_);
+    apply(change, values_);
     if (access_ == DefaultsAccess::ReadOnly)
         return;
-    unsaved_.insert(*change);
-    if (save()) {
-        unsaved_.clear();
-        lastTrouble_.clear();
-    }
+    unsaved_.insert(change);
+    save();
 }
 
 std::optional<QVariantMap> FileUserDefaults::fileValues()
@@ -152,19 +160,25 @@ bool FileUserDefaults::setAside(const QString& reason)
     return true;
 }
 
-bool FileUserDefaults::save()
+void FileUserDefaults::save()
 {
-    const QString folder = QFileInfo(path_).path();
-    if (!QDir().mkpath(folder))
-        return complain(u"the folder of %1 cannot be made; settings are not saved"_s.arg(path_));
-    const FolderLock lock(folder);
-    if (!lock.tryLock(lockPatience))
-        return complain(u"%1 cannot be locked; settings are not saved"_s.arg(path_));
-    return saveLocked();
+    const FolderLock lock(QFileInfo(path_).path());
+    if (lock.isHeldByAnother()) {
+        complain(u"%1 is locked by another program; settings are saved once it is free"_s.arg(path_));
+        nextTry_ = runLoop_.scheduleRepeating(untilNextTry, [this] { save(); });
+        return;
+    }
+    nextTry_.invalidate();
+    if (write()) {
+        unsaved_.clear();
+        lastTrouble_.clear();
+    }
 }
 
-bool FileUserDefaults::saveLocked()
+bool FileUserDefaults::write()
 {
+    if (!QDir().mkpath(QFileInfo(path_).path()))
+        return complain(u"the folder of %1 cannot be made; settings are not saved"_s.arg(path_));
     auto values = fileValues();
     if (!values)
         return false;

@@ -3,13 +3,11 @@
 #include "BinaryPropertyListCheck.h"
 #include "PropertyListLimits.h"
 #include "StrictUtf8.h"
-#include "XmlPropertyListCheck.h"
 
 #include <QDateTime>
 #include <QVariantList>
 #include <QVariantMap>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -23,8 +21,6 @@ namespace quillon::libplist {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-enum class Format { Xml, Binary };
 
 struct NodeDeleter {
     void operator()(plist_t node) const { plist_free(node); }
@@ -40,6 +36,8 @@ using CString = std::unique_ptr<char, Free>;
 constexpr qint64 maximumSize = std::numeric_limits<int32_t>::max();
 constexpr qint64 referenceDate = 978'307'200'000; // 2001-01-01T00:00:00Z in milliseconds since 1970
 
+/// Nothing for a kind that QVariants of property lists do not have, such as the references of keyed archives; invalid
+/// for a value that is only too large, which costs itself and not the list.
 std::optional<QVariant> fromNode(plist_t node);
 
 std::optional<QVariant> dateFromNode(plist_t node)
@@ -49,7 +47,7 @@ std::optional<QVariant> dateFromNode(plist_t node)
     plist_get_date_val(node, &seconds, &microseconds);
     // What does not fit into 32 bits arrives as the smallest number.
     if (seconds == std::numeric_limits<int32_t>::min())
-        return std::nullopt;
+        return QVariant();
     const qint64 fraction = std::lround(microseconds / 1000.0);
     const qint64 milliseconds = qint64{seconds} * 1000 + (seconds < 0 ? -fraction : fraction);
     return QDateTime::fromMSecsSinceEpoch(referenceDate + milliseconds, Qt::UTC);
@@ -75,7 +73,8 @@ std::optional<QVariant> arrayFromNode(plist_t node)
         auto element = fromNode(child);
         if (!element)
             return std::nullopt;
-        elements.append(*std::move(element));
+        if (element->isValid())
+            elements.append(*std::move(element));
     }
     return elements;
 }
@@ -97,11 +96,11 @@ std::optional<QVariant> dictionaryFromNode(plist_t node)
         auto entry = fromNode(child);
         if (!name || !entry)
             return std::nullopt;
-        entries.insert(*name, *std::move(entry));
+        if (entry->isValid())
+            entries.insert(*name, *std::move(entry));
     }
 }
 
-/// Nothing for a kind that QVariants of property lists do not have, such as the references of keyed archives.
 std::optional<QVariant> fromNode(plist_t node)
 {
     switch (plist_get_node_type(node)) {
@@ -145,25 +144,15 @@ std::optional<QVariant> convert(const Node& root, propertylist::ParseError& erro
         return std::nullopt;
     }
     auto value = fromNode(root.get());
-    if (!value)
-        error = {u"the property list holds a value that cannot be represented"_s};
-    return value;
+    if (value && value->isValid())
+        return value;
+    error = {u"the property list holds a value that cannot be represented"_s};
+    return std::nullopt;
 }
 
-bool isXmlCharacter(char16_t unit)
-{
-    // Extensible Markup Language 1.0, production Char.
-    return unit >= 0x20 ? unit < 0xFFFE : unit == u'\t' || unit == u'\n' || unit == u'\r';
-}
-
-/// Makes libplist's tree of a value for one format.
+/// Makes libplist's tree of a value.
 class NodeMaker {
 public:
-    explicit NodeMaker(Format format)
-        : format_(format)
-    {
-    }
-
     /// Null for a value that the format cannot hold.
     Node make(const QVariant& value)
     {
@@ -196,22 +185,17 @@ public:
     }
 
 private:
-    std::optional<QByteArray> utf8(const QString& text) const
+    static std::optional<QByteArray> utf8(const QString& text)
     {
-        const auto fits = [this](QChar c) {
-            return format_ == Format::Xml ? isXmlCharacter(c.unicode()) : !c.isNull();
-        };
-        if (!text.isValidUtf16() || !std::all_of(text.begin(), text.end(), fits))
-            return std::nullopt;
-        return text.toUtf8();
+        return text.isValidUtf16() && !text.contains(QChar::Null) ? std::optional(text.toUtf8()) : std::nullopt;
     }
 
-    Node makeDate(const QDateTime& date) const
+    static Node makeDate(const QDateTime& date)
     {
         const qint64 milliseconds = date.toMSecsSinceEpoch() - referenceDate;
         // Rounded down, so that the fraction is never negative: libplist drops the sign of the whole otherwise.
         const qint64 seconds = static_cast<qint64>(std::floor(static_cast<double>(milliseconds) / 1000.0));
-        const qint64 fraction = format_ == Format::Xml ? 0 : milliseconds - seconds * 1000;
+        const qint64 fraction = milliseconds - seconds * 1000;
         if (!date.isValid() || seconds <= std::numeric_limits<int32_t>::min() ||
             seconds > std::numeric_limits<int32_t>::max())
             return nullptr;
@@ -254,55 +238,27 @@ private:
         return node;
     }
 
-    const Format format_;
     int depth_ = 0;
 };
 
-bool tooLarge(const QByteArray& bytes, propertylist::ParseError& error)
-{
-    if (bytes.size() <= maximumSize)
-        return false;
-    error = {u"the property list is too large"_s};
-    return true;
-}
-
 } // namespace
-
-std::optional<QVariant> readXml(const QByteArray& bytes, propertylist::ParseError& error)
-{
-    if (tooLarge(bytes, error) || !checkXmlPropertyList(bytes, error))
-        return std::nullopt;
-    plist_t root = nullptr;
-    const QByteArrayView text = withoutByteOrderMark(bytes);
-    plist_from_xml(text.data(), static_cast<uint32_t>(text.size()), &root);
-    return convert(Node(root), error);
-}
 
 std::optional<QVariant> readBinary(const QByteArray& bytes, propertylist::ParseError& error)
 {
-    if (tooLarge(bytes, error) || !checkBinaryPropertyList(bytes, error))
+    if (bytes.size() > maximumSize) {
+        error = {u"the property list is too large"_s};
+        return std::nullopt;
+    }
+    if (!checkBinaryPropertyList(bytes, error))
         return std::nullopt;
     plist_t root = nullptr;
     plist_from_bin(bytes.constData(), static_cast<uint32_t>(bytes.size()), &root);
     return convert(Node(root), error);
 }
 
-std::optional<QByteArray> writeXml(const QVariant& value)
-{
-    const Node root = NodeMaker(Format::Xml).make(value);
-    if (!root)
-        return std::nullopt;
-    char* text = nullptr;
-    uint32_t length = 0;
-    plist_to_xml(root.get(), &text, &length);
-    const CString owner(text);
-    // libplist writes a carriage return as it is, and XML readers take that for a line feed.
-    return QByteArray(text, static_cast<qsizetype>(length)).replace('\r', "&#13;");
-}
-
 std::optional<QByteArray> writeBinary(const QVariant& value)
 {
-    const Node root = NodeMaker(Format::Binary).make(value);
+    const Node root = NodeMaker().make(value);
     if (!root)
         return std::nullopt;
     char* data = nullptr;

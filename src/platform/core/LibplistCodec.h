@@ -2,15 +2,14 @@
 
 #include "PropertyList.h"
 
-/// The XML and binary formats, by libplist. What that library would crash on, expand without end or read as something
-/// else is refused before it gets there.
+/// The binary format, by libplist. What that library would crash on, expand without end or read as something else is
+/// refused before it gets there.
 namespace quillon::libplist {
 
-std::optional<QVariant> readXml(const QByteArray& bytes, propertylist::ParseError& error);
+/// A date that libplist cannot tell is left out of the array or dictionary that it stands in.
 std::optional<QVariant> readBinary(const QByteArray& bytes, propertylist::ParseError& error);
 
-/// Both give nothing for a value that the format cannot hold.
-std::optional<QByteArray> writeXml(const QVariant& value);
+/// Nothing for a value that the format cannot hold.
 std::optional<QByteArray> writeBinary(const QVariant& value);
 
 } // namespace quillon::libplist

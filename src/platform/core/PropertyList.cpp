@@ -4,6 +4,8 @@
 #include "OldStylePropertyListReader.h"
 #include "OldStylePropertyListWriter.h"
 #include "StrictUtf8.h"
+#include "XmlPropertyListReader.h"
+#include "XmlPropertyListWriter.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -11,6 +13,16 @@
 namespace quillon::propertylist {
 
 namespace {
+
+/// What a reader of a text format finds; nothing, with the reason in `error`, when the text is not of that format.
+template<typename Reader>
+std::optional<QVariant> read(Reader&& reader, ParseError* error)
+{
+    auto value = reader.read();
+    if (!value && error)
+        *error = reader.error();
+    return value;
+}
 
 bool looksLikeXml(QByteArrayView bytes)
 {
@@ -25,26 +37,20 @@ bool looksLikeXml(QByteArrayView bytes)
 std::optional<QVariant> parse(const QByteArray& bytes, ParseError* error)
 {
     ParseError ignored;
-    ParseError& reason = error ? *error : ignored;
     if (bytes.startsWith("bplist"))
-        return libplist::readBinary(bytes, reason);
-    if (looksLikeXml(bytes))
-        return libplist::readXml(bytes, reason);
-    return parseOldStyle(bytes, &reason);
+        return libplist::readBinary(bytes, error ? *error : ignored);
+    return looksLikeXml(bytes) ? read(XmlPropertyListReader(bytes), error) : parseOldStyle(bytes, error);
 }
 
 std::optional<QVariant> parseOldStyle(QByteArrayView bytes, ParseError* error)
 {
-    OldStylePropertyListReader reader(bytes);
-    auto value = reader.read();
-    if (!value && error)
-        *error = reader.error();
-    return value;
+    return read(OldStylePropertyListReader(bytes), error);
 }
 
 std::optional<QByteArray> toXml(const QVariant& value)
 {
-    return libplist::writeXml(value);
+    XmlPropertyListWriter writer;
+    return writer.write(value) ? std::optional(writer.text()) : std::nullopt;
 }
 
 std::optional<QByteArray> toBinary(const QVariant& value)

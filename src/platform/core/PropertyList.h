@@ -11,7 +11,8 @@ namespace quillon {
 /// Property lists in the old-style text, XML and binary formats.
 ///
 /// Values are QVariants of QString, QByteArray, bool, qlonglong, double, QDateTime (UTC), QVariantList and QVariantMap.
-/// In the old-style text format every scalar is a QString or a QByteArray.
+/// In the old-style text format every scalar is a QString or a QByteArray. A number or date of the other two that none
+/// of these holds is left out of its array or dictionary, and the rest of the list stays.
 namespace propertylist {
 
 /// Why a text was refused.
@@ -27,14 +28,15 @@ std::optional<QVariant> parse(const QByteArray& bytes, ParseError* error = nullp
 /// Reads the old-style text format only.
 std::optional<QVariant> parseOldStyle(QByteArrayView bytes, ParseError* error = nullptr);
 
-/// Both give nothing when a value is of a kind that property lists do not have.
+/// Both give nothing when a value is of a kind that property lists do not have. XML has no fractions of a second: they
+/// are cut off.
 std::optional<QByteArray> toXml(const QVariant& value);
 std::optional<QByteArray> toBinary(const QVariant& value);
 
 /// The old-style text format, one entry a line, indented by four blanks, keys sorted.
 std::optional<QByteArray> toOldStyle(const QVariant& value);
 
-/// Typed reads of a scalar that follow the original platform's string conversions: blanks skipped, the longest numeric
+/// Typed reads of a scalar that follow the string conversions of macOS: blanks skipped, the longest numeric
 /// prefix counts, integers saturate, nothing numeric is 0. Numbers and booleans of XML and binary lists are taken as
 /// they are; a value of any other kind reads as 0 or false.
 float toFloat(const QVariant& value);

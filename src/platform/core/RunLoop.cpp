@@ -48,10 +48,10 @@ void RunLoop::runTurn()
 void RunLoop::runQueuedBlocks()
 {
     // Blocks queued by these blocks wait for the next turn, so a block that queues itself starves nobody.
-    for (auto remaining = queue_.size(); remaining > 0; --remaining) {
+    for (auto remaining = queue_.size(); remaining > 0 && !queue_.empty(); --remaining) {
         const Block block = std::move(queue_.front());
         queue_.pop_front();
-        block();
+        run(block);
     }
 }
 
@@ -71,21 +71,26 @@ void RunLoop::runDueTimers()
 
 void RunLoop::runTimer(const std::shared_ptr<TimerState>& timer)
 {
-    if (!timer->block)
-        return; // an earlier block of this turn invalidated it
+    if (!timer->block || timer->due > uptime())
+        return; // an earlier block of this turn invalidated it, or opened an event loop that has run it
     if (timer->interval) {
         timer->due += *timer->interval;
         if (timer->due <= uptime())
             timer->due = uptime() + *timer->interval;
-        const Block block = timer->block;
-        block();
+        run(Block(timer->block));
         return;
     }
     if (const auto early = timer->fireDate + 1ms - now(); early > 0ms) {
         timer->due = uptime() + early; // the wall clock was set back meanwhile
         return;
     }
-    const Block block = std::exchange(timer->block, nullptr);
+    run(std::exchange(timer->block, nullptr));
+}
+
+void RunLoop::run(const Block& block)
+{
+    // A block that opens an event loop of its own, such as an alert, leaves to that one what waits behind it.
+    requestWake();
     block();
 }
 

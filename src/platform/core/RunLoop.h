@@ -60,6 +60,7 @@ private:
     void runQueuedBlocks();
     void runDueTimers();
     void runTimer(const std::shared_ptr<TimerState>& timer);
+    void run(const Block& block);
     void requestWake();
 
     std::deque<Block> queue_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RunLoop.h"
 #include "UserDefaults.h"
 
 #include <memory>
@@ -15,6 +16,6 @@ enum class DefaultsAccess {
 ///
 /// macOS: the preferences of the application; a tool in the application's bundle shares them. Elsewhere: the file
 /// `com.Orvane.Quillon.plist` in the user's configuration folder (XDG Base Directory Specification).
-std::unique_ptr<UserDefaults> openUserDefaults(DefaultsAccess access);
+std::unique_ptr<UserDefaults> openUserDefaults(DefaultsAccess access, RunLoop& runLoop);
 
 } // namespace quillon

@@ -7,10 +7,10 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-std::unique_ptr<UserDefaults> openUserDefaults(DefaultsAccess access)
+std::unique_ptr<UserDefaults> openUserDefaults(DefaultsAccess access, RunLoop& runLoop)
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return std::make_unique<FileUserDefaults>(folder + "/com.Orvane.Quillon.plist"_L1, access);
+    return std::make_unique<FileUserDefaults>(folder + "/com.Orvane.Quillon.plist"_L1, access, runLoop);
 }
 
 } // namespace quillon

@@ -181,7 +181,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<UserDefaults> openUserDefaults(DefaultsAccess access)
+std::unique_ptr<UserDefaults> openUserDefaults(DefaultsAccess access, RunLoop& /*runLoop*/)
 {
     return std::make_unique<PreferencesUserDefaults>(access);
 }

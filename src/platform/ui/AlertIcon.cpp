@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int side = 40;
+constexpr int side = 40; // logical pixels; what signs are drawn in
 
 /// A regular polygon around the middle, with rounded corners; its first corner points up, or half a side beside it.
 QPolygonF polygon(QPointF middle, qreal radius, int corners, bool standsOnSide)
@@ -31,18 +31,12 @@ void paintMark(QPainter& painter, qreal top, qreal bottom, qreal dot)
 
 } // namespace
 
-AlertIcon::AlertIcon(AlertStyle alertStyle, QWidget* parent)
-    : QWidget(parent)
-    , alertStyle_(alertStyle)
+void paintAlertSign(QPainter& painter, const QRectF& area, AlertStyle alertStyle)
 {
-    setFixedSize(side, side);
-}
-
-void AlertIcon::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter painter(this);
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(rect().center() + QPointF(0.5, 0.5));
+    painter.translate(area.center());
+    painter.scale(area.width() / side, area.height() / side);
     const auto ground = [&painter](QRgb color, const QPolygonF& corners) {
         painter.setBrush(QColor(color));
         painter.setPen(QPen(QColor(color), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)); // rounds the corners
@@ -50,7 +44,7 @@ void AlertIcon::paintEvent(QPaintEvent* /*event*/)
     };
     constexpr qreal stroke = 4.2;
     const auto pen = [](QRgb color) { return QPen(QColor(color), stroke, Qt::SolidLine, Qt::RoundCap); };
-    switch (alertStyle_) {
+    switch (alertStyle) {
     case AlertStyle::Informational:
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0x2f6fde));
@@ -69,6 +63,20 @@ void AlertIcon::paintEvent(QPaintEvent* /*event*/)
         paintMark(painter, -9, 1, 9);
         break;
     }
+    painter.restore();
+}
+
+AlertIcon::AlertIcon(AlertStyle alertStyle, QWidget* parent)
+    : QWidget(parent)
+    , alertStyle_(alertStyle)
+{
+    setFixedSize(side, side);
+}
+
+void AlertIcon::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    paintAlertSign(painter, rect(), alertStyle_);
 }
 
 } // namespace quillon

@@ -4,10 +4,14 @@
 
 #include <QWidget>
 
+class QPainter;
+
 namespace quillon {
 
-/// The sign of an alert's style, sharp at every scale: an i in a circle, an exclamation mark in a triangle or an
-/// octagon.
+/// Draws the sign of an alert's style: an i in a circle, an exclamation mark in a triangle or an octagon.
+void paintAlertSign(QPainter& painter, const QRectF& area, AlertStyle alertStyle);
+
+/// The sign beside an alert's text, sharp at every scale.
 class AlertIcon final : public QWidget {
     Q_OBJECT
 

@@ -1,5 +1,7 @@
 #include "ExportedMenu_linux.h"
 
+#include "ModalWindow.h"
+
 #include <QActionEvent>
 
 namespace quillon {
@@ -65,7 +67,13 @@ void ExportedMenu::addCopy(QAction* action)
     copy->setSeparator(action->isSeparator());
     if (action->menu())
         copy->setMenu(new ExportedMenu(*action->menu(), this));
-    connect(copy, &QAction::triggered, action, &QAction::trigger);
+    connect(copy, &QAction::triggered, action, [this, action] {
+        // The host knows nothing of windows that block everything else; and it may have toggled the copy's mark.
+        if (bringModalWindowToFront())
+            refresh(action);
+        else
+            action->trigger();
+    });
     copies_.insert(action, copy);
     refresh(action);
 }

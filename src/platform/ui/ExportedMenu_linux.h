@@ -10,7 +10,8 @@ namespace quillon {
 ///
 /// An underscore marks the access key there, and two stand for one; Qt turns the first ampersand of a label into the
 /// mark and hands everything else over as it is, so that "A_B && C && D" would arrive as "AB & C && D". The copy
-/// follows its source, submenus included, and triggers the source's actions. Main thread only.
+/// follows its source, submenus included, and triggers the source's actions, except while a modal window has to be
+/// answered first: then it brings that to the front. Main thread only.
 class ExportedMenu final : public QMenu {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "MenuBarButton_linux.h"
 
 #include "EmojiFont.h"
+#include "ModalWindow.h"
 #include "Symbol_linux.h"
 
 #include <QEvent>
@@ -21,8 +22,9 @@ namespace {
 
 constexpr int sideMargin = 8;
 constexpr int imageGap = 6;
-constexpr int verticalMargin = 1;
 constexpr int smallestHeight = 28;
+constexpr qreal groundInset = 0.5; // of the ground that marks the button, from its edges
+constexpr int verticalMargin = 2;  // keeps the title inside of that ground
 constexpr qreal pointsPerInch = 72;
 
 // What a line's ink needs above and below its baseline. Capitals and descenders count even where there are none, so
@@ -73,7 +75,7 @@ void MenuBarButton::setPopupMenu(QMenu* menu)
 
 void MenuBarButton::openMenu()
 {
-    if (!menu_ || menu_->isVisible())
+    if (bringModalWindowToFront() || !menu_ || menu_->isVisible())
         return;
     setDown(true);
     menu_->popup(mapToGlobal(rect().bottomLeft()) + QPoint(0, 1));
@@ -187,7 +189,8 @@ void MenuBarButton::paintGround(QPainter& painter) const
     painter.setBrush(ground);
     painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 1) : QPen(Qt::NoPen));
     constexpr qreal cornerRadius = 5;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), cornerRadius, cornerRadius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(groundInset, groundInset, -groundInset, -groundInset), cornerRadius,
+                            cornerRadius);
 }
 
 void MenuBarButton::paintTitle(QPainter& painter, const QRect& area) const
@@ -198,7 +201,7 @@ void MenuBarButton::paintTitle(QPainter& painter, const QRect& area) const
     const QStringList texts = lines();
     // Capitals and digits are centred; descenders hang below, as far as there is room for them.
     const qreal below = extentOf(metrics, texts.value(texts.size() - 1)).below;
-    const qreal top = std::min((height() - blockHeight() + below) / 2, height() - blockHeight());
+    const qreal top = std::min((height() - blockHeight() + below) / 2, height() - blockHeight() - verticalMargin);
     qreal baseline = top + extentOf(metrics, texts.value(0)).above;
     for (const QString& line : texts) {
         const QString shown = metrics.elidedText(line, Qt::ElideRight, area.width());

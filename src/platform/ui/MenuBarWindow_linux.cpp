@@ -1,6 +1,7 @@
 #include "MenuBarWindow_linux.h"
 
 #include "MenuBarButton_linux.h"
+#include "ModalWindow.h"
 #include "ScreenStrip_linux.h"
 
 #include <QCloseEvent>
@@ -24,7 +25,7 @@ MenuBarWindow::MenuBarWindow()
     layout->setContentsMargins(0, 0, 0, 0);
     if (isBar_) {
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-        setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+        makeDock(winId());
         layout->addStretch();
         connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &MenuBarWindow::followPrimaryScreen);
         followPrimaryScreen();
@@ -50,6 +51,13 @@ void MenuBarWindow::setMenu(QMenu* menu)
 PopoverAnchor MenuBarWindow::anchor() const
 {
     return {button_, {}};
+}
+
+bool MenuBarWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked)
+        letClicksThrough(*this);
+    return QWidget::event(event);
 }
 
 void MenuBarWindow::closeEvent(QCloseEvent* event)

@@ -24,6 +24,7 @@ public:
     PopoverAnchor anchor() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -1,5 +1,7 @@
 #include "ModalAlertPresenter.h"
 
+#include <QApplication>
+
 #include <utility>
 
 namespace quillon {
@@ -7,8 +9,10 @@ namespace quillon {
 void ModalAlertPresenter::present(const AlertRequest& request, std::function<void(int response)> answer)
 {
     alerts_.push_back({request, std::move(answer)});
-    if (!window_)
-        showFirst();
+    if (window_)
+        return;
+    keyboardOwner_ = QApplication::activeWindow();
+    showFirst();
 }
 
 void ModalAlertPresenter::showFirst()
@@ -24,7 +28,9 @@ void ModalAlertPresenter::finish(int response)
     window_.release()->deleteLater(); // it is the window that calls
     if (!alerts_.empty())
         showFirst();
-    if (answer) // comes last: it may end the presenter
+    else if (keyboardOwner_ && keyboardOwner_->isVisible())
+        keyboardOwner_->activateWindow(); // not every window manager does
+    if (answer)                           // comes last: it may end the presenter
         answer(response);
 }
 

@@ -13,6 +13,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <variant>
+
 namespace quillon {
 
 namespace {
@@ -134,6 +136,7 @@ void Popover::appear()
     winId(); // makes the window
     const QWidget* owner = anchor_.view ? anchor_.view->window() : parentWidget();
     windowHandle()->setTransientParent(owner ? owner->window()->windowHandle() : nullptr);
+    keepOutOfWindowLists(*this);
     const bool fades = animates_ && windowsFade();
     if (windowsFade())
         setWindowOpacity(fades ? 0 : 1);
@@ -160,6 +163,8 @@ void Popover::place()
     const auto [target, arrow] = popoverPlacement(anchor, own.size(), screen->availableGeometry(), preferredEdge_);
     arrow_ = arrow;
     move(target.topLeft() - own.topLeft());
+    if (body() != own) // moving has let a larger content in, and so has placed the popover anew
+        return;
     if (!translucent_)
         setMask(QRegion(popoverOutline(own, arrow_).toFillPolygon().toPolygon()));
     update();
@@ -209,7 +214,16 @@ Popover* Popover::child() const
 /// Whether something that belongs to the popover is in front of it.
 bool Popover::isOccupied() const
 {
-    return QApplication::activeModalWidget() || contains(QApplication::activePopupWidget()) || child();
+    return QApplication::activeModalWidget() || contains(QApplication::activePopupWidget()) || child() ||
+           !keptOpen_.expired();
+}
+
+std::shared_ptr<void> Popover::keepOpen()
+{
+    auto token = keptOpen_.lock();
+    if (!token)
+        keptOpen_ = token = std::make_shared<std::monostate>();
+    return token;
 }
 
 /// The user has turned to something else.

@@ -6,6 +6,7 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 
 class QScreen;
@@ -46,6 +47,8 @@ public:
     /// Shows it, or moves it when it is shown. The window of its anchor, put away by the user, comes back.
     void showRelativeTo(const PopoverAnchor& anchor, RectEdge preferredEdge);
     bool isShown() const { return shown_; }
+    /// Keeps a transient popover open, as a child of it does, for as long as anybody owns what is returned.
+    std::shared_ptr<void> keepOpen();
     /// Fades out; isShown() is false at once.
     void close();
 
@@ -86,6 +89,7 @@ private:
     RectEdge preferredEdge_ = RectEdge::MinY;
     std::optional<PopoverArrow> arrow_;
     QVariantAnimation fade_;
+    std::weak_ptr<void> keptOpen_;
 };
 
 } // namespace quillon

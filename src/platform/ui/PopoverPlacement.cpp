@@ -89,10 +89,12 @@ int tipOn(int middleOfAnchor, int bodyStart, int bodyLength)
 
 PopoverPlacement popoverPlacement(const QRect& anchor, const QSize& size, const QRect& available, RectEdge preferred)
 {
-    const RectEdge edge = chooseEdge(anchor, size, available, preferred);
+    constexpr int gap = popoverScreenGap;
+    const QRect room = available.adjusted(gap, gap, -gap, -gap);
+    const RectEdge edge = chooseEdge(anchor, size, room, preferred);
     const QPoint wished = besideAnchor(edge, anchor, size);
-    const QPoint corner(keptInside(wished.x(), size.width(), available.x(), available.width()),
-                        keptInside(wished.y(), size.height(), available.y(), available.height()));
+    const QPoint corner(keptInside(wished.x(), size.width(), room.x(), room.width()),
+                        keptInside(wished.y(), size.height(), room.y(), room.height()));
     const int tip = isVertical(edge) ? tipOn(anchor.x() + anchor.width() / 2, corner.x(), size.width())
                                      : tipOn(anchor.y() + anchor.height() / 2, corner.y(), size.height());
     return {.body = QRect(corner, size), .arrow = {.edge = edge, .tip = tip}};

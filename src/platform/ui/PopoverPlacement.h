@@ -13,6 +13,8 @@ inline constexpr int popoverArrowLength = 9;
 /// Half of the arrow's base.
 inline constexpr int popoverArrowHalfWidth = 9;
 inline constexpr int popoverCornerRadius = 9;
+/// What stays free between a popover and the screen's edges or the desktop's panels.
+inline constexpr int popoverScreenGap = 6;
 
 /// The arrow of a popover: on which side of the anchor the body lies, and how far from the body's left or upper side
 /// the tip is.
@@ -31,9 +33,9 @@ struct PopoverPlacement {
 };
 
 /// Where a popover goes. It lies on the preferred side of its anchor, on the opposite side where the preferred one has
-/// no room for it, or else on one of the other two; it slides along the anchor to stay inside `available` while the
-/// arrow stays on the anchor's middle. Where no side has room it covers the anchor, and one that is larger than
-/// `available` keeps its upper left corner there.
+/// no room for it, or else on one of the other two; it slides along the anchor to keep the gap to the edges of
+/// `available` while the arrow stays on the anchor's middle. Where no side has room it covers the anchor, and one that
+/// is larger than `available` keeps its upper left corner there.
 /// @param anchor may be empty, and may lie outside of `available`
 PopoverPlacement popoverPlacement(const QRect& anchor, const QSize& size, const QRect& available, RectEdge preferred);
 

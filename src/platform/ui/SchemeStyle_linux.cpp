@@ -53,14 +53,24 @@ QSize SchemeStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
                                     const QWidget* widget) const
 {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type != CT_MenuItem)
-        return size;
-    // The column for check marks is reserved as a constant, yet drawn as a share of the row's height: Qt 6.4,
-    // qfusionstyle.cpp, CE_MenuItem.
-    constexpr int reserved = 21;
-    constexpr double share = 0.79;
-    size.rwidth() += std::max(0, static_cast<int>(std::ceil(size.height() * share)) - reserved);
+    if (type == CT_PushButton) {
+        constexpr double padding = 0.6; // of a line's height, on either side of the text
+        const int wanted = contents.width() + qRound(2 * padding * option->fontMetrics.height());
+        size.setWidth(std::max(size.width(), wanted));
+    } else if (type == CT_MenuItem) {
+        // The column for check marks is reserved as a constant, yet drawn as a share of the row's height: Qt 6.4,
+        // qfusionstyle.cpp, CE_MenuItem.
+        constexpr int reserved = 21;
+        constexpr double share = 0.79;
+        size.rwidth() += std::max(0, static_cast<int>(std::ceil(size.height() * share)) - reserved);
+    }
     return size;
+}
+
+int SchemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* returned) const
+{
+    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 } // namespace quillon

@@ -5,7 +5,8 @@
 namespace quillon {
 
 /// The desktop's style where Qt's own one falls short: on dark grounds, where that draws black on black, with
-/// separators in menus and outlines of check boxes, and with room for all of a menu's text in large fonts.
+/// separators in menus and outlines of check boxes, and where a bright shadow makes disabled text the brightest; with
+/// room for all of a menu's text in large fonts, and with room on either side of a button's text.
 class SchemeStyle final : public QProxyStyle {
     Q_OBJECT
 
@@ -18,6 +19,8 @@ public:
                        const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
 };
 
 } // namespace quillon

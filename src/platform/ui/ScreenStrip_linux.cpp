@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace quillon {
 
@@ -21,7 +22,28 @@ bool hasScreenAbove(const QScreen& screen)
     });
 }
 
+void replaceProperty(xcb_connection_t* connection, WId window, std::string_view name, xcb_atom_t type,
+                     std::span<const std::uint32_t> values)
+{
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window),
+                        internAtom(connection, name), type, 32, static_cast<std::uint32_t>(values.size()),
+                        values.data());
+}
+
 } // namespace
+
+void makeDock(WId window)
+{
+    xcb_connection_t* connection = x11Connection();
+    if (!connection)
+        return;
+    // Extended Window Manager Hints 1.5. Qt's own attribute for this has no effect on a window that it makes
+    // afterwards.
+    const std::array type{internAtom(connection, "_NET_WM_WINDOW_TYPE_DOCK")};
+    replaceProperty(connection, window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, type);
+    constexpr std::array<std::uint32_t, 1> everyDesktop{0xFFFFFFFF};
+    replaceProperty(connection, window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, everyDesktop);
+}
 
 void reserveTopStrip(WId window, const QScreen& screen, const QRect& bar)
 {
@@ -39,9 +61,7 @@ void reserveTopStrip(WId window, const QScreen& screen, const QRect& bar)
     strut[2] = static_cast<std::uint32_t>(depth);
     strut[8] = static_cast<std::uint32_t>(origin.x());
     strut[9] = static_cast<std::uint32_t>(lastColumn);
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window),
-                        internAtom(connection, "_NET_WM_STRUT_PARTIAL"), XCB_ATOM_CARDINAL, 32, strut.size(),
-                        strut.data());
+    replaceProperty(connection, window, "_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, strut);
     xcb_flush(connection);
 }
 

@@ -1,18 +1,13 @@
 #include "StatusNotifierHostWatcher_linux.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingReply>
-#include <QDBusVariant>
+#include "TrayProtocols_linux.h"
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+using namespace trayprotocols;
 
 namespace {
-
-// Names of the protocol: https://www.freedesktop.org/wiki/Specifications/StatusNotifierItem/
-constexpr auto watcherService = "org.kde.StatusNotifierWatcher"_L1;
-constexpr auto watcherPath = "/StatusNotifierWatcher"_L1;
 
 // A watcher that hangs must not keep the item hidden.
 constexpr int answerTimeoutMs = 1000;
@@ -21,7 +16,7 @@ constexpr int answerTimeoutMs = 1000;
 
 StatusNotifierHostWatcher::StatusNotifierHostWatcher(const QDBusConnection& bus)
     : bus_(bus)
-    , serviceWatcher_(watcherService, bus_, QDBusServiceWatcher::WatchForOwnerChange)
+    , serviceWatcher_(statusNotifierWatcher, bus_, QDBusServiceWatcher::WatchForOwnerChange)
     , known_(!bus_.isConnected())
 {
     if (known_)
@@ -32,7 +27,7 @@ StatusNotifierHostWatcher::StatusNotifierHostWatcher(const QDBusConnection& bus)
         settle(false);
     });
     for (const auto signal : {"StatusNotifierHostRegistered"_L1, "StatusNotifierHostUnregistered"_L1})
-        bus_.connect(watcherService, watcherPath, watcherService, signal, this, SLOT(ask()));
+        bus_.connect(statusNotifierWatcher, statusNotifierPath, statusNotifierWatcher, signal, this, SLOT(ask()));
     ask();
 }
 
@@ -40,16 +35,12 @@ StatusNotifierHostWatcher::~StatusNotifierHostWatcher() = default;
 
 void StatusNotifierHostWatcher::ask()
 {
-    auto message =
-        QDBusMessage::createMethodCall(watcherService, watcherPath, "org.freedesktop.DBus.Properties"_L1, "Get"_L1);
-    message.setAutoStartService(false);
-    message.setArguments({QString(watcherService), u"IsStatusNotifierHostRegistered"_s});
     // A newer question replaces one under way, so that answers cannot overtake each other.
-    question_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(message, answerTimeoutMs));
+    question_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(statusNotifierQuestion(), answerTimeoutMs));
     connect(question_.get(), &QDBusPendingCallWatcher::finished, this, [this] {
-        const QDBusPendingReply<QDBusVariant> reply = *question_;
+        const bool present = isYes(question_->reply());
         question_.release()->deleteLater();
-        settle(reply.isValid() && reply.value().variant().toBool());
+        settle(present);
     });
 }
 

@@ -5,6 +5,10 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -25,14 +29,20 @@ QColor paletteColor(SymbolColor color, bool dark)
     Q_UNREACHABLE();
 }
 
-// A faint rim, so that the symbol is seen on a panel that is dark in a light theme too, or light in a dark one.
-void paintHalo(QPainter& painter, const QPixmap& shape)
+// Light, with a dark rim: the one is seen on dark panels, the other on light ones.
+constexpr QRgb iconColor = 0xfff7f7f7;
+constexpr QRgb iconRim = 0xff1d1d1f;
+
+/// As thick as a pixel of the smallest icon, whatever the size.
+void paintRim(QPainter& painter, const QPixmap& shape)
 {
-    constexpr qreal strength = 0.6;
-    painter.setOpacity(strength);
-    for (const QPoint offset : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
-        painter.drawPixmap(offset, shape);
-    painter.setOpacity(1);
+    constexpr qreal share = 1.0 / 20;
+    const qreal reach = std::max(1.0, shape.width() * share);
+    constexpr int directions = 16;
+    for (int direction = 0; direction < directions; ++direction) {
+        const qreal turn = direction * 2 * std::numbers::pi / directions;
+        painter.drawPixmap(QPointF(std::cos(turn), std::sin(turn)) * reach, shape);
+    }
 }
 
 } // namespace
@@ -59,15 +69,17 @@ QPixmap symbolPixmap(const QString& name, int side, qreal devicePixelRatio, cons
     return pixmap;
 }
 
-QIcon symbolIcon(const SymbolImage& symbol, const QPalette& palette)
+QIcon symbolIcon(const SymbolImage& symbol)
 {
     QIcon icon;
+    const QColor color = symbol.paletteColor ? paletteColor(*symbol.paletteColor, true) : QColor::fromRgb(iconColor);
     for (const int side : {16, 22, 24, 32, 48, 64}) {
         QPixmap pixmap(side, side);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        paintHalo(painter, symbolPixmap(symbol.name, side, 1, palette.color(QPalette::Window)));
-        painter.drawPixmap(0, 0, symbolPixmap(symbol.name, side, 1, symbolColor(symbol, palette)));
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        paintRim(painter, symbolPixmap(symbol.name, side, 1, QColor::fromRgb(iconRim)));
+        painter.drawPixmap(0, 0, symbolPixmap(symbol.name, side, 1, color));
         painter.end();
         icon.addPixmap(pixmap);
     }

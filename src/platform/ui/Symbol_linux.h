@@ -15,7 +15,8 @@ QColor symbolColor(const SymbolImage& symbol, const QPalette& palette);
 /// The symbol as a square of `side` logical pixels; transparent where there is no symbol of that name.
 QPixmap symbolPixmap(const QString& name, int side, qreal devicePixelRatio, const QColor& color);
 
-/// The symbol in the sizes that trays ask for, rimmed by the ground of the palette, since a tray's own is not known.
-QIcon symbolIcon(const SymbolImage& symbol, const QPalette& palette);
+/// The symbol in the sizes that trays and task bars ask for. Neither tells whether it is dark: the icon is light with a
+/// dark rim, and so is seen on either ground.
+QIcon symbolIcon(const SymbolImage& symbol);
 
 } // namespace quillon

@@ -1,5 +1,6 @@
 #include "TrayStatusItem_linux.h"
 
+#include "ModalWindow.h"
 #include "Symbol_linux.h"
 
 #include <QApplication>
@@ -37,7 +38,8 @@ void TrayStatusItem::setShown(bool shown)
 
 void TrayStatusItem::setContent(const StatusItemContent& content)
 {
-    icon_.setToolTip(content.title.text);
+    const QString name = QGuiApplication::applicationDisplayName();
+    icon_.setToolTip(content.title.text.isEmpty() ? name : name + u'\n' + content.title.text);
     if (image_ == content.image)
         return;
     image_ = content.image;
@@ -65,15 +67,20 @@ PopoverAnchor TrayStatusItem::anchor() const
 
 bool TrayStatusItem::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
-        updateIcon();
+    // An embedded icon is a window of Qt's own, which a modal one would leave dead.
+    const bool isClick = event->type() == QEvent::MouseButtonPress;
+    if ((isClick || event->type() == QEvent::WindowBlocked) && watched->inherits("QSystemTrayIconSys")) {
+        if (isClick)
+            return bringModalWindowToFront();
+        letClicksThrough(*static_cast<QWidget*>(watched));
+    }
     return QObject::eventFilter(watched, event);
 }
 
 void TrayStatusItem::updateIcon()
 {
     if (image_) {
-        icon_.setIcon(symbolIcon(*image_, QGuiApplication::palette()));
+        icon_.setIcon(symbolIcon(*image_));
         return;
     }
     constexpr int side = 22;
@@ -84,14 +91,23 @@ void TrayStatusItem::updateIcon()
 
 void TrayStatusItem::openMenu()
 {
-    if (!menu_)
+    if (bringModalWindowToFront() || !menu_)
         return;
     const QRect icon = icon_.geometry();
     // A StatusNotifier host does not tell where it shows the icon, and Wayland does not tell where the pointer is.
     const bool pointerKnown = QGuiApplication::platformName() != "wayland"_L1;
-    menu_->popup(!icon.isNull() ? icon.bottomLeft()
+    menu_->popup(!icon.isNull() ? besideIcon(icon)
                  : pointerKnown ? QCursor::pos()
                                 : QGuiApplication::primaryScreen()->availableGeometry().topRight());
+}
+
+/// Never over the icon: a second click there is to close the menu, not to choose from it.
+QPoint TrayStatusItem::besideIcon(const QRect& icon) const
+{
+    const QScreen* screen = QGuiApplication::screenAt(icon.center());
+    const int height = menu_->sizeHint().height();
+    const bool fitsBelow = !screen || icon.bottom() + height <= screen->geometry().bottom();
+    return {icon.left(), fitsBelow ? icon.bottom() + 1 : icon.top() - height};
 }
 
 } // namespace quillon

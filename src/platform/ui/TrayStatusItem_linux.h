@@ -11,7 +11,7 @@ namespace quillon {
 /// The two ways in which a tray and its icons find each other.
 enum class TrayProtocol { StatusNotifier, XEmbed };
 
-/// The item as an icon of the desktop's tray, the title being its tool tip.
+/// The item as an icon of the desktop's tray, its tool tip being the program's name and the title.
 ///
 /// Qt looks for a StatusNotifier host when the first tray icon of a process is made, and stays with XEmbed or with
 /// StatusNotifier for good. So this is made only once a tray host of either kind is there, and then kept: hidden while
@@ -38,6 +38,7 @@ private:
     void updateIcon();
     void attachMenu();
     void openMenu();
+    QPoint besideIcon(const QRect& icon) const;
 
     QSystemTrayIcon icon_;
     std::optional<TrayProtocol> protocol_;

@@ -14,7 +14,11 @@ bool windowsFade();
 /// Whether a program decides where its windows lie.
 bool windowsCanBePlaced();
 
-/// Brings the application and its window, which is shown, to the front and gives the window the keyboard.
+/// Keeps a window that is about to be shown out of what lists windows: task bars, pagers.
+void keepOutOfWindowLists(QWidget& window);
+
+/// Brings the application and its window, which is shown or was put away by the user, to the front and gives the window
+/// the keyboard.
 void bringToFront(QWidget& window);
 
 } // namespace quillon

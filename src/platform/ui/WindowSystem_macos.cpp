@@ -34,8 +34,14 @@ bool windowsCanBePlaced()
     return true;
 }
 
+void keepOutOfWindowLists(QWidget& /*window*/)
+{
+    // An accessory application's windows are in none.
+}
+
 void bringToFront(QWidget& window)
 {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     // NSWindowCollectionBehaviorCanJoinAllSpaces and NSWindowCollectionBehaviorFullScreenAuxiliary: shown beside a
     // full-screen window too.
     constexpr unsigned long canJoinAllSpaces = 1UL << 0;

@@ -1,5 +1,6 @@
 #include "XEmbedHostWatcher_linux.h"
 
+#include "TrayProtocols_linux.h"
 #include "X11_linux.h"
 
 #include <QGuiApplication>
@@ -8,22 +9,13 @@
 
 namespace quillon {
 
-namespace {
-
-// The tray's selection on the first X11 screen: https://specifications.freedesktop.org/systemtray-spec/
-constexpr std::string_view traySelection = "_NET_SYSTEM_TRAY_S0";
-
-} // namespace
-
 XEmbedHostWatcher::XEmbedHostWatcher()
     : connection_(x11Connection())
 {
     if (!connection_ || !watchSelection())
         return;
     qGuiApp->installNativeEventFilter(this);
-    const XcbReply<xcb_get_selection_owner_reply_t> owner(
-        xcb_get_selection_owner_reply(connection_, xcb_get_selection_owner(connection_, selection_), nullptr));
-    present_ = owner && owner->owner != XCB_NONE;
+    present_ = isOwned(connection_, selection_);
 }
 
 XEmbedHostWatcher::~XEmbedHostWatcher() = default;
@@ -37,7 +29,7 @@ bool XEmbedHostWatcher::watchSelection()
     const XcbReply<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(
         connection_, xcb_xfixes_query_version(connection_, XCB_XFIXES_MAJOR_VERSION, XCB_XFIXES_MINOR_VERSION),
         nullptr));
-    selection_ = internAtom(connection_, traySelection);
+    selection_ = internAtom(connection_, trayprotocols::traySelection);
     if (!version || selection_ == XCB_ATOM_NONE)
         return false;
     selectionNotify_ = static_cast<std::uint8_t>(extension->first_event + XCB_XFIXES_SELECTION_NOTIFY);

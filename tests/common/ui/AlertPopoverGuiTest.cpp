@@ -216,6 +216,10 @@ TEST_F(AlertPopoverTest, KeepsATransientPopoverOpenThatItPointsInto)
     run(u"A"_s, control, RectEdge::MaxX);
     QTest::mouseClick(window_.get(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_TRUE(settings.isShown());
+    run(u"B"_s, views_[1]);
+    QTest::mouseClick(window_.get(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_TRUE(settings.isShown()) << "A is to come back and point at something";
+    click(u"First"_s);
     click(u"First"_s);
     EXPECT_TRUE(settings.isShown());
     QTest::mouseClick(window_.get(), Qt::LeftButton, {}, QPoint(5, 5));

@@ -84,6 +84,9 @@ TEST_F(DateFormatterTest, TheHostsZoneIsAskedForAtEveryUse)
     const ScopedEnvironment tokyo("TZ", "Asia/Tokyo");
     EXPECT_EQ(DateFormatter::string(afternoon, u"yyyy-MM-dd HH:mm"_s), u"2026-09-21 23:13"_s);
     EXPECT_EQ(DateFormatter::date(u"2026-09-21 23:13:20"_s, u"yyyy-MM-dd HH:mm:ss"_s), afternoon);
+    EXPECT_EQ(DateFormatter::date(u"2026-09-21 16:13:20 +0200"_s, u"yyyy-MM-dd HH:mm:ss Z"_s), afternoon);
+    const ScopedEnvironment almaty("TZ", "Asia/Almaty"); // moved by an hour in 2024, after ICU's data
+    EXPECT_EQ(DateFormatter::string(afternoon, u"HH:mm"_s), u"19:13"_s);
 }
 
 TEST_F(DateFormatterTest, TextsThatDoNotMatchAsAWholeAreNoDates)

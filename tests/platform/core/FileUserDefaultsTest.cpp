@@ -2,6 +2,7 @@
 
 #include "PropertyList.h"
 #include "ScopedEnvironment.h"
+#include "VirtualRunLoop.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -44,6 +45,7 @@ protected:
     QString path() const { return folder() + u"/settings.plist"_s; }
 
     const QTemporaryDir temporary_;
+    VirtualRunLoop runLoop_{Date()};
 };
 
 /// Runs a check in a child process without privileges, for whom permissions count; its standard error is returned.
@@ -69,7 +71,7 @@ QString asNobody(Check check)
 TEST_F(FileUserDefaultsTest, EverySetterHasWrittenTheWholeFileWhenItReturns)
 {
     const Date date{std::chrono::milliseconds(1'716'205'146'750)};
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     EXPECT_FALSE(QFile::exists(path())) << "reading makes no file";
     defaults.setObject(u"number"_s, 3);
     defaults.setDate(u"date"_s, date);
@@ -85,7 +87,7 @@ TEST_F(FileUserDefaultsTest, EverySetterHasWrittenTheWholeFileWhenItReturns)
     EXPECT_FALSE(stored().contains(u"date"_s));
     EXPECT_EQ(files(), QStringList{u"settings.plist"_s});
 
-    const FileUserDefaults next(path(), DefaultsAccess::ReadWrite);
+    const FileUserDefaults next(path(), DefaultsAccess::ReadWrite, runLoop_);
     EXPECT_EQ(next.integer(u"number"_s), 3);
     EXPECT_EQ(next.date(u"date"_s), std::nullopt);
 }
@@ -93,7 +95,7 @@ TEST_F(FileUserDefaultsTest, EverySetterHasWrittenTheWholeFileWhenItReturns)
 TEST_F(FileUserDefaultsTest, RegisteredValuesAreReadWhereNothingIsStoredAndNeverWritten)
 {
     write("{ \"off\" = 0; empty = (); }");
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     defaults.registerDefaults({{u"off"_s, 1}, {u"on"_s, 1}, {u"empty"_s, QVariantList{1}}});
     EXPECT_EQ(defaults.integer(u"off"_s), 0);
     EXPECT_EQ(defaults.integer(u"on"_s), 1);
@@ -111,7 +113,7 @@ TEST_F(FileUserDefaultsTest, UnknownKeysAndValuesOfAWrongKindSurviveASave)
                               {u"date"_s, u"yesterday"_s},
                               {u"rules"_s, u"12:00"_s}};
     write(propertylist::toXml(foreign).value_or(""));
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     EXPECT_FALSE(defaults.boolean(u"firstLaunch"_s));
     EXPECT_EQ(defaults.integer(u"number"_s), 0);
     EXPECT_EQ(defaults.string(u"number"_s), QString());
@@ -127,7 +129,7 @@ TEST_F(FileUserDefaultsTest, ForeignValuesThatXmlCannotHoldSurviveASaveToo)
 {
     const QVariantMap foreign{{u"bell"_s, u"ring \a"_s}, {u"lines"_s, u"one\r\ntwo"_s}};
     write(propertylist::toBinary(foreign).value_or(""));
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     defaults.setObject(u"new"_s, true);
     QVariantMap expected = foreign;
     expected.insert(u"new"_s, true);
@@ -137,7 +139,7 @@ TEST_F(FileUserDefaultsTest, ForeignValuesThatXmlCannotHoldSurviveASaveToo)
 TEST_F(FileUserDefaultsTest, WhatAnotherProgramChangedMeanwhileIsKept)
 {
     write("{ mine = 1; theirs = 1; }");
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     write("{ mine = 1; theirs = 2; more = 3; }");
     defaults.setObject(u"mine"_s, u"2"_s);
     EXPECT_EQ(stored(), (QVariantMap{{u"mine"_s, u"2"_s}, {u"theirs"_s, u"2"_s}, {u"more"_s, u"3"_s}}));
@@ -152,7 +154,7 @@ TEST_F(FileUserDefaultsTest, ADamagedFileIsSetAsideUnderANameOfItsOwn)
     for (const QByteArray& bytes : damaged) {
         write(bytes);
         testing::internal::CaptureStderr();
-        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
         defaults.registerDefaults({{u"a"_s, 1}});
         EXPECT_NE(testing::internal::GetCapturedStderr().find("settings.plist.damaged-"), std::string::npos);
         EXPECT_EQ(defaults.integer(u"a"_s), 1);
@@ -164,7 +166,7 @@ TEST_F(FileUserDefaultsTest, ADamagedFileIsSetAsideUnderANameOfItsOwn)
 
 TEST_F(FileUserDefaultsTest, AFileDamagedWhileTheProgramRunsCostsNoSettings)
 {
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     defaults.setObject(u"a"_s, 1);
     write("garbage {");
     testing::internal::CaptureStderr();
@@ -176,42 +178,58 @@ TEST_F(FileUserDefaultsTest, AFileDamagedWhileTheProgramRunsCostsNoSettings)
 
 TEST_F(FileUserDefaultsTest, AReadOnlyDatabaseTouchesNothingOnDisk)
 {
-    FileUserDefaults absent(path(), DefaultsAccess::ReadOnly);
+    FileUserDefaults absent(path(), DefaultsAccess::ReadOnly, runLoop_);
     absent.setObject(u"a"_s, 1);
     EXPECT_EQ(absent.integer(u"a"_s), 1);
     EXPECT_FALSE(QFile::exists(folder()));
 
     write("garbage {");
     testing::internal::CaptureStderr();
-    const FileUserDefaults damaged(path(), DefaultsAccess::ReadOnly);
+    const FileUserDefaults damaged(path(), DefaultsAccess::ReadOnly, runLoop_);
     EXPECT_NE(testing::internal::GetCapturedStderr(), "");
     EXPECT_EQ(files(), QStringList{u"settings.plist"_s});
     EXPECT_EQ(contents(path()), "garbage {");
 }
 
-TEST_F(FileUserDefaultsTest, WhatCannotBeWrittenStaysInMemoryAndGoesOutLater)
+TEST_F(FileUserDefaultsTest, WhatAnotherProgramsLockKeepsInMemoryFollowsOnceItIsFreeAndAtTheEndAtTheLatest)
 {
     write("{ a = 1; }");
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    const auto lockFolder = [this] {
+        const int other = open(QFile::encodeName(folder()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        EXPECT_EQ(flock(other, LOCK_EX), 0);
+        return other;
+    };
     testing::internal::CaptureStderr();
     {
-        const int other = open(QFile::encodeName(QFileInfo(path()).path()).constData(), O_RDONLY | O_DIRECTORY);
-        ASSERT_EQ(flock(other, LOCK_EX), 0);
+        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
+        const int first = lockFolder();
         defaults.setObject(u"b"_s, 2);
         defaults.setObject(u"a"_s, QVariant());
+        runLoop_.advance(Seconds(10));
         EXPECT_EQ(defaults.integer(u"b"_s), 2);
         EXPECT_EQ(contents(path()), "{ a = 1; }");
-        ::close(other);
+        close(first);
+        runLoop_.advance(Seconds(2));
+        EXPECT_EQ(stored(), (QVariantMap{{u"b"_s, 2LL}}));
+        write("{ theirs = 1; }");
+        runLoop_.advance(Seconds(60));
+        EXPECT_EQ(contents(path()), "{ theirs = 1; }") << "nothing is left to write";
+
+        const int second = lockFolder();
+        defaults.setObject(u"c"_s, 3);
+        EXPECT_EQ(contents(path()), "{ theirs = 1; }");
+        write("{ theirs = 2; }");
+        close(second);
+        lockFolder(); // by somebody who never lets go
     }
+    EXPECT_EQ(stored(), (QVariantMap{{u"theirs"_s, u"2"_s}, {u"c"_s, 3LL}}));
     const QString warnings = QString::fromStdString(testing::internal::GetCapturedStderr());
-    EXPECT_EQ(warnings.count(u'\n'), 1) << "one trouble is told once: " << warnings.toStdString();
-    defaults.setObject(u"c"_s, 3);
-    EXPECT_EQ(stored(), (QVariantMap{{u"b"_s, 2LL}, {u"c"_s, 3LL}}));
+    EXPECT_EQ(warnings.count(u'\n'), 2) << "one trouble is told once: " << warnings.toStdString();
 }
 
 TEST_F(FileUserDefaultsTest, AValueThatTheFileCannotHoldChangesNothing)
 {
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     defaults.setObject(u"text"_s, u"fine"_s);
     testing::internal::CaptureStderr();
     defaults.setObject(u"text"_s, u"bell \a"_s);
@@ -226,7 +244,7 @@ TEST_F(FileUserDefaultsTest, AFolderThatCannotBeWrittenIsAWarning)
     ASSERT_EQ(chmod(QFile::encodeName(temporary_.path()).constData(), 0755), 0);
     ASSERT_EQ(chmod(QFile::encodeName(folder()).constData(), 0555), 0);
     const QString warning = asNobody([this] {
-        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
         defaults.setObject(u"b"_s, 2);
         return defaults.integer(u"a"_s) == 1 && defaults.integer(u"b"_s) == 2;
     });
@@ -242,7 +260,7 @@ TEST_F(FileUserDefaultsTest, AFileThatCannotBeReadIsNeverReplaced)
     ASSERT_EQ(chmod(QFile::encodeName(folder()).constData(), 0777), 0);
     ASSERT_EQ(chmod(QFile::encodeName(path()).constData(), 0), 0);
     const QString warning = asNobody([this] {
-        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
         defaults.setObject(u"b"_s, 2);
         return defaults.integer(u"b"_s) == 2;
     });
@@ -256,7 +274,7 @@ TEST_F(FileUserDefaultsTest, ACrashAtAnyInstantLeavesAWholeFile)
     write("{ step = 0; }");
     const pid_t child = fork();
     if (child == 0) {
-        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+        FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
         for (int step = 1;; ++step)
             defaults.setObject(u"step"_s, QVariantList(200, step));
     }
@@ -274,7 +292,7 @@ TEST_F(FileUserDefaultsTest, ACrashAtAnyInstantLeavesAWholeFile)
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     EXPECT_TRUE(whole);
-    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite);
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
     const QVariant last = defaults.object(u"step"_s);
     EXPECT_TRUE(last == u"0"_s || last.toList().size() == 200);
     defaults.setObject(u"after"_s, 1);
@@ -284,9 +302,9 @@ TEST_F(FileUserDefaultsTest, ACrashAtAnyInstantLeavesAWholeFile)
 TEST_F(FileUserDefaultsTest, TheUsersDatabaseLiesInTheConfigurationFolder)
 {
     const ScopedEnvironment config("XDG_CONFIG_HOME", QFile::encodeName(folder()));
-    openUserDefaults(DefaultsAccess::ReadWrite)->setObject(u"a"_s, 1);
+    openUserDefaults(DefaultsAccess::ReadWrite, runLoop_)->setObject(u"a"_s, 1);
     EXPECT_EQ(files(), QStringList{u"com.Orvane.Quillon.plist"_s});
-    EXPECT_EQ(openUserDefaults(DefaultsAccess::ReadOnly)->integer(u"a"_s), 1);
+    EXPECT_EQ(openUserDefaults(DefaultsAccess::ReadOnly, runLoop_)->integer(u"a"_s), 1);
 }
 
 } // namespace quillon

@@ -101,11 +101,12 @@ TEST(PropertyList, WritersRefuseWhatTheFormatCannotHold)
         EXPECT_FALSE(propertylist::toBinary(value)) << value.typeName();
         EXPECT_FALSE(propertylist::toOldStyle(value)) << value.typeName();
     }
-    for (const QVariant& value :
-         std::initializer_list<QVariant>{u"a\0b"_s, utc(u"4001-01-01T00:00:00Z"_s), QDateTime()}) {
+    for (const QVariant& value : std::initializer_list<QVariant>{u"a\0b"_s, QDateTime()}) {
         EXPECT_FALSE(propertylist::toXml(value)) << value.typeName();
         EXPECT_FALSE(propertylist::toBinary(value)) << value.typeName();
     }
+    EXPECT_FALSE(propertylist::toXml(utc(u"-0001-01-01T00:00:00Z"_s)));
+    EXPECT_FALSE(propertylist::toBinary(utc(u"4001-01-01T00:00:00Z"_s)));
     EXPECT_FALSE(propertylist::toXml(u"bell \a"_s));
     EXPECT_EQ(read(propertylist::toBinary(u"bell \a"_s).value_or("")), QVariant(u"bell \a"_s));
 }
@@ -145,13 +146,14 @@ TEST(PropertyList, DamagedXmlIsRefusedAndNeverGuessedAt)
                                                                        "<real/>",
                                                                        "<date>yesterday</date>",
                                                                        "<date>2024-02-30T00:00:00Z</date>",
-                                                                       "<date>4001-01-01T00:00:00Z</date>",
                                                                        "<data>!!!!</data>",
                                                                        "<data>QUJ</data>",
                                                                        "<string>&foo;</string>",
                                                                        "<string>\xFF</string>",
                                                                        "<string>&#0;</string>",
                                                                        "<string>a<b/></string>",
+                                                                       "<true/><true/>",
+                                                                       "<dict><key>a</key></dict>",
                                                                        "<dict><string>a</string></dict>",
                                                                        "<dict><key>a</key><key>b</key><true/></dict>",
                                                                        "<array><string>x</string>",
@@ -166,6 +168,18 @@ TEST(PropertyList, DamagedXmlIsRefusedAndNeverGuessedAt)
     const QByteArray whole = propertylist::toXml(everyKind()).value_or("");
     for (qsizetype length = 0; length < whole.trimmed().size(); length += 7)
         EXPECT_FALSE(propertylist::parse(whole.first(length))) << length;
+}
+
+TEST(PropertyList, OneValueThatCannotBeHeldCostsItselfAndNotTheList)
+{
+    const QVariantMap list = read(xml("<dict><key>size</key><integer>9223372036854775808</integer><key>rules</key>"
+                                      "<array><integer>1</integer><date>0000-12-30T00:00:00Z</date></array>"
+                                      "<key>end of time</key><date>4001-01-01T00:00:00Z</date></dict>"))
+                                 .toMap();
+    EXPECT_EQ(list, (QVariantMap{{u"rules"_s, QVariantList{1LL}}, {u"end of time"_s, utc(u"4001-01-01T00:00:00Z"_s)}}));
+    EXPECT_EQ(read(propertylist::toXml(list).value_or("")), QVariant(list)) << "what is read can be written";
+    const QByteArray in2137("\x33\x41\xF0\0\0\0\0\0\0", 9); // a double, 2 to the 32nd seconds
+    EXPECT_EQ(read(binary({QByteArray("\xA2\x01\x02"), in2137, "\x51x"})), QVariant(QVariantList{u"x"_s}));
 }
 
 TEST(PropertyList, DamagedBinaryListsAreRefused)

@@ -1,6 +1,7 @@
 #include "QtRunLoop.h"
 
 #include <QEventLoop>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -39,11 +40,12 @@ TEST(QtRunLoopTest, RepeatingTimersGoOnAndBlocksRunWhileANestedLoopIsOpen)
         if (++ticks == 3)
             events.quit();
     });
+    QEventLoop menu;
+    QTimer::singleShot(1min, &menu, &QEventLoop::quit); // long after the block behind has done it
+    loop.enqueue([&] { menu.exec(); });
     loop.enqueue([&] {
-        QEventLoop menu;
-        loop.enqueue([&] { nestedBlockRan = true; });
-        const Timer closing = loop.scheduleOnce(loop.now() + 5ms, [&] { menu.quit(); });
-        menu.exec();
+        nestedBlockRan = menu.isRunning();
+        menu.quit();
     });
     EXPECT_EQ(ticks, 0);
     events.exec();

@@ -34,6 +34,23 @@ TEST_F(RunLoopTest, BlocksRunInOrderInALaterTurn)
     EXPECT_EQ(marks, (std::vector{1, 2, 3}));
 }
 
+TEST_F(RunLoopTest, ABlockThatOpensAnEventLoopLetsItRunWhatWaitsBehindIt)
+{
+    const auto openLoop = [this](int mark) {
+        return [this, mark] {
+            loop.settle();
+            marks.push_back(mark);
+        };
+    };
+    loop.enqueue(openLoop(2));
+    loop.enqueue(note(1));
+    loop.settle();
+    const Timer first = loop.scheduleRepeating(1s, openLoop(4));
+    const Timer second = loop.scheduleRepeating(1s, note(3));
+    loop.advance(1s);
+    EXPECT_EQ(marks, (std::vector{1, 2, 3, 4})) << "each once";
+}
+
 TEST_F(RunLoopTest, AOneShotTimerRunsOnceAndOnlyWhenNowIsPastItsDate)
 {
     std::vector<Date> runs;

@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QGuiApplication>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionButton>
 
@@ -80,6 +81,19 @@ TEST(ApplicationPalette, LeavesAnEmptyCheckBoxVisibleInTheDark)
     const int outline = picture.pixelColor(indicator.left(), indicator.center().y()).lightness();
     EXPECT_GT(outline, box.palette().color(QPalette::Window).lightness() + 60);
     applyColorScheme(None);
+}
+
+TEST(ApplicationStyle, KeepsTheTextOfAButtonOffItsBorders)
+{
+    applyColorScheme(None);
+    QFont font = QGuiApplication::font();
+    for (const int points : {9, 24}) {
+        font.setPointSize(points);
+        QPushButton button(u"Datenschutzrichtlinie"_s);
+        button.setFont(font);
+        EXPECT_GE(button.sizeHint().width() - button.fontMetrics().horizontalAdvance(button.text()),
+                  button.fontMetrics().height());
+    }
 }
 
 } // namespace

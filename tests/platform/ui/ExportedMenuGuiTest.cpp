@@ -1,5 +1,7 @@
 #include "ExportedMenu_linux.h"
 
+#include <QDialog>
+
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -35,6 +37,21 @@ TEST_F(ExportedMenuTest, FollowsItsSourceAndTriggersIt)
     EXPECT_TRUE(copy(1)->isSeparator());
     delete first_;
     EXPECT_EQ(exported_.actions().size(), 2);
+}
+
+TEST_F(ExportedMenuTest, DoesNothingWhileAModalWindowIsToBeAnswered)
+{
+    second_->setCheckable(true);
+    QDialog dialog;
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.showMinimized();
+    copy(1)->trigger();
+    EXPECT_FALSE(second_->isChecked());
+    EXPECT_FALSE(copy(1)->isChecked());
+    EXPECT_FALSE(dialog.isMinimized()) << "the user gets to see what waits";
+    dialog.close();
+    copy(1)->trigger();
+    EXPECT_TRUE(second_->isChecked());
 }
 
 TEST_F(ExportedMenuTest, FollowsSubmenusThatComeAndAreReplaced)

@@ -74,19 +74,20 @@ TEST_F(MenuBarTest, LiesAlongTheTopOfTheScreenWithTheItemAtItsRightEnd)
     EXPECT_EQ(button().geometry().right(), bar_.width() - 1);
 }
 
-TEST_F(MenuBarTest, DrawsTwoSeparateLinesWholeAndAlignedToTheRight)
+TEST_F(MenuBarTest, DrawsTwoSeparateLinesInsideTheGroundThatMarksItAndAlignedToTheRight)
 {
     constexpr int margin = 8;
+    constexpr int edgeOfTheGround = 1;
     constexpr int bearing = 2;
     for (const double pointSize : {9.5, 14.0, 24.0}) {
-        StatusItemContent text = content(u"Xxx\n45.3%"_s, pointSize);
+        StatusItemContent text = content(u"Xxx\n45 gj"_s, pointSize);
         text.image.reset();
         bar_.setContent(text);
         const QImage item = picture();
         const auto lines = runs(item, Qt::Vertical);
         ASSERT_EQ(lines.size(), 2) << pointSize;
-        EXPECT_GT(lines.first().first, 0) << pointSize;
-        EXPECT_LT(lines.last().second, item.height() - 1) << pointSize;
+        EXPECT_GT(lines.first().first, edgeOfTheGround) << pointSize;
+        EXPECT_LT(lines.last().second, item.height() - 1 - edgeOfTheGround) << pointSize;
         for (const auto& [first, last] : lines) {
             const auto columns = runs(item.copy(0, first, item.width(), last - first + 1), Qt::Horizontal);
             EXPECT_NEAR(item.width() - 1 - columns.last().second, margin, bearing) << pointSize;

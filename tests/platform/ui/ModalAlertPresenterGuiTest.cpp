@@ -86,6 +86,23 @@ TEST_F(ModalAlertPresenterTest, ShowsOneAlertAtATimeInTheOrderTheyCameIn)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST_F(ModalAlertPresenterTest, GivesTheKeyboardBackToTheWindowThatHadIt)
+{
+    QWidget panel;
+    QWidget other;
+    for (QWidget* shown : {&panel, &other})
+        shown->show();
+    panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    present(u"A"_s, {u"A1"_s});
+    present(u"B"_s, {u"B1"_s});
+    click(u"A1"_s);
+    auto* last = window()->findChild<QPushButton*>();
+    other.activateWindow(); // what a window manager may think of
+    QTest::mouseClick(last, Qt::LeftButton);
+    EXPECT_TRUE(eventually([&] { return QApplication::activeWindow() == &panel; }));
+}
+
 TEST_F(ModalAlertPresenterTest, ClosesUnansweredWithItsPresenter)
 {
     present(u"A"_s, {u"OK"_s});

@@ -62,6 +62,10 @@ TEST_F(PopoverOnX11Test, TakesTheKeyboardUnderAWindowManagerToo)
     const XEmbedTray desktop(display_);
     tell(u"show"_s);
     ASSERT_TRUE(becomes(u"active"_s, true));
+    const QString states =
+        display_.ask(u"xprop"_s, {u"-id"_s, tell(u"state"_s)[u"window"_s].toString(), u"_NET_WM_STATE"_s});
+    for (const auto& list : {u"_NET_WM_STATE_SKIP_TASKBAR"_s, u"_NET_WM_STATE_SKIP_PAGER"_s})
+        EXPECT_TRUE(states.contains(list)) << states.toStdString();
     display_.pressKey(u"q"_s);
     EXPECT_TRUE(becomes(u"text"_s, u"q"_s));
     display_.pressKey(u"Escape"_s);
@@ -72,6 +76,7 @@ TEST_F(PopoverOnX11Test, FadesWhereThereIsACompositorAndIsCutToItsShapeWhereTher
 {
     tell(u"show"_s);
     EXPECT_TRUE(isCutToShape());
+    EXPECT_FALSE(tell(u"grow"_s)[u"cutOff"_s].toBool()) << "its content grows while it is moved";
     EXPECT_FALSE(tell(u"close"_s)[u"visible"_s].toBool()) << "without a compositor there is nothing to wait for";
 
     tell(u"composited"_s);

@@ -36,22 +36,22 @@ const std::array cases{
     Case{"to the left", amid, MinX, {{480 - 9 - 300, 300, 300, 200}, {MinX, 100}}},
     Case{"to the right", amid, MaxX, {{520 + 9, 300, 300, 200}, {MaxX, 100}}},
     Case{"hangs from a bar that windows keep off", {700, 0, 80, 28}, MinY, {{590, 37, 300, 200}, {MinY, 150}}},
-    Case{"slides off the right side, arrow on the anchor", {900, 0, 60, 28}, MinY, {{700, 37, 300, 200}, {MinY, 230}}},
-    Case{"slides off the left side, arrow on the anchor", {30, 0, 60, 28}, MinY, {{0, 37, 300, 200}, {MinY, 60}}},
-    Case{"slides down from the bar", {100, 40, 30, 30}, MaxX, {{139, 28, 300, 200}, {MaxX, 27}}},
-    Case{"slides up from the lower side", {100, 760, 30, 30}, MaxX, {{139, 600, 300, 200}, {MaxX, 175}}},
-    Case{"arrow keeps off the corner", {996, 0, 4, 28}, MinY, {{700, 37, 300, 200}, {MinY, 300 - corner}}},
+    Case{"slides off the right side, arrow on the anchor", {900, 0, 60, 28}, MinY, {{694, 37, 300, 200}, {MinY, 236}}},
+    Case{"slides off the left side, arrow on the anchor", {30, 0, 60, 28}, MinY, {{6, 37, 300, 200}, {MinY, 54}}},
+    Case{"slides down from the bar", {100, 40, 30, 30}, MaxX, {{139, 34, 300, 200}, {MaxX, 21}}},
+    Case{"slides up from the lower side", {100, 760, 30, 30}, MaxX, {{139, 594, 300, 200}, {MaxX, 181}}},
+    Case{"arrow keeps off the corner", {996, 0, 4, 28}, MinY, {{694, 37, 300, 200}, {MinY, 300 - corner}}},
     Case{"no room below", {480, 700, 40, 20}, MinY, {{350, 491, 300, 200}, {MaxY, 150}}},
-    Case{"room below to the last pixel", {480, 571, 40, 20}, MinY, {{350, 600, 300, 200}, {MinY, 150}}},
-    Case{"one pixel too few below", {480, 572, 40, 20}, MinY, {{350, 363, 300, 200}, {MaxY, 150}}},
+    Case{"room below to the last pixel", {480, 565, 40, 20}, MinY, {{350, 594, 300, 200}, {MinY, 150}}},
+    Case{"one pixel too few below", {480, 566, 40, 20}, MinY, {{350, 357, 300, 200}, {MaxY, 150}}},
     Case{"no room above", {480, 100, 40, 20}, MaxY, {{350, 129, 300, 200}, {MinY, 150}}},
     Case{"no room to the right", {900, 390, 40, 20}, MaxX, {{591, 300, 300, 200}, {MinX, 100}}},
     Case{"no room to the left", {100, 390, 40, 20}, MinX, {{149, 300, 300, 200}, {MaxX, 100}}},
     Case{"neither below nor above", {100, 100, 40, 600}, MinY, {{149, 300, 300, 200}, {MaxX, 100}}},
     Case{"neither to the right nor to the left", {100, 300, 800, 40}, MaxX, {{350, 349, 300, 200}, {MinY, 150}}},
-    Case{"no room at all covers the anchor", {10, 40, 980, 700}, MinY, {{350, 600, 300, 200}, {MinY, 150}}},
+    Case{"no room at all covers the anchor", {10, 40, 980, 700}, MinY, {{350, 594, 300, 200}, {MinY, 150}}},
     Case{"points at a spot", {500, 400, 0, 0}, MinY, {{350, 409, 300, 200}, {MinY, 150}}},
-    Case{"anchor beyond the screen", {500, 2000, 10, 10}, MinY, {{355, 600, 300, 200}, {MaxY, 150}}},
+    Case{"anchor beyond the screen", {500, 2000, 10, 10}, MinY, {{355, 594, 300, 200}, {MaxY, 150}}},
 };
 
 TEST(PopoverPlacementTest, KeepsThePopoverOnTheScreenAndItsArrowOnTheAnchor)
@@ -63,14 +63,14 @@ TEST(PopoverPlacementTest, KeepsThePopoverOnTheScreenAndItsArrowOnTheAnchor)
 TEST(PopoverPlacementTest, StaysOnAScreenLeftOfAndAboveThePrimaryOne)
 {
     constexpr QRect other(-1280, -200, 1280, 1024);
-    constexpr PopoverPlacement expected{{-300, -163, 300, 200}, {MinY, 270}};
+    constexpr PopoverPlacement expected{{-306, -163, 300, 200}, {MinY, 276}};
     EXPECT_EQ(popoverPlacement({-40, -192, 20, 20}, size, other, MinY), expected);
 }
 
 TEST(PopoverPlacementTest, ShowsTheUpperLeftCornerOfOneThatIsLargerThanTheScreen)
 {
     const auto placement = popoverPlacement(amid, {1200, 900}, screen, MaxX);
-    EXPECT_EQ(placement.body, QRect(0, 28, 1200, 900));
+    EXPECT_EQ(placement.body, QRect(6, 34, 1200, 900));
     EXPECT_EQ(popoverPlacement(amid, {20, 12}, screen, MinY).arrow.tip, 10) << "no room for the arrow between corners";
 }
 

@@ -63,6 +63,17 @@ protected:
     {
         return eventually([&tray] { return tray.holds(Probe::windowName()); });
     }
+    /// Whether a minimised alert comes back by what `click` does, and the menu stays closed.
+    template<typename Click>
+    bool alertComesBack(Click click)
+    {
+        probe_->tell(u"alert"_s);
+        probe_->tell(u"minimize"_s);
+        const auto minimized = [this] { return probe_->tell(u"state"_s)[u"alertMinimized"_s]; };
+        EXPECT_TRUE(eventually([&] { return minimized() == true; }));
+        click();
+        return eventually([&] { return minimized() == false; }) && !probe_->isMenuOpen();
+    }
     /// The middle of the item's image, in pixels of the display.
     QPoint imageInBar(int scale = 1)
     {
@@ -101,7 +112,7 @@ TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayWithTitleIconAndMenu)
     EXPECT_FALSE(probe_->bar());
 
     const QString item = tray->items().constFirst();
-    EXPECT_EQ(tray->toolTip(item), u"Next:\n5h 12m"_s);
+    EXPECT_EQ(tray->toolTip(item), u"Quillon\nNext:\n5h 12m"_s);
     EXPECT_EQ(tray->menuLabels(item),
               (QStringList{u"Back up now"_s, u"Pause"_s, u"Browse A_B & C & __D"_s, u"Quit"_s}));
     const auto idle = tray->iconData(item);
@@ -109,11 +120,16 @@ TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayWithTitleIconAndMenu)
 
     probe_->tell(u"title 45.3%|2m"_s);
     probe_->tell(u"image clock.arrow.2.circlepath"_s);
-    EXPECT_EQ(tray->toolTip(item), u"45.3%\n2m"_s);
+    EXPECT_EQ(tray->toolTip(item), u"Quillon\n45.3%\n2m"_s);
+    probe_->tell(u"title"_s);
+    EXPECT_EQ(tray->toolTip(item), u"Quillon"_s);
     EXPECT_NE(tray->iconData(item), idle);
 
     tray->activate(item);
     EXPECT_TRUE(menuOpens());
+    display_.pressKey(u"Escape"_s);
+    ASSERT_TRUE(menuCloses());
+    EXPECT_TRUE(alertComesBack([&] { tray->activate(item); }));
 }
 
 TEST_F(StatusItemTest, GoesIntoAnXEmbedTray)
@@ -125,6 +141,10 @@ TEST_F(StatusItemTest, GoesIntoAnXEmbedTray)
     ASSERT_TRUE(probe_->icon());
     display_.click(probe_->icon()->center());
     EXPECT_TRUE(menuOpens());
+    display_.click(probe_->icon()->center());
+    EXPECT_TRUE(menuCloses()) << "nothing of the menu lies over the icon";
+    EXPECT_TRUE(probe_->tell(u"state"_s)[u"chosen"_s].toString().isEmpty());
+    EXPECT_TRUE(alertComesBack([this] { display_.click(probe_->icon()->center()); }));
 }
 
 TEST_F(StatusItemTest, TheBarGivesWayToAStatusNotifierTrayAndComesBack)
@@ -232,6 +252,11 @@ TEST_F(StatusItemTest, TheBarKeepsOtherWindowsOffItsStrip)
             return display_.ask(u"xprop"_s, {u"-root"_s, u"_NET_WORKAREA"_s}).startsWith(workArea);
         })) << scale;
         EXPECT_EQ(probe_->bar()->top(), 0) << "its own strip does not push the bar down";
+        const QString hints =
+            display_.ask(u"xprop"_s, {u"-name"_s, u"Quillon"_s, u"_NET_WM_WINDOW_TYPE"_s, u"_NET_WM_DESKTOP"_s});
+        EXPECT_EQ(hints, u"_NET_WM_WINDOW_TYPE(ATOM) = _NET_WM_WINDOW_TYPE_DOCK\n"
+                         "_NET_WM_DESKTOP(CARDINAL) = 4294967295\n"_s);
+        EXPECT_TRUE(alertComesBack([&] { display_.click(imageInBar(scale)); }));
         probe_.reset();
     }
 }

@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <set>
+#include <vector>
 
 namespace quillon {
 namespace {
@@ -32,6 +32,16 @@ double contrast(const QColor& a, const QColor& b)
 {
     const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
+}
+
+template<typename Wanted>
+int countPixels(const QImage& image, const QImage& other, const Wanted& wanted)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += wanted(image.pixel(x, y), other.pixel(x, y));
+    return count;
 }
 
 QPalette paletteFor(ColorSchemePreference preference)
@@ -87,20 +97,35 @@ TEST_P(SymbolTest, IsDrawnInItsColourAlone)
     }
 }
 
-TEST_P(SymbolTest, IsSeenInATrayOfEitherLightness)
+TEST(Symbol, EveryStateIsSeenAndToldApartInATrayOfEitherLightness)
 {
-    const QIcon icon = symbolIcon({.name = symbolNames[1], .paletteColor = {}}, paletteFor(GetParam()));
-    for (const int ground : {0, 255}) {
-        QImage tray(22, 22, QImage::Format_RGB32);
-        tray.fill(QColor(ground, ground, ground));
-        QPainter painter(&tray);
-        icon.paint(&painter, tray.rect());
-        painter.end();
-        int distance = 0;
-        for (int y = 0; y < tray.height(); ++y)
-            for (int x = 0; x < tray.width(); ++x)
-                distance = std::max(distance, std::abs(tray.pixelColor(x, y).lightness() - ground));
-        EXPECT_GT(distance, 120) << "on " << ground;
+    for (const int side : {16, 22, 24}) {
+        for (const QRgb ground : {qRgb(0, 0, 0), qRgb(47, 47, 47), qRgb(255, 255, 255)}) {
+            std::vector<QImage> shown;
+            for (const QString& name : symbolNames) {
+                QImage tray(side, side, QImage::Format_RGB32);
+                tray.fill(ground);
+                QPainter painter(&tray);
+                symbolIcon({.name = name, .paletteColor = {}}).paint(&painter, tray.rect());
+                painter.end();
+                const auto stands = [ground](QRgb a, QRgb) { return contrast(a, ground) >= 3; };
+                EXPECT_GT(countPixels(tray, tray, stands), side * side / 6) << side << " on " << qRed(ground);
+                for (const QImage& other : shown)
+                    EXPECT_GT(countPixels(tray, other, [](QRgb a, QRgb b) { return contrast(a, b) >= 3; }), side / 3)
+                        << name.toStdString() << ' ' << side << " on " << qRed(ground);
+                shown.push_back(tray);
+            }
+        }
+    }
+}
+
+TEST(Symbol, AStateThatHasAColourHasItInTheTray)
+{
+    for (const auto color : {SymbolColor::SystemGreen, SymbolColor::SystemOrange, SymbolColor::SystemYellow}) {
+        const SymbolImage symbol{.name = symbolNames[2], .paletteColor = color};
+        const QRgb wanted = symbolColor(symbol, paletteFor(ColorSchemePreference::Dark)).rgb();
+        const QImage image = symbolIcon(symbol).pixmap(22, 22).toImage();
+        EXPECT_GT(countPixels(image, image, [wanted](QRgb a, QRgb) { return a == wanted; }), 30);
     }
 }
 

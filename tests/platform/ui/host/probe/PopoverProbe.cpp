@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLayout>
 #include <QLineEdit>
 #include <QSocketNotifier>
 
@@ -28,6 +29,32 @@ void setComposited(const QWidget& owner, bool composited)
                             quillon::internAtom(connection, "_NET_WM_CM_S0"), XCB_CURRENT_TIME);
     xcb_flush(connection);
 }
+
+/// Has the popover's content grow in the middle of the next move of its window.
+class GrowthWhileMoving final : public QObject {
+public:
+    GrowthWhileMoving(quillon::Popover& popover, QWidget& content)
+        : QObject(&popover)
+        , popover_(popover)
+        , content_(content)
+    {
+        popover.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Move) {
+            watched->removeEventFilter(this);
+            content_.setFixedSize(content_.size() * 2);
+            popover_.layout()->activate();
+        }
+        return false;
+    }
+
+private:
+    quillon::Popover& popover_;
+    QWidget& content_;
+};
 
 } // namespace
 
@@ -56,7 +83,10 @@ int main(int argc, char** argv)
         }
         if (word == "show")
             popover.showRelativeTo({.screenRect = anchor}, quillon::RectEdge::MinY);
-        else if (word == "close")
+        else if (word == "grow") {
+            new GrowthWhileMoving(popover, *text);
+            popover.showRelativeTo({.screenRect = anchor.translated(-50, 50)}, quillon::RectEdge::MinY);
+        } else if (word == "close")
             popover.close();
         else if (word == "composited" || word == "plain")
             setComposited(backdrop, word == "composited");
@@ -66,6 +96,8 @@ int main(int argc, char** argv)
                                 {u"active"_s, text->hasFocus()},
                                 {u"text"_s, text->text()},
                                 {u"opacity"_s, popover.windowOpacity()},
+                                {u"window"_s, QString::number(popover.winId())},
+                                {u"cutOff"_s, !popover.mask().boundingRect().contains(text->geometry())},
                                 {u"x"_s, content.x()},
                                 {u"y"_s, content.y()}};
         std::cout << QJsonDocument(state).toJson(QJsonDocument::Compact).toStdString() << std::endl;

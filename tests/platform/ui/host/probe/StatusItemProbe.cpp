@@ -1,6 +1,7 @@
 // A program with nothing but a status item. It obeys the lines on its standard input and answers each with one line of
 // JSON about what is on the screen; it ends with its input.
 
+#include "ModalAlertPresenter.h"
 #include "StatusItem.h"
 
 #include <QApplication>
@@ -33,6 +34,8 @@ QJsonObject toJson(const QRect& rect)
 QJsonObject screenState(const quillon::StatusItem& item, const QMenu& menu, const QString& chosen)
 {
     QJsonObject state{{u"menuOpen"_s, menu.isVisible()}, {u"chosen"_s, chosen}};
+    if (const QWidget* alert = QApplication::activeModalWidget())
+        state[u"alertMinimized"_s] = alert->isMinimized();
     if (const QRect icon = item.anchor().screenRect; !icon.isNull())
         state[u"icon"_s] = toJson(icon);
     const auto widgets = QApplication::topLevelWidgets();
@@ -43,7 +46,7 @@ QJsonObject screenState(const quillon::StatusItem& item, const QMenu& menu, cons
     return state;
 }
 
-void obey(const QString& line, quillon::StatusItem& item)
+void obey(const QString& line, quillon::StatusItem& item, quillon::AlertPresenter& alerts)
 {
     const QString command = line.section(u' ', 0, 0);
     const QString argument = line.section(u' ', 1).replace(u'|', u'\n');
@@ -53,6 +56,10 @@ void obey(const QString& line, quillon::StatusItem& item)
         item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = {}});
     else if (command == "orange"_L1)
         item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = quillon::SymbolColor::SystemOrange});
+    else if (command == "alert"_L1)
+        alerts.present({.messageText = u"Alert"_s, .informativeText = {}, .buttons = {}}, {});
+    else if (command == "minimize"_L1)
+        QApplication::activeModalWidget()->showMinimized();
     else if (command == "press"_L1)
         QTest::keyClick(item.anchor().view, Qt::Key_Space);
 }
@@ -72,6 +79,7 @@ int main(int argc, char** argv)
     menu.addAction(u"Browse A_B && C && __D"_s);
     menu.addAction(u"Quit"_s, &application, &QApplication::quit);
 
+    quillon::ModalAlertPresenter alerts;
     const auto item = quillon::makeStatusItem(placementNamed(QApplication::arguments().value(1)));
     item->setAttributedTitle(
         {.text = u"Next:\n5h 12m"_s, .pointSize = 9.5, .paragraphSpacing = -5.0, .baselineOffset = -5.0});
@@ -85,7 +93,7 @@ int main(int argc, char** argv)
             QApplication::quit();
             return;
         }
-        obey(QString::fromStdString(line), *item);
+        obey(QString::fromStdString(line), *item, alerts);
         const auto answer = QJsonDocument(screenState(*item, menu, chosen)).toJson(QJsonDocument::Compact);
         std::cout << answer.toStdString() << std::endl;
     });

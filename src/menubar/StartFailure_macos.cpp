@@ -1,0 +1,10 @@
+#include "StartFailure.h"
+
+namespace quillon {
+
+QString startFailureReason(std::int32_t /*exitStatus*/)
+{
+    return {};
+}
+
+} // namespace quillon

@@ -1,0 +1,37 @@
+#include "MakerService.h"
+
+#include "Obfuscated.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+TEST(MakerService, ItsValuesReadAsTheBuildGaveThemAndStandNowhereAsPlainText)
+{
+    QFile compiled(QStringLiteral(MAKER_SERVICE_OBJECT));
+    ASSERT_TRUE(compiled.open(QIODevice::ReadOnly));
+    const QByteArray object = compiled.readAll();
+    for (const auto& [value, built] : {std::pair(makerservice::applicationId(), QUILLON_SERVICE_APPLICATION_ID),
+                                       std::pair(makerservice::apiKey(), QUILLON_SERVICE_API_KEY),
+                                       std::pair(makerservice::address(), QUILLON_SERVICE_ADDRESS)}) {
+        EXPECT_EQ(value, QString::fromUtf8(built));
+        for (const QStringView part : {QStringView(value).first(8), QStringView(value).last(8)}) {
+            EXPECT_FALSE(object.contains(part.toUtf8())) << built;
+            EXPECT_FALSE(object.contains(QByteArray(reinterpret_cast<const char*>(part.utf16()), 16))) << built;
+        }
+    }
+    EXPECT_TRUE(object.contains(QByteArray(QUILLON_SERVICE_ADDRESS).toBase64()));
+}
+
+TEST(Base64, EndsAsTheLengthWants)
+{
+    const auto bytes = [](const auto& encoded) { return QByteArray(encoded.data(), encoded.size()); };
+    EXPECT_EQ(bytes(base64("")), "");
+    EXPECT_EQ(bytes(base64("f")), "Zg==");
+    EXPECT_EQ(bytes(base64("fo")), "Zm8=");
+    EXPECT_EQ(bytes(base64("foo\xFF/")), "Zm9v/y8=");
+}
+
+} // namespace quillon
