@@ -35,6 +35,8 @@ std::optional<Arguments::Command> readCommand(const QString& word)
         return Command::Destinations;
     if (word == "next"_L1)
         return Command::Next;
+    if (word == "doctor"_L1)
+        return Command::Doctor;
     if (word == "--help"_L1 || word == "-h"_L1)
         return Command::Help;
     if (word == "--version"_L1)
@@ -47,8 +49,8 @@ QString readOption(const QStringList& words, qsizetype& i, Arguments& arguments)
 {
     const QString& word = words[i];
     const bool ofNext = arguments.command == Arguments::Command::Next;
-    const bool answers = ofNext || arguments.command == Arguments::Command::Status ||
-                         arguments.command == Arguments::Command::Destinations;
+    const bool answers =
+        arguments.command != Arguments::Command::Help && arguments.command != Arguments::Command::Version;
     if (word == "--json"_L1 && answers) {
         arguments.json = true;
         return {};
@@ -75,12 +77,12 @@ QString readOption(const QStringList& words, qsizetype& i, Arguments& arguments)
 std::optional<Arguments> Arguments::parse(const QStringList& words, QString* error)
 {
     if (words.isEmpty()) {
-        *error = u"a command is missing: status, destinations or next"_s;
+        *error = u"a command is missing: status, destinations, next or doctor"_s;
         return std::nullopt;
     }
     const auto command = readCommand(words.first());
     if (!command) {
-        *error = u"unknown command \"%1\": it is status, destinations or next"_s.arg(words.first());
+        *error = u"unknown command \"%1\": it is status, destinations, next or doctor"_s.arg(words.first());
         return std::nullopt;
     }
     Arguments arguments;

@@ -11,7 +11,7 @@ namespace quillon {
 
 /// What quillonctl was asked for.
 struct Arguments {
-    enum class Command { Help, Version, Status, Destinations, Next };
+    enum class Command { Help, Version, Status, Destinations, Next, Doctor };
 
     Command command = Command::Help;
     bool json = false;

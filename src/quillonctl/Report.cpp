@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <array>
 #include <cstdlib>
 
 namespace quillon::report {
@@ -19,18 +20,30 @@ QByteArray text(const QString& lines)
     return lines.toUtf8();
 }
 
-/// ISO 8601 with the offset that holds at that instant, such as "2026-11-21T12:00:00+01:00".
+} // namespace
+
 QString isoDate(Date date)
 {
-    const Calendar calendar;
-    const LocalTime local = calendar.localTime(date);
-    const int offset = calendar.offsetFromUtc(date);
-    const int minutes = std::abs(offset) / 60;
-    return QString::asprintf("%04d-%02d-%02dT%02d:%02d:%02d%c%02d:%02d", local.year, local.month, local.day, local.hour,
-                             local.minute, local.second, offset < 0 ? '-' : '+', minutes / 60, minutes % 60);
+    const LocalTime local = Calendar().localTime(date);
+    return QString::asprintf("%04d-%02d-%02dT%02d:%02d:%02d", local.year, local.month, local.day, local.hour,
+                             local.minute, local.second) +
+           offsetText(Calendar().offsetFromUtc(date));
 }
 
-} // namespace
+QString readableDate(Date date)
+{
+    constexpr std::array weekdays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+    const LocalTime local = Calendar().localTime(date);
+    return QString::asprintf("%s %04d-%02d-%02d %02d:%02d ", weekdays.at(static_cast<std::size_t>(local.weekday - 1)),
+                             local.year, local.month, local.day, local.hour, local.minute) +
+           offsetText(Calendar().offsetFromUtc(date));
+}
+
+QString offsetText(int offset)
+{
+    const int minutes = std::abs(offset) / 60;
+    return QString::asprintf("%c%02d:%02d", offset < 0 ? '-' : '+', minutes / 60, minutes % 60);
+}
 
 QByteArray status(const TMStatus& status, bool json)
 {

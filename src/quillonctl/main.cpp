@@ -2,11 +2,12 @@
 #include "Bundle.h"
 #include "ComingStarts.h"
 #include "DefaultSettings.h"
+#include "Doctor.h"
 #include "QtRunLoop.h"
 #include "Report.h"
 #include "TMUtilPath.h"
-#include "TMUtilQueue.h"
 #include "Task.h"
+#include "ToolQuestion.h"
 #include "UserDefaultsStore.h"
 
 #include <QCoreApplication>
@@ -25,12 +26,15 @@ constexpr int exitUsage = 2;
 const QString help = u"Usage: quillonctl status [--json]\n"
                      "       quillonctl destinations [--json]\n"
                      "       quillonctl next [--count N] [--from LOCAL-DATE-TIME] [--json]\n"
+                     "       quillonctl doctor [--json]\n"
                      "       quillonctl -h | --help | --version\n\n"
                      "status        what Time Machine is doing right now; exit status 1 when that\n"
                      "              cannot be read\n"
                      "destinations  the disks that Time Machine backs up to\n"
                      "next          the coming backups that the schedule gives, from now on or from a\n"
-                     "              date and time of the current time zone, such as 2026-11-21T12:00\n\n"
+                     "              date and time of the current time zone, such as 2026-11-21T12:00\n"
+                     "doctor        a page for a report of a fault: program, system, tool, disks,\n"
+                     "              schedule; exit status 1 when something is wrong\n\n"
                      "Environment: QUILLON_TMUTIL names the tmutil tool to ask, TZ the time zone.\n"_s;
 
 void complain(const QString& trouble)
@@ -48,20 +52,65 @@ bool print(const QByteArray& text)
     return false;
 }
 
-/// What the tool printed for one command that only reads.
-std::optional<QByteArray> ask(const QString& command, const QStringList& arguments)
+constexpr std::chrono::minutes patience{1};
+
+ToolAnswer ask(const QStringList& words)
 {
     QtRunLoop runLoop;
     Task launcher;
-    TMUtilQueue queue(launcher, runLoop, tmutilPath());
-    std::optional<QByteArray> answer;
-    queue.submit({command, arguments, [](TMUtilHandlers&) {},
-                  [&answer](const std::optional<QByteArray>& output) {
-                      answer = output;
-                      QCoreApplication::quit();
-                  }});
-    QCoreApplication::exec();
+    const ToolAnswer answer = askTool(runLoop, launcher, tmutilPath(), words, patience);
+    std::fwrite(answer.errors.constData(), 1, static_cast<std::size_t>(answer.errors.size()), stderr);
     return answer;
+}
+
+/// Says on standard error why the tool's answer is of no use.
+void complainOf(const ToolAnswer& answer)
+{
+    const QString trouble = answer.trouble.isEmpty() ? u"what it printed cannot be understood"_s : answer.trouble;
+    complain(u"%1: %2"_s.arg(tmutilPath(), trouble));
+}
+
+int tellStatus(bool json)
+{
+    const auto answer = ask({u"status"_s});
+    const auto status = TMStatus::fromOutput(answer.output);
+    if (status.failed)
+        complainOf(answer);
+    return print(report::status(status, json)) && !status.failed ? 0 : exitFailed;
+}
+
+int tellDestinations(bool json)
+{
+    const auto answer = ask({u"destinationinfo"_s, u"-X"_s});
+    const auto destinations = destinationsIn(answer.output);
+    if (!destinations)
+        complainOf(answer);
+    else if (destinations->isEmpty())
+        complain(u"no backup disk is set up"_s);
+    return print(report::destinations(destinations.value_or(QList<BackupDestination>()), json)) && destinations
+               ? 0
+               : exitFailed;
+}
+
+int tellStarts(const Arguments& arguments)
+{
+    QtRunLoop runLoop;
+    const auto defaults = openUserDefaults(DefaultsAccess::ReadOnly, runLoop);
+    defaults->registerDefaults(registeredDefaults());
+    const auto starts = comingStarts(*defaults, arguments.from.value_or(runLoop.now()), arguments.count);
+    return print(report::starts(starts, arguments.json)) ? 0 : exitFailed;
+}
+
+int tellDiagnosis(bool json)
+{
+    QtRunLoop runLoop;
+    Task launcher;
+    const auto defaults = openUserDefaults(DefaultsAccess::ReadOnly, runLoop);
+    defaults->registerDefaults(registeredDefaults());
+    const Diagnosis diagnosis = Doctor(runLoop, launcher, *defaults, tmutilPath()).examine();
+    return print(json ? report::doctorJson(diagnosis) : report::doctorText(diagnosis)) && problems(diagnosis).isEmpty()
+               ? 0
+               : exitFailed;
 }
 
 int run(const Arguments& arguments)
@@ -71,27 +120,14 @@ int run(const Arguments& arguments)
         return print(help.toUtf8()) ? 0 : exitFailed;
     case Arguments::Command::Version:
         return print(u"quillonctl %1\n"_s.arg(bundleShortVersion()).toUtf8()) ? 0 : exitFailed;
-    case Arguments::Command::Status: {
-        const auto status = TMStatus::fromOutput(ask(u"status"_s, {}));
-        return print(report::status(status, arguments.json)) && !status.failed ? 0 : exitFailed;
-    }
-    case Arguments::Command::Destinations: {
-        const auto output = ask(u"destinationinfo"_s, {u"-X"_s});
-        const auto destinations = BackupDestinations::fromOutput(output);
-        if (!output || output->isEmpty() || !destinations.success) {
-            complain(u"the destinations could not be read from %1"_s.arg(tmutilPath()));
-            return exitFailed;
-        }
-        return print(report::destinations(destinations.list, arguments.json)) ? 0 : exitFailed;
-    }
-    case Arguments::Command::Next: {
-        QtRunLoop runLoop;
-        const auto defaults = openUserDefaults(DefaultsAccess::ReadOnly, runLoop);
-        defaults->registerDefaults(registeredDefaults());
-        const Date from = arguments.from.value_or(runLoop.now());
-        const auto starts = comingStarts(*defaults, from, arguments.count);
-        return print(report::starts(starts, arguments.json)) ? 0 : exitFailed;
-    }
+    case Arguments::Command::Status:
+        return tellStatus(arguments.json);
+    case Arguments::Command::Destinations:
+        return tellDestinations(arguments.json);
+    case Arguments::Command::Next:
+        return tellStarts(arguments);
+    case Arguments::Command::Doctor:
+        return tellDiagnosis(arguments.json);
     }
     return exitUsage;
 }

@@ -2,6 +2,7 @@
 #include "CalendarIntervalRule.h"
 #include "ComingStarts.h"
 #include "DefaultSettings.h"
+#include "Diagnosis.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
 #include "Report.h"
@@ -32,6 +33,7 @@ TEST(QuillonctlArguments, AreReadOrRefusedWithOneLine)
                                       {u"nonsense"_s},
                                       {u"status"_s, u"--count"_s, u"3"_s},
                                       {u"status"_s, u"extra"_s},
+                                      {u"doctor"_s, u"--count"_s, u"3"_s},
                                       {u"--version"_s, u"--json"_s},
                                       {u"next"_s, u"--count"_s},
                                       {u"next"_s, u"--count"_s, u"0"_s},
@@ -84,6 +86,132 @@ TEST(QuillonctlReports, CarryTheRecordsOwnNames)
     EXPECT_EQ(disks, (QJsonArray{QJsonObject{{u"id"_s, u"1"_s}, {u"name"_s, u"50%1 & more"_s}, {u"isLast"_s, true}}}));
     EXPECT_EQ(report::starts({local(2026, 11, 21, 12)}, false), "2026-11-21T12:00:00-03:30\n");
     EXPECT_EQ(QJsonDocument::fromJson(report::starts({}, true)).array(), QJsonArray());
+}
+
+namespace {
+
+Diagnosis everything()
+{
+    Diagnosis found;
+    found.now = local(2026, 11, 21, 12);
+    found.version = u"1.2.3"_s;
+    found.build = u"45"_s;
+    found.qtVersion = u"6.4.2"_s;
+    found.system = u"Debian 12"_s;
+    found.kernel = u"linux 6.1"_s;
+    found.architecture = u"x86_64"_s;
+    found.desktop = u"XFCE"_s;
+    found.language = u"de_DE"_s;
+    found.itemPlace = u"bar"_s;
+    found.itemReason = u"there is no tray"_s;
+    found.toolPath = u"~/bin/tmutil"_s;
+    found.status = {u"status"_s, std::chrono::milliseconds(12), {}};
+    found.destinations = {u"destinationinfo"_s, std::chrono::milliseconds(20000), u"the tool gave no answer"_s};
+    found.activity = u"no backup runs"_s;
+    found.disks = {{u"50%1 & more"_s, true, true, true, local(2026, 11, 20, 12)},
+                   {u"Old"_s, false, std::nullopt, false, std::nullopt}};
+    found.scheduleIsOn = true;
+    found.rules = {u"every day, 12:00"_s, u"Sunday, 02:30"_s};
+    found.comingStarts = {local(2026, 11, 22, 2, 30), local(2026, 11, 22, 12)};
+    found.pausedUntil = local(2026, 11, 21, 13);
+    found.retriesMissed = true;
+    found.timeZone = u"Europe/Berlin"_s;
+    found.offset = 3600;
+    found.zoneChange = OffsetChange{local(2027, 3, 28, 3), 3600, 7200};
+    found.iconState = u"failed"_s;
+    found.lastRunFailed = true;
+    found.lastFailure = Diagnosis::Failure{u"2026-11-19 07:22:58 +0000"_s, u"Old"_s, u"UnreadFiles"_s, 3};
+    return found;
+}
+
+} // namespace
+
+TEST(DoctorsReport, IsOneAlignedPage)
+{
+    const ScopedEnvironment zone("TZ", "Europe/Berlin");
+    EXPECT_EQ(report::doctorText(everything()).toStdString(),
+              R"(Quillon 1.2.3 (build 45) with Qt 6.4.2, on Sat 2026-11-21 12:00 +01:00
+
+Problems
+  The backup disks cannot be told: the tool gave no answer.
+  The last backup failed.
+  Time Machine remembers a backup that went wrong.
+
+System
+  Name              Debian 12, linux 6.1, x86_64
+  Desktop           XFCE
+  Language          de_DE
+  Item shown in     bar: there is no tray
+  Last icon         failed
+
+Time Machine
+  Tool              ~/bin/tmutil
+  status            answered in 12 ms: no backup runs
+  destinationinfo   the tool gave no answer (20000 ms)
+  Last failure      2026-11-19 07:22:58 +0000, Old, UnreadFiles, 3 files could not be read
+
+Backup disks
+  50%1 & more       connected, used last, latest backup Fri 2026-11-20 12:00 +01:00
+  Old               no longer set up, no backup known
+
+Schedule
+  State             on
+  Rules             every day, 12:00
+                    Sunday, 02:30
+  Coming starts     Sun 2026-11-22 02:30 +01:00
+                    Sun 2026-11-22 12:00 +01:00
+  Paused until      Sat 2026-11-21 13:00 +01:00
+  Retry if missed   on
+  Retry if failed   off
+  Rotate disks      off
+
+Time zone
+  Name              Europe/Berlin, now +01:00
+  Next change       Sun 2027-03-28 03:00 +02:00, from +01:00 to +02:00
+)");
+}
+
+TEST(DoctorsReport, HasTheSameKeysForEver)
+{
+    const ScopedEnvironment zone("TZ", "Europe/Berlin");
+    const auto expected = QJsonDocument::fromJson(R"({
+        "date": "2026-11-21T12:00:00+01:00",
+        "problems": ["The backup disks cannot be told: the tool gave no answer.", "The last backup failed.",
+                     "Time Machine remembers a backup that went wrong."],
+        "quillon": {"version": "1.2.3", "build": "45", "qt": "6.4.2"},
+        "system": {"name": "Debian 12", "kernel": "linux 6.1", "architecture": "x86_64", "desktop": "XFCE",
+                   "sessionType": "", "language": "de_DE"},
+        "item": {"place": "bar", "reason": "there is no tray", "lastIcon": "failed"},
+        "tool": {"path": "~/bin/tmutil", "activity": "no backup runs",
+                 "status": {"milliseconds": 12, "trouble": null},
+                 "destinationinfo": {"milliseconds": 20000, "trouble": "the tool gave no answer"},
+                 "lastFailure": {"date": "2026-11-19 07:22:58 +0000", "disk": "Old", "cause": "UnreadFiles",
+                                 "unreadFiles": 3}},
+        "disks": [{"name": "50%1 & more", "isSetUp": true, "isConnected": true, "isLast": true,
+                   "latestBackup": "2026-11-20T12:00:00+01:00"},
+                  {"name": "Old", "isSetUp": false, "isConnected": null, "isLast": false, "latestBackup": null}],
+        "schedule": {"isOn": true, "rules": ["every day, 12:00", "Sunday, 02:30"],
+                     "comingStarts": ["2026-11-22T02:30:00+01:00", "2026-11-22T12:00:00+01:00"],
+                     "pausedUntil": "2026-11-21T13:00:00+01:00", "retriesMissed": true, "retriesFailed": false,
+                     "rotatesDisks": false},
+        "timeZone": {"name": "Europe/Berlin", "offset": 3600,
+                     "nextChange": {"at": "2027-03-28T03:00:00+02:00", "offsetBefore": 3600, "offsetAfter": 7200}}})");
+    EXPECT_EQ(QJsonDocument::fromJson(report::doctorJson(everything())), expected)
+        << report::doctorJson(everything()).toStdString();
+}
+
+TEST(DoctorsReport, NamesWhatIsWrongAndNothingElse)
+{
+    Diagnosis found;
+    found.disks = {{u"Disk"_s, true, false, false, std::nullopt}};
+    EXPECT_EQ(problems(found), QStringList()) << "a disk on the shelf is no problem, and neither is a schedule off";
+    found.disks.first().isSetUp = false;
+    EXPECT_EQ(problems(found), QStringList{u"No backup disk is set up."_s});
+    found.destinations.trouble = found.status.trouble = u"the tool is not there"_s;
+    found.scheduleIsOn = true;
+    EXPECT_EQ(problems(found), (QStringList{u"What Time Machine does cannot be told: the tool is not there."_s,
+                                            u"The backup disks cannot be told: the tool is not there."_s,
+                                            u"The schedule is on but has no rules."_s}));
 }
 
 } // namespace quillon
