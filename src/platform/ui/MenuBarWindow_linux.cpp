@@ -39,7 +39,7 @@ MenuBarWindow::MenuBarWindow()
 void MenuBarWindow::setContent(const StatusItemContent& content)
 {
     button_->setContent(content);
-    if (isBar_ && height() < button_->sizeHint().height())
+    if (isBar_ && strip_.height() < button_->sizeHint().height())
         place();
 }
 
@@ -99,13 +99,15 @@ void MenuBarWindow::place()
     if (!primary) // for a moment, while monitors are exchanged
         return;
     const int available = primary->availableGeometry().top();
-    // What is kept free up to our own lower edge is kept free for us; more than that belongs to a panel of the desktop.
-    const bool stay = screen_ == primary && available <= geometry().bottom() + 1;
-    const int top = stay ? y() : available;
-    const int height = screen_ ? std::max(this->height(), button_->sizeHint().height()) : button_->sizeHint().height();
+    // What is kept free up to the strip's lower edge is kept free for it; more than that belongs to a panel of the
+    // desktop. The window's own geometry tells nothing: a window manager may still report an earlier one.
+    if (screen_ != primary || available < strip_.top() || available > strip_.bottom() + 1)
+        strip_ = {primary->geometry().x(), available, 0, 0};
+    strip_.setWidth(primary->geometry().width());
+    strip_.setHeight(std::max(strip_.height(), button_->sizeHint().height()));
     screen_ = primary;
-    setGeometry(primary->geometry().x(), top, primary->geometry().width(), height);
-    reserveTopStrip(winId(), *primary, geometry());
+    setGeometry(strip_);
+    reserveTopStrip(winId(), *primary, strip_);
 }
 
 } // namespace quillon

@@ -35,6 +35,7 @@ private:
     bool isBar_;
     MenuBarButton* button_;
     QPointer<QScreen> screen_; ///< the one that the bar lies on
+    QRect strip_;              ///< where it lies
 };
 
 } // namespace quillon
