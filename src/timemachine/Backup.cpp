@@ -1,10 +1,8 @@
 #include "Backup.h"
 
 #include "BackupOutput.h"
-#include "Failure.h"
 #include "History.h"
 #include "KeyStore.h"
-#include "Paths.h"
 #include "RepositorySetup.h"
 #include "Restic.h"
 #include "Retention.h"
@@ -26,23 +24,12 @@ namespace {
 // The exit status of `restic backup` for a snapshot that lacks files which could not be read (restic-backup(1)).
 constexpr int someFilesUnread = 3;
 
+Failure failureOf(ResticProblem problem, const QString& description)
+{
+    return {ExitStatus::Failed, description, ResticDiagnosis::of(problem).cause()};
+}
+
 } // namespace
-
-/// Ends a run; caught in run().
-struct Backup::Problem {
-    QString cause;
-    QString description;
-
-    static Problem of(const ResticOutcome& outcome)
-    {
-        const ResticDiagnosis diagnosis = outcome.diagnosis();
-        return {diagnosis.cause(), diagnosis.description};
-    }
-    static Problem of(ResticProblem problem, const QString& description)
-    {
-        return {ResticDiagnosis::of(problem).cause(), description};
-    }
-};
 
 Backup::Backup(const Destination& destination, const Configuration& configuration, const Folders& folders,
                History& history, const StopRequest& stop, Observer observer)
@@ -67,24 +54,27 @@ BackupResult Backup::run()
         observer_(phase::findingChanges, {});
         copy();
         // Whoever watches takes this phase for a backup that counts.
-        if (lostSources_.isEmpty())
+        if (remark_.lostSources.isEmpty())
             observer_(phase::thinningPostBackup, {});
         cleanUp();
-        if (!lostSources_.isEmpty())
+        if (!remark_.lostSources.isEmpty())
             result_.end = BackupResult::End::Incomplete;
-        result_.failure = remark();
-    } catch (const Stopped&) {
-        result_.end = BackupResult::End::Stopped;
-        if (!removed_.empty())
-            result_.failure = failure({u"SpaceMade"_s, removal()});
-    } catch (const Problem& problem) {
-        result_.end = BackupResult::End::Failed;
-        result_.failure = failure({problem.cause, (problem.description + u' ' + removal()).trimmed()});
-    } catch (const Failure& missing) { // restic was removed meanwhile
-        result_.end = BackupResult::End::Failed;
-        result_.failure = failure({u"ResticMissing"_s, (missing.message() + u' ' + removal()).trimmed()});
+        result_.failure = lastRemark();
+    } catch (const Failure& failure) {
+        result_.end = stop_.isMade() ? BackupResult::End::Stopped : BackupResult::End::Failed;
+        if (!stop_.isMade())
+            result_.failure = lastFailure(failure.cause().isEmpty() ? u"Unknown"_s : failure.cause(),
+                                          (failure.message() + u' ' + remark_.removal()).trimmed());
+        else if (!remark_.removed.empty())
+            result_.failure = lastFailure(u"SpaceMade"_s, remark_.removal());
     }
     return result_;
+}
+
+void Backup::endIfStopped() const
+{
+    if (stop_.isMade())
+        throw Failure(ExitStatus::Stopped, u"The backup was stopped."_s);
 }
 
 void Backup::findDisk()
@@ -92,29 +82,29 @@ void Backup::findDisk()
     repository_ = RepositoryFolder::open(destination_);
     if (!repository_) {
         const bool foreign = RepositoryFolder::contents(destination_) == RepositoryFolder::Contents::Foreign;
-        throw Problem{foreign ? u"NoPermission"_s : u"DestinationMissing"_s,
-                      foreign ? u"\"%1\" is not yours, or leads elsewhere."_s.arg(destination_.repository())
-                              : destination_.absence()};
+        throw foreign ? failureOf(ResticProblem::NoPermission,
+                                  u"\"%1\" is not yours, or leads elsewhere."_s.arg(destination_.repository()))
+                      : failureOf(ResticProblem::DiskGone, destination_.absence());
     }
     const KeyStore keys(folders_.configuration);
     if (!keys.contains(destination_.id))
-        throw Problem::of(ResticProblem::WrongKey,
-                          u"The key of the backup disk \"%1\" is missing."_s.arg(destination_.name));
+        throw failureOf(ResticProblem::WrongKey,
+                        u"The key of the backup disk \"%1\" is missing."_s.arg(destination_.name));
     if (!QFileInfo(keys.path(destination_.id)).isReadable())
-        throw Problem::of(ResticProblem::WrongKey, u"The key of the backup disk \"%1\", \"%2\", cannot be read."_s.arg(
-                                                       destination_.name, keys.path(destination_.id)));
+        throw failureOf(ResticProblem::WrongKey, u"The key of the backup disk \"%1\", \"%2\", cannot be read."_s.arg(
+                                                     destination_.name, keys.path(destination_.id)));
 }
 
 void Backup::prepareRepository()
 {
     // restic would try again for a quarter of an hour.
     if (!repository_->isWritable())
-        throw Problem::of(ResticProblem::NoPermission,
-                          u"The backup disk \"%1\" cannot be written to."_s.arg(destination_.name));
+        throw failureOf(ResticProblem::NoPermission,
+                        u"The backup disk \"%1\" cannot be written to."_s.arg(destination_.name));
     while (isFull(*repository_) && repository_->hasConfig() && makeRoom()) {
     }
     if (isFull(*repository_))
-        throw Problem::of(ResticProblem::NoSpace, u"The backup disk \"%1\" is full."_s.arg(destination_.name));
+        throw failureOf(ResticProblem::NoSpace, u"The backup disk \"%1\" is full."_s.arg(destination_.name));
     if (repository_->hasConfig())
         repairIfDamaged();
     else
@@ -130,9 +120,8 @@ void Backup::repairIfDamaged()
     try {
         repairRepository(*repository_, damage->findings.packs, restic());
     } catch (const Failure& failure) {
-        if (stop_.isMade())
-            throw Stopped();
-        throw Problem{u"Damaged"_s, u"The damaged backups could not be repaired: %1"_s.arg(failure.message())};
+        throw Failure(ExitStatus::Failed, u"The damaged backups could not be repaired: %1"_s.arg(failure.message()),
+                      u"Damaged"_s);
     }
     repaired_ = true;
     damage->repaired = true;
@@ -142,19 +131,20 @@ void Backup::repairIfDamaged()
 
 void Backup::makeRepository()
 {
+    if (destination_.bare)
+        throw failureOf(ResticProblem::NoRepository,
+                        u"The backups at \"%1\" are damaged: their configuration is missing."_s.arg(destination_.path));
     if (const QDateTime last = history_.lastBackup(destination_.id); repository_->isEmpty() && last.isValid())
-        throw Problem::of(
+        throw failureOf(
             ResticProblem::NoRepository,
             u"The backups on the disk \"%1\", the last of %2, are gone. To begin anew on it, set it again with "
             "\"tmutil setdestination\"."_s.arg(destination_.name, statusDate(last)));
     NewRepository made = quillon::makeRepository(destination_, folders_, stop_);
-    if (stop_.isMade())
-        throw Stopped();
-    if (made.outcome.exitStatus != 0)
-        throw Problem::of(made.outcome);
+    endIfStopped();
+    made.outcome.require();
     if (!made.folder)
-        throw Problem::of(ResticProblem::NoRepository,
-                          u"The backups on the disk \"%1\" are damaged: %2."_s.arg(destination_.name, made.refusal));
+        throw failureOf(ResticProblem::NoRepository,
+                        u"The backups on the disk \"%1\" are damaged: %2."_s.arg(destination_.name, made.refusal));
     repository_ = std::move(made.folder);
     history_.noteNewRepository(destination_.id);
 }
@@ -167,57 +157,66 @@ Restic Backup::restic() const
 void Backup::findSources()
 {
     sources_ = SourceSet::of(configuration_, folders_);
+    earlier_.emplace(*repository_, restic());
+    settleCutOffBackups();
     findLostSources(sources_.missing, "is not there"_L1);
     for (const QString& source : sources_.leftOut)
-        lackingSources_.append(u"The folder \"%1\" is left out by an exclusion."_s.arg(source));
+        remark_.lackingSources.append(u"The folder \"%1\" is left out by an exclusion."_s.arg(source));
     if (sources_.folders.isEmpty())
-        throw Problem{u"NoSource"_s, (lostSources_ + lackingSources_).join(u' ')};
+        throw Failure(ExitStatus::Failed, (remark_.lostSources + remark_.lackingSources).join(u' '), u"NoSource"_s);
     findLostSources(sources_.withoutFiles(), "is empty or cannot be read"_L1);
+    findDroppedFolders();
 }
 
 /// The mount point of a disk that is not there looks like a folder whose files have been deleted.
 void Backup::findLostSources(const QStringList& suspects, QLatin1StringView state)
 {
     for (const QString& source : suspects) {
-        if (heldFiles(source))
-            lostSources_.append(u"The folder \"%1\" %2, and held files before. If that is meant to be so, remove it "
-                                "with \"tmutil removesource\"."_s.arg(source, state));
+        if (earlier_->heldFiles(source, snapshotId_))
+            remark_.lostSources.append(
+                u"The folder \"%1\" %2, and held files before. If that is meant to be so, remove it "
+                "with \"tmutil removesource\"."_s.arg(source, state));
         else if (sources_.missing.contains(source))
-            lackingSources_.append(u"The folder \"%1\" is not there."_s.arg(source));
+            remark_.lackingSources.append(u"The folder \"%1\" is not there."_s.arg(source));
     }
 }
 
-/// Whether the latest complete backup of that folder has a file in it.
-bool Backup::heldFiles(const QString& source)
+/// What another file system hides, or what was moved to one, had been backed up without being named.
+void Backup::findDroppedFolders()
 {
-    if (!earlier_)
-        earlier_ = snapshotsIn(*repository_, restic());
-    if (!snapshotId_.isEmpty())
-        std::erase_if(*earlier_, [this](const Snapshot& one) { return one.id.startsWith(snapshotId_); });
-    const auto found = std::find_if(earlier_->rbegin(), earlier_->rend(), [&source](const Snapshot& snapshot) {
-        return snapshot.complete &&
-               std::ranges::any_of(snapshot.sources, [&](const QString& folder) { return covers(folder, source); });
-    });
-    if (found == earlier_->rend())
-        return false;
-    bool file = false;
-    const auto outcome =
-        restic().run({u"ls"_s, u"--json"_s, u"--no-lock"_s, u"--recursive"_s, found->id, source},
-                     [&file](const QByteArray& line) { file = file || line.contains(R"("type":"file")"); });
-    if (stop_.isMade())
-        throw Stopped();
-    if (outcome.exitStatus != 0)
-        throw Problem::of(outcome);
-    return file;
+    QVariantMap judged = history_.otherFileSystems(destination_.id);
+    judged.removeIf([this](const auto& entry) { return !sources_.otherFileSystems.contains(entry.key()); });
+    for (const QString& folder : sources_.otherFileSystems) {
+        if (!judged.contains(folder))
+            judged.insert(folder, qlonglong{earlier_->heldFiles(folder) ? 1 : 0});
+        if (judged.value(folder).toBool())
+            remark_.lackingSources.append(
+                u"The folder \"%1\", which held files before, is on another file system and is not "
+                "backed up: have it so by \"tmutil addsource\", or let it be by \"tmutil "
+                "addexclusion\"."_s.arg(folder));
+    }
+    history_.setOtherFileSystems(destination_.id, judged);
+}
+
+/// A backup that is cut off before it was looked at bears the tag of a complete one.
+void Backup::settleCutOffBackups()
+{
+    if (const QDateTime since = history_.uncheckedSince(destination_.id); since.isValid())
+        earlier_->markEmptied(since);
+    history_.setUncheckedSince(destination_.id, {});
 }
 
 void Backup::copy()
 {
+    if (remark_.lostSources.isEmpty()) {
+        history_.setUncheckedSince(destination_.id, QDateTime::currentDateTimeUtc());
+        history_.save();
+    }
     const Restic program = restic();
     for (bool unlocked = false;; unlocked = true) {
-        const QStringList arguments =
-            QStringList{u"backup"_s, u"--json"_s, u"--verbose=2"_s, u"--tag"_s, Snapshot::tag(lostSources_.isEmpty())} +
-            sources_.arguments();
+        const QStringList arguments = QStringList{u"backup"_s, u"--json"_s, u"--verbose=2"_s, u"--tag"_s,
+                                                  Snapshot::tag(remark_.lostSources.isEmpty())} +
+                                      sources_.arguments();
         BackupOutput output(sources_.folders, repaired_);
         const auto outcome = program.run(
             arguments,
@@ -227,28 +226,27 @@ void Backup::copy()
             },
             [&](const QByteArray& line) { output.readMessage(line); });
         snapshotId_ = output.snapshotId();
-        unreadFiles_ = output.unreadPaths().size();
+        remark_.unreadFiles = output.unreadPaths().size();
         note(output, outcome);
         const bool isMade = !snapshotId_.isEmpty() && !outcome.diskGone;
-        if (isMade && lostSources_.isEmpty()) {
+        if (isMade && remark_.lostSources.isEmpty()) {
             findLostSources(output.emptySources(), "is empty or cannot be read"_L1);
-            if (lostSources_.isEmpty())
+            if (remark_.lostSources.isEmpty())
                 remember();
             else
                 markIncomplete();
         }
-        if (stop_.isMade())
-            throw Stopped();
+        endIfStopped();
         if (isMade && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
             return;
         const auto problem = outcome.diagnosis().problem;
         if (problem == ResticProblem::Locked && !unlocked) {
-            resticOrThrow({u"unlock"_s});
+            program.run({u"unlock"_s}).require();
             continue;
         }
         if (problem == ResticProblem::NoSpace && makeRoom())
             continue;
-        throw Problem::of(outcome);
+        throw outcome.failure();
     }
 }
 
@@ -265,15 +263,32 @@ void Backup::note(const BackupOutput& output, const ResticOutcome& outcome)
 /// A source was lost while it was read.
 void Backup::markIncomplete()
 {
-    resticOrThrow({u"tag"_s, u"--set"_s, Snapshot::tag(false), snapshotId_});
+    restic().runUnlocking({u"tag"_s, u"--set"_s, Snapshot::tag(false), snapshotId_}).require();
     snapshotId_.clear(); // it has another one now
+    history_.setUncheckedSince(destination_.id, {});
+    history_.save();
 }
 
-/// Before anything else is done: whatever ends this process while it cleans up, the backup counts.
+/// Before anything else is done: whatever ends this process while it cleans up, the backup counts. It does once it can
+/// be found; who stops the search takes restic's word for it.
 void Backup::remember()
 {
+    try {
+        snapshots_ = snapshotsIn(*repository_, restic());
+        const auto found =
+            std::ranges::find_if(*snapshots_, [this](const Snapshot& one) { return one.id.startsWith(snapshotId_); });
+        if (found == snapshots_->end())
+            throw failureOf(
+                ResticProblem::NoRepository,
+                u"The backup was written, but cannot be found on the disk \"%1\"."_s.arg(destination_.name));
+        log_.backup = found->name();
+    } catch (const Failure&) {
+        if (!stop_.isMade())
+            throw;
+    }
+    history_.setUncheckedSince(destination_.id, {});
     history_.setLastBackup(destination_.id, QDateTime::currentDateTimeUtc());
-    history_.setLastFailure(destination_.id, remark());
+    history_.setLastFailure(destination_.id, lastRemark());
     history_.save();
 }
 
@@ -283,32 +298,33 @@ void Backup::cleanUp()
     try {
         thin();
     } catch (const Failure& failure) {
-        if (stop_.isMade())
-            throw Stopped();
-        thinningProblem_ = failure.message();
-    } catch (const Problem& problem) {
-        if (problem.cause == ResticDiagnosis::of(ResticProblem::NoSpace).cause())
+        if (stop_.isMade() || failure.cause() == ResticDiagnosis::of(ResticProblem::NoSpace).cause())
             throw;
-        thinningProblem_ = problem.description;
+        remark_.thinningProblem = failure.message();
     }
 }
 
 void Backup::thin()
 {
+    const Restic program = restic();
     if (repository_->hasLocks())
-        resticOrThrow({u"unlock"_s}); // removes those of processes that have died
+        program.run({u"unlock"_s}).require(); // removes those of processes that have died
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    const auto snapshots = snapshotsIn(*repository_, restic());
+    const auto snapshots = snapshots_ ? *snapshots_ : snapshotsIn(*repository_, program);
+    QStringList names;
     for (const Snapshot& snapshot : snapshots) {
-        const bool isNew = snapshotId_.isEmpty() ? !snapshot.complete : snapshot.id.startsWith(snapshotId_);
-        if (isNew)
+        names.append(snapshot.name());
+        if (snapshotId_.isEmpty() ? !snapshot.complete : snapshot.id.startsWith(snapshotId_))
             log_.backup = snapshot.name();
     }
-    forget(dispensable(snapshots, configuration_.keepRules(), snapshotId_, now), restic());
-    if (stop_.isMade())
-        throw Stopped();
+    const auto leaving = dispensable(snapshots, configuration_.keepRules(), snapshotId_, now);
+    forget(leaving, program);
+    endIfStopped();
+    for (const Snapshot& snapshot : leaving)
+        names.removeOne(snapshot.name());
+    history_.setBackups(destination_.id, names, log_.backup, log_.bytesAdded);
     if (isWeekOver(history_.lastPrune(destination_.id), now)) {
-        resticOrThrow({u"prune"_s});
+        program.runUnlocking({u"prune"_s}).require();
         history_.setLastPrune(destination_.id, now);
     }
     keepReserve(*repository_);
@@ -321,70 +337,29 @@ bool Backup::makeRoom()
 {
     try {
         if (roomWanted_)
-            return removeLeastMissed(*repository_, restic(), *roomWanted_, removed_);
+            return removeLeastMissed(*repository_, restic(), *roomWanted_, remark_.removed);
         roomWanted_ = removeLeftovers(*repository_, restic(), configuration_.keepRules());
         return true;
     } catch (const Failure&) {
-        if (stop_.isMade())
-            throw Stopped();
+        endIfStopped();
         return false; // the full disk is what is reported
     }
 }
 
-void Backup::resticOrThrow(const QStringList& arguments) const
+LastFailure Backup::lastFailure(const QString& cause, const QString& description) const
 {
-    const auto outcome = restic().runUnlocking(arguments);
-    if (stop_.isMade())
-        throw Stopped();
-    if (outcome.exitStatus != 0)
-        throw Problem::of(outcome);
+    return {statusDate(QDateTime::currentDateTimeUtc()), destination_.id, cause, description};
 }
 
-LastFailure Backup::failure(const Problem& problem) const
+/// Nothing for a backup without fault.
+std::optional<LastFailure> Backup::lastRemark()
 {
-    return {statusDate(QDateTime::currentDateTimeUtc()), destination_.id, problem.cause, problem.description};
-}
-
-/// A sentence on what was removed for want of room, whatever came of the backup; empty where nothing was.
-QString Backup::removal() const
-{
-    if (removed_.empty())
-        return {};
-    return removed_.size() == 1
-               ? u"The disk was full, and the backup \"%1\" was removed."_s.arg(removed_.front().name())
-               : u"The disk was full, and %1 old backups, from \"%2\" to \"%3\", were removed."_s.arg(
-                     QString::number(removed_.size()), removed_.front().name(), removed_.back().name());
-}
-
-std::optional<LastFailure> Backup::remark() const
-{
-    QString cause;
-    QStringList sentences;
-    if (!thinningProblem_.isEmpty()) {
-        cause = u"Thinning"_s;
-        sentences.append(u"Old backups could not be thinned: %1"_s.arg(thinningProblem_));
-    }
-    if (!removed_.empty()) {
-        cause = u"SpaceMade"_s;
-        sentences.append(removal());
-    }
-    if (!lackingSources_.isEmpty()) {
-        cause = u"MissingSource"_s;
-        sentences = lackingSources_ + sentences;
-    }
-    if (unreadFiles_ > 0) {
-        cause = u"UnreadFiles"_s;
-        sentences.prepend(unreadFiles_ == 1 ? u"One file could not be read."_s
-                                            : u"%1 files could not be read."_s.arg(unreadFiles_));
-    }
-    if (!lostSources_.isEmpty()) {
-        cause = u"SourceLost"_s;
-        sentences = lostSources_ + sentences;
-    }
-    if (cause.isEmpty())
+    remark_.lastVerification = history_.lastVerification(destination_.id);
+    const auto text = remark_.text(QDateTime::currentDateTimeUtc());
+    if (!text)
         return std::nullopt;
-    LastFailure remark = failure({cause, sentences.join(u' ')});
-    remark.unreadFiles = unreadFiles_;
+    LastFailure remark = lastFailure(text->first, text->second);
+    remark.unreadFiles = remark_.unreadFiles;
     return remark;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "BackupProgress.h"
+#include "BackupRemark.h"
 #include "Configuration.h"
+#include "EarlierBackups.h"
 #include "Folders.h"
 #include "LastFailure.h"
 #include "RepositoryFolder.h"
@@ -53,9 +55,7 @@ public:
     const RunLog& log() const { return log_; }
 
 private:
-    struct Problem;
-    struct Stopped {};
-
+    void endIfStopped() const;
     void findDisk();
     void prepareRepository();
     void makeRepository();
@@ -63,7 +63,8 @@ private:
     Restic restic() const;
     void findSources();
     void findLostSources(const QStringList& suspects, QLatin1StringView state);
-    bool heldFiles(const QString& source);
+    void findDroppedFolders();
+    void settleCutOffBackups();
     void copy();
     void markIncomplete();
     void note(const BackupOutput& output, const ResticOutcome& outcome);
@@ -71,10 +72,8 @@ private:
     void cleanUp();
     void thin();
     bool makeRoom();
-    void resticOrThrow(const QStringList& arguments) const;
-    LastFailure failure(const Problem& problem) const;
-    QString removal() const;
-    std::optional<LastFailure> remark() const;
+    LastFailure lastFailure(const QString& cause, const QString& description) const;
+    std::optional<LastFailure> lastRemark();
 
     Destination destination_;
     Configuration configuration_;
@@ -84,15 +83,12 @@ private:
     Observer observer_;
     std::optional<RepositoryFolder> repository_; ///< the same from the beginning to the end
     SourceSet sources_;
-    QStringList lackingSources_;                   ///< sentences on those that are not there or left out
-    QStringList lostSources_;                      ///< sentences on those that held files before and don't now
-    std::optional<std::vector<Snapshot>> earlier_; ///< the backups before this one, once they had to be read
+    std::optional<EarlierBackups> earlier_;
     QString snapshotId_;
+    std::optional<std::vector<Snapshot>> snapshots_; ///< this one and all before it, once it has been found
     bool repaired_ = false;
-    qlonglong unreadFiles_ = 0;
-    QString thinningProblem_;
     std::optional<quint64> roomWanted_; ///< in blocks of the disk, once room has been made
-    std::vector<Snapshot> removed_;     ///< for want of room
+    BackupRemark remark_;
     RunLog log_;
     BackupResult result_;
 };

@@ -9,6 +9,7 @@
 #include "History.h"
 #include "Output.h"
 #include "Paths.h"
+#include "ProcessLock.h"
 #include "PropertyList.h"
 #include "RepositoryFolder.h"
 #include "Restic.h"
@@ -141,10 +142,12 @@ void verify(const Folders& folders, const CommandLine& line)
     print(QStringList(u"No damage was found."_s));
 }
 
-/// All of those named, or none.
+/// All of those named, or none. A name given once stands for one backup, the oldest of that name.
 void deleteBackups(const Folders& folders, const QStringList& names)
 {
-    if (RunState::current(folders.state))
+    makePrivateFolder(folders.state);
+    ProcessLock lock(RunState::lockPath(folders.state)); // no backup is to begin meanwhile
+    if (!lock.tryLock())
         throw Failure(ExitStatus::AlreadyRunning, u"A backup is running."_s);
     const Configuration configuration(folders);
     const StopRequest stop;
@@ -155,9 +158,7 @@ void deleteBackups(const Folders& folders, const QStringList& names)
         if (!repository)
             continue;
         auto some = snapshotsIn(*repository, Restic(*repository, folders, &stop));
-        std::erase_if(some, [&names](const Snapshot& snapshot) { return !names.contains(snapshot.name()); });
-        for (const Snapshot& snapshot : some)
-            left.removeAll(snapshot.name());
+        std::erase_if(some, [&left](const Snapshot& snapshot) { return !left.removeOne(snapshot.name()); });
         if (!some.empty())
             found.emplace_back(std::move(*repository), std::move(some));
     }
@@ -167,8 +168,7 @@ void deleteBackups(const Folders& folders, const QStringList& names)
     for (const auto& [repository, snapshots] : found) {
         const Restic restic(repository, folders, &stop);
         forget(snapshots, restic);
-        if (const auto outcome = restic.runUnlocking({u"prune"_s}); outcome.exitStatus != 0)
-            throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
+        restic.runUnlocking({u"prune"_s}).require();
     }
 }
 
@@ -207,7 +207,10 @@ void retention(const Folders& folders, const KeepRules& rules)
 void tryExclusion(const Folders& folders, const QStringList& names, qlonglong largest)
 {
     const auto omission = SourceSet::of(Configuration(folders), folders).omittedBy(names, largest);
-    print(QStringList(u"%1 files of %2 bytes in all would be left out."_s.arg(omission.files).arg(omission.bytes)));
+    print(
+        QStringList(omission.files == 1
+                        ? u"1 file of %1 bytes would be left out."_s.arg(omission.bytes)
+                        : u"%1 files of %2 bytes in all would be left out."_s.arg(omission.files).arg(omission.bytes)));
 }
 
 void excludeLarger(const Folders& folders, const CommandLine& line)
@@ -262,15 +265,21 @@ std::vector<Snapshot> snapshots(const Folders& folders)
     if (configuration.destinations().empty())
         throw Failure(ExitStatus::NoDestination, u"No backup disk is set. Set one with \"tmutil setdestination\"."_s);
     std::vector<Snapshot> all;
+    std::optional<Failure> unreadable;
     for (const Destination& destination : configuration.destinations()) {
         const auto repository = RepositoryFolder::open(destination);
         if (!repository)
             continue;
-        const auto some = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
-        all.insert(all.end(), some.begin(), some.end());
+        try {
+            const auto some = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
+            all.insert(all.end(), some.begin(), some.end());
+        } catch (const Failure& failure) {
+            unreadable = Failure(failure.status(), u"%1: %2"_s.arg(destination.name, failure.message()));
+            printError(unreadable->message());
+        }
     }
     if (all.empty())
-        throw Failure(ExitStatus::NoBackup, u"There are no backups."_s);
+        throw unreadable.value_or(Failure(ExitStatus::NoBackup, u"There are no backups."_s));
     std::ranges::stable_sort(all, {}, &Snapshot::time);
     return all;
 }

@@ -124,10 +124,14 @@ void Configuration::takeUp(const Destination& destination)
 void Configuration::put(const Destination& destination)
 {
     const auto known = std::ranges::find(destinations_, destination.id, &Destination::id);
-    if (known != destinations_.end())
-        *known = destination;
-    else
-        destinations_.push_back(destination);
+    if (known == destinations_.end())
+        return destinations_.push_back(destination);
+    if (known->path != destination.path && known->isPresent())
+        throw Failure(
+            ExitStatus::NoInput,
+            u"The backups at \"%1\" are a copy of those at \"%2\", which are set already. Of two copies one "
+            "can be used: remove the other with \"tmutil removedestination\"."_s.arg(destination.path, known->path));
+    *known = destination;
 }
 
 void Configuration::removeDestination(const QString& id)

@@ -24,8 +24,7 @@ QString Destination::absence() const
     if (bare || QDir(path).isEmpty())
         return u"The backup disk \"%1\" is not there."_s.arg(name);
     return u"The disk at \"%1\" has no backups of yours: it is another one, or has been erased. To begin anew on it, "
-           u"set "
-           "it again with \"tmutil setdestination\"."_s.arg(path);
+           "set it again with \"tmutil setdestination\"."_s.arg(path);
 }
 
 QString Destination::backupFolder(const QString& path)

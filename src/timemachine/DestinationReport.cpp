@@ -46,6 +46,8 @@ QByteArray destinationXml(const std::vector<Destination>& destinations, const Hi
             entry.insert(u"LastFailure"_s, failure);
         if (const QDateTime last = history.lastBackup(destination.id); last.isValid())
             entry.insert(u"LastBackup"_s, last);
+        if (const QVariantList backups = history.backups(destination.id); !backups.isEmpty())
+            entry.insert(u"Backups"_s, backups);
         if (!history.recoveryKeyShown(destination.id).isValid())
             entry.insert(u"RecoveryKeyMissing"_s, qlonglong{1});
         entries.append(entry);

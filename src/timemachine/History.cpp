@@ -6,6 +6,7 @@
 #include "RunState.h"
 
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 
@@ -58,7 +59,8 @@ void History::noteNewRepository(const QString& destinationId)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
     setLastPrune(destinationId, now);
-    setLastVerification(destinationId, now, 0);
+    setLastVerification(destinationId, now);
+    setNextSlice(destinationId, {});
 }
 
 QDateTime History::lastPrune(const QString& destinationId) const
@@ -69,6 +71,51 @@ QDateTime History::lastPrune(const QString& destinationId) const
 void History::setLastPrune(const QString& destinationId, const QDateTime& date)
 {
     setOfDestination(destinationId, u"LastPrune"_s, date.toUTC());
+}
+
+QVariantList History::backups(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"Backups"_s).toList();
+}
+
+void History::setBackups(const QString& destinationId, const QStringList& names, const QString& justMade,
+                         qlonglong bytesAdded)
+{
+    QHash<QString, QVariant> sizes;
+    for (const QVariant& backup : backups(destinationId)) {
+        const QVariantMap one = backup.toMap();
+        if (const QVariant size = one.value(u"BytesAdded"_s); size.isValid())
+            sizes.insert(one.value(u"Name"_s).toString(), size);
+    }
+    sizes.insert(justMade, bytesAdded);
+    QVariantList list;
+    for (const QString& name : names) {
+        QVariantMap one{{u"Name"_s, name}};
+        if (sizes.contains(name))
+            one.insert(u"BytesAdded"_s, sizes.value(name));
+        list.append(one);
+    }
+    setOfDestination(destinationId, u"Backups"_s, list);
+}
+
+QDateTime History::uncheckedSince(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"UncheckedSince"_s).toDateTime();
+}
+
+void History::setUncheckedSince(const QString& destinationId, const QDateTime& date)
+{
+    setOfDestination(destinationId, u"UncheckedSince"_s, date.isValid() ? QVariant(date.toUTC()) : QVariant());
+}
+
+QVariantMap History::otherFileSystems(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"OtherFileSystems"_s).toMap();
+}
+
+void History::setOtherFileSystems(const QString& destinationId, const QVariantMap& folders)
+{
+    setOfDestination(destinationId, u"OtherFileSystems"_s, folders.isEmpty() ? QVariant() : QVariant(folders));
 }
 
 QVariantMap History::lastFailure(const std::optional<QStringList>& destinationIds) const
@@ -112,15 +159,29 @@ QDateTime History::lastVerification(const QString& destinationId) const
     return ofDestination(destinationId, u"LastVerification"_s).toDateTime();
 }
 
-int History::verifiedSlice(const QString& destinationId) const
-{
-    return ofDestination(destinationId, u"VerifiedSlice"_s).toInt();
-}
-
-void History::setLastVerification(const QString& destinationId, const QDateTime& date, int slice)
+void History::setLastVerification(const QString& destinationId, const QDateTime& date)
 {
     setOfDestination(destinationId, u"LastVerification"_s, date.toUTC());
-    setOfDestination(destinationId, u"VerifiedSlice"_s, qlonglong{slice});
+}
+
+Slice History::nextSlice(const QString& destinationId) const
+{
+    return Slice::fromDictionary(ofDestination(destinationId, u"NextSlice"_s).toMap());
+}
+
+void History::setNextSlice(const QString& destinationId, const Slice& slice)
+{
+    setOfDestination(destinationId, u"NextSlice"_s, slice.toDictionary());
+}
+
+bool History::isVerificationUnfinished(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"VerificationUnfinished"_s).toBool();
+}
+
+void History::setVerificationUnfinished(const QString& destinationId, bool unfinished)
+{
+    setOfDestination(destinationId, u"VerificationUnfinished"_s, unfinished ? qlonglong{1} : QVariant());
 }
 
 std::optional<Damage> History::damage(const QString& destinationId) const

@@ -38,10 +38,29 @@ public:
     QDateTime lastPrune(const QString& destinationId) const;
     void setLastPrune(const QString& destinationId, const QDateTime& date);
 
+    /// The backups that were on the disk when the last one had been made, oldest first: dictionaries with "Name" and,
+    /// where it is known, "BytesAdded", what that backup took of the disk beyond those before it.
+    QVariantList backups(const QString& destinationId) const;
+    void setBackups(const QString& destinationId, const QStringList& names, const QString& justMade,
+                    qlonglong bytesAdded);
+
+    /// Since when a backup may have been made that nobody has looked at; invalid where all have been.
+    QDateTime uncheckedSince(const QString& destinationId) const;
+    void setUncheckedSince(const QString& destinationId, const QDateTime& date);
+
+    /// The folders that the last backup left out for being on another file system, and whether they had been backed up
+    /// before: 1 or 0.
+    QVariantMap otherFileSystems(const QString& destinationId) const;
+    void setOtherFileSystems(const QString& destinationId, const QVariantMap& folders);
+
+    /// When a tenth of the data, or all of it, had been verified last.
     QDateTime lastVerification(const QString& destinationId) const;
-    /// The slice of the data that was verified last; 0 before the first.
-    int verifiedSlice(const QString& destinationId) const;
-    void setLastVerification(const QString& destinationId, const QDateTime& date, int slice);
+    void setLastVerification(const QString& destinationId, const QDateTime& date);
+    /// The part of the data whose turn it is, and whether a verification of it was begun and did not come to its end.
+    Slice nextSlice(const QString& destinationId) const;
+    void setNextSlice(const QString& destinationId, const Slice& slice);
+    bool isVerificationUnfinished(const QString& destinationId) const;
+    void setVerificationUnfinished(const QString& destinationId, bool unfinished);
 
     /// What the last verification has found.
     std::optional<Damage> damage(const QString& destinationId) const;

@@ -21,4 +21,9 @@ void print(const QStringList& lines)
         print(line.toUtf8() + '\n');
 }
 
+void printError(const QString& sentence)
+{
+    std::fprintf(stderr, "tmutil: %s\n", sentence.toUtf8().constData());
+}
+
 } // namespace quillon

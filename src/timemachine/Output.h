@@ -9,4 +9,7 @@ namespace quillon {
 void print(const QByteArray& text);
 void print(const QStringList& lines);
 
+/// To standard error, with the program's name.
+void printError(const QString& sentence);
+
 } // namespace quillon

@@ -1,4 +1,3 @@
-#include "Failure.h"
 #include "Restic.h"
 #include "Verification.h"
 
@@ -60,13 +59,12 @@ void repairRepository(const RepositoryFolder& repository, const QStringList& pac
         if (saved.errorText.contains("RESTIC_FEATURES=repair-packs-v1"_L1)) // 0.16 asks for it; 0.17 would refuse it
             saved = restic.withFeature(u"repair-packs-v1"_s).runUnlocking(command);
         if (saved.exitStatus != 0 && saved.diagnosis().problem != ResticProblem::Unknown)
-            throw Failure(ExitStatus::Failed, saved.diagnosis().description); // a full disk, say, which passes
+            throw saved.failure(); // a full disk, say, which passes
     }
     auto outcome = restic.runUnlocking({u"repair"_s, u"index"_s});
     if (isUnknownCommand(outcome))
         outcome = restic.runUnlocking({u"rebuild-index"_s});
-    if (outcome.exitStatus != 0)
-        throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
+    outcome.require();
 }
 
 } // namespace quillon

@@ -51,15 +51,9 @@ private:
     int descriptor_;
 };
 
-void require(const ResticOutcome& outcome)
-{
-    if (outcome.exitStatus != 0)
-        throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
-}
-
 void addKey(const Restic& restic, const QString& passwordFile, const QString& user)
 {
-    require(restic.runUnlocking({u"key"_s, u"add"_s, u"--new-password-file"_s, passwordFile, u"--user"_s, user}));
+    restic.runUnlocking({u"key"_s, u"add"_s, u"--new-password-file"_s, passwordFile, u"--user"_s, user}).require();
 }
 
 /// The repositories that may be meant by a path: those on a backup disk, and one that lies at the path itself.
@@ -84,7 +78,7 @@ bool opens(const Restic& restic)
 {
     const auto outcome = restic.run({u"cat"_s, u"config"_s, u"--no-lock"_s});
     if (outcome.exitStatus != 0 && outcome.diagnosis().problem != ResticProblem::WrongKey)
-        require(outcome);
+        outcome.require();
     return outcome.exitStatus == 0;
 }
 
@@ -110,7 +104,7 @@ NewRepository makeRepository(const Destination& destination, const Folders& fold
 QStringList recoveryKeys(const Restic& restic)
 {
     const auto outcome = restic.runUnlocking({u"key"_s, u"list"_s, u"--json"_s, u"--no-lock"_s});
-    require(outcome);
+    outcome.require();
     QStringList identifiers;
     for (const QJsonValue key : QJsonDocument::fromJson(outcome.output).array()) {
         if (key["userName"_L1].toString() == recoveryUser)
@@ -129,7 +123,7 @@ QString addRecoveryKey(const Restic& restic)
 void removeRecoveryKeys(const Restic& restic, const QStringList& identifiers)
 {
     for (const QString& identifier : identifiers)
-        require(restic.runUnlocking({u"key"_s, u"remove"_s, identifier}));
+        restic.runUnlocking({u"key"_s, u"remove"_s, identifier}).require();
 }
 
 Destination takeUpRepository(const QString& path, const QString& passphrase, const Folders& folders,

@@ -1,6 +1,5 @@
 #include "Restic.h"
 
-#include "Failure.h"
 #include "KeyStore.h"
 #include "RepositoryFolder.h"
 #include "StopRequest.h"
@@ -101,6 +100,18 @@ ResticDiagnosis ResticOutcome::diagnosis() const
                     : ResticDiagnosis::of(errorText, exitStatus, workFolder);
 }
 
+Failure ResticOutcome::failure() const
+{
+    const ResticDiagnosis found = diagnosis();
+    return {ExitStatus::Failed, found.description, found.cause()};
+}
+
+void ResticOutcome::require() const
+{
+    if (exitStatus != 0)
+        throw failure();
+}
+
 Restic::Restic(const RepositoryFolder& repository, const Folders& folders, const StopRequest* stop,
                const QString& keyFile)
     : repository_(repository)
@@ -121,7 +132,7 @@ QString Restic::executable()
 {
     QString found = QStandardPaths::findExecutable(u"restic"_s, searchPath());
     if (found.isEmpty())
-        throw Failure(ExitStatus::ResticMissing, u"restic is not installed."_s);
+        throw Failure(ExitStatus::ResticMissing, u"restic is not installed."_s, u"ResticMissing"_s);
     return found;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Failure.h"
 #include "Folders.h"
 #include "ResticDiagnosis.h"
 
@@ -22,6 +23,12 @@ struct ResticOutcome {
     bool diskGone = false; ///< the repository's folder was no longer where it had been; restic was ended for it
 
     ResticDiagnosis diagnosis() const;
+
+    /// What its failing means to a backup or a command.
+    Failure failure() const;
+
+    /// Throws that where it has failed.
+    void require() const;
 };
 
 /// Runs restic on one repository. It gets nothing of this program's environment, is given up on gently when a stop is

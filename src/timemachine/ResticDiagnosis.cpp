@@ -70,8 +70,7 @@ QString sentence(ResticProblem problem)
         return u"The backup disk cannot be written to."_s;
     case ResticProblem::NoWorkSpace:
         return u"restic's temporary files cannot be written: the disk of the home folder is full, or its cache folder "
-               u"is not "
-               "writable."_s;
+               "is not writable."_s;
     case ResticProblem::DiskGone:
         return u"The backup disk was taken away."_s;
     case ResticProblem::Unknown:

@@ -222,7 +222,7 @@ void restore(const QString& source, const QString& target, const std::vector<Des
             throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot take all that is to be restored: %2. Nothing was "
                                                    "restored."_s.arg(target, errors.targetProblem()));
         if (outcome.exitStatus < 0 || (outcome.exitStatus != 0 && damaged.isEmpty() && !errors.lackAttributes()))
-            throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
+            throw outcome.failure();
         if (damaged.contains(path))
             throw Failure(ExitStatus::Failed, u"\"%1\" is damaged in the backup."_s.arg(path));
         const QStringList unmarked = markDamaged(tree, damaged);

@@ -1,6 +1,5 @@
 #include "Room.h"
 
-#include "Failure.h"
 #include "RepositoryFolder.h"
 #include "Restic.h"
 
@@ -27,19 +26,13 @@ struct statvfs roomOf(const RepositoryFolder& repository)
     return room;
 }
 
-void require(const ResticOutcome& outcome)
-{
-    if (outcome.exitStatus != 0)
-        throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
-}
-
 /// Moves what is still needed out of files of data that are in use in part only, for without that little room may come
 /// of it; but no more than half of the room there is can hold.
 void prune(const RepositoryFolder& repository, const Restic& restic)
 {
     const auto room = roomOf(repository);
     const auto most = QString::number(room.f_bavail * room.f_frsize / 2);
-    require(restic.runUnlocking({u"prune"_s, u"--max-unused"_s, u"0"_s, u"--max-repack-size"_s, most}));
+    restic.runUnlocking({u"prune"_s, u"--max-unused"_s, u"0"_s, u"--max-repack-size"_s, most}).require();
 }
 
 } // namespace
@@ -72,7 +65,7 @@ void forget(const std::vector<Snapshot>& snapshots, const Restic& restic)
     QStringList arguments{u"forget"_s};
     for (const Snapshot& snapshot : snapshots)
         arguments.append(snapshot.id);
-    require(restic.runUnlocking(arguments));
+    restic.runUnlocking(arguments).require();
 }
 
 quint64 removeLeftovers(const RepositoryFolder& repository, const Restic& restic, const KeepRules& rules)

@@ -33,8 +33,7 @@ void printRecoveryKey(const Destination& destination, const QString& key)
         u"    "_s + key,
         {},
         u"Write it down and keep it away from this computer and from the disk. It is shown only now; whoever has it "
-        u"and the "
-        "disk can read the backups. On another computer \"tmutil adopt PATH\" asks for it and takes the backups up."_s});
+        "and the disk can read the backups. On another computer \"tmutil adopt PATH\" asks for it and takes the backups up."_s});
 }
 
 /// Until that has been noted, whatever ends this process, the disk's report asks for a recovery key.
@@ -58,7 +57,7 @@ RepositoryFolder newRepository(const Destination& destination, const Folders& fo
 {
     NewRepository made = makeRepository(destination, folders, stop);
     if (!made.folder)
-        throw Failure(ExitStatus::Failed, made.refusal.isEmpty() ? made.outcome.diagnosis().description : made.refusal);
+        throw made.refusal.isEmpty() ? made.outcome.failure() : Failure(ExitStatus::Failed, made.refusal);
     History::change(folders.state, [&](History& history) {
         history.noteNewRepository(destination.id);
         history.setLastBackup(destination.id, {});

@@ -1,6 +1,5 @@
 #include "Snapshot.h"
 
-#include "Failure.h"
 #include "RepositoryFolder.h"
 #include "Restic.h"
 
@@ -33,7 +32,7 @@ std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Rest
     const auto outcome = restic.run({u"snapshots"_s, u"--json"_s, u"--no-lock"_s});
     const auto list = QJsonDocument::fromJson(outcome.output);
     if (outcome.exitStatus != 0 || !list.isArray())
-        throw Failure(ExitStatus::Failed, outcome.diagnosis().description);
+        throw outcome.failure();
 
     std::vector<Snapshot> snapshots;
     for (const QJsonValue entry : list.array()) {

@@ -30,6 +30,18 @@ bool isTaggedAsCache(const QString& source)
     return QFileInfo::exists(source + tag) || QFileInfo::exists(QFileInfo(source).path() + tag);
 }
 
+/// Whether a name of that file, or of a folder on the way to it from a source, or its size leaves it out.
+bool omits(const QStringList& names, qlonglong largest, const QString& source, const QFileInfo& file)
+{
+    const QStringList parts = file.filePath().mid(source.size()).split(u'/', Qt::SkipEmptyParts);
+    const bool isNamed = std::ranges::any_of(parts, [&names](const QString& part) {
+        return std::ranges::any_of(names, [&part](const QString& name) {
+            return fnmatch(name.toUtf8().constData(), part.toUtf8().constData(), 0) == 0;
+        });
+    });
+    return isNamed || (largest > 0 && file.isFile() && file.size() > largest);
+}
+
 /// A backup disk that lies in a source is left out whole, unless a source lies in it in turn: then only the backups.
 QString excludedFolder(const Destination& destination, const QStringList& sources)
 {
@@ -68,25 +80,28 @@ SourceSet SourceSet::of(const Configuration& configuration, const Folders& folde
     set.leaveOutUnlessSource(resolvedPath(folders.home) + "/.local/share/Trash"_L1, u"the wastebasket"_s);
     for (const QString& source : set.folders) {
         set.leaveOutUnlessSource(source + "/.Trash-"_L1 + QString::number(getuid()), u"the wastebasket"_s);
-        for (const QString& point : mounts.foreignMountPointsIn(source))
-            set.leaveOutUnlessSource(point, u"another file system"_s);
+        for (const QString& point : mounts.foreignMountPointsIn(source)) {
+            if (set.leaveOutUnlessSource(point, u"another file system"_s))
+                set.otherFileSystems.append(point);
+        }
     }
     return set;
 }
 
-void SourceSet::leaveOut(const QString& path, const QString& reason)
+bool SourceSet::leaveOut(const QString& path, const QString& reason)
 {
-    if (excluded.contains(path))
-        return;
+    if (coveredByAny(excluded, path))
+        return false;
     excluded.append(path);
     automatic.emplace_back(path, reason);
+    return true;
 }
 
 /// Naming a folder is how the user says that it is to be backed up.
-void SourceSet::leaveOutUnlessSource(const QString& path, const QString& reason)
+bool SourceSet::leaveOutUnlessSource(const QString& path, const QString& reason)
 {
-    if (std::ranges::none_of(folders, [&path](const QString& source) { return covers(path, source); }))
-        leaveOut(path, reason);
+    return std::ranges::none_of(folders, [&path](const QString& source) { return covers(path, source); }) &&
+           leaveOut(path, reason);
 }
 
 QStringList SourceSet::withoutFiles() const
@@ -102,25 +117,15 @@ QStringList SourceSet::withoutFiles() const
 SourceSet::Omission SourceSet::omittedBy(const QStringList& names, qlonglong largest) const
 {
     Omission omission;
-    const auto matches = [](const QStringList& patterns, const QString& part) {
-        return std::ranges::any_of(patterns, [&part](const QString& pattern) {
-            return fnmatch(pattern.toUtf8().constData(), part.toUtf8().constData(), 0) == 0;
-        });
-    };
-    const auto isNamed = [&](const QStringList& patterns, const QString& path) {
-        const QStringList parts = path.split(u'/', Qt::SkipEmptyParts);
-        return std::ranges::any_of(parts, [&](const QString& part) { return matches(patterns, part); });
-    };
     for (const QString& folder : folders) {
         for (QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks,
                                 QDirIterator::Subdirectories);
              files.hasNext();) {
             const QFileInfo file = files.nextFileInfo();
             const QString path = file.filePath();
-            if (coveredByAny(excluded, path) || isNamed(excludedNames, path) ||
-                (largestFile > 0 && file.size() > largestFile))
+            if (coveredByAny(excluded, path) || omits(excludedNames, largestFile, folder, file))
                 continue;
-            if (isNamed(names, path) || (largest > 0 && file.size() > largest)) {
+            if (omits(names, largest, folder, file)) {
                 ++omission.files;
                 omission.bytes += file.size();
             }
@@ -131,7 +136,9 @@ SourceSet::Omission SourceSet::omittedBy(const QStringList& names, qlonglong lar
 
 bool SourceSet::contains(const QString& path) const
 {
-    return coveredByAny(folders, path) && !coveredByAny(excluded, path);
+    return !coveredByAny(excluded, path) && std::ranges::any_of(folders, [&](const QString& folder) {
+        return covers(folder, path) && !omits(excludedNames, largestFile, folder, QFileInfo(path));
+    });
 }
 
 QStringList SourceSet::arguments() const
@@ -141,8 +148,10 @@ QStringList SourceSet::arguments() const
         arguments << u"--exclude-caches"_s;
     for (const QString& path : excluded)
         arguments << u"--exclude"_s << Restic::literalPattern(path);
-    for (const QString& name : excludedNames)
-        arguments << u"--exclude"_s << name;
+    for (const QString& folder : folders) {
+        for (const QString& name : excludedNames) // of what is in it; it may bear one itself
+            arguments << u"--exclude"_s << Restic::literalPattern(folder) + "/**/"_L1 + name;
+    }
     if (largestFile > 0)
         arguments << u"--exclude-larger-than"_s << QString::number(largestFile);
     return arguments << u"--"_s << folders;

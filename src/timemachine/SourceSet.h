@@ -24,6 +24,7 @@ struct SourceSet {
 
     /// Of those the ones that no user has named, each with the reason.
     std::vector<std::pair<QString, QString>> automatic;
+    QStringList otherFileSystems; ///< of those the ones mounted in a source
 
     /// Backup disks, restic's cache and the state folder are always left out, besides what the user excludes; the
     /// user's cache folder, the wastebaskets and other file systems are, unless a source lies in them.
@@ -48,8 +49,8 @@ struct SourceSet {
     QStringList arguments() const;
 
 private:
-    void leaveOut(const QString& path, const QString& reason);
-    void leaveOutUnlessSource(const QString& path, const QString& reason);
+    bool leaveOut(const QString& path, const QString& reason);
+    bool leaveOutUnlessSource(const QString& path, const QString& reason);
 };
 
 } // namespace quillon

@@ -32,28 +32,25 @@ namespace {
 // restic answers an interrupt at once and is killed after half a minute.
 constexpr auto stopPatience = 45s;
 
-void collect(const QString& text, const QString& pattern, QStringList& identifiers)
+void collect(const QString& text, const QRegularExpression& words, QStringList& identifiers)
 {
-    const QRegularExpression words(pattern);
-    for (auto match = words.globalMatch(text); match.hasNext();)
-        identifiers.append(match.next().captured(1));
+    for (auto match = words.globalMatch(text); match.hasNext();) {
+        if (const QString identifier = match.next().captured(1); !identifiers.contains(identifier))
+            identifiers.append(identifier);
+    }
 }
 
 } // namespace
 
-CheckFindings CheckFindings::of(const QString& errorText)
+void CheckFindings::readLine(const QString& line)
 {
     // "not referenced in any index" is said of files that an interrupted backup has left, and harms nothing.
-    CheckFindings findings;
-    for (const QString& line : errorText.split(u'\n')) {
-        if (line.contains("not referenced"_L1))
-            continue;
-        collect(line, u"[Pp]ack(?: ID does not match, want|:)? ([0-9a-f]{64})"_s, findings.packs);
-        collect(line, u"tree ([0-9a-f]{64})"_s, findings.trees);
-    }
-    findings.packs.removeDuplicates();
-    findings.trees.removeDuplicates();
-    return findings;
+    if (line.contains("not referenced"_L1))
+        return;
+    static const QRegularExpression pack(u"[Pp]ack(?: ID does not match, want|:)? ([0-9a-f]{64})"_s);
+    static const QRegularExpression tree(u"tree ([0-9a-f]{64})"_s);
+    collect(line, pack, packs);
+    collect(line, tree, trees);
 }
 
 bool CheckFindings::cover(const CheckFindings& others) const
@@ -66,13 +63,44 @@ bool CheckFindings::cover(const CheckFindings& others) const
     return holdsAll(packs, others.packs) && holdsAll(trees, others.trees);
 }
 
+QString Slice::subset() const
+{
+    // restic takes the files of data whose first byte leaves that remainder, so the parts make up their tenth.
+    return u"%1/%2"_s.arg(tenth + part * tenths).arg(tenths * parts);
+}
+
+Slice Slice::next() const
+{
+    if (part + 1 < parts)
+        return {tenth, part + 1, parts};
+    return {tenth % tenths + 1, 0, std::max(parts / 2, 1)};
+}
+
+Slice Slice::smaller() const
+{
+    return {tenth, 0, std::min(parts * 2, mostParts)};
+}
+
+QVariantMap Slice::toDictionary() const
+{
+    return {{u"Tenth"_s, qlonglong{tenth}}, {u"Part"_s, qlonglong{part}}, {u"Parts"_s, qlonglong{parts}}};
+}
+
+Slice Slice::fromDictionary(const QVariantMap& entry)
+{
+    const auto number = [&entry](const QString& key, int least, int most) {
+        return std::clamp(entry.value(key).toInt(), least, most);
+    };
+    return {number(u"Tenth"_s, 1, tenths), number(u"Part"_s, 0, mostParts - 1), number(u"Parts"_s, 1, mostParts)};
+}
+
 QVariantMap Damage::toDictionary() const
 {
     return {{u"Date"_s, date},
             {u"Packs"_s, QVariantList(findings.packs.begin(), findings.packs.end())},
             {u"Trees"_s, QVariantList(findings.trees.begin(), findings.trees.end())},
             {u"Backups"_s, QVariantList(backups.begin(), backups.end())},
-            {u"Slice"_s, qlonglong{slice}},
+            {u"Subset"_s, subset},
             {u"Repaired"_s, qlonglong{repaired ? 1 : 0}},
             {u"Lasting"_s, qlonglong{lasting ? 1 : 0}}};
 }
@@ -85,7 +113,7 @@ std::optional<Damage> Damage::fromDictionary(const QVariantMap& entry)
                   .findings = {entry.value(u"Packs"_s).toStringList(), entry.value(u"Trees"_s).toStringList()},
                   .backups = entry.value(u"Backups"_s).toStringList(),
                   .repaired = entry.value(u"Repaired"_s).toBool(),
-                  .slice = entry.value(u"Slice"_s).toInt(),
+                  .subset = entry.value(u"Subset"_s).toString(),
                   .lasting = entry.value(u"Lasting"_s).toBool()};
 }
 
@@ -103,10 +131,10 @@ QString Damage::description() const
                : u"The backup disk is damaged; backups that lack something: %1. "_s.arg(backups.join(u", "_s)) + next;
 }
 
-bool Damage::outlasts(int soundSlice) const
+bool Damage::outlasts(const QString& soundSubset) const
 {
     const bool mayBeMended = repaired && !lasting;
-    return findings == CheckFindings() && !mayBeMended && soundSlice != 0 && soundSlice != slice;
+    return findings == CheckFindings() && !mayBeMended && !soundSubset.isEmpty() && soundSubset != subset;
 }
 
 Damage Damage::after(const std::optional<Damage>& known) const
@@ -127,26 +155,28 @@ Verification::Verification(const RepositoryFolder& repository, const Folders& fo
 {
 }
 
-std::optional<Damage> Verification::run(int slice, const std::optional<Damage>& known) const
+std::optional<Damage> Verification::run(const std::optional<Slice>& slice, const std::optional<Damage>& known) const
 {
-    const QString data = slice == 0 ? u"--read-data"_s : u"--read-data-subset=%1/%2"_s.arg(slice).arg(slices);
+    const QString subset = slice ? slice->subset() : QString();
+    const QString data = slice ? u"--read-data-subset="_s + subset : u"--read-data"_s;
     const Restic restic(repository_, folders_, &stop_);
-    const auto outcome = restic.runUnlocking({u"check"_s, data});
+    CheckFindings findings;
+    const auto outcome = restic.runUnlocking(
+        {u"check"_s, data}, [&findings](const QByteArray& line) { findings.readLine(QString::fromUtf8(line)); });
     if (stop_.isMade())
         throw Failure(ExitStatus::Stopped, u"The verification was stopped."_s);
     const ResticDiagnosis diagnosis = outcome.diagnosis();
-    CheckFindings findings = CheckFindings::of(outcome.errorText);
     if (outcome.exitStatus != 0 && !tellsOfDamage(outcome, findings))
         throw Failure(ExitStatus::Failed, u"The backups could not be verified: %1"_s.arg(diagnosis.description));
     if (known)
         findings.packs += damagedPacks(repository_, known->findings.packs);
     findings.packs.removeDuplicates();
     if (outcome.exitStatus == 0 && findings == CheckFindings())
-        return known && known->outlasts(slice) ? known : std::nullopt;
+        return known && known->outlasts(subset) ? known : std::nullopt;
     return Damage{.date = statusDate(QDateTime::currentDateTimeUtc()),
                   .findings = findings,
                   .backups = affectedBackups(findings),
-                  .slice = slice}
+                  .subset = subset}
         .after(known);
 }
 
@@ -200,16 +230,26 @@ std::optional<Damage> Verification::runAndRemember(const RepositoryFolder& repos
         throw Failure(ExitStatus::AlreadyRunning, u"A verification is already running."_s);
     const QString id = repository.destination().id;
     const History before(folders.state);
-    const int slice = all ? 0 : before.verifiedSlice(id) % slices + 1;
+    auto slice = before.nextSlice(id);
+    if (!all && before.isVerificationUnfinished(id))
+        slice = slice.smaller();
     auto known = before.damage(id);
     if (known && all)
         known->repaired = false;
-    const auto damage = Verification(repository, folders, stop).run(slice, known);
+    History::change(folders.state, [&](History& history) {
+        history.setNextSlice(id, slice);
+        history.setVerificationUnfinished(id, !all);
+    });
+    const auto damage = Verification(repository, folders, stop).run(all ? std::nullopt : std::optional(slice), known);
     History::change(folders.state, [&](History& history) {
         history.setDamage(id, damage);
+        history.setVerificationUnfinished(id, false);
         // What was damaged is looked at again once it has been repaired.
-        history.setLastVerification(id, QDateTime::currentDateTimeUtc(),
-                                    all || (damage && !damage->lasting) ? history.verifiedSlice(id) : slice);
+        const bool again = damage && !damage->lasting;
+        if (!all && !again)
+            history.setNextSlice(id, slice.next());
+        if (all || again || slice.next().part == 0)
+            history.setLastVerification(id, QDateTime::currentDateTimeUtc());
     });
     return damage;
 }

@@ -26,8 +26,30 @@ struct CheckFindings {
     /// Whether the others have nothing that these lack. What restic does not name is only like what it does not name.
     bool cover(const CheckFindings& others) const;
 
-    /// Reads its standard error.
-    static CheckFindings of(const QString& errorText);
+    /// Reads a line of its standard error.
+    void readLine(const QString& line);
+};
+
+/// A part of the data: a tenth of it or, where verifications have been interrupted, a part of that.
+struct Slice {
+    static constexpr int tenths = 10;
+    static constexpr int mostParts = 16;
+
+    int tenth = 1; ///< 1 to tenths
+    int part = 0;  ///< 0 to parts - 1
+    int parts = 1; ///< a power of two, up to mostParts
+
+    bool operator==(const Slice&) const = default;
+
+    /// As `restic check --read-data-subset` takes it.
+    QString subset() const;
+    /// The one after it. The parts become larger again with each tenth.
+    Slice next() const;
+    /// A smaller one in its place, for the time is too short.
+    Slice smaller() const;
+
+    QVariantMap toDictionary() const;
+    static Slice fromDictionary(const QVariantMap& entry);
 };
 
 /// Damage of a repository, as it is remembered until a verification finds none.
@@ -36,7 +58,7 @@ struct Damage {
     CheckFindings findings = {};
     QStringList backups = {}; ///< the names of those that lack something; empty where that cannot be told
     bool repaired = false;    ///< the next backup need not mend it; whether one has is what a verification tells
-    int slice = 0;            ///< the slice in which it was found, or 0 for all data
+    QString subset = {};      ///< the Slice::subset() in which it was found; empty for all data
     bool lasting = false;     ///< a backup has tried to mend it, and a verification found it again
 
     QVariantMap toDictionary() const;
@@ -45,34 +67,34 @@ struct Damage {
     /// Sentences for people.
     QString description() const;
 
-    /// Whether it stands where a verification of that slice finds nothing. What restic named is looked at each time.
-    bool outlasts(int soundSlice) const;
+    /// Whether it stands where a verification of that subset, or of all data where it is empty, finds nothing. What
+    /// restic named is looked at each time.
+    bool outlasts(const QString& soundSubset) const;
 
     /// This damage, found where that was known: what is left after a repair cannot be mended by another one.
     Damage after(const std::optional<Damage>& known) const;
 };
 
-/// Looks for damage in one repository: the structure, and a tenth of the data or all of it.
+/// Looks for damage in one repository: the structure, and a slice of the data or all of it.
 class Verification {
 public:
-    static constexpr int slices = 10;
-
     /// All must outlive this object.
     Verification(const RepositoryFolder& repository, const Folders& folders, const StopRequest& stop);
 
-    /// `slice` is 1 to slices, or 0 for all data. Gives what is damaged; what was known is looked at again, wherever
+    /// Without a slice, of all data. Gives what is damaged; what was known is looked at again, wherever
     /// it lies. Throws Failure where the repository cannot be looked at, with ExitStatus::Stopped when that was
     /// stopped.
-    std::optional<Damage> run(int slice, const std::optional<Damage>& known) const;
+    std::optional<Damage> run(const std::optional<Slice>& slice, const std::optional<Damage>& known) const;
 
     /// Whether a check that ended so and found that has come upon damage, rather than not been able to look for any.
     static bool tellsOfDamage(const ResticOutcome& outcome, const CheckFindings& findings);
 
-    /// Whether the worker should verify after a backup: a week after the last time, and once after a repair.
+    /// Whether the worker should verify after a backup: a week after the last tenth was read, and once after a repair.
     static bool isDue(const History& history, const QString& destinationId);
 
     /// Verifies the slice whose turn it is, or all data, and remembers what came of it. After all data, also damage
-    /// that lasts is tried to be mended once more. At most one verification runs; its process holds this lock.
+    /// that lasts is tried to be mended once more. One that was interrupted is followed by one of less data, so that it
+    /// comes to an end where backups are made every hour. At most one verification runs; its process holds this lock.
     static std::optional<Damage> runAndRemember(const RepositoryFolder& repository, const Folders& folders,
                                                 const StopRequest& stop, bool all);
     static QString lockPath(const QString& stateFolder);

@@ -90,6 +90,29 @@ find '%1/mounted' -mindepth 1
     }
 }
 
+TEST_F(BackupDiskIntegration, ADiskThatCannotBeReadOrIsACopyHidesNoOther)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    practice_.write(u"source/file"_s, "file");
+    ASSERT_EQ(practice_.backUp().status, 0);
+    const QByteArray backup = practice_.run({u"listbackups"_s}).output;
+    ASSERT_EQ(call({u"setdestination"_s, u"-a"_s, practice_.path(u"."_s)}), 0);
+    QDir(practice_.path(u"Quillon.backups"_s)).removeRecursively();
+    ASSERT_EQ(
+        runProgram(u"/bin/cp"_s, {u"-r"_s, practice_.path(u"disk/Quillon.backups"_s), practice_.path(u"."_s)}).status,
+        0);
+    const Answer copied = practice_.run({u"setdestination"_s, u"-a"_s, practice_.path(u"."_s)});
+    EXPECT_EQ(copied.status, static_cast<int>(ExitStatus::NoInput)) << copied.error.toStdString();
+    EXPECT_TRUE(practice_.run({u"destinationinfo"_s}).output.contains(practice_.path(u"disk"_s).toUtf8() + '\n'));
+
+    const QString other = practice_.addDisk(u"other"_s);
+    practice_.write(u"other/Quillon.backups/%1/config"_s.arg(other), "garbage");
+    const Answer list = practice_.run({u"listbackups"_s});
+    EXPECT_EQ(list.output, backup);
+    EXPECT_TRUE(list.error.startsWith("tmutil: other: ")) << list.error.toStdString();
+    EXPECT_EQ(list.status, 0);
+}
+
 TEST_F(BackupDiskIntegration, AFullDiskUnderTheToolsOwnFilesIsTold)
 {
     practice_.addDisk(u"disk"_s);

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -135,15 +136,20 @@ TEST_F(BackupIntegration, AKilledRestoreIsClearedAwayByTheNext)
     EXPECT_EQ(hiddenFolders(), QStringList());
 }
 
-TEST_F(BackupIntegration, AStopWhileThinningIsNoFailure)
+TEST_F(BackupIntegration, AStopOnceTheBackupIsWrittenIsNoFailure)
 {
     const QString id = practice_.addDisk(u"disk"_s);
     startLongBackup();
     const QString pipe = practice_.repository(u"disk"_s, id) + "/snapshots/"_L1 + QString(64, u'0');
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    ASSERT_TRUE(eventually([this] { return practice_.phase() == "ThinningPostBackup"_L1; }));
+    int pipeEnd = -1;
+    ASSERT_TRUE(eventually([&] { // somebody reads the list of backups, and waits for more of it
+        pipeEnd = open(QFile::encodeName(pipe).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+        return pipeEnd >= 0;
+    }));
     ASSERT_EQ(call({u"stopbackup"_s}), 0);
     ASSERT_TRUE(eventually([this] { return !isRunning(); }));
+    close(pipeEnd);
     QFile::remove(pipe);
     EXPECT_FALSE(practice_.status().contains(u"LastFailure"_s));
     EXPECT_EQ(call({u"latestbackup"_s}), 0);
@@ -160,6 +166,7 @@ end() { echo '{"message_type":"exit_error","code":'$1',"message":"'"$2"'"}' >&2;
 case "$*" in
 *' backup '*)
     [ -e '$folder/locked' ] && end 11 'unable to create lock in backend: repository is already locked by PID 1'
+    [ -e '$folder/forgetful' ] && { /usr/bin/restic "$@"; rm -f snapshots/*; exit; }
     [ -e '$folder/broken' ] && end 1 'Fatal: unable to save snapshot: something new' ;;
 *' unlock') rm -f '$folder/locked' ;;
 esac
@@ -168,11 +175,14 @@ exec /usr/bin/restic "$@"
     const auto answer = runWhereMountsAreAllowed(uR"(
 mount -t tmpfs none /usr/local/bin && cp '%1/restic' /usr/local/bin && chmod 755 /usr/local/bin/restic || exit
 '%2' startbackup -b 2>&1; echo $?
-touch '%1/broken'
+touch '%1/forgetful'
+'%2' startbackup -b 2>&1
+rm '%1/forgetful'; touch '%1/broken'
 '%2' startbackup -b 2>&1
 )"_s.arg(practice_.path(u"."_s), practice_.executable()));
     if (answer) {
-        EXPECT_EQ(answer->output, "0\ntmutil: restic: unable to save snapshot: something new\n");
+        EXPECT_EQ(answer->output, "0\ntmutil: The backup was written, but cannot be found on the disk \"disk\".\n"
+                                  "tmutil: restic: unable to save snapshot: something new\n");
     }
 }
 
@@ -226,8 +236,8 @@ TEST_F(BackupIntegration, AWorkerKilledWhileItCleansUpHasMadeABackup)
     const QString id = practice_.addDisk(u"disk"_s);
     practice_.write(u"state/quillon-timemachine/history.plist"_s, "left by a damaged disk");
     startLongBackup();
-    // The list of snapshots is read next: a pipe among them, which nobody writes to, holds restic there.
-    const QString pipe = practice_.repository(u"disk"_s, id) + "/snapshots/"_L1 + QString(64, u'0');
+    // Locks that were left are removed first: a pipe among them, which nobody writes to, holds restic there.
+    const QString pipe = practice_.repository(u"disk"_s, id) + "/locks/"_L1 + QString(64, u'0');
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     ASSERT_TRUE(eventually([this] { return practice_.phase() == "ThinningPostBackup"_L1; }));
     kill(worker(), SIGKILL);

@@ -286,6 +286,8 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     const QDateTime date(QDate(2026, 11, 21), QTime(7, 22, 58), Qt::UTC);
     history.setLastBackup(second.id, date);
     history.setRecoveryKeyShown(first.id, date);
+    history.setBackups(second.id, {u"made elsewhere"_s, u"older"_s}, u"older"_s, 7);
+    history.setBackups(second.id, {u"older"_s, u"latest"_s}, u"latest"_s, 9);
     const auto xml = propertylist::parse(destinationXml(destinations(), history));
     ASSERT_TRUE(xml);
     const QVariantList entries = xml->toMap().value(u"Destinations"_s).toList();
@@ -301,6 +303,9 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     EXPECT_FALSE(entries[1].toMap().contains(u"MountPoint"_s)) << "it is not there";
     EXPECT_EQ(entries[1].toMap().value(u"RecoveryKeyMissing"_s), qlonglong{1});
     EXPECT_EQ(entries[1].toMap().value(u"Path"_s), second.path);
+    EXPECT_EQ(entries[1].toMap().value(u"Backups"_s),
+              (QVariantList{QVariantMap{{u"Name"_s, u"older"_s}, {u"BytesAdded"_s, 7LL}},
+                            QVariantMap{{u"Name"_s, u"latest"_s}, {u"BytesAdded"_s, 9LL}}}));
     EXPECT_EQ(entries[1].toMap().value(u"LastBackup"_s), date);
     EXPECT_EQ(entries[1].toMap().value(u"LastDestination"_s), qlonglong{0});
     history.setLastDestination(second.id);

@@ -137,7 +137,8 @@ TEST_F(DamageIntegration, WhatCanBeReadIsRestoredAndTheRestNamed)
 TEST_F(DamageIntegration, AVerificationFollowsABackupOnceAWeekAndGivesWayToTheNext)
 {
     ASSERT_TRUE(History::change(practice_.stateFolder(), [this](History& history) {
-        history.setLastVerification(id_, history.lastVerification(id_).addDays(-7), 3);
+        history.setLastVerification(id_, history.lastVerification(id_).addDays(-7));
+        history.setNextSlice(id_, {.tenth = 4});
     }));
     // A pipe that nobody writes to holds restic where it reads the index.
     const QString pipe = practice_.repository(u"disk"_s, id_) + "/index/"_L1 + QString(64, u'0');
@@ -149,7 +150,7 @@ TEST_F(DamageIntegration, AVerificationFollowsABackupOnceAWeekAndGivesWayToTheNe
     EXPECT_EQ(call({u"verify"_s}), static_cast<int>(ExitStatus::AlreadyRunning));
     EXPECT_EQ(call({u"stopbackup"_s}), 0);
     EXPECT_FALSE(isVerifying());
-    EXPECT_EQ(History(practice_.stateFolder()).verifiedSlice(id_), 3) << "it has not been verified";
+    EXPECT_EQ(History(practice_.stateFolder()).nextSlice(id_), Slice{.tenth = 4}) << "it has not been verified";
 
     QProcess verification;
     verification.start(practice_.executable(), {u"verify"_s});
@@ -158,7 +159,9 @@ TEST_F(DamageIntegration, AVerificationFollowsABackupOnceAWeekAndGivesWayToTheNe
     ASSERT_TRUE(backUpAndWatch());
     ASSERT_TRUE(verification.waitForFinished(60'000));
     EXPECT_EQ(verification.exitCode(), static_cast<int>(ExitStatus::Stopped));
-    EXPECT_TRUE(eventually([this] { return History(practice_.stateFolder()).verifiedSlice(id_) == 4; }));
+    EXPECT_TRUE(eventually([this] {
+        return History(practice_.stateFolder()).nextSlice(id_) == (Slice{.tenth = 4, .part = 1, .parts = 4});
+    })) << "two were interrupted";
     EXPECT_FALSE(practice_.status().contains(u"LastFailure"_s));
 }
 

@@ -1,6 +1,7 @@
 #include "BackupFixture.h"
 #include "ExitStatus.h"
 #include "History.h"
+#include "Snapshot.h"
 
 #include <sys/stat.h>
 
@@ -82,6 +83,45 @@ TEST_F(SourceLossIntegration, ASourceLostWhileItIsReadIsNoticedAndOneThatIsGiven
     EXPECT_EQ(backUp(), 0);
 }
 
+TEST_F(SourceLossIntegration, ABackupThatWasCutOffBeforeItWasLookedAtIsLookedAtByTheNext)
+{
+    const QString folder = practice_.path(second_);
+    const QString aside = practice_.path(u"aside"_s);
+    const auto begun = QDateTime::currentDateTimeUtc();
+    ASSERT_TRUE(QDir().rename(folder, aside) && QDir().mkdir(folder));
+    // What a worker leaves that is killed as soon as restic has ended.
+    ASSERT_EQ(
+        practice_.restic(u"disk"_s, id_, {u"backup"_s, u"--tag"_s, Snapshot::tag(true), practice_.source(), folder})
+            .status,
+        0);
+    History history(practice_.stateFolder());
+    history.setUncheckedSince(id_, begun);
+    ASSERT_TRUE(history.save());
+    ASSERT_TRUE(QDir().rmdir(folder) && QDir().rename(aside, folder));
+    giveToOrdinaryUser(practice_);
+    EXPECT_EQ(backUp(), 0);
+    const QByteArrayList names = practice_.run({u"listbackups"_s}).output.trimmed().split('\n');
+    ASSERT_EQ(names.size(), 3);
+    EXPECT_TRUE(!names[0].endsWith(".incomplete") && names[1].endsWith(".incomplete") &&
+                !names[2].endsWith(".incomplete"));
+}
+
+TEST_F(SourceLossIntegration, AFolderThatBackupsHaveLostToAnotherFileSystemIsToldOfUntilTheUserDecides)
+{
+    const auto answer = runWhereMountsAreAllowed(uR"(
+cd '%1' && mkdir hidden empty && echo only here >hidden/file || exit
+'%2' startbackup -b
+mount -t tmpfs none hidden && mount -t tmpfs none empty || exit
+for turn in 1 2; do '%2' startbackup -b | grep -o '[a-z]*".*on another file system'; done
+'%2' addexclusion '%1/hidden' && '%2' startbackup -b
+)"_s.arg(practice_.source(), practice_.executable()));
+    if (answer) {
+        EXPECT_EQ(answer->output, "hidden\", which held files before, is on another file system\n"
+                                  "hidden\", which held files before, is on another file system\n")
+            << answer->error.toStdString();
+    }
+}
+
 TEST_F(SourceLossIntegration, OtherFileSystemsAndCachesAreReadOnlyWhereTheyAreNamed)
 {
     const auto answer = runWhereMountsAreAllowed(uR"(
@@ -113,10 +153,16 @@ TEST_F(SourceLossIntegration, WhatNamesAndSizesLeaveOutIsToldBeforeItIsKept)
     EXPECT_EQ(practice_.run({u"excludename"_s, u"--try"_s, u"*.iso"_s}).output,
               "2 files of 30 bytes in all would be left out.\n");
     EXPECT_EQ(practice_.run({u"excludelarger"_s, u"--try"_s, u"2"_s}).output,
-              "1 files of 2000001 bytes in all would be left out.\n");
+              "1 file of 2000001 bytes would be left out.\n");
     EXPECT_EQ(call({u"excludename"_s, u"a/b"_s}), static_cast<int>(ExitStatus::NoInput));
     ASSERT_EQ(call({u"excludename"_s, u"*.iso"_s}), 0);
+    ASSERT_EQ(call({u"excludename"_s, u"source"_s}), 0); // what a source is in, or is called, leaves it in
     ASSERT_EQ(call({u"excludelarger"_s, u"2"_s}), 0);
+    EXPECT_EQ(practice_
+                  .run({u"isexcluded"_s, practice_.path(u"source/a.iso"_s), practice_.path(u"source/large"_s),
+                        practice_.path(u"source/kept.iso.txt"_s)})
+                  .output.count("[Excluded]"),
+              2);
     EXPECT_EQ(practice_.run({u"excludename"_s, u"--try"_s, u"*.iso"_s}).output,
               "0 files of 0 bytes in all would be left out.\n");
     giveToOrdinaryUser(practice_);

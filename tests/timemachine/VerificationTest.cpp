@@ -28,19 +28,48 @@ TEST(Verification, TellsWhatIsDamaged)
          {{pack}, {}}},
         {u"Fatal: no space left on device\n"_s, {}},
     };
-    for (const auto& [text, findings] : cases)
-        EXPECT_EQ(CheckFindings::of(text), findings) << text.toStdString();
+    for (const auto& [text, findings] : cases) {
+        CheckFindings read;
+        for (const QString& line : text.split(u'\n'))
+            read.readLine(line);
+        EXPECT_EQ(read, findings) << text.toStdString();
+    }
 }
 
 TEST(Verification, DamageThatResticDoesNotNameStandsUntilTheSameDataIsSound)
 {
-    const Damage found{.date = {}, .slice = 7};
-    EXPECT_TRUE(found.outlasts(1));
-    EXPECT_FALSE(found.outlasts(7));
-    EXPECT_FALSE(found.outlasts(0)) << "all of it";
-    EXPECT_FALSE((Damage{.date = {}, .repaired = true, .slice = 7}.outlasts(1)));
-    EXPECT_TRUE((Damage{.date = {}, .repaired = true, .slice = 7, .lasting = true}.outlasts(1)));
-    EXPECT_FALSE((Damage{.date = {}, .findings = {{u"c3b7"_s}, {}}, .slice = 7}.outlasts(1)));
+    const QString seventh = u"7/10"_s;
+    const Damage found{.date = {}, .subset = seventh};
+    EXPECT_TRUE(found.outlasts(u"1/10"_s));
+    EXPECT_TRUE(found.outlasts(u"7/20"_s));
+    EXPECT_FALSE(found.outlasts(seventh));
+    EXPECT_FALSE(found.outlasts({})) << "all of it";
+    EXPECT_FALSE((Damage{.date = {}, .repaired = true, .subset = seventh}.outlasts(u"1/10"_s)));
+    EXPECT_TRUE((Damage{.date = {}, .repaired = true, .subset = seventh, .lasting = true}.outlasts(u"1/10"_s)));
+    EXPECT_FALSE((Damage{.date = {}, .findings = {{u"c3b7"_s}, {}}, .subset = seventh}.outlasts(u"1/10"_s)));
+}
+
+TEST(Verification, ReadsAllDataInTenTurnsAndLessAtATimeWhileItIsInterrupted)
+{
+    Slice slice;
+    QStringList subsets;
+    for (int turn = 0; turn < Slice::tenths; ++turn, slice = slice.next())
+        subsets.append(slice.subset());
+    EXPECT_EQ(subsets.first(), u"1/10"_s);
+    EXPECT_EQ(subsets.last(), u"10/10"_s);
+    EXPECT_EQ(slice, Slice{});
+
+    const Slice quarter = slice.smaller().smaller();
+    subsets.clear();
+    for (slice = quarter; slice.tenth == 1; slice = slice.next())
+        subsets.append(slice.subset());
+    EXPECT_EQ(subsets, (QStringList{u"1/40"_s, u"11/40"_s, u"21/40"_s, u"31/40"_s}));
+    EXPECT_EQ(slice, (Slice{.tenth = 2, .part = 0, .parts = 2}));
+    for (int turn = 0; turn < 10; ++turn)
+        slice = slice.next().smaller();
+    EXPECT_EQ(slice.parts, Slice::mostParts);
+    EXPECT_EQ(Slice::fromDictionary(quarter.next().toDictionary()), quarter.next());
+    EXPECT_EQ(Slice::fromDictionary({}), Slice{});
 }
 
 TEST(Verification, TakesNoEndOfResticForDamageThatItDidNotSpeakOf)

@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "Commands.h"
 #include "Failure.h"
+#include "Output.h"
 #include "Paths.h"
 
 #include <QCoreApplication>
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <clocale>
-#include <cstdio>
 #include <memory>
 
 using namespace quillon;
@@ -43,7 +43,7 @@ int main(int argc, char** argv)
         runCommand(line);
         return static_cast<int>(ExitStatus::Success);
     } catch (const Failure& failure) {
-        std::fprintf(stderr, "tmutil: %s\n", failure.what());
+        printError(failure.message());
         return static_cast<int>(failure.status());
     }
 }

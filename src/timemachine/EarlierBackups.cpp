@@ -1,0 +1,68 @@
+#include "EarlierBackups.h"
+
+#include "Paths.h"
+#include "RepositoryFolder.h"
+
+#include <QSysInfo>
+
+#include <algorithm>
+#include <iterator>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+EarlierBackups::EarlierBackups(const RepositoryFolder& repository, Restic restic)
+    : repository_(repository)
+    , restic_(std::move(restic))
+{
+}
+
+bool EarlierBackups::heldFiles(const QString& folder, const QString& justMade)
+{
+    return heldFilesFrom(all().rbegin(), folder, justMade);
+}
+
+void EarlierBackups::markEmptied(const QDateTime& since)
+{
+    for (auto snapshot = all().rbegin(); snapshot != all().rend() && snapshot->time >= since; ++snapshot) {
+        const bool isEmptied =
+            snapshot->own && snapshot->complete && std::ranges::any_of(snapshot->sources, [&](const QString& source) {
+                return !holdsFile(*snapshot, source) && heldFilesFrom(std::next(snapshot), source);
+            });
+        if (isEmptied)
+            restic_.runUnlocking({u"tag"_s, u"--set"_s, Snapshot::tag(false), snapshot->id}).require();
+    }
+    snapshots_.reset(); // a changed one has another identifier
+}
+
+const std::vector<Snapshot>& EarlierBackups::all()
+{
+    if (!snapshots_) {
+        snapshots_ = snapshotsIn(repository_, restic_);
+        std::erase_if(*snapshots_,
+                      [](const Snapshot& snapshot) { return snapshot.host != QSysInfo::machineHostName(); });
+    }
+    return *snapshots_;
+}
+
+bool EarlierBackups::holdsFile(const Snapshot& snapshot, const QString& folder) const
+{
+    bool file = false;
+    restic_
+        .run({u"ls"_s, u"--json"_s, u"--no-lock"_s, u"--recursive"_s, snapshot.id, folder},
+             [&file](const QByteArray& line) { file = file || line.contains(R"("type":"file")"); })
+        .require();
+    return file;
+}
+
+bool EarlierBackups::heldFilesFrom(Latest begin, const QString& folder, const QString& justMade)
+{
+    const auto found = std::find_if(begin, all().rend(), [&](const Snapshot& snapshot) {
+        return snapshot.complete && (justMade.isEmpty() || !snapshot.id.startsWith(justMade)) &&
+               std::ranges::any_of(snapshot.sources, [&](const QString& source) { return covers(source, folder); });
+    });
+    return found != all().rend() && holdsFile(*found, folder);
+}
+
+} // namespace quillon

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Restic.h"
+#include "Snapshot.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// The backups that this computer had made before a run, to be held against what the run finds. They are read once
+/// they are asked for. All operations throw Failure.
+class EarlierBackups {
+public:
+    /// `repository` must outlive this object.
+    EarlierBackups(const RepositoryFolder& repository, Restic restic);
+
+    /// Whether the latest complete one of that folder has a file in it; `justMade`, an identifier or its beginning, is
+    /// none of them.
+    bool heldFiles(const QString& folder, const QString& justMade = {});
+
+    /// Of those made since then, the ones that lack a source which held files before become incomplete.
+    void markEmptied(const QDateTime& since);
+
+private:
+    const std::vector<Snapshot>& all();
+    bool holdsFile(const Snapshot& snapshot, const QString& folder) const;
+    using Latest = std::vector<Snapshot>::const_reverse_iterator;
+    bool heldFilesFrom(Latest begin, const QString& folder, const QString& justMade = {});
+
+    const RepositoryFolder& repository_;
+    Restic restic_;
+    std::optional<std::vector<Snapshot>> snapshots_;
+};
+
+} // namespace quillon
