@@ -1,6 +1,7 @@
 #include "ScreenFittingArea.h"
 
 #include "PopoverFrame.h"
+#include "WindowSystem.h"
 
 #include <QEvent>
 #include <QLayout>
@@ -8,6 +9,13 @@
 #include <QScrollBar>
 
 namespace quillon {
+
+namespace {
+
+// Where a program cannot place windows it is not told either how much of the screen the desktop's panels take.
+constexpr int roomForPanels = 80; // logical pixels, for two of them
+
+} // namespace
 
 ScreenFittingArea::ScreenFittingArea(QWidget* parent)
     : QScrollArea(parent)
@@ -29,7 +37,9 @@ QSize ScreenFittingArea::sizeHint() const
     if (!widget())
         return {};
     const QSize content = widget()->layout()->totalSizeHint();
-    const QSize room = screen()->availableGeometry().size() - 2 * QSize(popoverShadowExtent, popoverShadowExtent);
+    QSize room = screen()->availableGeometry().size() - 2 * QSize(popoverShadowExtent, popoverShadowExtent);
+    if (!windowsCanBePlaced())
+        room.rheight() -= roomForPanels;
     QSize size = content.boundedTo(room);
     if (size.height() < content.height())
         size.rwidth() = qMin(room.width(), content.width() + verticalScrollBar()->sizeHint().width());
