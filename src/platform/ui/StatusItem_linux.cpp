@@ -7,10 +7,15 @@
 #include <QDBusConnection>
 #include <QMenu>
 #include <QPointer>
+#include <QTimer>
+
+#include <chrono>
 
 namespace quillon {
 
 namespace {
+
+constexpr std::chrono::seconds hostReturns{2};
 
 class LinuxStatusItem final : public StatusItem {
 public:
@@ -43,6 +48,7 @@ private:
     std::unique_ptr<TrayStatusItem> tray_; ///< kept once it was made
     std::unique_ptr<MenuBarWindow> bar_;   ///< there while it is shown
     bool inTray_ = false;
+    QTimer barDelay_;
 };
 
 LinuxStatusItem::LinuxStatusItem(StatusItemPlacement placement)
@@ -52,6 +58,8 @@ LinuxStatusItem::LinuxStatusItem(StatusItemPlacement placement)
     connect(&colorScheme_, &ColorScheme::changed, this, applyColorScheme);
     connect(&statusNotifierHost_, &StatusNotifierHostWatcher::changed, this, &LinuxStatusItem::choose);
     connect(&xembedHost_, &XEmbedHostWatcher::changed, this, &LinuxStatusItem::choose);
+    barDelay_.setSingleShot(true);
+    connect(&barDelay_, &QTimer::timeout, this, &LinuxStatusItem::choose);
     choose();
 }
 
@@ -111,12 +119,18 @@ void LinuxStatusItem::choose()
     if (!statusNotifierHost_.isKnown()) // a bar that gives way at once would only flash
         return;
     if (trayIsThere()) {
+        barDelay_.stop();
         bar_.reset();
         showInTray();
+    } else if (placement_ == StatusItemPlacement::Automatic) {
+        // A host that is started anew is back soon, and a window that comes up meanwhile would take the keyboard.
+        if (inTray_)
+            barDelay_.start(hostReturns);
+        else if (!barDelay_.isActive())
+            showInBar();
+        hideInTray();
     } else {
         hideInTray();
-        if (placement_ == StatusItemPlacement::Automatic)
-            showInBar();
     }
 }
 
