@@ -3,6 +3,7 @@
 #include "MenuBarButton_linux.h"
 #include "ModalWindow.h"
 #include "ScreenStrip_linux.h"
+#include "WindowSystem.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -14,8 +15,15 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// What the frame of a small window needs for its title and its buttons, in logical pixels.
+constexpr int roomForFrame = 120;
+
+} // namespace
+
 MenuBarWindow::MenuBarWindow()
-    : isBar_(QGuiApplication::platformName() != "wayland"_L1)
+    : isBar_(windowsCanBePlaced())
     , button_(new MenuBarButton(this))
 {
     setObjectName(u"MenuBarWindow"_s);
@@ -30,10 +38,15 @@ MenuBarWindow::MenuBarWindow()
         connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &MenuBarWindow::followPrimaryScreen);
         followPrimaryScreen();
     } else {
+        setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinimizeButtonHint |
+                       Qt::WindowCloseButtonHint);
+        button_->setMinimumWidth(roomForFrame);
         layout->setSizeConstraint(QLayout::SetFixedSize);
     }
     layout->addWidget(button_);
     show();
+    if (!isBar_) // every new window is in front, and one that waits for an answer would lie beneath
+        QMetaObject::invokeMethod(this, &bringModalWindowToFront, Qt::QueuedConnection);
 }
 
 void MenuBarWindow::setContent(const StatusItemContent& content)

@@ -11,8 +11,10 @@ namespace quillon {
 bool bringModalWindowToFront()
 {
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal)
+    if (modal) {
+        openAnew(*modal);
         bringToFront(*modal);
+    }
     return modal;
 }
 

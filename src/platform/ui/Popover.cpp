@@ -30,6 +30,14 @@ QRect pointerOrCorner()
     return primary ? QRect(primary->availableGeometry().topRight(), QSize(1, 1)) : QRect();
 }
 
+/// Of where the user has put it away: a window cannot be seen whose owner cannot.
+void takeOut(QWidget& window)
+{
+    if (window.isMinimized())
+        window.showNormal();
+    openAnew(window);
+}
+
 bool isInput(QEvent::Type type)
 {
     switch (type) {
@@ -79,8 +87,8 @@ void Popover::showRelativeTo(const PopoverAnchor& anchor, RectEdge preferredEdge
     if (!shown_ && isVisible()) // still fading out
         hide();
     anchor_ = anchor;
-    if (anchor_.view && anchor_.view->window()->isMinimized())
-        anchor_.view->window()->showNormal();
+    if (anchor_.view && !qobject_cast<Popover*>(anchor_.view->window()))
+        takeOut(*anchor_.view->window());
     if (currentAnchor().isEmpty())
         anchor_.screenRect = pointerOrCorner();
     preferredEdge_ = preferredEdge;

@@ -14,6 +14,11 @@ bool windowsFade();
 /// Whether a program decides where its windows lie.
 bool windowsCanBePlaced();
 
+/// Opens a shown window anew where that is the only way to bring it to the front: Wayland lets no program raise a
+/// window or bring one back that the user has put away, but shows new ones. Does nothing elsewhere, nor to the active
+/// window.
+void openAnew(QWidget& window);
+
 /// Keeps a window that is about to be shown out of what lists windows: task bars, pagers.
 void keepOutOfWindowLists(QWidget& window);
 

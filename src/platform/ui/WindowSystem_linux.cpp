@@ -37,6 +37,14 @@ bool windowsCanBePlaced()
     return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
+void openAnew(QWidget& window)
+{
+    if (windowsCanBePlaced() || window.isActiveWindow() || !window.isVisible())
+        return;
+    window.hide();
+    window.show();
+}
+
 void keepOutOfWindowLists(QWidget& window)
 {
     xcb_connection_t* connection = x11Connection();

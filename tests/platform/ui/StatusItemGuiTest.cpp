@@ -298,10 +298,23 @@ TEST(StatusItemOnWayland, IsASmallWindowWithATitleUntilThereIsATray)
     EXPECT_TRUE(eventually([&] { return compositor.messages().contains("set_window_geometry"); }));
     EXPECT_FALSE(compositor.messages().contains(bare));
 
-    probe.tell(u"title 1|2"_s);
-    EXPECT_TRUE(eventually([&] { return probe.bar() && probe.bar()->width() < window.width(); })) << "no empty ground";
+    probe.tell(u"title Next: 1 day, 2 hours and 3 minutes|2"_s);
+    EXPECT_TRUE(eventually([&] { return probe.bar() && probe.bar()->width() > window.width(); }));
+    probe.tell(u"title"_s);
+    EXPECT_TRUE(eventually([&] { return probe.bar() && probe.bar()->width() < smallWidth; })) << "no empty ground";
+    constexpr int frame = 120;
+    EXPECT_GE(probe.bar()->width(), frame) << "the title and the buttons of the frame have room";
     probe.tell(u"press"_s);
     EXPECT_TRUE(eventually([&] { return probe.isMenuOpen(); }));
+    probe.tell(u"press"_s);
+
+    // No program can raise a window there: one that waits for an answer is opened anew.
+    const auto opened = [&] { return compositor.messages().count("get_toplevel"); };
+    const auto before = opened();
+    probe.tell(u"alert"_s);
+    ASSERT_TRUE(eventually([&] { return opened() == before + 1; }));
+    probe.tell(u"press"_s);
+    EXPECT_TRUE(eventually([&] { return opened() == before + 2; }));
 
     FakeStatusNotifierTray tray(bus.connect(u"desktop"_s));
     EXPECT_TRUE(eventually([&] { return tray.items().size() == 1 && !probe.bar(); }));
