@@ -1,16 +1,18 @@
 #!/usr/bin/env python3
-"""Compiles every source of the macOS build to a Mach-O object, on Linux.
+"""Compiles every source of the macOS build to a Mach-O object, on Linux, and looks whether they fit together.
 
-usage: check_macos.py ROOT; exit status 1 when one does not compile or is not part of the build.
+usage: check_macos.py ROOT; exit status 1 when one does not compile, is not part of the build, or wants what is nowhere.
 
 What is compiled, with which warnings, is what CMake says for macOS (preset `macos`); the compiler comes from the npm
-package that tools/macos/package-lock.json pins. Linking needs Qt for macOS and is not tried.
+package that tools/macos/package-lock.json pins. Linking needs Qt for macOS; in its place the objects' symbols are
+compared: this project's own with each other, those of Qt, ICU and libplist with the libraries of the host.
 """
 
 import hashlib
 import json
 import os
 import platform
+import re
 import shlex
 import shutil
 import struct
@@ -22,6 +24,16 @@ LINUX_ONLY_FOLDERS = ("timemachine", "disks")
 # <mach-o/loader.h>: MH_MAGIC_64, CPU_TYPE_ARM64, any subtype, MH_OBJECT
 MACH_O_OBJECT = struct.Struct("<IIxxxxI")
 ARM64_OBJECT = (0xFEEDFACF, 0x0100000C, 1)
+LC_SYMTAB = 2
+NLIST = struct.Struct("<IBBHQ")  # <mach-o/nlist.h>: nlist_64
+N_STAB, N_TYPE, N_EXT, N_UNDF = 0xE0, 0x0E, 0x01, 0x00
+
+HOST_LIBRARIES = ("Qt6Core", "Qt6Gui", "Qt6Widgets", "Qt6Network", "Qt6Svg", "libplist-2.0", "icu-i18n", "icu-uc")
+LIBRARY_FILES = {"libplist-2.0": "plist-2.0", "icu-i18n": "icui18n", "icu-uc": "icuuc"}
+# C++ but for the standard library, whose names differ between libc++ and libstdc++; libplist; ICU with its version.
+COMPARABLE = re.compile(r"__Z(?!.*St3__1)(?!(?:N|NK|T[ISV])?S[ta])(?!T[ISV]?N10__cxxabi)(?!n[aw]|d[al])"
+                        r"|_plist_|_u\w+_\d+$")
+BRIDGE = re.compile(r"\d(?:to|from)(?:CF|NS)[A-Z]")
 
 
 def macos_sources(root):
@@ -47,6 +59,52 @@ def is_macos_object(path):
     except FileNotFoundError:
         return False
     return len(head) == MACH_O_OBJECT.size and MACH_O_OBJECT.unpack(head) == ARM64_OBJECT
+
+
+def symbols(path):
+    """Names of an object's external symbols, and whether it wants them: <mach-o/loader.h>, <mach-o/nlist.h>."""
+    data = path.read_bytes()
+    commands, = struct.unpack_from("<I", data, 16)
+    place = 32
+    for _ in range(commands):
+        command, size = struct.unpack_from("<II", data, place)
+        if command == LC_SYMTAB:
+            first, count, texts = struct.unpack_from("<III", data, place + 8)
+            for index in range(count):
+                text, kind, _section, _description, value = NLIST.unpack_from(data, first + NLIST.size * index)
+                if kind & N_EXT and not kind & N_STAB:
+                    name = data[texts + text:data.index(b"\0", texts + text)].decode()
+                    yield name, kind & N_TYPE == N_UNDF and value == 0
+        place += size
+
+
+def host_symbols():
+    """What the host's libraries define, spelt as on macOS."""
+    found = set()
+    for name in HOST_LIBRARIES:
+        folder = subprocess.run(["pkg-config", "--variable=libdir", name], capture_output=True, text=True, check=True)
+        library = Path(folder.stdout.strip()) / f"lib{LIBRARY_FILES.get(name, name)}.so"
+        listed = subprocess.run(["nm", "-D", "--defined-only", library], capture_output=True, text=True, check=True)
+        # The tag of libstdc++'s texts is the host's own.
+        found.update("_" + line.split()[-1].partition("@")[0].replace("B5cxx11", "")
+                     for line in listed.stdout.splitlines())
+    return found
+
+
+def wanted_in_vain(paths):
+    """Symbols that the objects want and nobody has, and how many can't be looked for: those of macOS itself, of its C
+    and C++ libraries, and Qt's bridges to them are on no other system."""
+    defined, wanted = set(), {}
+    for path in paths:
+        for name, is_wanted in symbols(path):
+            if is_wanted:
+                wanted.setdefault(name, path)
+            else:
+                defined.add(name)
+    host = host_symbols()
+    missing = {name: path for name, path in wanted.items() if name not in defined and name not in host}
+    in_vain = {name: path for name, path in missing.items() if COMPARABLE.match(name) and not BRIDGE.search(name)}
+    return in_vain, len(missing) - len(in_vain)
 
 
 def install_compiler(root):
@@ -97,7 +155,13 @@ def main():
     for path in sorted(missing) if not compiled.returncode else ():  # else the compiler has said what is wrong
         print(f"macos: {path.relative_to(root)} is no Mach-O object for arm64")
     print(f"macos: {len(found) - len(missing)} of {len(found)} objects compiled")
-    return 1 if forgotten or missing or compiled.returncode else 0
+    if forgotten or missing or compiled.returncode:
+        return 1
+    in_vain, foreign = wanted_in_vain(found.values())
+    for name, path in sorted(in_vain.items()):
+        print(f"macos: {path.relative_to(build)} wants {name}, which is nowhere")
+    print(f"macos: {len(in_vain)} symbols are wanted in vain; {foreign} of macOS itself can't be looked for here")
+    return 1 if in_vain else 0
 
 
 if __name__ == "__main__":
