@@ -51,11 +51,17 @@ void destinationInfo(const Folders& folders, bool xml)
               : destinationText(configuration.destinations(), history));
 }
 
+/// Under the worker's lock, so that no backup to that disk begins meanwhile.
 void removeDestination(const Folders& folders, const QString& id)
 {
-    const auto run = RunState::current(folders.state);
-    if (run && run->destinationId.compare(id, Qt::CaseInsensitive) == 0)
-        throw Failure(ExitStatus::AlreadyRunning, u"A backup to this disk is running. Stop it first."_s);
+    makePrivateFolder(folders.state);
+    ProcessLock lock(RunState::lockPath(folders.state));
+    if (!lock.tryLock()) {
+        const auto run = RunState::current(folders.state);
+        if (!run || run->destinationId.compare(id, Qt::CaseInsensitive) == 0)
+            throw Failure(ExitStatus::AlreadyRunning,
+                          u"A backup to this disk is running, or about to. Stop it first."_s);
+    }
     Configuration(folders).removeDestination(id);
 }
 

@@ -93,14 +93,15 @@ Failure endOf(const BackupResult& result)
 
 Worker::Worker(const Folders& folders)
     : folders_(folders)
-    , configuration_(folders)
 {
 }
 
 void Worker::run(const QString& destinationId)
 {
     lowerToUtilityPriority();
-    const Destination destination = namedDestination(configuration_.destinations(), destinationId);
+    takeLock();
+    const Configuration configuration(folders_); // what removes a disk holds the lock as well
+    const Destination destination = namedDestination(configuration.destinations(), destinationId);
     begin(destination);
     const CallerChannel caller;
     caller.tellReady();
@@ -110,7 +111,7 @@ void Worker::run(const QString& destinationId)
     history.setLastDestination(destination.id);
     history.save();
     connectStop();
-    const BackupResult result = backUp(destination, history);
+    const BackupResult result = backUp(destination, configuration, history);
     record(result, history);
     waitUntilSeen(result);
 
@@ -123,10 +124,10 @@ void Worker::run(const QString& destinationId)
 }
 
 /// The disk is let go of when it is done.
-BackupResult Worker::backUp(const Destination& destination, History& history)
+BackupResult Worker::backUp(const Destination& destination, const Configuration& configuration, History& history)
 {
     const QString begun = statusDate(QDateTime::currentDateTimeUtc());
-    Backup backup(destination, configuration_, folders_, history, stop_,
+    Backup backup(destination, configuration, folders_, history, stop_,
                   [this](QLatin1StringView phase, const auto& progress) { show(phase, progress); });
     const BackupResult result = backup.run();
     RunLog log = backup.log();
@@ -140,24 +141,27 @@ BackupResult Worker::backUp(const Destination& destination, History& history)
     return result;
 }
 
-void Worker::begin(const Destination& destination)
+void Worker::takeLock()
 {
     makePrivateFolder(folders_.state);
     lock_.emplace(RunState::lockPath(folders_.state));
     const QDeadlineTimer limit(lockWait);
     // Asked before the lock is held, which a look at its holder would drop.
-    auto abandoned = RunState::abandoned(folders_.state);
+    abandoned_ = RunState::abandoned(folders_.state);
     while (!lock_->tryLock()) {
         if (RunState::current(folders_.state) || limit.hasExpired())
             throw Failure(ExitStatus::AlreadyRunning, u"A backup is already running."_s);
         QThread::msleep(20);
-        abandoned = RunState::abandoned(folders_.state);
+        abandoned_ = RunState::abandoned(folders_.state);
     }
+}
 
+void Worker::begin(const Destination& destination)
+{
     removeUnfinishedFiles(folders_.state);
-    if (abandoned) {
+    if (abandoned_) {
         History history(folders_.state);
-        history.setLastFailure(abandoned->destinationId, abandoned->interruption());
+        history.setLastFailure(abandoned_->destinationId, abandoned_->interruption());
         history.save();
     }
     ReportMarks(folders_.state).clear();

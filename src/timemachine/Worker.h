@@ -24,8 +24,9 @@ public:
     void run(const QString& destinationId);
 
 private:
+    void takeLock();
     void begin(const Destination& destination);
-    BackupResult backUp(const Destination& destination, History& history);
+    BackupResult backUp(const Destination& destination, const Configuration& configuration, History& history);
     void connectStop();
     bool show(QLatin1StringView phase, const std::optional<BackupProgress>& progress = {});
     void record(const BackupResult& result, History& history) const;
@@ -33,8 +34,8 @@ private:
     void verifyIfDue(const Destination& destination) const;
 
     Folders folders_;
-    Configuration configuration_;
     std::optional<ProcessLock> lock_;
+    std::optional<RunState> abandoned_; ///< of a worker that died before this one
     StopRequest stop_;
     RunState state_;
     QDeadlineTimer nextProgress_; ///< not before then
