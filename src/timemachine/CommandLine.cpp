@@ -41,16 +41,16 @@ constexpr std::array syntaxes{
     Syntax{"listexclusions"_L1, Command::ListExclusions, "Xa"_L1, "[-X | -a]"_L1, 0, 0},
     Syntax{"isexcluded"_L1, Command::IsExcluded, ""_L1, "PATH..."_L1, 1, any},
     Syntax{"verify"_L1, Command::Verify, "dA"_L1, "[-d ID] [--all]"_L1, 0, 0},
-    Syntax{"recoverykey"_L1, Command::RecoveryKey, "d"_L1, "[-d ID]"_L1, 0, 0},
+    Syntax{"recoverykey"_L1, Command::RecoveryKey, "XKd"_L1, "[-X | --kept KEYID] [-d ID]"_L1, 0, 0},
     Syntax{"adopt"_L1, Command::Adopt, ""_L1, "PATH"_L1, 1, 1},
     Syntax{"deletebackup"_L1, Command::DeleteBackup, ""_L1, "NAME..."_L1, 1, any},
     Syntax{"log"_L1, Command::Log, ""_L1, "[NAME]"_L1, 0, 1},
     Syntax{"listunread"_L1, Command::ListUnread, "X"_L1, "[-X] [NAME]"_L1, 0, 1},
     Syntax{"retention"_L1, Command::Retention, "HDW"_L1, "[--hourly N] [--daily N] [--weekly N]"_L1, 0, 0},
-    Syntax{"excludename"_L1, Command::ExcludeName, "T"_L1, "[--try] PATTERN..."_L1, 1, any},
+    Syntax{"excludename"_L1, Command::ExcludeName, "TX"_L1, "[--try [-X]] PATTERN..."_L1, 1, any},
     Syntax{"includename"_L1, Command::IncludeName, ""_L1, "PATTERN..."_L1, 1, any},
-    Syntax{"excludelarger"_L1, Command::ExcludeLarger, "T"_L1, "[--try] MEGABYTES"_L1, 1, 1},
-    Syntax{"diskusage"_L1, Command::DiskUsage, ""_L1, ""_L1, 0, 0},
+    Syntax{"excludelarger"_L1, Command::ExcludeLarger, "TX"_L1, "[--try [-X]] MEGABYTES"_L1, 1, 1},
+    Syntax{"diskusage"_L1, Command::DiskUsage, "X"_L1, "[-X]"_L1, 0, 0},
     Syntax{"runbackup"_L1, Command::RunBackup, "d"_L1, ""_L1, 0, 0},
     Syntax{"help"_L1, Command::Help, ""_L1, ""_L1, 0, 0},
 };
@@ -79,7 +79,7 @@ char optionLetter(const QString& argument, const Syntax& syntax)
     static constexpr std::array spellings{std::pair{"--block"_L1, 'b'}, std::pair{"--rotation"_L1, 'r'},
                                           std::pair{"--all"_L1, 'A'},   std::pair{"--hourly"_L1, 'H'},
                                           std::pair{"--daily"_L1, 'D'}, std::pair{"--weekly"_L1, 'W'},
-                                          std::pair{"--try"_L1, 'T'}};
+                                          std::pair{"--try"_L1, 'T'},   std::pair{"--kept"_L1, 'K'}};
     // Capital letters but X stand for what is spelled out only.
     char letter =
         argument.size() == 2 && (argument == "-X"_L1 || !argument[1].isUpper()) ? argument[1].toLatin1() : '\0';
@@ -102,6 +102,15 @@ int numberAfter(QStringList::const_iterator& option, QStringList::const_iterator
     if (!isNumber || number < 0 || number > most)
         refuse(u"\"%1\" wants a number of backups, up to %2."_s.arg(name).arg(most));
     return number;
+}
+
+/// The identifier that follows an option, which is stepped over.
+QString identifierAfter(QStringList::const_iterator& option, QStringList::const_iterator end)
+{
+    const QString name = *option;
+    if (++option == end || option->isEmpty())
+        refuse(u"\"%1\" wants an identifier."_s.arg(name));
+    return *option;
 }
 
 } // namespace
@@ -154,14 +163,16 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             line.keep.weekly = numberAfter(argument, arguments.cend());
             break;
         case 'd':
-            if (++argument == arguments.cend() || argument->isEmpty())
-                refuse(u"\"-d\" wants the identifier of a backup disk."_s);
-            line.destination = *argument;
+            line.destination = identifierAfter(argument, arguments.cend());
+            break;
+        case 'K':
+            line.keptKey = identifierAfter(argument, arguments.cend());
             break;
         }
     }
     if (line.operands.size() < syntax.leastOperands || line.operands.size() > syntax.mostOperands ||
-        line.operands.contains(QString()) || (line.rotate && !line.destination.isEmpty()))
+        line.operands.contains(QString()) || (line.rotate && !line.destination.isEmpty()) ||
+        (line.xml && (!line.keptKey.isEmpty() || (syntax.options.contains(u'T') && !line.trial))))
         refuse(syntax);
     return line;
 }

@@ -49,6 +49,7 @@ struct CommandLine {
     bool all = false;              ///< --all
     bool trial = false;            ///< --try
     QString destination;           ///< -d ID; empty when absent
+    QString keptKey;               ///< --kept KEYID; empty when absent
     KeepRules keep = {-1, -1, -1}; ///< --hourly, --daily, --weekly; -1 where absent
     QStringList operands;
 

@@ -4,13 +4,14 @@
 #include "Configuration.h"
 #include "DestinationChoice.h"
 #include "DestinationReport.h"
+#include "ExclusionCommands.h"
 #include "Failure.h"
+#include "FolderTree.h"
 #include "Folders.h"
 #include "History.h"
+#include "KeyStore.h"
 #include "Output.h"
-#include "Paths.h"
 #include "ProcessLock.h"
-#include "PropertyList.h"
 #include "RepositoryFolder.h"
 #include "Restic.h"
 #include "Restore.h"
@@ -18,14 +19,12 @@
 #include "RunLog.h"
 #include "SetupCommands.h"
 #include "Snapshot.h"
-#include "SourceSet.h"
 #include "StatusReport.h"
 #include "StopRequest.h"
 #include "Verification.h"
 #include "Worker.h"
 #include "WorkerProcess.h"
 
-#include <QFileInfo>
 #include <QStorageInfo>
 
 #include <algorithm>
@@ -47,8 +46,9 @@ void destinationInfo(const Folders& folders, bool xml)
 {
     const Configuration configuration(folders);
     const History history(folders.state);
-    print(xml ? destinationXml(configuration.destinations(), history)
-              : destinationText(configuration.destinations(), history));
+    const KeyStore keys(folders.configuration);
+    print(xml ? destinationXml(configuration.destinations(), history, keys)
+              : destinationText(configuration.destinations(), history, keys));
 }
 
 /// Under the worker's lock, so that no backup to that disk begins meanwhile.
@@ -70,37 +70,7 @@ void printPaths(const QStringList& paths, bool xml)
 {
     if (!xml)
         return print(paths);
-    const auto list = propertylist::toXml(QVariantList(paths.begin(), paths.end()));
-    if (!list)
-        throw Failure(ExitStatus::Configuration, u"A path cannot be written as XML."_s);
-    print(*list);
-}
-
-/// Those that nobody has named come with the reason why they are left out.
-void listAllExclusions(const Folders& folders)
-{
-    const Configuration configuration(folders);
-    QStringList lines = configuration.exclusions();
-    for (const QString& name : configuration.excludedNames())
-        lines.append(u"%1 (by name)"_s.arg(name));
-    if (configuration.largestFile() > 0)
-        lines.append(u"files of more than %1 bytes"_s.arg(configuration.largestFile()));
-    for (const auto& [path, reason] : SourceSet::of(configuration, folders).automatic)
-        lines.append(u"%1 (%2)"_s.arg(path, reason));
-    print(lines << u"folders with a CACHEDIR.TAG (caches)"_s);
-}
-
-void isExcluded(const Folders& folders, const QStringList& paths)
-{
-    const SourceSet set = SourceSet::of(Configuration(folders), folders);
-    QStringList lines;
-    for (const QString& path : paths) {
-        const QString own = ownPath(path);
-        if (const QFileInfo file(own); !file.exists() && !file.isSymLink())
-            throw Failure(ExitStatus::NoInput, u"\"%1\" does not exist."_s.arg(path));
-        lines.append((set.contains(own) ? "[Included]    "_L1 : "[Excluded]    "_L1) + own);
-    }
-    print(lines);
+    printXml(QVariantList(paths.begin(), paths.end()));
 }
 
 void startBackup(const Folders& folders, const CommandLine& line)
@@ -134,6 +104,15 @@ RepositoryFolder openRepository(const Destination& destination)
     if (!repository->hasConfig() && repository->isEmpty())
         throw Failure(ExitStatus::NoBackup, u"There are no backups."_s);
     return std::move(*repository);
+}
+
+void recoveryKey(const Folders& folders, const CommandLine& line)
+{
+    const Destination destination = chosenDestination(folders, line.destination);
+    if (line.keptKey.isEmpty())
+        renewRecoveryKey(folders, destination, line.xml);
+    else
+        keepRecoveryKey(folders, destination, line.keptKey);
 }
 
 void verify(const Folders& folders, const CommandLine& line)
@@ -210,26 +189,16 @@ void retention(const Folders& folders, const KeepRules& rules)
         u"%1 hourly, %2 daily and %3 weekly backups are kept."_s.arg(now.hourly).arg(now.daily).arg(now.weekly)));
 }
 
-void tryExclusion(const Folders& folders, const QStringList& names, qlonglong largest)
+/// For those who show it beside a disk: it takes no look into the backups.
+void diskUsageXml(const Folders& folders)
 {
-    const auto omission = SourceSet::of(Configuration(folders), folders).omittedBy(names, largest);
-    print(
-        QStringList(omission.files == 1
-                        ? u"1 file of %1 bytes would be left out."_s.arg(omission.bytes)
-                        : u"%1 files of %2 bytes in all would be left out."_s.arg(omission.files).arg(omission.bytes)));
-}
-
-void excludeLarger(const Folders& folders, const CommandLine& line)
-{
-    bool isNumber = false;
-    const qlonglong megabytes = line.operands.first().toLongLong(&isNumber);
-    constexpr qlonglong most = 1'000'000'000;
-    if (!isNumber || megabytes < 0 || megabytes > most)
-        throw Failure(ExitStatus::Usage, u"\"%1\" is no number of megabytes."_s.arg(line.operands.first()));
-    constexpr qlonglong bytes = 1'000'000;
-    if (line.trial)
-        return tryExclusion(folders, {}, megabytes * bytes);
-    Configuration(folders).setLargestFile(megabytes * bytes);
+    const Configuration configuration(folders);
+    QVariantList disks;
+    for (const Destination& destination : configuration.destinations()) {
+        if (destination.isPresent())
+            disks.append(QVariantMap{{u"ID"_s, destination.id}, {u"Bytes"_s, sizeOfFolder(destination.repository())}});
+    }
+    printXml(disks);
 }
 
 /// What a backup has added is known of the runs that are logged; most of it is shared with others.
@@ -242,8 +211,10 @@ void diskUsage(const Folders& folders)
         if (!repository)
             continue;
         const QStorageInfo room(destination.path);
-        QStringList lines{
-            u"%1: %2 of %3 bytes are free."_s.arg(destination.path).arg(room.bytesAvailable()).arg(room.bytesTotal())};
+        QStringList lines{u"%1: the backups take %2 bytes, %3 of %4 bytes are free."_s.arg(destination.path)
+                              .arg(sizeOfFolder(destination.repository()))
+                              .arg(room.bytesAvailable())
+                              .arg(room.bytesTotal())};
         for (const Snapshot& snapshot : snapshotsIn(*repository, Restic(*repository, folders, nullptr))) {
             const auto run = std::ranges::find(runs, snapshot.name(), &RunLog::backup);
             lines.append(
@@ -341,13 +312,13 @@ void runCommand(const CommandLine& line)
     case Command::ListExclusions:
         if (line.append)
             return listAllExclusions(folders);
-        return printPaths(Configuration(folders).exclusions(), line.xml);
+        return listExclusions(folders, line.xml);
     case Command::IsExcluded:
         return isExcluded(folders, line.operands);
     case Command::Verify:
         return verify(folders, line);
     case Command::RecoveryKey:
-        return renewRecoveryKey(folders, line.destination);
+        return recoveryKey(folders, line);
     case Command::Adopt:
         return adopt(folders, line.operands.first());
     case Command::DeleteBackup:
@@ -359,15 +330,13 @@ void runCommand(const CommandLine& line)
     case Command::Retention:
         return retention(folders, line.keep);
     case Command::ExcludeName:
-        if (line.trial)
-            return tryExclusion(folders, line.operands, 0);
-        return Configuration(folders).addExcludedNames(line.operands);
+        return excludeNames(folders, line.operands, line.trial, line.xml);
     case Command::IncludeName:
         return Configuration(folders).removeExcludedNames(line.operands);
     case Command::ExcludeLarger:
-        return excludeLarger(folders, line);
+        return excludeLarger(folders, line.operands.first(), line.trial, line.xml);
     case Command::DiskUsage:
-        return diskUsage(folders);
+        return line.xml ? diskUsageXml(folders) : diskUsage(folders);
     case Command::RunBackup:
         return runBackup(folders, line.destination);
     case Command::Help:

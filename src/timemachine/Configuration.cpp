@@ -240,17 +240,24 @@ qlonglong Configuration::largestFile() const
     return contents_.value(largestKey).toLongLong();
 }
 
+void Configuration::requireNames(const QStringList& patterns)
+{
+    for (const QString& pattern : patterns) {
+        requireStorable(pattern);
+        // What else restic takes for a pattern is not what people mean by it.
+        if (pattern.contains(u'/') || pattern.contains(u'[') || pattern.contains(u'\\'))
+            throw Failure(
+                ExitStatus::NoInput,
+                u"\"%1\" is no name: of what restic takes for a pattern only * and ? are known."_s.arg(pattern));
+    }
+}
+
 void Configuration::addExcludedNames(const QStringList& patterns)
 {
+    requireNames(patterns);
     change([&] {
         QStringList all = excludedNames();
         for (const QString& pattern : patterns) {
-            requireStorable(pattern);
-            // What else restic takes for a pattern is not what people mean by it.
-            if (pattern.contains(u'/') || pattern.contains(u'[') || pattern.contains(u'\\'))
-                throw Failure(
-                    ExitStatus::NoInput,
-                    u"\"%1\" is no name: of what restic takes for a pattern only * and ? are known."_s.arg(pattern));
             if (!all.contains(pattern))
                 all.append(pattern);
         }

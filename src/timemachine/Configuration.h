@@ -57,6 +57,7 @@ public:
     /// bytes; 0 stands for any.
     QStringList excludedNames() const;
     qlonglong largestFile() const;
+    static void requireNames(const QStringList& patterns);
     void addExcludedNames(const QStringList& patterns);
     void removeExcludedNames(const QStringList& patterns);
     void setLargestFile(qlonglong bytes);

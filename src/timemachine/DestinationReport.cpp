@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "History.h"
+#include "KeyStore.h"
 #include "PropertyList.h"
 
 #include <QStorageInfo>
@@ -10,7 +11,7 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-QByteArray destinationText(const std::vector<Destination>& destinations, const History& history)
+QByteArray destinationText(const std::vector<Destination>& destinations, const History& history, const KeyStore& keys)
 {
     if (destinations.empty())
         return "No destinations configured.\n";
@@ -21,13 +22,13 @@ QByteArray destinationText(const std::vector<Destination>& destinations, const H
         if (destination.isPresent())
             text += "Mount Point   : "_L1 + destination.path + u'\n';
         text += "ID            : "_L1 + destination.id + u'\n';
-        if (!history.recoveryKeyShown(destination.id).isValid())
-            text += "Recovery Key  : not shown yet; \"tmutil recoverykey -d ID\" makes one and shows it\n"_L1;
+        if (keys.keptRecoveryKey(destination.id).isEmpty())
+            text += "Recovery Key  : not kept yet; \"tmutil recoverykey -d ID\" makes one and shows it\n"_L1;
     }
     return text.toUtf8();
 }
 
-QByteArray destinationXml(const std::vector<Destination>& destinations, const History& history)
+QByteArray destinationXml(const std::vector<Destination>& destinations, const History& history, const KeyStore& keys)
 {
     QVariantList entries;
     for (const Destination& destination : destinations) {
@@ -48,7 +49,7 @@ QByteArray destinationXml(const std::vector<Destination>& destinations, const Hi
             entry.insert(u"LastBackup"_s, last);
         if (const QVariantList backups = history.backups(destination.id); !backups.isEmpty())
             entry.insert(u"Backups"_s, backups);
-        if (!history.recoveryKeyShown(destination.id).isValid())
+        if (keys.keptRecoveryKey(destination.id).isEmpty())
             entry.insert(u"RecoveryKeyMissing"_s, qlonglong{1});
         entries.append(entry);
     }

@@ -1,5 +1,7 @@
 #include "FolderTree.h"
 
+#include <QDirIterator>
+
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
@@ -49,6 +51,15 @@ void removeFolderTree(int parentDescriptor, const char* name)
         close(descriptor);
     }
     unlinkat(parentDescriptor, name, AT_REMOVEDIR);
+}
+
+qlonglong sizeOfFolder(const QString& path)
+{
+    qlonglong bytes = 0;
+    for (QDirIterator files(path, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDirIterator::Subdirectories);
+         files.hasNext();)
+        bytes += files.nextFileInfo().size();
+    return bytes;
 }
 
 } // namespace quillon

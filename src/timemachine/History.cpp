@@ -45,16 +45,6 @@ void History::setLastBackup(const QString& destinationId, const QDateTime& date)
     setOfDestination(destinationId, u"LastBackup"_s, date.isValid() ? QVariant(date.toUTC()) : QVariant());
 }
 
-QDateTime History::recoveryKeyShown(const QString& destinationId) const
-{
-    return ofDestination(destinationId, u"RecoveryKeyShown"_s).toDateTime();
-}
-
-void History::setRecoveryKeyShown(const QString& destinationId, const QDateTime& date)
-{
-    setOfDestination(destinationId, u"RecoveryKeyShown"_s, date.isValid() ? QVariant(date.toUTC()) : QVariant());
-}
-
 void History::noteNewRepository(const QString& destinationId)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();

@@ -28,10 +28,6 @@ public:
     QDateTime lastBackup(const QString& destinationId) const;
     void setLastBackup(const QString& destinationId, const QDateTime& date);
 
-    /// When a recovery key of that disk was shown to the user, or typed in; invalid where nobody may have seen one.
-    QDateTime recoveryKeyShown(const QString& destinationId) const;
-    void setRecoveryKeyShown(const QString& destinationId, const QDateTime& date);
-
     /// There is nothing to prune or to verify in a new repository.
     void noteNewRepository(const QString& destinationId);
 

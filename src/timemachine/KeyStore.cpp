@@ -15,6 +15,20 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+void writePrivateLine(const QString& path, const QString& text)
+{
+    const QByteArray line = text.toUtf8() + '\n';
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) ||
+        file.write(line) != line.size() || !file.commit())
+        throw Failure(ExitStatus::CannotWrite,
+                      u"The key file \"%1\" cannot be written: %2."_s.arg(path, file.errorString()));
+}
+
+} // namespace
+
 KeyStore::KeyStore(const QString& configurationFolder)
     : folder_(configurationFolder + "/keys"_L1)
 {
@@ -47,13 +61,27 @@ void KeyStore::store(const QString& destinationId, const QString& key) const
 {
     makePrivateFolder(folder_);
     const QString aside = path(destinationId) + u'.' + QUuid::createUuid().toString(QUuid::Id128).left(8);
-    const QByteArray line = key.toUtf8() + '\n';
-    QSaveFile file(path(destinationId));
-    if ((contains(destinationId) && !QFile::copy(path(destinationId), aside)) || !file.open(QIODevice::WriteOnly) ||
-        !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) || file.write(line) != line.size() ||
-        !file.commit())
-        throw Failure(ExitStatus::CannotWrite,
-                      u"The key file \"%1\" cannot be written: %2."_s.arg(path(destinationId), file.errorString()));
+    if (contains(destinationId) && !QFile::copy(path(destinationId), aside))
+        throw Failure(ExitStatus::CannotWrite, u"The key file \"%1\" cannot be written."_s.arg(aside));
+    writePrivateLine(path(destinationId), key);
+}
+
+QString KeyStore::keptPath(const QString& destinationId) const
+{
+    return folder_ + u'/' + destinationId + ".recovery"_L1;
+}
+
+QString KeyStore::keptRecoveryKey(const QString& destinationId) const
+{
+    QFile file(keptPath(destinationId));
+    constexpr qint64 longest = 100;
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readLine(longest)).trimmed() : QString();
+}
+
+void KeyStore::setKeptRecoveryKey(const QString& destinationId, const QString& identifier) const
+{
+    makePrivateFolder(folder_);
+    writePrivateLine(keptPath(destinationId), identifier);
 }
 
 } // namespace quillon

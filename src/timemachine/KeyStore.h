@@ -5,7 +5,7 @@
 namespace quillon {
 
 /// The keys of the repositories, a file each, readable by the user only: restic's password files. A key is never
-/// removed or overwritten, since without it the backups are lost.
+/// removed or overwritten, since without it the backups are lost. Beside it stands which recovery key the user has.
 class KeyStore {
 public:
     explicit KeyStore(const QString& configurationFolder);
@@ -22,7 +22,14 @@ public:
     /// Keeps that key. One that is there is put aside beside it, under a longer name. Throws Failure.
     void store(const QString& destinationId, const QString& key) const;
 
+    /// restic's identifier of the recovery key that the user has written down or saved; empty where there is none.
+    QString keptRecoveryKey(const QString& destinationId) const;
+    /// Empty where the user has none any more. Throws Failure.
+    void setKeptRecoveryKey(const QString& destinationId, const QString& identifier) const;
+
 private:
+    QString keptPath(const QString& destinationId) const;
+
     QString folder_;
 };
 

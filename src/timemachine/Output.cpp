@@ -1,6 +1,7 @@
 #include "Output.h"
 
 #include "Failure.h"
+#include "PropertyList.h"
 
 #include <cstdio>
 
@@ -19,6 +20,14 @@ void print(const QStringList& lines)
 {
     for (const QString& line : lines)
         print(line.toUtf8() + '\n');
+}
+
+void printXml(const QVariant& value)
+{
+    const auto list = propertylist::toXml(value);
+    if (!list)
+        throw Failure(ExitStatus::Configuration, u"A path cannot be written as XML."_s);
+    print(*list);
 }
 
 void printError(const QString& sentence)

@@ -2,12 +2,16 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <QVariant>
 
 namespace quillon {
 
 /// To standard output, at once. Throws Failure.
 void print(const QByteArray& text);
 void print(const QStringList& lines);
+
+/// As an XML property list, for programs. Throws Failure also where it holds what no property list can.
+void printXml(const QVariant& value);
 
 /// To standard error, with the program's name.
 void printError(const QString& sentence);

@@ -56,6 +56,30 @@ void addKey(const Restic& restic, const QString& passwordFile, const QString& us
     restic.runUnlocking({u"key"_s, u"add"_s, u"--new-password-file"_s, passwordFile, u"--user"_s, user}).require();
 }
 
+QJsonArray keyList(const Restic& restic)
+{
+    const auto outcome = restic.runUnlocking({u"key"_s, u"list"_s, u"--json"_s, u"--no-lock"_s});
+    outcome.require();
+    return QJsonDocument::fromJson(outcome.output).array();
+}
+
+/// Versions of restic print more or less of it, and take any of that.
+QString identifierOf(const QJsonValue& key)
+{
+    constexpr qsizetype length = 8;
+    return key["id"_L1].toString().left(length);
+}
+
+/// Of the key that opens the repository for that call of restic.
+QString identifierInUse(const Restic& restic)
+{
+    for (const QJsonValue key : keyList(restic)) {
+        if (key["current"_L1].toBool())
+            return identifierOf(key);
+    }
+    return {};
+}
+
 /// The repositories that may be meant by a path: those on a backup disk, and one that lies at the path itself.
 std::vector<Destination> candidates(const QString& path)
 {
@@ -103,21 +127,22 @@ NewRepository makeRepository(const Destination& destination, const Folders& fold
 
 QStringList recoveryKeys(const Restic& restic)
 {
-    const auto outcome = restic.runUnlocking({u"key"_s, u"list"_s, u"--json"_s, u"--no-lock"_s});
-    outcome.require();
     QStringList identifiers;
-    for (const QJsonValue key : QJsonDocument::fromJson(outcome.output).array()) {
+    for (const QJsonValue key : keyList(restic)) {
         if (key["userName"_L1].toString() == recoveryUser)
-            identifiers.append(key["id"_L1].toString());
+            identifiers.append(identifierOf(key));
     }
     return identifiers;
 }
 
-QString addRecoveryKey(const Restic& restic)
+RecoveryKey addRecoveryKey(const Restic& restic, const QStringList& older)
 {
-    QString key = makeRecoveryKey();
-    addKey(restic, SecretFile(key).path(), recoveryUser);
-    return key;
+    RecoveryKey made{.key = makeRecoveryKey(), .identifier = {}};
+    addKey(restic, SecretFile(made.key).path(), recoveryUser);
+    QStringList added = recoveryKeys(restic);
+    added.removeIf([&older](const QString& identifier) { return older.contains(identifier); });
+    made.identifier = added.value(0);
+    return made;
 }
 
 void removeRecoveryKeys(const Restic& restic, const QStringList& identifiers)
@@ -143,6 +168,7 @@ Destination takeUpRepository(const QString& path, const QString& passphrase, con
         const Restic byPassphrase(*repository, folders, &stop, secret.path());
         if (!opens(byPassphrase))
             continue;
+        keys.setKeptRecoveryKey(destination.id, identifierInUse(byPassphrase)); // it has been typed
         if (keys.contains(destination.id) && opens(Restic(*repository, folders, &stop)))
             return destination;
         QString key = recoveryKey.isEmpty() ? passphrase : recoveryKey;

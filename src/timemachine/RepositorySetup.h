@@ -21,15 +21,21 @@ struct NewRepository {
 /// so that it is whole or not there. Throws Failure.
 NewRepository makeRepository(const Destination& destination, const Folders& folders, const StopRequest& stop);
 
-/// A recovery key opens a repository besides the key that is kept on this computer. All throw Failure.
-/// Those there are, by restic's identifiers.
+/// Opens a repository besides the key that is kept on this computer.
+struct RecoveryKey {
+    QString key;        ///< as makeRecoveryKey() writes it
+    QString identifier; ///< what restic knows it by; no secret
+};
+
+/// Those there are, by their identifiers. This and the following throw Failure.
 QStringList recoveryKeys(const Restic& restic);
-/// Makes another one, which it gives. It is to be shown before the others are removed.
-QString addRecoveryKey(const Restic& restic);
+/// Makes one besides the older, which are all there are. It is to be shown before they are removed.
+RecoveryKey addRecoveryKey(const Restic& restic, const QStringList& older);
 void removeRecoveryKeys(const Restic& restic, const QStringList& identifiers);
 
 /// Finds the repository at that path which the passphrase opens, on a backup disk or at the path itself, makes sure
-/// that a key of this computer's opens it from now on, and gives its destination. Throws Failure.
+/// that a key of this computer's opens it from now on, and gives its destination. The passphrase counts as a recovery
+/// key that the user has. Throws Failure.
 Destination takeUpRepository(const QString& path, const QString& passphrase, const Folders& folders,
                              const StopRequest& stop);
 

@@ -1,7 +1,6 @@
 #include "SetupCommands.h"
 
 #include "Configuration.h"
-#include "DestinationChoice.h"
 #include "Failure.h"
 #include "History.h"
 #include "KeyStore.h"
@@ -36,12 +35,14 @@ void printRecoveryKey(const Destination& destination, const QString& key)
         "and the disk can read the backups. On another computer \"tmutil adopt PATH\" asks for it and takes the backups up."_s});
 }
 
-/// Until that has been noted, whatever ends this process, the disk's report asks for a recovery key.
-void noteRecoveryKeyShown(const Folders& folders, const QString& destinationId)
+void removeOlderKeys(const Restic& restic, const QStringList& older)
 {
-    History::change(folders.state, [&](History& history) {
-        history.setRecoveryKeyShown(destinationId, QDateTime::currentDateTimeUtc());
-    });
+    try {
+        removeRecoveryKeys(restic, older);
+    } catch (const Failure& failure) {
+        throw Failure(failure.status(),
+                      u"An older recovery key opens the backups as well: %1"_s.arg(failure.message()));
+    }
 }
 
 /// What the disk has is what counts, also where another computer has written it or somebody has erased it.
@@ -61,8 +62,8 @@ RepositoryFolder newRepository(const Destination& destination, const Folders& fo
     History::change(folders.state, [&](History& history) {
         history.noteNewRepository(destination.id);
         history.setLastBackup(destination.id, {});
-        history.setRecoveryKeyShown(destination.id, {});
     });
+    KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, {});
     return std::move(*made.folder);
 }
 
@@ -134,10 +135,11 @@ void setDestination(const Folders& folders, const QString& path, bool append)
         if (!isNew)
             takeStock(*repository, restic, folders);
         if (isNew || recoveryKeys(restic).isEmpty()) {
-            printRecoveryKey(destination, addRecoveryKey(restic));
+            const RecoveryKey made = addRecoveryKey(restic, {});
+            printRecoveryKey(destination, made.key);
             // Programs that set a disk need not show what is printed.
             if (isatty(STDOUT_FILENO) != 0)
-                noteRecoveryKeyShown(folders, destination.id);
+                KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, made.identifier);
         }
     } catch (const Failure& failure) {
         print(
@@ -146,24 +148,39 @@ void setDestination(const Folders& folders, const QString& path, bool append)
     }
 }
 
-void renewRecoveryKey(const Folders& folders, const QString& destinationId)
+void renewRecoveryKey(const Folders& folders, const Destination& destination, bool xml)
 {
-    const Configuration configuration(folders);
-    const auto& destinations = configuration.destinations();
-    const Destination destination = destinationId.isEmpty() ? usualDestination(destinations, History(folders.state))
-                                                            : namedDestination(destinations, destinationId);
     const auto repository = RepositoryFolder::open(destination);
     const StopRequest stop;
     const Restic restic(*repository, folders, &stop);
-    const QStringList older = recoveryKeys(restic);
-    printRecoveryKey(destination, addRecoveryKey(restic));
-    noteRecoveryKeyShown(folders, destination.id);
-    try {
-        removeRecoveryKeys(restic, older);
-    } catch (const Failure& failure) {
-        throw Failure(failure.status(),
-                      u"An older recovery key opens the backups as well: %1"_s.arg(failure.message()));
+    const KeyStore keys(folders.configuration);
+    QStringList older = recoveryKeys(restic);
+    // restic tries no more than twenty keys; of those that were shown and never kept some are let live until then.
+    if (constexpr qsizetype most = 8; older.size() >= most) {
+        const QString kept = keys.keptRecoveryKey(destination.id);
+        older.removeAll(kept);
+        removeOlderKeys(restic, older);
+        older = recoveryKeys(restic);
     }
+    const RecoveryKey made = addRecoveryKey(restic, older);
+    if (xml)
+        return printXml(QVariantMap{{u"RecoveryKey"_s, made.key}, {u"KeyID"_s, made.identifier}});
+    printRecoveryKey(destination, made.key);
+    keys.setKeptRecoveryKey(destination.id, made.identifier);
+    removeOlderKeys(restic, older);
+}
+
+void keepRecoveryKey(const Folders& folders, const Destination& destination, const QString& identifier)
+{
+    const auto repository = RepositoryFolder::open(destination);
+    const StopRequest stop;
+    const Restic restic(*repository, folders, &stop);
+    QStringList others = recoveryKeys(restic);
+    if (others.removeAll(identifier) == 0)
+        throw Failure(ExitStatus::WrongKey,
+                      u"That recovery key does not open the backups any more. \"tmutil recoverykey\" makes another."_s);
+    KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, identifier);
+    removeOlderKeys(restic, others);
 }
 
 void adopt(const Folders& folders, const QString& path)
@@ -173,7 +190,6 @@ void adopt(const Folders& folders, const QString& path)
     Configuration(folders, Configuration::IfLost::BeginAnew).takeUp(destination);
     const auto repository = RepositoryFolder::open(destination);
     takeStock(*repository, Restic(*repository, folders, &stop), folders);
-    noteRecoveryKeyShown(folders, destination.id); // it has been typed
     print(
         QStringList(u"The backups at \"%1\" are taken up. \"tmutil listbackups\" names them."_s.arg(destination.path)));
 }

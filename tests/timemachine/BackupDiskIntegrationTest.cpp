@@ -1,6 +1,8 @@
 #include "BackupFixture.h"
+#include "Configuration.h"
 #include "ExitStatus.h"
 #include "History.h"
+#include "PropertyList.h"
 
 #include <QDirIterator>
 
@@ -111,6 +113,51 @@ TEST_F(BackupDiskIntegration, ADiskThatCannotBeReadOrIsACopyHidesNoOther)
     EXPECT_EQ(list.output, backup);
     EXPECT_TRUE(list.error.startsWith("tmutil: other: ")) << list.error.toStdString();
     EXPECT_EQ(list.status, 0);
+}
+
+TEST_F(BackupDiskIntegration, ABackupThatBeginsAsItsDiskIsRemovedIsNotMade)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    const QString other = practice_.addDisk(u"other"_s);
+    const QString lockFile = practice_.stateFolder() + "/worker.lock"_L1;
+    QProcess backup;
+    {
+        ProcessLock lock(lockFile);
+        ASSERT_TRUE(lock.tryLock());
+        EXPECT_EQ(call({u"removedestination"_s, other}), static_cast<int>(ExitStatus::AlreadyRunning))
+            << "whose lock it is, and for which disk, cannot be told";
+        backup.start(practice_.executable(), {u"runbackup"_s, u"-d"_s, id});
+        const auto waitsForLock = [&] {
+            const QDir files(u"/proc/%1/fd"_s.arg(backup.processId()));
+            const auto names = files.entryList(QDir::Files | QDir::System);
+            return std::any_of(names.begin(), names.end(), [&](const QString& name) {
+                return QFile::symLinkTarget(files.filePath(name)) == lockFile;
+            });
+        };
+        ASSERT_TRUE(eventually(waitsForLock));
+        Configuration({{}, practice_.configurationFolder(), practice_.stateFolder(), {}}).removeDestination(id);
+    }
+    ASSERT_TRUE(backup.waitForFinished(-1));
+    EXPECT_EQ(backup.exitCode(), static_cast<int>(ExitStatus::UnknownDestination));
+    EXPECT_EQ(call({u"removedestination"_s, other}), 0);
+}
+
+TEST_F(BackupDiskIntegration, TheSizeOfTheBackupsIsThatOfTheUsersOwnFiles)
+{
+    const QString id = practice_.addDisk(u"disk"_s);
+    practice_.addDisk(u"away"_s);
+    ASSERT_TRUE(QDir().rename(practice_.path(u"away"_s), practice_.path(u"unplugged"_s)));
+    constexpr int size = 300'000;
+    for (const QString& file : {u"/data/00/"_s + QString(64, u'0'), u"/../ANOTHER-USER/data"_s, u"/../../mine"_s})
+        practice_.write(u"disk/Quillon.backups/"_s + id + file, QByteArray(size, 'x'));
+    ASSERT_TRUE(QFile::link(practice_.path(u"disk"_s), practice_.repository(u"disk"_s, id) + "/link"_L1));
+    const auto list = propertylist::parse(practice_.run({u"diskusage"_s, u"-X"_s}).output);
+    ASSERT_TRUE(list);
+    ASSERT_EQ(list->toList().size(), 1) << "of a disk that is not there nothing is known";
+    const QVariantMap told = list->toList().first().toMap();
+    EXPECT_EQ(told.value(u"ID"_s), id);
+    EXPECT_GE(told.value(u"Bytes"_s).toLongLong(), size);
+    EXPECT_LT(told.value(u"Bytes"_s).toLongLong(), size + 100'000);
 }
 
 TEST_F(BackupDiskIntegration, AFullDiskUnderTheToolsOwnFilesIsTold)

@@ -50,6 +50,9 @@ TEST(CommandLine, RefusesEverythingElse)
                                          {u"retention"_s, u"--daily"_s, u"-1"_s},
                                          {u"retention"_s, u"--daily"_s, u"many"_s},
                                          {u"removedestination"_s, u"ID"_s, u"another"_s},
+                                         {u"recoverykey"_s, u"--kept"_s},
+                                         {u"recoverykey"_s, u"-X"_s, u"--kept"_s, u"KEYID"_s},
+                                         {u"excludename"_s, u"-X"_s, u"*.iso"_s},
                                          {u"restore"_s, u"only one"_s}}) {
         try {
             CommandLine::parse(arguments);

@@ -285,10 +285,11 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     history.setLastDestination(first.id);
     const QDateTime date(QDate(2026, 11, 21), QTime(7, 22, 58), Qt::UTC);
     history.setLastBackup(second.id, date);
-    history.setRecoveryKeyShown(first.id, date);
+    const KeyStore keys(folders_.configuration);
+    keys.setKeptRecoveryKey(first.id, u"6c2a9f01"_s);
     history.setBackups(second.id, {u"made elsewhere"_s, u"older"_s}, u"older"_s, 7);
     history.setBackups(second.id, {u"older"_s, u"latest"_s}, u"latest"_s, 9);
-    const auto xml = propertylist::parse(destinationXml(destinations(), history));
+    const auto xml = propertylist::parse(destinationXml(destinations(), history, keys));
     ASSERT_TRUE(xml);
     const QVariantList entries = xml->toMap().value(u"Destinations"_s).toList();
     ASSERT_EQ(entries.size(), 2);
@@ -309,8 +310,8 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     EXPECT_EQ(entries[1].toMap().value(u"LastBackup"_s), date);
     EXPECT_EQ(entries[1].toMap().value(u"LastDestination"_s), qlonglong{0});
     history.setLastDestination(second.id);
-    history.setRecoveryKeyShown(second.id, date);
-    EXPECT_EQ(destinationText({second}, history),
+    keys.setKeptRecoveryKey(second.id, u"6c2a9f01"_s);
+    EXPECT_EQ(destinationText({second}, history, keys),
               "> " + QByteArray(50, '=') +
                   "\nName          : 2\nKind          : Local\nID            : " + second.id.toUtf8() + '\n');
 }

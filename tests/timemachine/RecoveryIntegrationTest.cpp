@@ -80,6 +80,42 @@ TEST_F(RecoveryIntegration, ANewComputerTakesTheBackupsUpWithWhatWasWrittenDown)
     EXPECT_EQ(call({u"latestbackup"_s}), 0) << "the first computer's key opens them as before";
 }
 
+TEST_F(RecoveryIntegration, AKeyThatAProgramShowsCountsOnceTheUserHasKeptIt)
+{
+    const auto offer = [this] {
+        const auto list = propertylist::parse(practice_.run({u"recoverykey"_s, u"-X"_s, u"-d"_s, id_}).output);
+        return list.value_or(QVariant()).toMap();
+    };
+    const auto keep = [this](const QString& keyId) {
+        // As while a backup runs.
+        ProcessLock lock(practice_.stateFolder() + "/worker.lock"_L1);
+        EXPECT_TRUE(lock.tryLock());
+        return practice_.run({u"recoverykey"_s, u"--kept"_s, keyId, u"-d"_s, id_}).status;
+    };
+    const auto opens = [this](const QString& key) {
+        const PracticeTmutil other(QStringLiteral(TMUTIL_EXECUTABLE));
+        return adopt(other, practice_.path(u"disk"_s), key).status == 0;
+    };
+    const QVariantMap first = offer();
+    EXPECT_TRUE(disk(practice_).contains(u"RecoveryKeyMissing"_s)) << "shown is not kept";
+    EXPECT_TRUE(opens(key_)) << "what may have been written down before is good until then";
+    EXPECT_EQ(keep(u"00000000"_s), static_cast<int>(ExitStatus::WrongKey));
+    EXPECT_TRUE(disk(practice_).contains(u"RecoveryKeyMissing"_s));
+    ASSERT_EQ(keep(first.value(u"KeyID"_s).toString()), 0);
+    EXPECT_FALSE(disk(practice_).contains(u"RecoveryKeyMissing"_s));
+    EXPECT_FALSE(opens(key_));
+
+    // One that is looked at and not kept changes nothing, however often; restic tries no more than twenty keys.
+    const QDir keys(practice_.repository(u"disk"_s, id_) + "/keys"_L1);
+    const QString kept = keys.entryList({first.value(u"KeyID"_s).toString() + u'*'}, QDir::Files).value(0);
+    for (int copy = 10; copy < 18; ++copy)
+        ASSERT_TRUE(QFile::copy(keys.filePath(kept), keys.filePath(QString::number(copy) + kept.mid(2))));
+    const QVariantMap second = offer();
+    EXPECT_EQ(keys.entryList(QDir::Files).size(), 4) << "two computers', the kept one, the new one";
+    EXPECT_FALSE(disk(practice_).contains(u"RecoveryKeyMissing"_s));
+    EXPECT_TRUE(opens(first.value(u"RecoveryKey"_s).toString()) && opens(second.value(u"RecoveryKey"_s).toString()));
+}
+
 TEST_F(RecoveryIntegration, ARepositoryMadeByHandIsTakenUpAndItsOwnBackupsAreKept)
 {
     const auto byHand = [&](const QStringList& arguments) {

@@ -1,6 +1,7 @@
 #include "BackupFixture.h"
 #include "ExitStatus.h"
 #include "History.h"
+#include "PropertyList.h"
 #include "Snapshot.h"
 
 #include <sys/stat.h>
@@ -154,7 +155,12 @@ TEST_F(SourceLossIntegration, WhatNamesAndSizesLeaveOutIsToldBeforeItIsKept)
               "2 files of 30 bytes in all would be left out.\n");
     EXPECT_EQ(practice_.run({u"excludelarger"_s, u"--try"_s, u"2"_s}).output,
               "1 file of 2000001 bytes would be left out.\n");
-    EXPECT_EQ(call({u"excludename"_s, u"a/b"_s}), static_cast<int>(ExitStatus::NoInput));
+    for (const QStringList& arguments : {QStringList{u"excludename"_s}, {u"excludename"_s, u"--try"_s}})
+        EXPECT_EQ(call(arguments + QStringList(u"a/b"_s)), static_cast<int>(ExitStatus::NoInput));
+    practice_.write(u"source/ü.x"_s, "ü is one character");
+    const auto told = propertylist::parse(practice_.run({u"excludename"_s, u"--try"_s, u"-X"_s, u"?.x"_s}).output);
+    EXPECT_EQ(told, QVariant(QVariantMap{{u"Files"_s, 1LL}, {u"Bytes"_s, 19LL}}));
+    QFile::remove(practice_.path(u"source/ü.x"_s));
     ASSERT_EQ(call({u"excludename"_s, u"*.iso"_s}), 0);
     ASSERT_EQ(call({u"excludename"_s, u"source"_s}), 0); // what a source is in, or is called, leaves it in
     ASSERT_EQ(call({u"excludelarger"_s, u"2"_s}), 0);

@@ -30,6 +30,7 @@ int main(int argc, char** argv)
 {
     // Callers pass no locale, and Qt would complain of that on standard error.
     qputenv("LC_ALL", "C.UTF-8");
+    std::setlocale(LC_CTYPE, "C.UTF-8"); // patterns match characters, which are more than a byte
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments.append(decodePath(argv[index]));
