@@ -754,5 +754,173 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Die Antwort von tmutil ist nicht lesbar.</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1 von %2 frei</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>Backups belegen %1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>Letztes Problem (%1): %2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>Wiederherstellungsschlüssel noch nicht verwahrt</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>Geht dieser Computer verloren, sind die Backups auf „%1“ ohne Wiederherstellungsschlüssel nicht lesbar.</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>Schlüssel anzeigen</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>Wiederherstellungsschlüssel von „%1“</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>Geht dieser Computer verloren, lassen sich die Backups mit diesem Schlüssel und dem Volume wiederherstellen. Der Schlüssel sollte notiert oder als Seite gesichert und getrennt von Computer und Volume verwahrt werden. Wer beides hat, kann die Backups lesen.</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>Dies ist ein neuer Schlüssel; er wird nur jetzt angezeigt. Sobald er verwahrt ist, öffnen früher angezeigte Schlüssel nichts mehr.</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>Als Seite sichern</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>Später</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>Schlüssel ist verwahrt</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>Für „%1“ konnte kein Wiederherstellungsschlüssel erstellt werden.</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>Es konnte nicht vermerkt werden, dass der Wiederherstellungsschlüssel von „%1“ verwahrt ist.</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>Die Seite konnte nicht gesichert werden.</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>PDF-Dokument</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>Textdatei</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>Die Seite auf dem Backup-Volume selbst sichern?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>Wer das Volume an sich nimmt, hätte dann auch den Schlüssel; und mit einem defekten Volume wäre auch die Seite verloren.</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>Sichern</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>Erstellt am %1. Diese Seite getrennt von Computer und Volume verwahren. Wer sie und das Volume hat, kann die Backups lesen.</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>Wenn der Computer verloren ist, auf einem neuen</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Quillon installieren und das Volume anschließen.</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 fragt nach dem Wiederherstellungsschlüssel und übernimmt das Volume.</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 nennt die Backups.</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 stellt einen Ordner wieder her.</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 setzt die Backups fort.</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>Namensmuster hinzufügen</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>Größengrenze hinzufügen</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>Dateien und Ordner dieses Namens an jedem Ort</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>In allen Ordnern</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>Dateien über %1</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>Dateien und Ordner mit diesem Namen ausnehmen</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* steht für beliebige Zeichen, ? für ein einzelnes.</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>Dateien ausnehmen, die größer sind als</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>Ausgenommene Dateien werden gezählt …</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>Derzeit ausgenommene Dateien: %1 (%2)</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>Derzeit wäre keine Datei ausgenommen.</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>Ausnehmen</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>Volumes werden gesucht …</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>Die Volumes konnten nicht aufgelistet werden</translation>
+    </message>
 </context>
 </TS>

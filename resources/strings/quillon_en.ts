@@ -754,5 +754,173 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>The answer of tmutil makes no sense.</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1 of %2 free</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>Backups take %1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>Last problem (%1): %2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>Recovery key not kept yet</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>If this computer is lost, the backups on “%1” cannot be read without a recovery key.</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>Show Recovery Key</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>Recovery Key of “%1”</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>If this computer is lost, this key and the disk give the backups back. Write it down or save it as a page, and keep it away from this computer and from the disk. Whoever has both can read the backups.</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>This is a new key, shown only now. Once you have kept it, keys shown before open nothing any more.</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>Save as Page</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>Later</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>I Have Kept It</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>No recovery key could be made for “%1”.</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>It could not be noted that you have kept the recovery key of “%1”.</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>The page could not be saved.</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>PDF Document</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>Text File</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>Save the page on the backup disk itself?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>Whoever takes the disk would have its key as well, and a disk that breaks would take the page with it.</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>Made on %1. Keep this page away from the computer and from the disk. Whoever has it and the disk can read the backups.</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>When the computer is lost, on a new one</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Install Quillon and connect the disk.</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 asks for the recovery key and takes the disk up.</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 names the backups.</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 gives a folder back.</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 goes on with the backups.</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>Add</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>Add Name Pattern</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>Add Size Limit</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>Files and folders of this name, wherever they are</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>In all folders</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>Files larger than %1</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>Leave out files and folders named</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* stands for any characters, ? for a single one.</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>Leave out files larger than</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>Counting what that leaves out …</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>Files that would be left out now: %1 (%2)</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>No file would be left out now.</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>Leave Out</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>Looking for disks …</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>The disks could not be listed</translation>
+    </message>
 </context>
 </TS>

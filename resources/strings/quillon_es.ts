@@ -754,5 +754,173 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>La respuesta de tmutil no se entiende.</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1 disponibles de %2</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>Las copias ocupan %1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>Último problema (%1): %2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>Clave de recuperación aún sin guardar</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>Si pierdes este ordenador, las copias en “%1” no se podrán leer sin una clave de recuperación.</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>Mostrar clave de recuperación</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>Clave de recuperación de “%1”</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>Si pierdes este ordenador, esta clave y el disco te devuelven las copias. Anótala o guárdala como página y mantenla lejos de este ordenador y del disco. Quien tenga ambos puede leer las copias.</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>Esta clave es nueva y solo se muestra ahora. Cuando la hayas guardado, las claves mostradas antes ya no abrirán nada.</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>Guardar como página</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>Más tarde</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>La he guardado</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>No se ha podido crear una clave de recuperación para “%1”.</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>No se ha podido anotar que has guardado la clave de recuperación de “%1”.</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>No se ha podido guardar la página.</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>Documento PDF</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>Archivo de texto</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>¿Guardar la página en el propio disco de copias de seguridad?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>Quien se lleve el disco tendría también su clave, y si el disco se avería, la página se pierde con él.</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>Creada el %1. Mantén esta página lejos del ordenador y del disco. Quien tenga ambos puede leer las copias.</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>Si se pierde el ordenador, en uno nuevo</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Instala Quillon y conecta el disco.</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 pide la clave de recuperación e incorpora el disco.</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 enumera las copias.</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 recupera una carpeta.</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 continúa con las copias.</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>Añadir</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>Añadir patrón de nombre</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>Añadir límite de tamaño</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>Archivos y carpetas con este nombre, estén donde estén</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>En todas las carpetas</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>Archivos de más de %1</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>Excluir archivos y carpetas con el nombre</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* representa cualquier número de caracteres; ? solo uno.</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>Excluir archivos de más de</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>Contando los archivos excluidos…</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>Archivos que se excluirían ahora: %1 (%2)</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>Ahora no se excluiría ningún archivo.</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>Excluir</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>Buscando discos…</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>No se han podido enumerar los discos</translation>
+    </message>
 </context>
 </TS>

@@ -754,5 +754,173 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>La réponse de tmutil est incompréhensible.</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1 disponibles sur %2</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>Sauvegardes : %1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>Dernier problème (%1) : %2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>Clé de secours pas encore conservée</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>Si cet ordinateur est perdu, les sauvegardes sur « %1 » sont illisibles sans clé de secours.</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>Afficher la clé de secours</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>Clé de secours de « %1 »</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>Si cet ordinateur est perdu, cette clé et le disque permettent de récupérer les sauvegardes. Notez-la ou enregistrez-la sur une page, et conservez-la loin de cet ordinateur et du disque. Quiconque a les deux peut lire les sauvegardes.</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>Cette clé est nouvelle et n’est affichée que maintenant. Dès que vous l’avez conservée, les clés affichées auparavant n’ouvrent plus rien.</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>Enregistrer une page</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>Plus tard</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>Je l’ai conservée</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>Aucune clé de secours n’a pu être créée pour « %1 ».</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>Impossible de noter que vous avez conservé la clé de secours de « %1 ».</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>La page n’a pas pu être enregistrée.</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>Document PDF</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>Fichier texte</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>Enregistrer la page sur le disque de sauvegarde lui-même ?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>Quiconque prend le disque aurait aussi sa clé, et un disque en panne emporterait la page.</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>Créée le %1. Conservez cette page loin de l’ordinateur et du disque. Quiconque a les deux peut lire les sauvegardes.</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>Si l’ordinateur est perdu, sur un nouveau</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Installez Quillon et connectez le disque.</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 demande la clé de secours et reprend le disque.</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 énumère les sauvegardes.</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 restaure un dossier.</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 poursuit les sauvegardes.</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>Ajouter</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>Ajouter un motif de nom</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>Ajouter une limite de taille</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>Fichiers et dossiers de ce nom, où qu’ils soient</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>Dans tous les dossiers</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>Fichiers de plus de %1</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>Exclure les fichiers et dossiers nommés</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* remplace des caractères quelconques, ? un seul caractère.</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>Exclure les fichiers de plus de</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>Décompte des fichiers exclus…</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>Fichiers exclus actuellement : %1 (%2)</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>Aucun fichier ne serait exclu actuellement.</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>Exclure</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>Recherche de disques…</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>Les disques n’ont pas pu être énumérés</translation>
+    </message>
 </context>
 </TS>

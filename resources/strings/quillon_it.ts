@@ -754,5 +754,173 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>La risposta di tmutil non è comprensibile.</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1 disponibili di %2</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>I backup occupano %1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>Ultimo problema (%1): %2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>Chiave di recupero non ancora conservata</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>Se perdi questo computer, i backup su “%1” non sono leggibili senza una chiave di recupero.</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>Mostra chiave di recupero</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>Chiave di recupero di “%1”</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>Se perdi questo computer, questa chiave e il disco ti restituiscono i backup. Annotala o registrala come pagina e conservala lontano da questo computer e dal disco. Chi ha entrambi può leggere i backup.</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>Questa chiave è nuova e viene mostrata solo ora. Quando l’hai conservata, le chiavi mostrate prima non aprono più nulla.</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>Registra come pagina</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>Più tardi</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>L’ho conservata</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>Impossibile creare una chiave di recupero per “%1”.</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>Impossibile annotare che hai conservato la chiave di recupero di “%1”.</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>Impossibile registrare la pagina.</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>Documento PDF</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>File di testo</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>Registrare la pagina proprio sul disco di backup?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>Chi prende il disco avrebbe anche la chiave, e se il disco si guasta anche la pagina va persa.</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>Registra</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>Creata il %1. Conserva questa pagina lontano dal computer e dal disco. Chi ha entrambi può leggere i backup.</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>Se il computer va perso, su uno nuovo</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Installa Quillon e collega il disco.</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 chiede la chiave di recupero e acquisisce il disco.</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 elenca i backup.</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 ripristina una cartella.</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 continua i backup.</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>Aggiungi modello di nome</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>Aggiungi limite di dimensione</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>File e cartelle con questo nome, ovunque si trovino</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>In tutte le cartelle</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>File oltre %1</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>Escludi file e cartelle con nome</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* sta per caratteri qualsiasi, ? per uno solo.</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>Escludi i file oltre</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>Conteggio dei file esclusi…</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>File esclusi al momento: %1 (%2)</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>Al momento nessun file sarebbe escluso.</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>Escludi</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>Ricerca dei dischi…</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>Impossibile elencare i dischi</translation>
+    </message>
 </context>
 </TS>

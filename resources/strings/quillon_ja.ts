@@ -754,5 +754,173 @@
         <source></source>
         <translation>tmutilの応答を解釈できません。</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>空き容量%1/%2</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>バックアップの使用量：%1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>前回の問題（%1）：%2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>復旧キーはまだ保管されていません</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>このコンピュータを失った場合、復旧キーがないと「%1」のバックアップを読み出せません。</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>復旧キーを表示</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>「%1」の復旧キー</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>このコンピュータを失っても、このキーとディスクがあればバックアップを取り戻せます。書き留めるかページとして保存して、このコンピュータともディスクとも別の場所に保管してください。両方を持つ人はバックアップを読むことができます。</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>これは新しいキーで、表示されるのは今だけです。保管した時点で、以前に表示されたキーは使えなくなります。</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>ページとして保存</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>あとで</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>保管しました</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>「%1」の復旧キーを作成できませんでした。</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>「%1」の復旧キーを保管したことを記録できませんでした。</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>ページを保存できませんでした。</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>PDF書類</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>テキストファイル</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>ページをバックアップディスク自体に保存しますか?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>ディスクを手にした人がキーも手に入れることになり、ディスクが壊れるとページも失われます。</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>保存</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>作成日：%1。このページはコンピュータともディスクとも別の場所に保管してください。両方を持つ人はバックアップを読むことができます。</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>コンピュータを失った場合に新しいコンピュータで行うこと</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Quillonをインストールして、ディスクを接続します。</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 は復旧キーを尋ね、ディスクを引き継ぎます。</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 はバックアップを一覧表示します。</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 はフォルダを復元します。</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 はバックアップを続けます。</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>追加</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>名前のパターンを追加</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>サイズの上限を追加</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>場所にかかわらず、この名前のファイルとフォルダ</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>すべてのフォルダ</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>%1を超えるファイル</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>除外するファイルとフォルダの名前</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>*は任意の文字列、?は任意の1文字を表します。</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>除外するファイルのサイズの上限</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>除外されるファイルを数えています…</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>現在除外されるファイル：%1個（%2）</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>現在除外されるファイルはありません。</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>除外</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>ディスクを検索中…</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>ディスクを一覧表示できませんでした</translation>
+    </message>
 </context>
 </TS>

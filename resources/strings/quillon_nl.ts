@@ -754,5 +754,173 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>Het antwoord van tmutil is onleesbaar.</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1 van %2 vrij</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>Reservekopieën: %1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>Laatste probleem (%1): %2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>Herstelsleutel nog niet bewaard</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>Als deze computer verloren gaat, zijn de reservekopieën op ‘%1’ zonder herstelsleutel niet leesbaar.</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>Toon herstelsleutel</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>Herstelsleutel van ‘%1’</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>Als deze computer verloren gaat, krijg je de reservekopieën met deze sleutel en de schijf terug. Schrijf de sleutel op of bewaar hem als pagina, weg van deze computer en van de schijf. Wie beide heeft, kan de reservekopieën lezen.</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>Dit is een nieuwe sleutel, die alleen nu wordt getoond. Zodra je hem hebt bewaard, openen eerder getoonde sleutels niets meer.</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>Bewaar als pagina</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>Later</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>Ik heb hem bewaard</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>Er kon geen herstelsleutel voor ‘%1’ worden gemaakt.</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>Er kon niet worden genoteerd dat je de herstelsleutel van ‘%1’ hebt bewaard.</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>De pagina kon niet worden bewaard.</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>PDF-document</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>Tekstbestand</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>De pagina op de reservekopieschijf zelf bewaren?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>Wie de schijf meeneemt, heeft dan ook de sleutel, en met een defecte schijf is ook de pagina weg.</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>Bewaar</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>Gemaakt op %1. Bewaar deze pagina weg van de computer en van de schijf. Wie beide heeft, kan de reservekopieën lezen.</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>Als de computer verloren is, op een nieuwe</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Installeer Quillon en verbind de schijf.</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 vraagt om de herstelsleutel en neemt de schijf over.</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 noemt de reservekopieën.</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 zet een map terug.</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 gaat verder met de reservekopieën.</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>Voeg toe</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>Voeg naampatroon toe</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>Voeg groottelimiet toe</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>Bestanden en mappen met deze naam, waar dan ook</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>In alle mappen</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>Bestanden groter dan %1</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>Sluit bestanden en mappen uit met de naam</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* staat voor willekeurige tekens, ? voor één teken.</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>Sluit bestanden uit die groter zijn dan</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>Uitgesloten bestanden tellen…</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>Bestanden die nu worden uitgesloten: %1 (%2)</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>Er wordt nu geen bestand uitgesloten.</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>Sluit uit</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>Schijven zoeken…</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>De schijven konden niet worden opgesomd</translation>
+    </message>
 </context>
 </TS>

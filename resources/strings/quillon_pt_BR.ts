@@ -754,5 +754,173 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>A resposta do tmutil não faz sentido.</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1 de %2 disponíveis</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>Os backups ocupam %1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>Último problema (%1): %2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>Chave reserva ainda não guardada</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>Se este computador for perdido, os backups em “%1” não poderão ser lidos sem uma chave reserva.</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>Mostrar Chave Reserva</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>Chave Reserva de “%1”</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>Se este computador for perdido, esta chave e o disco devolvem os backups. Anote-a ou salve-a como página e guarde-a longe deste computador e do disco. Quem tiver ambos poderá ler os backups.</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>Esta é uma chave nova, mostrada somente agora. Depois que você a guardar, as chaves mostradas antes não abrirão mais nada.</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>Salvar como Página</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>Mais Tarde</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>Já Guardei</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>Não foi possível criar uma chave reserva para “%1”.</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>Não foi possível anotar que você guardou a chave reserva de “%1”.</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>Não foi possível salvar a página.</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>Documento PDF</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>Arquivo de Texto</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>Salvar a página no próprio disco de backup?</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>Quem levar o disco também teria a chave, e um disco com defeito levaria a página consigo.</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>Salvar</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>Criada em %1. Guarde esta página longe do computador e do disco. Quem tiver ambos poderá ler os backups.</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>Se o computador for perdido, em um novo</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>Instale o Quillon e conecte o disco.</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 pede a chave reserva e assume o disco.</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 lista os backups.</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 restaura uma pasta.</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 continua os backups.</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>Adicionar</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>Adicionar Padrão de Nome</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>Adicionar Limite de Tamanho</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>Arquivos e pastas com este nome, onde quer que estejam</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>Em todas as pastas</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>Arquivos com mais de %1</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>Excluir do backup arquivos e pastas com o nome</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* representa quaisquer caracteres; ? apenas um.</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>Excluir do backup arquivos com mais de</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>Contando os arquivos excluídos…</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>Arquivos que seriam excluídos agora: %1 (%2)</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>Nenhum arquivo seria excluído agora.</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>Excluir do Backup</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>Procurando discos…</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>Não foi possível listar os discos</translation>
+    </message>
 </context>
 </TS>

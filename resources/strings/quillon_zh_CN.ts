@@ -754,5 +754,173 @@
         <source></source>
         <translation>无法理解 tmutil 的回答。</translation>
     </message>
+    <message id="disksRoom">
+        <source></source>
+        <translation>%1可用，共%2</translation>
+    </message>
+    <message id="disksTaken">
+        <source></source>
+        <translation>备份占用%1</translation>
+    </message>
+    <message id="disksProblem">
+        <source></source>
+        <translation>上次的问题（%1）：%2</translation>
+    </message>
+    <message id="disksKeyNotKept">
+        <source></source>
+        <translation>尚未保存恢复密钥</translation>
+    </message>
+    <message id="disksKeyBar">
+        <source></source>
+        <translation>如果这台电脑丢失，没有恢复密钥就无法读取“%1”上的备份。</translation>
+    </message>
+    <message id="disksShowKeyTitle">
+        <source></source>
+        <translation>显示恢复密钥</translation>
+    </message>
+    <message id="disksKeyHeading">
+        <source></source>
+        <translation>“%1”的恢复密钥</translation>
+    </message>
+    <message id="disksKeyExplanation">
+        <source></source>
+        <translation>如果这台电脑丢失，凭此密钥和磁盘可以取回备份。请抄下密钥或将其存储为页面，并与这台电脑和磁盘分开保管。同时持有两者的人可以读取备份。</translation>
+    </message>
+    <message id="disksKeyOnce">
+        <source></source>
+        <translation>这是新密钥，仅在此时显示。你保管好之后，之前显示的密钥将不再有效。</translation>
+    </message>
+    <message id="disksSavePageTitle">
+        <source></source>
+        <translation>存储为页面</translation>
+    </message>
+    <message id="disksLaterTitle">
+        <source></source>
+        <translation>稍后</translation>
+    </message>
+    <message id="disksKeptTitle">
+        <source></source>
+        <translation>我已保管好</translation>
+    </message>
+    <message id="disksKeyFailed">
+        <source></source>
+        <translation>无法为“%1”创建恢复密钥。</translation>
+    </message>
+    <message id="disksKeepFailed">
+        <source></source>
+        <translation>无法记录你已保管“%1”的恢复密钥。</translation>
+    </message>
+    <message id="disksPageFailed">
+        <source></source>
+        <translation>无法存储页面。</translation>
+    </message>
+    <message id="disksPagePdf">
+        <source></source>
+        <translation>PDF文稿</translation>
+    </message>
+    <message id="disksPageText">
+        <source></source>
+        <translation>文本文件</translation>
+    </message>
+    <message id="disksPageOnDiskMessage">
+        <source></source>
+        <translation>要将页面存储到备份磁盘本身吗？</translation>
+    </message>
+    <message id="disksPageOnDiskInformative">
+        <source></source>
+        <translation>拿到磁盘的人也会得到密钥；如果磁盘损坏，页面也会随之丢失。</translation>
+    </message>
+    <message id="disksSaveTitle">
+        <source></source>
+        <translation>存储</translation>
+    </message>
+    <message id="disksPageMade">
+        <source></source>
+        <translation>创建于%1。请将此页与电脑和磁盘分开保管。同时持有此页和磁盘的人可以读取备份。</translation>
+    </message>
+    <message id="disksPageSteps">
+        <source></source>
+        <translation>如果电脑丢失，请在新电脑上操作</translation>
+    </message>
+    <message id="disksPageConnect">
+        <source></source>
+        <translation>安装Quillon并连接磁盘。</translation>
+    </message>
+    <message id="disksPageAdopt">
+        <source></source>
+        <translation>%1 会询问恢复密钥并接管磁盘。</translation>
+    </message>
+    <message id="disksPageList">
+        <source></source>
+        <translation>%1 会列出备份。</translation>
+    </message>
+    <message id="disksPageRestore">
+        <source></source>
+        <translation>%1 会取回一个文件夹。</translation>
+    </message>
+    <message id="disksPageContinue">
+        <source></source>
+        <translation>%1 会继续备份。</translation>
+    </message>
+    <message id="disksAddTitle">
+        <source></source>
+        <translation>添加</translation>
+    </message>
+    <message id="disksAddNameTitle">
+        <source></source>
+        <translation>添加名称模式</translation>
+    </message>
+    <message id="disksAddSizeTitle">
+        <source></source>
+        <translation>添加大小限制</translation>
+    </message>
+    <message id="disksByName">
+        <source></source>
+        <translation>任何位置使用此名称的文件和文件夹</translation>
+    </message>
+    <message id="disksBySize">
+        <source></source>
+        <translation>所有文件夹中</translation>
+    </message>
+    <message id="disksLargerThan">
+        <source></source>
+        <translation>大于%1的文件</translation>
+    </message>
+    <message id="disksNamePrompt">
+        <source></source>
+        <translation>排除使用以下名称的文件和文件夹</translation>
+    </message>
+    <message id="disksNameHint">
+        <source></source>
+        <translation>* 代表任意多个字符，? 代表一个字符。</translation>
+    </message>
+    <message id="disksSizePrompt">
+        <source></source>
+        <translation>排除大于以下大小的文件</translation>
+    </message>
+    <message id="disksCounting">
+        <source></source>
+        <translation>正在统计将排除的文件…</translation>
+    </message>
+    <message id="disksPreview">
+        <source></source>
+        <translation>现在将排除的文件：%1个（%2）</translation>
+    </message>
+    <message id="disksPreviewNothing">
+        <source></source>
+        <translation>现在不会排除任何文件。</translation>
+    </message>
+    <message id="disksLeaveOutTitle">
+        <source></source>
+        <translation>排除</translation>
+    </message>
+    <message id="disksListing">
+        <source></source>
+        <translation>正在查找磁盘…</translation>
+    </message>
+    <message id="disksListFailed">
+        <source></source>
+        <translation>无法列出磁盘</translation>
+    </message>
 </context>
 </TS>

@@ -1,11 +1,14 @@
 #include "BackupSetup.h"
 
 #include "PropertyList.h"
+#include "ShownText.h"
 
 #include <QDateTime>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <chrono>
+#include <initializer_list>
 
 namespace quillon {
 
@@ -13,16 +16,61 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+Date dateOf(const QDateTime& date)
+{
+    return Date(std::chrono::milliseconds(date.toMSecsSinceEpoch()));
+}
+
+std::optional<qint64> numberIn(const QVariantMap& entry, const QString& key)
+{
+    bool isNumber = false;
+    const qint64 number = entry.value(key).toLongLong(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+std::optional<BackupDisk::Problem> readProblem(const QVariantMap& entry)
+{
+    if (entry.isEmpty())
+        return std::nullopt;
+    BackupDisk::Problem problem{.date = std::nullopt,
+                                .description = shownLongText(entry.value(u"Description"_s).toString())};
+    auto date = QDateTime::fromString(entry.value(u"Date"_s).toString(), u"yyyy-MM-dd HH:mm:ss '+0000'"_s);
+    date.setTimeSpec(Qt::UTC);
+    if (date.isValid())
+        problem.date = dateOf(date);
+    return problem;
+}
+
 BackupDisk readBackupDisk(const QVariantMap& entry)
 {
     BackupDisk disk{.id = entry.value(u"ID"_s).toString(),
-                    .name = entry.value(u"Name"_s).toString(),
+                    .name = shownText(entry.value(u"Name"_s).toString()),
                     .path = entry.value(u"Path"_s).toString(),
                     .present = entry.contains(u"MountPoint"_s),
-                    .lastBackup = std::nullopt};
+                    .lastBackup = std::nullopt,
+                    .problem = readProblem(entry.value(u"LastFailure"_s).toMap()),
+                    .bytesFree = numberIn(entry, u"BytesFree"_s),
+                    .bytesTotal = numberIn(entry, u"BytesTotal"_s),
+                    .recoveryKeyKept = !entry.contains(u"RecoveryKeyMissing"_s)};
     if (const QDateTime date = entry.value(u"LastBackup"_s).toDateTime(); date.isValid())
-        disk.lastBackup = Date(std::chrono::milliseconds(date.toMSecsSinceEpoch()));
+        disk.lastBackup = dateOf(date);
     return disk;
+}
+
+/// The dictionary that is the whole answer and has those keys.
+std::optional<QVariantMap> readDictionary(const QByteArray& answer, std::initializer_list<QString> keys)
+{
+    const QVariantMap dictionary = propertylist::parse(answer).value_or(QVariant()).toMap();
+    const bool whole = std::ranges::all_of(keys, [&](const QString& key) { return dictionary.contains(key); });
+    return whole ? std::optional(dictionary) : std::nullopt;
+}
+
+std::optional<QVariantList> readList(const QByteArray& answer)
+{
+    const auto list = propertylist::parse(answer);
+    if (!list || list->typeId() != QMetaType::QVariantList)
+        return std::nullopt;
+    return list->toList();
 }
 
 } // namespace
@@ -40,10 +88,46 @@ std::optional<std::vector<BackupDisk>> readBackupDisks(const QByteArray& answer)
 
 std::optional<QStringList> readPaths(const QByteArray& answer)
 {
-    const auto list = propertylist::parse(answer);
-    if (!list || list->typeId() != QMetaType::QVariantList)
+    const auto list = readList(answer);
+    return list ? std::optional(QVariant(*list).toStringList()) : std::nullopt;
+}
+
+std::optional<Exclusions> readExclusions(const QByteArray& answer)
+{
+    const auto entry = readDictionary(answer, {u"Paths"_s, u"Names"_s, u"LargestFile"_s});
+    if (!entry)
         return std::nullopt;
-    return list->toStringList();
+    return Exclusions{.paths = entry->value(u"Paths"_s).toStringList(),
+                      .names = entry->value(u"Names"_s).toStringList(),
+                      .largestFile = entry->value(u"LargestFile"_s).toLongLong()};
+}
+
+std::optional<std::map<QString, qint64>> readUsage(const QByteArray& answer)
+{
+    const auto list = readList(answer);
+    if (!list)
+        return std::nullopt;
+    std::map<QString, qint64> bytes;
+    for (const QVariant& entry : *list)
+        bytes[entry.toMap().value(u"ID"_s).toString()] = entry.toMap().value(u"Bytes"_s).toLongLong();
+    return bytes;
+}
+
+std::optional<Omission> readOmission(const QByteArray& answer)
+{
+    const auto entry = readDictionary(answer, {u"Files"_s, u"Bytes"_s});
+    if (!entry)
+        return std::nullopt;
+    return Omission{.files = entry->value(u"Files"_s).toLongLong(), .bytes = entry->value(u"Bytes"_s).toLongLong()};
+}
+
+std::optional<RecoveryKey> readRecoveryKey(const QByteArray& answer)
+{
+    const auto entry = readDictionary(answer, {u"RecoveryKey"_s, u"KeyID"_s});
+    if (!entry)
+        return std::nullopt;
+    return RecoveryKey{.key = entry->value(u"RecoveryKey"_s).toString(),
+                       .identifier = entry->value(u"KeyID"_s).toString()};
 }
 
 } // namespace quillon

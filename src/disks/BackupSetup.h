@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -13,17 +14,49 @@ namespace quillon {
 
 /// A backup disk as tmutil tells of it.
 struct BackupDisk {
+    /// What the last backup met with, or what a verification has found.
+    struct Problem {
+        std::optional<Date> date;
+        QString description; ///< in tmutil's words
+    };
+
     QString id;
-    QString name;
+    QString name; ///< fit to be shown
     QString path;
     bool present = false; ///< it is there now
     std::optional<Date> lastBackup;
+    std::optional<Problem> problem;
+    std::optional<qint64> bytesFree;  ///< of one that is there
+    std::optional<qint64> bytesTotal; ///< likewise
+    bool recoveryKeyKept = false;
 };
 
-/// Reads what `destinationinfo -X` prints; nothing when that is not whole.
-std::optional<std::vector<BackupDisk>> readBackupDisks(const QByteArray& answer);
+/// What is left out of backups besides what nobody has to name.
+struct Exclusions {
+    QStringList paths;
+    QStringList names;      ///< with * and ? for what varies
+    qint64 largestFile = 0; ///< bytes; 0 for any
+};
 
-/// Reads what `listsources -X` and `listexclusions -X` print; nothing when that is not whole.
+/// What an exclusion would leave out of the present folders.
+struct Omission {
+    qint64 files = 0;
+    qint64 bytes = 0;
+};
+
+/// A recovery key that tmutil has made.
+struct RecoveryKey {
+    QString key;
+    QString identifier; ///< what tmutil is told when the user has kept it
+};
+
+/// These read what tmutil prints with -X: `destinationinfo`, `listsources`, `listexclusions`, `diskusage` (bytes by the
+/// disks' identifiers), `excludename` and `excludelarger` with --try, `recoverykey`. Nothing when that is not whole.
+std::optional<std::vector<BackupDisk>> readBackupDisks(const QByteArray& answer);
 std::optional<QStringList> readPaths(const QByteArray& answer);
+std::optional<Exclusions> readExclusions(const QByteArray& answer);
+std::optional<std::map<QString, qint64>> readUsage(const QByteArray& answer);
+std::optional<Omission> readOmission(const QByteArray& answer);
+std::optional<RecoveryKey> readRecoveryKey(const QByteArray& answer);
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "LocalizedString.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,18 +28,57 @@ QLabel* makeSentence(const QString& text)
     return label;
 }
 
+/// Rich text, so that long paths are wrapped.
+QString toolTipOf(const ListEntry& entry)
+{
+    QString text;
+    for (const QString& line : QStringList(entry.title) + entry.details + entry.remarks)
+        text += "<p>"_L1 + line.toHtmlEscaped() + "</p>"_L1;
+    return text;
+}
+
+/// Whether a key is one that moves through a list.
+bool moves(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether the keyboard has come by a key, and not by a click, which selects what it hits.
+bool comesByKey(const QFocusEvent& event)
+{
+    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
+           event.reason() == Qt::ShortcutFocusReason;
+}
+
 } // namespace
+
+QString panelTitle(const char* key)
+{
+    return localizedString(key) + u'…';
+}
 
 ListPage::ListPage(const QString& name, const QString& explanation, QWidget* parent)
     : QWidget(parent)
     , list_(new QListWidget)
     , emptyLabel_(makeSentence(localizedString("disksReading")))
+    , column_(new QVBoxLayout(this))
     , buttons_(new QHBoxLayout)
     , removeButton_(new QPushButton(localizedString("disksRemoveTitle")))
 {
     list_->setAccessibleName(name);
     list_->setItemDelegate(new EntryDelegate(list_));
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setResizeMode(QListView::Adjust); // remarks are wrapped
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     emptyLabel_->setAlignment(Qt::AlignCenter);
     auto* overlay = new QVBoxLayout(list_->viewport());
@@ -49,10 +89,9 @@ ListPage::ListPage(const QString& name, const QString& explanation, QWidget* par
     buttons_->addStretch();
     buttons_->addWidget(removeButton_);
 
-    auto* column = new QVBoxLayout(this);
-    column->addWidget(makeSentence(explanation));
-    column->addWidget(list_, 1);
-    column->addLayout(buttons_);
+    column_->addWidget(makeSentence(explanation));
+    column_->addWidget(list_, 1);
+    column_->addLayout(buttons_);
 
     connect(removeButton_, &QPushButton::clicked, this, &ListPage::removeSelected);
     connect(list_, &QListWidget::itemSelectionChanged, this, &ListPage::updateRemoveButton);
@@ -86,9 +125,10 @@ void ListPage::setEntries(const std::vector<ListEntry>& entries, const QString& 
         item->setData(idRole, entry.id);
         item->setData(EntryDelegate::symbolRole, entry.symbol);
         item->setData(EntryDelegate::detailsRole, entry.details);
+        item->setData(EntryDelegate::remarksRole, entry.remarks);
         item->setData(EntryDelegate::dimmedRole, entry.dimmed);
-        item->setData(Qt::AccessibleTextRole, (QStringList(entry.title) + entry.details).join(u", "_s));
-        item->setToolTip(entry.details.value(0).toHtmlEscaped());
+        item->setData(Qt::AccessibleTextRole, (QStringList(entry.title) + entry.details + entry.remarks).join(u", "_s));
+        item->setToolTip(toolTipOf(entry));
         if (entry.id == selected)
             list_->setCurrentItem(item);
     }
@@ -101,19 +141,61 @@ void ListPage::setChangeable(bool changeable)
     QWidget* const focus = QApplication::focusWidget();
     if (!changeable && isAncestorOf(focus) && focus != list_)
         list_->setFocus(); // a button that is disabled would give it to just any other
-    for (QPushButton* button : addButtons_)
-        button->setEnabled(changeable);
+    for (const auto& buttons : {addButtons_, barButtons_}) {
+        for (QPushButton* button : buttons)
+            button->setEnabled(changeable);
+    }
     updateRemoveButton();
+}
+
+void ListPage::addBar(QWidget* bar)
+{
+    column_->insertWidget(column_->indexOf(list_) + 1, bar);
+    const auto buttons = bar->findChildren<QPushButton*>();
+    QWidget* before = list_;
+    for (QPushButton* button : buttons) {
+        setTabOrder(before, button);
+        before = button;
+        barButtons_.push_back(button);
+    }
+}
+
+void ListPage::choose(const QString& title, bool files, const std::function<void(const QString& path)>& take)
+{
+    auto* dialog = new QFileDialog(this, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(files ? QFileDialog::ExistingFile : QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly, !files);
+    connect(dialog, &QFileDialog::fileSelected, this, take);
+    dialog->open();
 }
 
 bool ListPage::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == list_ && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete)) {
-        removeSelected();
-        return true;
+    if (watched != list_)
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::FocusIn && comesByKey(*static_cast<QFocusEvent*>(event)))
+        selectSomething();
+    if (event->type() == QEvent::KeyPress) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (key.matches(QKeySequence::Delete)) {
+            removeSelected();
+            return true;
+        }
+        if (moves(key) && selectSomething())
+            return true;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+/// A list where nothing is selected moves its frame only, and in one with a single row not even that. False where
+/// something is selected already, or nothing can be.
+bool ListPage::selectSomething()
+{
+    if (!list_->selectedItems().isEmpty() || list_->count() == 0)
+        return false;
+    list_->setCurrentRow(qMax(list_->currentRow(), 0), QItemSelectionModel::ClearAndSelect);
+    return true;
 }
 
 void ListPage::removeSelected()

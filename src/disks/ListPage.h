@@ -1,31 +1,26 @@
 #pragma once
 
+#include "Entries.h"
+
 #include <QString>
-#include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 class QHBoxLayout;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QVBoxLayout;
 
 namespace quillon {
 
-/// One thing in a list that can be removed.
-struct ListEntry {
-    QString id;
-    QString title;
-    QStringList details;
-    QString symbol; ///< name of a symbol of ours
-    bool dimmed = false;
-
-    bool operator==(const ListEntry&) const = default;
-};
+/// The title of what opens a panel; it ends in an ellipsis, which string tables leave to the code.
+QString panelTitle(const char* key);
 
 /// A list with a sentence above it and buttons below that add and remove entries. Emptiness has a sentence too.
-class ListPage final : public QWidget {
+class ListPage : public QWidget {
     Q_OBJECT
 
 public:
@@ -45,18 +40,27 @@ Q_SIGNALS:
     void removeRequested(const QString& id, const QString& title);
 
 protected:
-    /// The key that deletes, pressed in the list.
+    /// Puts it between the list and the buttons. While something is changed its buttons are disabled.
+    void addBar(QWidget* bar);
+
+    /// Lets the user choose a folder, or a file.
+    void choose(const QString& title, bool files, const std::function<void(const QString& path)>& take);
+
+    /// The keys that delete and move, pressed in the list, and the keyboard's coming to it.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool selectSomething();
     void removeSelected();
     void updateRemoveButton();
 
     QListWidget* list_;
     QLabel* emptyLabel_;
+    QVBoxLayout* column_;
     QHBoxLayout* buttons_;
     QPushButton* removeButton_;
     std::vector<QPushButton*> addButtons_;
+    std::vector<QPushButton*> barButtons_;
     std::vector<ListEntry> entries_;
     bool changeable_ = true;
 };

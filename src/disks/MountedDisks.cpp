@@ -1,5 +1,7 @@
 #include "MountedDisks.h"
 
+#include "ShownText.h"
+
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -7,13 +9,18 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
+#include <chrono>
 #include <utility>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+constexpr auto longestCall = 10s;
 
 /// Mount points of the running system; a folder on such a disk can still be added.
 bool isOfTheSystem(const QString& path)
@@ -28,10 +35,13 @@ bool isOfTheSystem(const QString& path)
 
 } // namespace
 
-std::vector<MountedDisk> readMountedDisks(const QByteArray& lsblk)
+std::optional<std::vector<MountedDisk>> readMountedDisks(const QByteArray& lsblk)
 {
+    const QJsonValue devices = QJsonDocument::fromJson(lsblk)["blockdevices"_L1];
+    if (!devices.isArray())
+        return std::nullopt;
     std::vector<MountedDisk> disks;
-    for (const QJsonValue device : QJsonDocument::fromJson(lsblk)["blockdevices"_L1].toArray()) {
+    for (const QJsonValue device : devices.toArray()) {
         if (device["ro"_L1].toBool())
             continue;
         QStringList paths;
@@ -44,15 +54,16 @@ std::vector<MountedDisk> readMountedDisks(const QByteArray& lsblk)
             continue;
         const QString label = device["label"_L1].toString();
         const QJsonValue free = device["fsavail"_L1];
-        disks.push_back({label.isEmpty() ? QFileInfo(*path).fileName() : label, *path,
+        disks.push_back({shownText(label.isEmpty() ? QFileInfo(*path).fileName() : label), *path,
                          free.isDouble() ? std::optional(free.toInteger()) : std::nullopt});
     }
     std::ranges::sort(disks, {}, &MountedDisk::name);
     return disks;
 }
 
-MountedDisks::MountedDisks(TaskLauncher& launcher, QString lsblk)
+MountedDisks::MountedDisks(TaskLauncher& launcher, RunLoop& runLoop, QString lsblk)
     : launcher_(launcher)
+    , runLoop_(runLoop)
     , lsblk_(std::move(lsblk))
 {
 }
@@ -72,10 +83,30 @@ void MountedDisks::refresh()
          .arguments = {u"--json"_s, u"--list"_s, u"--bytes"_s, u"--output"_s, u"LABEL,MOUNTPOINTS,FSAVAIL,RO"_s},
          .environmentName = u"LC_ALL"_s,
          .environmentValue = u"C.UTF-8"_s},
-        [this](const TaskResult& result) {
-            child_.reset();
-            list_ = readMountedDisks(result.output.value_or(QByteArray()));
-        });
+        [this](const TaskResult& result) { take(result); });
+    // One that hangs in the kernel does not end when it is killed; no other is started beside it. A repeating timer,
+    // because it does not follow a wall clock that is set back.
+    limit_ = runLoop_.scheduleRepeating(longestCall, [this] {
+        fail();
+        child_->kill();
+    });
+}
+
+void MountedDisks::take(const TaskResult& result)
+{
+    limit_.invalidate();
+    child_.reset();
+    const auto disks = result.status == 0 && result.output ? readMountedDisks(*result.output) : std::nullopt;
+    if (!disks)
+        return fail();
+    list_ = *disks;
+    state_ = State::Known;
+}
+
+void MountedDisks::fail()
+{
+    list_.clear();
+    state_ = State::Failed;
 }
 
 } // namespace quillon

@@ -1,25 +1,19 @@
 #include "TmutilClient.h"
 
 #include "LocalizedString.h"
+#include "ShownText.h"
 
-#include <chrono>
 #include <utility>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
-namespace {
-
-constexpr auto longestCall = 60s;
-
-} // namespace
-
-TmutilClient::TmutilClient(TaskLauncher& launcher, RunLoop& runLoop, QString executable)
+TmutilClient::TmutilClient(TaskLauncher& launcher, RunLoop& runLoop, QString executable, Seconds longestCall)
     : launcher_(launcher)
     , runLoop_(runLoop)
     , executable_(std::move(executable))
+    , longestCall_(longestCall)
 {
 }
 
@@ -49,7 +43,7 @@ void TmutilClient::launchNext()
                                .captureErrors = true},
                               [this](const TaskResult& result) { ended(result); });
     // A repeating timer, because it does not follow a wall clock that is set back.
-    limit_ = runLoop_.scheduleRepeating(longestCall, [this] {
+    limit_ = runLoop_.scheduleRepeating(longestCall_, [this] {
         tooSlow_ = true;
         child_->kill();
     });
@@ -77,7 +71,7 @@ QString TmutilClient::complaintOf(const TaskResult& result) const
     QString line = QString::fromUtf8(result.errors).section(u'\n', 0, 0, QString::SectionSkipEmpty).trimmed();
     if (constexpr auto prefix = "tmutil: "_L1; line.startsWith(prefix))
         line.remove(0, prefix.size());
-    return line.isEmpty() ? localizedString("disksToolFailed").arg(result.status) : line;
+    return line.isEmpty() ? localizedString("disksToolFailed").arg(result.status) : shownLongText(line);
 }
 
 } // namespace quillon

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -19,15 +20,16 @@ struct TmutilAnswer {
     QString complaint; ///< one line for people, tmutil's own where it had one; empty after a success
 };
 
-/// Calls tmutil without blocking, one call after the other, each ended when it takes longer than a minute. Main thread
-/// only. Calls that wait or run when this goes away are given up.
+/// Calls tmutil without blocking, one call after the other, each ended when it takes too long. Main thread only. Calls
+/// that wait or run when this goes away are given up.
 class TmutilClient {
 public:
     /// Called once, in a later turn. It may make further calls.
     using Handler = std::function<void(const TmutilAnswer&)>;
 
     /// Launcher and run loop must outlive this object.
-    TmutilClient(TaskLauncher& launcher, RunLoop& runLoop, QString executable);
+    TmutilClient(TaskLauncher& launcher, RunLoop& runLoop, QString executable,
+                 Seconds longestCall = std::chrono::minutes(1));
     TmutilClient(const TmutilClient&) = delete;
     TmutilClient& operator=(const TmutilClient&) = delete;
     ~TmutilClient();
@@ -47,6 +49,7 @@ private:
     TaskLauncher& launcher_;
     RunLoop& runLoop_;
     QString executable_;
+    Seconds longestCall_;
     std::deque<Call> calls_; ///< the first one runs
     std::unique_ptr<RunningTask> child_;
     Timer limit_;

@@ -33,9 +33,12 @@ void listExclusions(const Folders& folders, bool xml)
 {
     const Configuration configuration(folders);
     const QStringList paths = configuration.exclusions();
+    const QStringList names = configuration.excludedNames();
     if (!xml)
         return print(paths);
-    printXml(QVariantList(paths.begin(), paths.end()));
+    printXml(QVariantMap{{u"Paths"_s, QVariantList(paths.begin(), paths.end())},
+                         {u"Names"_s, QVariantList(names.begin(), names.end())},
+                         {u"LargestFile"_s, configuration.largestFile()}});
 }
 
 /// Those that nobody has named come with the reason why they are left out.

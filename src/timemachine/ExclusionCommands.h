@@ -7,7 +7,8 @@ namespace quillon {
 
 struct Folders;
 
-/// `listexclusions`: the paths that the user has named, for programs as XML.
+/// `listexclusions`: for people the paths that the user has named; for programs, as XML, the names and the size as
+/// well.
 void listExclusions(const Folders& folders, bool xml);
 
 /// `listexclusions -a`: also what nobody has named.

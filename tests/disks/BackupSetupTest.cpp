@@ -1,6 +1,8 @@
 #include "BackupSetup.h"
 
-#include "MountedDisks.h"
+#include "Entries.h"
+#include "LocalizedString.h"
+#include "ShownText.h"
 
 #include <gtest/gtest.h>
 
@@ -24,17 +26,56 @@ TEST(BackupSetup, ADiskThatIsNotThereHasAPathButNoMountPoint)
 {
     const auto disks = readBackupDisks(xml(R"(<dict><key>Destinations</key><array>
 <dict><key>ID</key><string>A</string><key>Name</key><string>One &amp; two</string><key>Path</key><string>/m/1</string>
-<key>MountPoint</key><string>/m/1</string><key>LastBackup</key><date>2026-11-21T07:22:58Z</date></dict>
-<dict><key>ID</key><string>B</string><key>Name</key><string>Away</string><key>Path</key><string>/m/2</string></dict>
+<key>MountPoint</key><string>/m/1</string><key>LastBackup</key><date>2026-11-21T07:22:58Z</date>
+<key>BytesFree</key><integer>2500000000</integer><key>BytesTotal</key><integer>2000000000000</integer>
+<key>LastFailure</key><dict><key>Date</key><string>2026-11-21 07:22:58 +0000</string>
+<key>Description</key><string>The disk "1" is full.</string></dict></dict>
+<dict><key>ID</key><string>B</string><key>Name</key><string>Away</string><key>Path</key><string>/m/2</string>
+<key>RecoveryKeyMissing</key><integer>1</integer></dict>
 </array></dict>)"));
     ASSERT_TRUE(disks);
     ASSERT_EQ(disks->size(), 2U);
     EXPECT_EQ(disks->front().name, u"One & two"_s);
     EXPECT_TRUE(disks->front().present);
     EXPECT_EQ(disks->front().lastBackup, Date(std::chrono::seconds(1'795'245'778)));
+    EXPECT_EQ(disks->front().problem->date, disks->front().lastBackup);
     EXPECT_FALSE(disks->back().present);
     EXPECT_EQ(disks->back().path, u"/m/2"_s);
     EXPECT_FALSE(disks->back().lastBackup);
+
+    const ListEntry here = diskEntry(disks->front(), 1'500'000);
+    EXPECT_TRUE(here.details.last().contains(localizedString("disksRoom").arg(u"2.5 GB"_s, u"2.0 TB"_s)) &&
+                here.details.last().contains(localizedString("disksTaken").arg(u"1.5 MB"_s)))
+        << here.details.last().toStdString();
+    ASSERT_EQ(here.remarks.size(), 1);
+    EXPECT_TRUE(here.remarks.first().endsWith(u"The disk \"1\" is full."_s));
+    EXPECT_EQ(diskEntry(disks->back(), std::nullopt).remarks, QStringList(localizedString("disksKeyNotKept")));
+}
+
+TEST(BackupSetup, AnExclusionIsRemovedTheWayItWasMade)
+{
+    const auto exclusions = readExclusions(
+        xml("<dict><key>Paths</key><array><string>/home/you/a&amp;b</string></array><key>Names</key>"
+            "<array><string>-*.iso</string></array><key>LargestFile</key><integer>2000000</integer></dict>"));
+    ASSERT_TRUE(exclusions);
+    QStringList removals;
+    for (const ListEntry& entry : exclusionEntries(*exclusions))
+        removals.append(exclusionRemoval(entry.id).join(u' '));
+    EXPECT_EQ(removals,
+              (QStringList{u"removeexclusion -- /home/you/a&b"_s, u"includename -- -*.iso"_s, u"excludelarger 0"_s}));
+}
+
+TEST(BackupSetup, WhatComesFromOutsideIsShownOnOneLineThatTurnsNothingAround)
+{
+    const QString family = u"\U0001F468\u200D\U0001F469"_s;
+    for (const auto& [text, shown] :
+         {std::pair{u"Disk & <b>"_s, u"Disk & <b>"_s},
+          {u"a\nb\tc\u2028d\u0007"_s, u"a b c d"_s},
+          {u"\u202Egpj.exe\u2069\u200F"_s, u"gpj.exe"_s},
+          {family, family},
+          {QString(3000, u'x'), QString(40, u'x') + u'…' + QString(40, u'x')},
+          {u"\U0001F4BE"_s.repeated(100), u"\U0001F4BE"_s.repeated(40) + u'…' + u"\U0001F4BE"_s.repeated(40)}})
+        EXPECT_EQ(shownText(text), shown) << text.toStdString();
 }
 
 TEST(BackupSetup, AnAnswerThatIsNotWholeIsNotTakenForAnEmptyOne)
@@ -45,23 +86,11 @@ TEST(BackupSetup, AnAnswerThatIsNotWholeIsNotTakenForAnEmptyOne)
     for (const QByteArray& answer : {QByteArray(), QByteArray("<plist><dict>"), xml("<dict/>"), xml("<true/>")}) {
         EXPECT_FALSE(readBackupDisks(answer)) << answer.toStdString();
         EXPECT_FALSE(readPaths(answer)) << answer.toStdString();
+        EXPECT_FALSE(readExclusions(answer)) << answer.toStdString();
+        EXPECT_FALSE(readUsage(answer)) << answer.toStdString();
+        EXPECT_FALSE(readOmission(answer)) << answer.toStdString();
+        EXPECT_FALSE(readRecoveryKey(answer)) << answer.toStdString();
     }
-}
-
-// As lsblk of util-linux 2.38 prints it.
-TEST(MountedDisks, OffersWritableDisksThatAreNotTheSystems)
-{
-    const auto disks = readMountedDisks(R"({"blockdevices": [
-{"label":null, "mountpoints":[null], "fsavail":null, "ro":false},
-{"label":"root", "mountpoints":["/srv/bind","/"], "fsavail":10, "ro":false},
-{"label":"EFI", "mountpoints":["/boot/efi"], "fsavail":10, "ro":false},
-{"label":null, "mountpoints":["[SWAP]"], "fsavail":null, "ro":false},
-{"label":"DVD", "mountpoints":["/media/u/DVD"], "fsavail":0, "ro":true},
-{"label":null, "mountpoints":["/media/u/stick"], "fsavail":null, "ro":false},
-{"label":"Back & up", "mountpoints":["/media/u/0815"], "fsavail":5000000000000, "ro":false}]})");
-    EXPECT_EQ(disks, (std::vector<MountedDisk>{{u"Back & up"_s, u"/media/u/0815"_s, 5'000'000'000'000},
-                                               {u"stick"_s, u"/media/u/stick"_s, std::nullopt}}));
-    EXPECT_TRUE(readMountedDisks("lsblk: not found").empty());
 }
 
 } // namespace quillon

@@ -395,7 +395,7 @@ TEST_F(BackupIntegration, WhatIsExcludedIsLeftOutAndNothingElse)
     ASSERT_EQ(call(QStringList{u"addexclusion"_s} + paths), 0);
     const auto list = propertylist::parse(practice_.run({u"listexclusions"_s, u"-X"_s}).output);
     ASSERT_TRUE(list);
-    EXPECT_EQ(list->toStringList(), paths);
+    EXPECT_EQ(list->toMap().value(u"Paths"_s).toStringList(), paths);
     const QString inside = practice_.path(u"source/$HOME/file"_s);
     const QString beside = practice_.path(u"source/two"_s);
     EXPECT_EQ(

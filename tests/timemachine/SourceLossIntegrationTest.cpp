@@ -169,6 +169,10 @@ TEST_F(SourceLossIntegration, WhatNamesAndSizesLeaveOutIsToldBeforeItIsKept)
                         practice_.path(u"source/kept.iso.txt"_s)})
                   .output.count("[Excluded]"),
               2);
+    EXPECT_EQ(propertylist::parse(practice_.run({u"listexclusions"_s, u"-X"_s}).output),
+              QVariant(QVariantMap{{u"Paths"_s, QVariantList()},
+                                   {u"Names"_s, QVariantList{u"*.iso"_s, u"source"_s}},
+                                   {u"LargestFile"_s, 2'000'000LL}}));
     EXPECT_EQ(practice_.run({u"excludename"_s, u"--try"_s, u"*.iso"_s}).output,
               "0 files of 0 bytes in all would be left out.\n");
     giveToOrdinaryUser(practice_);

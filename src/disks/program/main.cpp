@@ -31,7 +31,7 @@ int runWindow(const SingleInstance& instance)
     const ColorScheme colors(QDBusConnection::sessionBus());
     applyColorScheme(colors.preference());
     QObject::connect(&colors, &ColorScheme::changed, qApp, applyColorScheme);
-    DisksWindow window({launcher, runLoop, alerts, tmutilPath(), u"/usr/bin/lsblk"_s});
+    DisksWindow window({launcher, runLoop, alerts, tmutilPath()}, u"/usr/bin/lsblk"_s);
     QObject::connect(&instance, &SingleInstance::presentRequested, &window, [&window] {
         window.showNormal();
         window.raise();

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ExclusionDialog.h"
+#include "ListPage.h"
+
+namespace quillon {
+
+class Setup;
+
+/// What is left out of backups: by path, by name, by size.
+class ExclusionsPage final : public ListPage {
+    Q_OBJECT
+
+public:
+    /// The setup must outlive this object.
+    explicit ExclusionsPage(Setup& setup, QWidget* parent = nullptr);
+
+    void reload();
+
+private:
+    void addPath(const char* titleKey, bool files);
+    void addByRule(ExclusionDialog::Kind kind);
+
+    Setup& setup_;
+};
+
+} // namespace quillon

@@ -1,0 +1,134 @@
+#include "RecoveryKeyDialog.h"
+
+#include "LocalizedString.h"
+#include "Setup.h"
+
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLabel* makeParagraph(const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+RecoveryKeyDialog::RecoveryKeyDialog(RecoveryPage page, const Setup& setup, QWidget* parent)
+    : QDialog(parent)
+    , page_(std::move(page))
+    , setup_(setup)
+{
+    setObjectName(u"recoveryKey"_s);
+    setWindowTitle(page_.heading());
+    setWindowModality(Qt::WindowModal);
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    QLabel* heading = makeParagraph(page_.heading());
+    QFont bold = heading->font();
+    bold.setBold(true);
+    heading->setFont(bold);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(heading);
+    column->addWidget(makeParagraph(localizedString("disksKeyExplanation")));
+    column->addWidget(makeKeyField());
+    column->addWidget(makeParagraph(localizedString("disksKeyOnce")));
+    column->addWidget(makeButtons());
+}
+
+/// A field rather than a label: it can be read letter by letter, selected and copied by the keyboard alone.
+QWidget* RecoveryKeyDialog::makeKeyField()
+{
+    auto* field = new QLineEdit(page_.key);
+    field->setObjectName(u"key"_s);
+    field->setAccessibleName(page_.heading());
+    field->setReadOnly(true);
+    field->setAlignment(Qt::AlignCenter);
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    constexpr qreal larger = 1.4;
+    font.setPointSizeF(this->font().pointSizeF() * larger);
+    field->setFont(font);
+    const QFontMetrics metrics(font);
+    field->setMinimumWidth(metrics.horizontalAdvance(page_.key) + 3 * metrics.averageCharWidth());
+    return field;
+}
+
+/// In an order of our own: the button that settles it stands apart from the one that Return presses.
+QWidget* RecoveryKeyDialog::makeButtons()
+{
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins({});
+    const auto add = [row](const QString& name, const QString& title) {
+        auto* button = new QPushButton(title);
+        button->setObjectName(name);
+        button->setAutoDefault(false);
+        row->addWidget(button);
+        return button;
+    };
+    QPushButton* savePage = add(u"savePage"_s, localizedString("disksSavePageTitle") + u'…');
+    savePage->setDefault(true);
+    row->addStretch();
+    connect(savePage, &QPushButton::clicked, this, &RecoveryKeyDialog::choosePlace);
+    connect(add(u"later"_s, localizedString("disksLaterTitle")), &QPushButton::clicked, this, &QDialog::reject);
+    connect(add(u"kept"_s, localizedString("disksKeptTitle")), &QPushButton::clicked, this, [this] {
+        Q_EMIT kept();
+        accept();
+    });
+    return box;
+}
+
+void RecoveryKeyDialog::choosePlace()
+{
+    const QString asPdf = localizedString("disksPagePdf") + " (*.pdf)"_L1;
+    const QString asText = localizedString("disksPageText") + " (*.txt)"_L1;
+    auto* dialog = new QFileDialog(this, localizedString("disksSavePageTitle"),
+                                   QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({asPdf, asText});
+    dialog->setDefaultSuffix(u"pdf"_s);
+    dialog->selectFile(page_.heading().replace(u'/', u'-'));
+    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog, asPdf](const QString& filter) {
+        dialog->setDefaultSuffix(filter == asPdf ? u"pdf"_s : u"txt"_s);
+    });
+    connect(dialog, &QFileDialog::fileSelected, this, [this, dialog, asText](const QString& file) {
+        const bool isText = file.endsWith(".txt"_L1, Qt::CaseInsensitive) ||
+                            (dialog->selectedNameFilter() == asText && !file.endsWith(".pdf"_L1, Qt::CaseInsensitive));
+        save(file, !isText);
+    });
+    dialog->open();
+}
+
+void RecoveryKeyDialog::save(const QString& file, bool asPdf)
+{
+    if (!page_.wouldLieOnDisk(file))
+        return write(file, asPdf);
+    setup_.confirm(localizedString("disksPageOnDiskMessage"), localizedString("disksPageOnDiskInformative"),
+                   localizedString("disksSaveTitle"), [this, file, asPdf] { write(file, asPdf); });
+}
+
+void RecoveryKeyDialog::write(const QString& file, bool asPdf)
+{
+    if (const QString reason = page_.save(file, asPdf); !reason.isEmpty())
+        setup_.complain(localizedString("disksPageFailed"), reason);
+}
+
+} // namespace quillon

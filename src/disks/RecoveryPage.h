@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Date.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace quillon {
+
+/// The page with a disk's recovery key that is kept away from the computer: the key, and how everything is had back
+/// with it on another one.
+struct RecoveryPage {
+    QString disk; ///< its name, fit to be shown
+    QString path; ///< where it is mounted
+    QString key;
+    Date made;
+
+    QString heading() const;
+    QString text() const;
+    QByteArray pdf() const;
+
+    /// Writes it whole, readable by the user only where the disk knows of users. Gives the reason why not, or nothing.
+    QString save(const QString& file, bool asPdf) const;
+
+    /// Whether a file there would be on the very disk that the key opens.
+    bool wouldLieOnDisk(const QString& file) const;
+
+private:
+    QString note() const;
+    QStringList steps() const;
+};
+
+} // namespace quillon

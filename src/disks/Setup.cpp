@@ -1,0 +1,72 @@
+#include "Setup.h"
+
+#include "AlertPresenter.h"
+#include "LocalizedString.h"
+
+#include <utility>
+
+namespace quillon {
+
+Setup::Setup(const Services& services)
+    : services_(services)
+    , tmutil_(services.launcher, services.runLoop, services.tmutil)
+{
+}
+
+void Setup::read(const QStringList& arguments, const Reader& reader)
+{
+    ++awaitedReads_;
+    tmutil_.call(arguments, [this, reader](const TmutilAnswer& answer) {
+        if (!answer.success)
+            trouble_ = answer.complaint;
+        else if (!reader(answer.output))
+            trouble_ = localizedString("disksToolUnreadable");
+        if (--awaitedReads_ == 0)
+            Q_EMIT readAll(std::exchange(trouble_, {}));
+    });
+}
+
+void Setup::change(const QStringList& arguments, const QString& headline, const Reader& then)
+{
+    changing_ = true;
+    Q_EMIT changing(true);
+    tmutil_.call(arguments, [this, headline, then](const TmutilAnswer& answer) {
+        changing_ = false;
+        Q_EMIT changing(false);
+        if (!answer.success)
+            complain(headline, answer.complaint);
+        else if (then && !then(answer.output))
+            complain(headline, localizedString("disksToolUnreadable"));
+        Q_EMIT changed();
+    });
+}
+
+void Setup::prepare(const QStringList& arguments)
+{
+    tmutil_.call(arguments, [](const TmutilAnswer&) {});
+}
+
+void Setup::confirm(const QString& message, const QString& informative, const QString& title,
+                    const std::function<void()>& go) const
+{
+    services_.alerts.present({.style = AlertStyle::Warning,
+                              .messageText = message,
+                              .informativeText = informative,
+                              .buttons = {localizedString("disksCancelTitle"), title},
+                              .destructiveButton = 1},
+                             [go](int response) {
+                                 if (response == alertSecondButtonReturn)
+                                     go();
+                             });
+}
+
+void Setup::complain(const QString& headline, const QString& complaint) const
+{
+    services_.alerts.present({.style = AlertStyle::Warning,
+                              .messageText = headline,
+                              .informativeText = complaint,
+                              .buttons = {localizedString("disksOkTitle")}},
+                             {});
+}
+
+} // namespace quillon

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "TmutilClient.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace quillon {
+
+class AlertPresenter;
+
+/// The setup of Time Machine as the pages of the window share it: tmutil is asked and told one thing after the other,
+/// a change comes alone and is followed by reading anew. Main thread only.
+class Setup final : public QObject {
+    Q_OBJECT
+
+public:
+    /// All outlive the setup.
+    struct Services {
+        TaskLauncher& launcher;
+        RunLoop& runLoop;
+        AlertPresenter& alerts;
+        QString tmutil; ///< path of the tool
+    };
+    /// Takes what tmutil has printed; false where that is not whole.
+    using Reader = std::function<bool(const QByteArray& answer)>;
+
+    explicit Setup(const Services& services);
+
+    const Services& services() const { return services_; }
+
+    /// Whether something is being read or changed.
+    bool isBusy() const { return awaitedReads_ > 0 || changing_; }
+
+    void read(const QStringList& arguments, const Reader& reader);
+
+    /// An alert with that headline says why it has failed. `then` takes what was printed otherwise.
+    void change(const QStringList& arguments, const QString& headline, const Reader& then = {});
+
+    /// Made ahead of the change that follows, which is made in any case.
+    void prepare(const QStringList& arguments);
+
+    /// Asks ahead of something that is not done lightly; the button that does it has that title.
+    void confirm(const QString& message, const QString& informative, const QString& title,
+                 const std::function<void()>& go) const;
+
+    void complain(const QString& headline, const QString& complaint) const;
+
+Q_SIGNALS:
+    /// All that was asked for is in; what went wrong with it, or nothing.
+    void readAll(const QString& trouble);
+    /// While something is changed nothing else can be.
+    void changing(bool begun);
+    void changed();
+
+private:
+    Services services_;
+    QString trouble_;      ///< of the answers since the last time all were in
+    int awaitedReads_ = 0; ///< answers still to come
+    bool changing_ = false;
+    TmutilClient tmutil_; ///< last, so that no answer finds half a setup
+};
+
+} // namespace quillon

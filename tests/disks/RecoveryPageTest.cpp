@@ -1,0 +1,64 @@
+#include "RecoveryPage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+RecoveryPage pageOf(const QString& path)
+{
+    return {.disk = u"Disk"_s,
+            .path = path,
+            .key = u"8K2VT-00000-11111-22222-33333-444AB"_s,
+            .made = Date(std::chrono::seconds(1'795'245'778))};
+}
+
+} // namespace
+
+TEST(RecoveryPage, HoldsTheKeyAndCommandsThatAShellTakes)
+{
+    for (const auto& [path, adopt] : {std::pair{u"/media/you/Disk-1"_s, u"tmutil adopt /media/you/Disk-1 "_s},
+                                      std::pair{u"/media/you/My $HOME"_s, u"tmutil adopt '/media/you/My $HOME' "_s},
+                                      std::pair{u"/media/it's"_s, u"tmutil adopt '/media/it'\\''s' "_s}}) {
+        const QString text = pageOf(path).text();
+        EXPECT_TRUE(text.contains(adopt)) << text.toStdString();
+        EXPECT_TRUE(text.contains(u"\n    8K2VT-00000-11111-22222-33333-444AB\n"_s));
+        EXPECT_TRUE(text.contains(u"\n5. tmutil startbackup -b"_s)) << text.toStdString();
+    }
+}
+
+TEST(RecoveryPage, IsSavedWholeAndForTheUserAlone)
+{
+    const QTemporaryDir folder;
+    const auto page = pageOf(folder.path());
+    const QString file = folder.filePath(u"page.txt"_s);
+    {
+        QFile open(file);
+        ASSERT_TRUE(open.open(QIODevice::WriteOnly) &&
+                    open.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::ReadGroup));
+    }
+    for (const bool pdf : {false, true}) {
+        EXPECT_EQ(page.save(file, pdf), QString());
+        const auto permissions = QFileInfo(file).permissions();
+        EXPECT_FALSE(permissions & (QFile::ReadGroup | QFile::ReadOther)) << pdf;
+        QFile saved(file);
+        ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+        const QByteArray contents = saved.readAll();
+        EXPECT_TRUE(pdf ? contents.startsWith("%PDF") && contents.trimmed().endsWith("%%EOF")
+                        : contents == page.text().toUtf8());
+    }
+    EXPECT_NE(page.save(folder.filePath(u"missing/page.txt"_s), false), QString());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(u"page.txt"_s));
+    EXPECT_TRUE(page.wouldLieOnDisk(file));
+    EXPECT_FALSE(page.wouldLieOnDisk(u"/proc/page.txt"_s));
+}
+
+} // namespace quillon
