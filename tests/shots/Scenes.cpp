@@ -5,6 +5,11 @@
 #include "Notifications.h"
 #include "ScopedEnvironment.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+
 #include <array>
 
 namespace quillon {
@@ -65,6 +70,15 @@ void browseBackups(Stage& stage)
     stage.program().workspace.opens = false;
     stage.program().controller->enterTimeMachineClicked();
     stage.showAlert();
+}
+
+enum DisksPages { Disks, Sources, Exclusions };
+
+/// Chooses from the menu with which things are added to what is left out.
+void addExclusion(Stage& stage, const char* key)
+{
+    stage.openDisks(Exclusions).findChild<QAction*>(QLatin1StringView(key))->trigger();
+    stage.program().runLoop.advance(Seconds(1));
 }
 
 constexpr std::array scenes{
@@ -139,6 +153,26 @@ constexpr std::array scenes{
     Scene{"settings-help-failed", [](Stage& stage) { pressInSettings(stage, "retryAtFailureHelpButton"); }},
     Scene{"about", openAbout},
     Scene{"history-help", [](Stage& stage) { stage.program().controller->allBackupInfoHelpButtonPressed(); }},
+    Scene{"disks",
+          [](Stage& stage) {
+              for (auto* list : stage.openDisks(Disks).findChildren<QListWidget*>())
+                  list->setCurrentRow(1);
+          }},
+    Scene{"disks-sources", [](Stage& stage) { stage.openDisks(Sources); }},
+    Scene{"disks-exclusions", [](Stage& stage) { stage.openDisks(Exclusions); }},
+    Scene{"disks-recovery-key",
+          [](Stage& stage) {
+              stage.openDisks(Disks);
+              stage.press("showKey");
+              stage.program().runLoop.advance(Seconds(1));
+          }},
+    Scene{"disks-name",
+          [](Stage& stage) {
+              addExclusion(stage, "disksAddNameTitle");
+              QApplication::activeModalWidget()->findChild<QLineEdit*>()->setText(u"*.iso"_s);
+              stage.program().runLoop.advance(Seconds(1));
+          }},
+    Scene{"disks-size", [](Stage& stage) { addExclusion(stage, "disksAddSizeTitle"); }},
     Scene{"alert-first-launch", launchForTheFirstTime},
     Scene{"alert-first-launch-no-disk",
           [](Stage& stage) {

@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QTabWidget>
 #include <QTest>
 
 #include <algorithm>
@@ -26,7 +27,7 @@ QWidgetList visibleWindows()
     QWidgetList windows = QApplication::topLevelWidgets();
     windows.removeIf([](const QWidget* window) { return !window->isVisible(); });
     std::stable_partition(windows.begin(), windows.end(),
-                          [](const QWidget* window) { return !window->findChild<Alert*>(); });
+                          [](const QWidget* window) { return !window->isModal() && !window->findChild<Alert*>(); });
     return windows;
 }
 
@@ -103,6 +104,15 @@ void Stage::openMenu(QAction* const StatusMenu::*submenuOf)
         StatusMenu& menu = program_.controller->statusMenu();
         menu.setActiveAction(menu.*submenuOf);
     }
+}
+
+DisksWindow& Stage::openDisks(int page)
+{
+    disks_.emplace(program_.runLoop, alerts_);
+    constexpr int besideBar = 100;
+    disks_->window().move(besideBar, besideBar);
+    disks_->window().findChild<QTabWidget*>()->setCurrentIndex(page);
+    return disks_->window();
 }
 
 void Stage::press(const char* button)

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "ModalAlertPresenter.h"
+#include "PlayedDisks.h"
 #include "PlayedProgram.h"
 #include "ScopedEnvironment.h"
 #include "StatusItem.h"
 
 #include <memory>
+#include <optional>
 
 class QString;
 
@@ -22,6 +24,8 @@ public:
     void launch();
     /// Opens the status menu and, beside it, the submenu of one of its items where one is given.
     void openMenu(QAction* const StatusMenu::*submenuOf = nullptr);
+    /// Opens the window of disks, with the page of that place in front.
+    DisksWindow& openDisks(int page);
     /// Presses the visible button of that object name; of several the one that stands highest.
     void press(const char* button);
     /// Chooses an item of the visible combo box of that object name.
@@ -36,6 +40,7 @@ private:
     std::unique_ptr<StatusItem> item_;
     ModalAlertPresenter alerts_;
     PlayedProgram program_;
+    std::optional<PlayedDisks> disks_;
 };
 
 } // namespace quillon
