@@ -214,10 +214,10 @@ void Backup::copy()
     }
     const Restic program = restic();
     for (bool unlocked = false;; unlocked = true) {
-        const QStringList arguments = QStringList{u"backup"_s, u"--json"_s, u"--verbose=2"_s, u"--tag"_s,
-                                                  Snapshot::tag(remark_.lostSources.isEmpty())} +
-                                      sources_.arguments();
         BackupOutput output(sources_.folders, repaired_);
+        const QStringList arguments = QStringList{u"backup"_s} + output.options() +
+                                      QStringList{u"--tag"_s, Snapshot::tag(remark_.lostSources.isEmpty())} +
+                                      sources_.arguments();
         const auto outcome = program.run(
             arguments,
             [&](const QByteArray& line) {

@@ -13,8 +13,24 @@ using namespace Qt::StringLiterals;
 
 BackupOutput::BackupOutput(const QStringList& sources, bool repaired)
     : emptySources_(sources)
+    , isOnlySource_(sources.size() == 1)
     , repaired_(repaired)
 {
+}
+
+QStringList BackupOutput::options() const
+{
+    QStringList options{u"--json"_s};
+    if (needsItems())
+        options << u"--verbose=2"_s;
+    return options;
+}
+
+/// A line for every file delays a backup that finds little changed. For a source alone the number of files in the
+/// summary says as much.
+bool BackupOutput::needsItems() const
+{
+    return repaired_ || !isOnlySource_;
 }
 
 QStringList BackupOutput::unreadPaths() const
@@ -40,14 +56,7 @@ bool BackupOutput::readLine(const QByteArray& line)
     const QJsonObject message = QJsonDocument::fromJson(line).object();
     const QString type = message.value("message_type"_L1).toString();
     if (type == "summary"_L1) {
-        snapshotId_ = message.value("snapshot_id"_L1).toString();
-        newFiles_ = message.value("files_new"_L1).toInteger();
-        changedFiles_ = message.value("files_changed"_L1).toInteger();
-        bytesAdded_ = message.value("data_added"_L1).toInteger();
-        const auto bytes = message.value("total_bytes_processed"_L1).toInteger();
-        const auto files = message.value("total_files_processed"_L1).toInteger();
-        progress_ =
-            BackupProgress{.fraction = 1.0, .bytes = bytes, .totalBytes = bytes, .files = files, .totalFiles = files};
+        readSummary(message);
         return true;
     }
     if (type != "status"_L1)
@@ -63,14 +72,30 @@ bool BackupOutput::readLine(const QByteArray& line)
                        .totalFiles = message.value("total_files"_L1).toInteger()};
     if (now.bytes == 0 && now.files == 0)
         return false;
-    if (scanEnded_) {
-        // Files that grow while they are read make more done than was found.
-        now.fraction = std::clamp(message.value("percent_done"_L1).toDouble(), 0.0, 1.0);
-        if (const auto seconds = message.value("seconds_remaining"_L1).toInteger(); seconds > 0)
-            now.secondsRemaining = seconds;
+    // restic estimates no time before the scan has ended, of which it tells only where it prints a line for every file.
+    if (const auto seconds = message.value("seconds_remaining"_L1).toInteger(); seconds > 0) {
+        scanEnded_ = true;
+        now.secondsRemaining = seconds;
     }
+    // Files that grow while they are read make more done than was found.
+    if (scanEnded_)
+        now.fraction = std::clamp(message.value("percent_done"_L1).toDouble(), 0.0, 1.0);
     progress_ = now;
     return true;
+}
+
+void BackupOutput::readSummary(const QJsonObject& message)
+{
+    snapshotId_ = message.value("snapshot_id"_L1).toString();
+    newFiles_ = message.value("files_new"_L1).toInteger();
+    changedFiles_ = message.value("files_changed"_L1).toInteger();
+    bytesAdded_ = message.value("data_added"_L1).toInteger();
+    const auto bytes = message.value("total_bytes_processed"_L1).toInteger();
+    const auto files = message.value("total_files_processed"_L1).toInteger();
+    progress_ =
+        BackupProgress{.fraction = 1.0, .bytes = bytes, .totalBytes = bytes, .files = files, .totalFiles = files};
+    if (isOnlySource_ && files > 0)
+        emptySources_.clear();
 }
 
 void BackupOutput::readItem(const QByteArray& line)

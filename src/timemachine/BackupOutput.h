@@ -9,14 +9,19 @@
 
 #include <optional>
 
+class QJsonObject;
+
 namespace quillon {
 
-/// Reads what `restic backup --json --verbose=2` prints, line by line.
+/// Reads what `restic backup` prints, line by line.
 class BackupOutput {
 public:
     /// `sources`: the folders that are read, absolute. `repaired`: the repository has lost data that is stored anew
     /// now; of each file concerned restic complains first, and then stores it.
     explicit BackupOutput(const QStringList& sources = {}, bool repaired = false);
+
+    /// The options that make restic print what is read here.
+    QStringList options() const;
 
     /// A line of standard output. True when progress() has changed.
     bool readLine(const QByteArray& line);
@@ -42,9 +47,12 @@ public:
     const QStringList& emptySources() const { return emptySources_; }
 
 private:
+    bool needsItems() const;
     void readItem(const QByteArray& line);
+    void readSummary(const QJsonObject& message);
 
     QStringList emptySources_;
+    bool isOnlySource_;
     bool scanEnded_ = false;
     std::optional<BackupProgress> progress_;
     QString snapshotId_;

@@ -76,6 +76,26 @@ TEST(BackupOutput, ASourceIsEmptyUntilAFileOfItHasBeenSeen)
     EXPECT_EQ(output.emptySources(), QStringList(u"/b"_s));
 }
 
+TEST(BackupOutput, AnOnlySourceNeedsNoLineForEveryFile)
+{
+    const QString lines = u"--verbose=2"_s;
+    EXPECT_TRUE(BackupOutput({u"/a"_s, u"/b"_s}).options().contains(lines));
+    EXPECT_TRUE(BackupOutput({u"/a"_s}, true).options().contains(lines));
+    BackupOutput output({u"/a"_s});
+    EXPECT_FALSE(output.options().contains(lines));
+
+    ASSERT_TRUE(output.readLine(R"({"message_type":"status","percent_done":0.5,"files_done":1,"bytes_done":1000})"));
+    EXPECT_FALSE(output.progress()->fraction) << "the scan may not have ended";
+    ASSERT_TRUE(output.readLine(R"({"message_type":"status","seconds_elapsed":2,"seconds_remaining":3,)"
+                                R"("percent_done":0.5,"files_done":1,"bytes_done":1000})"));
+    EXPECT_EQ(output.progress()->fraction, 0.5);
+
+    output.readLine(R"({"message_type":"summary","total_files_processed":0,"snapshot_id":"c324f869"})");
+    EXPECT_EQ(output.emptySources(), QStringList(u"/a"_s));
+    output.readLine(R"({"message_type":"summary","total_files_processed":1,"snapshot_id":"c324f869"})");
+    EXPECT_TRUE(output.emptySources().isEmpty());
+}
+
 TEST(BackupOutput, WhatIsStoredAnewAfterARepairWasRead)
 {
     BackupOutput output({}, true);
