@@ -213,12 +213,12 @@ void Backup::copy()
         history_.save();
     }
     const Restic program = restic();
-    for (bool unlocked = false;; unlocked = true) {
+    for (;;) {
         BackupOutput output(sources_.folders, repaired_);
         const QStringList arguments = QStringList{u"backup"_s} + output.options() +
                                       QStringList{u"--tag"_s, Snapshot::tag(remark_.lostSources.isEmpty())} +
                                       sources_.arguments();
-        const auto outcome = program.run(
+        const auto outcome = program.runUnlocking(
             arguments,
             [&](const QByteArray& line) {
                 if (output.readLine(line))
@@ -239,14 +239,8 @@ void Backup::copy()
         endIfStopped();
         if (isMade && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
             return;
-        const auto problem = outcome.diagnosis().problem;
-        if (problem == ResticProblem::Locked && !unlocked) {
-            program.run({u"unlock"_s}).require();
-            continue;
-        }
-        if (problem == ResticProblem::NoSpace && makeRoom())
-            continue;
-        throw outcome.failure();
+        if (outcome.diagnosis().problem != ResticProblem::NoSpace || !makeRoom())
+            throw outcome.failure();
     }
 }
 

@@ -32,6 +32,11 @@ constexpr auto patience = 30s;
 constexpr auto diskInterval = 500ms;
 constexpr auto patienceWithoutDisk = 3s;
 
+// A killed worker's restic is interrupted and ends at once; init may take two seconds to notice, and until then restic
+// takes it for alive.
+constexpr int unlockings = 6;
+constexpr auto lockInterval = 1s;
+
 QStringList searchPath()
 {
     return {u"/usr/local/bin"_s, u"/usr/bin"_s, u"/bin"_s};
@@ -82,6 +87,11 @@ void readMessages(QProcess& process, const Restic::LineHandler& onMessage, Resti
         if (!isKept && !(isMessage && onMessage) && outcome.errorText.size() < errorTextBound)
             outcome.errorText += QString::fromUtf8(line);
     }
+}
+
+bool isLocked(const ResticOutcome& outcome)
+{
+    return outcome.exitStatus != 0 && outcome.diagnosis().problem == ResticProblem::Locked;
 }
 
 void interrupt(QProcess& process, std::chrono::milliseconds limit)
@@ -169,7 +179,7 @@ ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOut
     if (!process.waitForStarted()) {
         return {.exitStatus = 127, .output = {}, .errorText = process.errorString(), .workFolder = {}};
     }
-    if (stop_ != nullptr && stop_->isMade())
+    if (isStopped())
         interrupt(process, patience);
     if (process.state() != QProcess::NotRunning)
         loop.exec();
@@ -182,14 +192,34 @@ ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOut
     return outcome;
 }
 
-ResticOutcome Restic::runUnlocking(const QStringList& arguments, const LineHandler& onMessage) const
+ResticOutcome Restic::runUnlocking(const QStringList& arguments, const LineHandler& onOutput,
+                                   const LineHandler& onMessage) const
 {
-    const auto isStopped = [this] { return stop_ != nullptr && stop_->isMade(); };
-    auto outcome = run(arguments, {}, onMessage);
-    if (outcome.exitStatus != 0 && outcome.diagnosis().problem == ResticProblem::Locked && !isStopped() &&
-        run({u"unlock"_s}).exitStatus == 0 && !isStopped())
-        outcome = run(arguments, {}, onMessage);
+    auto outcome = run(arguments, onOutput, onMessage);
+    for (int unlocked = 0; unlocked < unlockings && isLocked(outcome) && !isStopped(); ++unlocked) {
+        if (unlocked > 0)
+            pause();
+        if (run({u"unlock"_s}).exitStatus != 0 || isStopped())
+            break;
+        outcome = run(arguments, onOutput, onMessage);
+    }
     return outcome;
+}
+
+bool Restic::isStopped() const
+{
+    return stop_ != nullptr && stop_->isMade();
+}
+
+/// A stop ends it.
+void Restic::pause() const
+{
+    QEventLoop loop;
+    QTimer::singleShot(lockInterval, &loop, &QEventLoop::quit);
+    if (stop_ != nullptr)
+        QObject::connect(stop_, &StopRequest::made, &loop, &QEventLoop::quit);
+    if (!isStopped())
+        loop.exec();
 }
 
 Restic Restic::withFeature(const QString& name) const

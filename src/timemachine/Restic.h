@@ -51,8 +51,10 @@ public:
     ResticOutcome run(const QStringList& arguments, const LineHandler& onOutput = {},
                       const LineHandler& onMessage = {}) const;
 
-    /// The same; where a process that has died left its lock, that is removed and it runs once more.
-    ResticOutcome runUnlocking(const QStringList& arguments, const LineHandler& onMessage = {}) const;
+    /// The same; where a process that has died left its lock, that is removed and it runs once more. One whose worker
+    /// was killed is waited for, since it needs a moment to end.
+    ResticOutcome runUnlocking(const QStringList& arguments, const LineHandler& onOutput = {},
+                               const LineHandler& onMessage = {}) const;
 
     /// The same restic with a feature that it does not have by default.
     Restic withFeature(const QString& name) const;
@@ -63,6 +65,9 @@ public:
     static QString cacheFolder(const Folders& folders);
 
 private:
+    bool isStopped() const;
+    void pause() const;
+
     const RepositoryFolder& repository_;
     QString executable_;
     QStringList environment_;

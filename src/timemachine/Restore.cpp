@@ -209,9 +209,9 @@ void restore(const QString& source, const QString& target, const std::vector<Des
     for (const QString& path : paths) {
         const QString tree = work.path() + "/tree"_L1 + QString::number(paths.indexOf(path));
         QByteArrayList lines;
-        const auto outcome =
-            Restic(wanted.repository, folders, &stop)
-                .runUnlocking(argumentsFor(wanted, path, tree), [&](const QByteArray& line) { lines.append(line); });
+        const auto outcome = Restic(wanted.repository, folders, &stop)
+                                 .runUnlocking(argumentsFor(wanted, path, tree), {},
+                                               [&](const QByteArray& line) { lines.append(line); });
         if (stop.isMade())
             throw Failure(ExitStatus::Stopped, u"The restore was stopped; nothing was restored."_s);
         RestoreErrors errors([&](const QString& one) { return one == path || modeOf(encodePath(tree + one)) != 0; });

@@ -155,7 +155,7 @@ TEST_F(BackupIntegration, AStopOnceTheBackupIsWrittenIsNoFailure)
     EXPECT_EQ(call({u"latestbackup"_s}), 0);
 }
 
-TEST_F(BackupIntegration, AResticThatSaysInJsonWhatEndedItIsUnderstood)
+TEST_F(BackupIntegration, AResticThatSaysInJsonWhatEndedItIsUnderstoodAndALockThatLastsIsWaitedFor)
 {
     practice_.addDisk(u"disk"_s);
     practice_.write(u"source/file"_s, "file");
@@ -168,7 +168,7 @@ case "$*" in
     [ -e '$folder/locked' ] && end 11 'unable to create lock in backend: repository is already locked by PID 1'
     [ -e '$folder/forgetful' ] && { /usr/bin/restic "$@"; rm -f snapshots/*; exit; }
     [ -e '$folder/broken' ] && end 1 'Fatal: unable to save snapshot: something new' ;;
-*' unlock') rm -f '$folder/locked' ;;
+*' unlock') [ -e '$folder/asked' ] && rm -f '$folder/locked'; touch '$folder/asked'; exit 0 ;;
 esac
 exec /usr/bin/restic "$@"
 )"_ba.replace("$folder", practice_.path(u"."_s).toUtf8()));
