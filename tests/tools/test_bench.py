@@ -34,6 +34,8 @@ class BenchTest(unittest.TestCase):
         printed = io.StringIO()
         with (mock.patch.dict(bench["main"].__globals__, benchmarks=lambda programs: {}, core_figures=lambda runs: {}),
               mock.patch.object(bench["program"], "measure", return_value=figures),
+              mock.patch.object(bench["unchanged"], "measure", return_value={}),
+              mock.patch.object(bench["kills"], "measure", return_value={}),
               mock.patch.object(sys, "argv", ["bench", "programs"]),
               contextlib.redirect_stdout(printed), self.assertRaises(SystemExit) as end):
             bench["main"]()
