@@ -162,7 +162,7 @@ std::optional<Damage> Verification::run(const std::optional<Slice>& slice, const
     const Restic restic(repository_, folders_, &stop_);
     CheckFindings findings;
     const auto outcome = restic.runUnlocking(
-        {u"check"_s, data}, [&findings](const QByteArray& line) { findings.readLine(QString::fromUtf8(line)); });
+        {u"check"_s, data}, {}, [&findings](const QByteArray& line) { findings.readLine(QString::fromUtf8(line)); });
     if (stop_.isMade())
         throw Failure(ExitStatus::Stopped, u"The verification was stopped."_s);
     const ResticDiagnosis diagnosis = outcome.diagnosis();
