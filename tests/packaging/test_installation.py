@@ -133,6 +133,16 @@ class InstallationTest(unittest.TestCase):
             header = picture.read_bytes()[:24]  # PNG specification, "IHDR Image header"
             self.assertEqual(f"{int.from_bytes(header[16:20])}x{int.from_bytes(header[20:24])}", picture.parts[-3])
 
+    def test_panels_can_tint_the_states_of_the_item(self):
+        symbols = sorted((self.share / "icons/hicolor/symbolic/apps").iterdir())
+        # By these names the program asks for them.
+        self.assertEqual([symbol.name for symbol in symbols],
+                         [f"com.Orvane.Quillon.{state}-symbolic.svg" for state in (
+                             "clock.arrow.2.circlepath", "clock.arrow.circlepath", "exclamationmark.arrow.circlepath",
+                             "exclamationmark.arrow.triangle.2.circlepath")])
+        for symbol in symbols:
+            self.assertNotIn("stroke", symbol.read_text(), "GTK fills it instead")
+
 
 if __name__ == "__main__":
     unittest.main()
