@@ -21,11 +21,15 @@ StatusNotifierHostWatcher::StatusNotifierHostWatcher(const QDBusConnection& bus)
 {
     if (known_)
         return;
-    connect(&serviceWatcher_, &QDBusServiceWatcher::serviceRegistered, this, &StatusNotifierHostWatcher::ask);
-    connect(&serviceWatcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-        question_.reset();
-        settle(false);
-    });
+    connect(&serviceWatcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString& /*service*/, const QString& /*oldOwner*/, const QString& newOwner) {
+                if (!newOwner.isEmpty()) {
+                    ask();
+                    return;
+                }
+                question_.reset();
+                settle(false);
+            });
     for (const auto signal : {"StatusNotifierHostRegistered"_L1, "StatusNotifierHostUnregistered"_L1})
         bus_.connect(statusNotifierWatcher, statusNotifierPath, statusNotifierWatcher, signal, this, SLOT(ask()));
     ask();
