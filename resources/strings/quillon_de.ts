@@ -100,6 +100,23 @@
         <source></source>
         <translation>Wird gestoppt</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>Ein Backup läuft.</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>Das letzte Backup ist fehlgeschlagen.</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>Ein geplantes Backup wurde verpasst.</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>Ein Update ist verfügbar.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -100,6 +100,23 @@
         <source></source>
         <translation>Stopping</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>A backup is running.</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>The latest backup failed.</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>A scheduled backup was missed.</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>An update is available.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

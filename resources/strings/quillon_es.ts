@@ -100,6 +100,23 @@
         <source></source>
         <translation>Deteniendo</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>Hay una copia en curso.</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>La última copia ha fallado.</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>No se realizó una copia programada.</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>Hay una actualización disponible.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

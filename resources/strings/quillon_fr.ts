@@ -100,6 +100,23 @@
         <source></source>
         <translation>Arrêt</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>Une sauvegarde est en cours.</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>La dernière sauvegarde a échoué.</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>Une sauvegarde programmée a été manquée.</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>Une mise à jour est disponible.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

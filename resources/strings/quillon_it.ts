@@ -100,6 +100,23 @@
         <source></source>
         <translation>Arresto</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>Backup in corso.</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>L’ultimo backup non è riuscito.</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>Un backup programmato è stato mancato.</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>È disponibile un aggiornamento.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

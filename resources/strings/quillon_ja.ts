@@ -100,6 +100,23 @@
         <source></source>
         <translation>停止処理中</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>バックアップを実行中です。</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>前回のバックアップに失敗しました。</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>予定されていたバックアップを実行できませんでした。</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>アップデートがあります。</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -100,6 +100,23 @@
         <source></source>
         <translation>Stopt</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>Er wordt een reservekopie gemaakt.</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>De laatste reservekopie is mislukt.</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>Een geplande reservekopie is gemist.</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>Er is een update beschikbaar.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

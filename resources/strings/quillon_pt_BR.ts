@@ -100,6 +100,23 @@
         <source></source>
         <translation>Parando</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>Há um backup em andamento.</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>O último backup falhou.</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>Um backup programado não foi realizado.</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>Há uma atualização disponível.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -100,6 +100,23 @@
         <source></source>
         <translation>正在停止</translation>
     </message>
+    <!-- What the icon stands for -->
+    <message id="iconRunningDescription">
+        <source></source>
+        <translation>正在备份。</translation>
+    </message>
+    <message id="iconFailedDescription">
+        <source></source>
+        <translation>最近一次备份失败。</translation>
+    </message>
+    <message id="iconMissedDescription">
+        <source></source>
+        <translation>错过了一次计划的备份。</translation>
+    </message>
+    <message id="iconUpdateDescription">
+        <source></source>
+        <translation>有可用更新。</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -222,6 +222,7 @@ private:
     bool switchIsOn(const QString& key) const;
     bool iconOnly() const;
     QString updateMarker() const;
+    std::optional<int> shownPercent() const;
     void setButtonTitle(const QString& title);
 
     RunLoop& runLoop_;

@@ -1,6 +1,9 @@
+#include "LocalizedString.h"
 #include "SettingsKeys.h"
 #include "StatusMenuController.h"
 #include "SystemVersion.h"
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -28,22 +31,43 @@ std::optional<SymbolImage> StatusMenuController::getMenuBarIcon() const
         const bool colorsAreOn = switchIsOn(settingskeys::enableMenuBarColors) && systemIsAtLeast(u"12.0");
         return colorsAreOn ? SymbolImage{name, color, true} : plain(name);
     };
+    const auto meaning = [](SymbolImage image, const char* descriptionKey) {
+        image.description = localizedString(descriptionKey);
+        return image;
+    };
     switch (menuBarIconState_) {
     case MenuBarIconState::Idle:
     case MenuBarIconState::Completed:
         return plain(u"clock.arrow.circlepath"_s);
-    case MenuBarIconState::Running:
-        return plain(u"clock.arrow.2.circlepath"_s);
+    case MenuBarIconState::Running: {
+        SymbolImage image = meaning(plain(u"clock.arrow.2.circlepath"_s), "iconRunningDescription");
+        image.percent = shownPercent();
+        return image;
+    }
     case MenuBarIconState::UpdateAvailable:
-        return coloured(u"exclamationmark.arrow.circlepath"_s, SymbolColor::SystemGreen);
-    case MenuBarIconState::Failed:
-        return coloured(u"exclamationmark.arrow.triangle.2.circlepath"_s, SymbolColor::SystemOrange);
+        return meaning(coloured(u"exclamationmark.arrow.circlepath"_s, SymbolColor::SystemGreen),
+                       "iconUpdateDescription");
+    case MenuBarIconState::Failed: {
+        SymbolImage image =
+            meaning(coloured(u"exclamationmark.arrow.triangle.2.circlepath"_s, SymbolColor::SystemOrange),
+                    "iconFailedDescription");
+        image.needsAttention = true;
+        return image;
+    }
     case MenuBarIconState::MissedSchedule:
-        return coloured(u"exclamationmark.arrow.circlepath"_s, SymbolColor::SystemYellow);
+        return meaning(coloured(u"exclamationmark.arrow.circlepath"_s, SymbolColor::SystemYellow),
+                       "iconMissedDescription");
     case MenuBarIconState::None:
         break;
     }
     return std::nullopt;
+}
+
+/// Nothing before a run has told how far it has come.
+std::optional<int> StatusMenuController::shownPercent() const
+{
+    const int percent = static_cast<int>(std::min(progress_.percentage(), 1.0) * 100);
+    return percent > 0 ? std::optional(percent) : std::nullopt;
 }
 
 } // namespace quillon

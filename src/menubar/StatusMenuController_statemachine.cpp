@@ -31,6 +31,7 @@ void StatusMenuController::runStateMachineStep()
         showActiveTitle();
         if (uiState_ != TMState::Running && tmState_ == TMState::Running)
             beginRun();
+        statusItem_.setImage(getMenuBarIcon()); // whose progress may have changed
     } else {
         if (uiState_ == TMState::Running)
             endRun();

@@ -23,6 +23,7 @@ TEST_F(RunCycle, AScheduledBackupIsStartedFollowedAndRecorded)
     EXPECT_TRUE(text(menu().phaseMenuItem).startsWith(u"Phase: Copying (4"_s));
     EXPECT_EQ(text(menu().backupNowMenuItem), u"Skip This Backup"_s);
     EXPECT_TRUE(item.title.contains(u"%\n3"_s)) << item.title.toStdString();
+    EXPECT_EQ(item.image->percent, item.title.section(u'.', 0, 0).toInt());
 
     QList<MenuBarIconState> icons;
     QObject::connect(controller.get(), &StatusMenuController::menuBarIconStateChanged, &item,
@@ -50,6 +51,8 @@ TEST_F(RunCycle, ARunThatEndsBeforeItsFinishingPhaseIsAFailureWithARetryAtAWhole
     runLoop.advance(Seconds(60));
     EXPECT_EQ(icon(), MenuBarIconState::Failed);
     EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemOrange);
+    EXPECT_EQ(item.image->description, u"The latest backup failed."_s);
+    EXPECT_TRUE(item.image->needsAttention);
     ASSERT_TRUE(manager->retryBackupDate());
     const auto retry = *manager->retryBackupDate();
     EXPECT_EQ(retry.time_since_epoch() % std::chrono::minutes(1), std::chrono::milliseconds(0));
@@ -169,6 +172,7 @@ TEST_F(RunCycle, AMarkOfTroubleSurvivesIdleRefreshesAndRestart)
     launch();
     runLoop.advance(Seconds(60));
     EXPECT_EQ(icon(), MenuBarIconState::MissedSchedule);
+    EXPECT_EQ(controller->getMenuBarIcon()->description, u"A scheduled backup was missed."_s);
     EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemYellow);
     EXPECT_TRUE(item.image->isTemplate);
     defaults.setObject(settingskeys::enableMenuBarColors, 0LL);
@@ -188,6 +192,7 @@ TEST_F(RunCycle, IconOnlyModeShowsNoTitleAndMarksAnUpdate)
     notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"2.0"_s}});
     runLoop.settle();
     EXPECT_EQ(icon(), MenuBarIconState::UpdateAvailable);
+    EXPECT_EQ(controller->getMenuBarIcon()->description, u"An update is available."_s);
     EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemGreen);
     EXPECT_TRUE(menu().updateAvailableMenuItem->isVisible());
     defaults.setObject(settingskeys::showMenuBarIconOnly, 0LL);

@@ -1,8 +1,8 @@
 #include "ClippedTexts.h"
 #include "ColorScheme_linux.h"
 #include "ControllerFixture.h"
+#include "DBusMenu_linux.h"
 #include "EventLoop.h"
-#include "ExportedMenu_linux.h"
 #include "HelpButton.h"
 #include "LocalizedString.h"
 #include "Popover.h"
@@ -225,14 +225,17 @@ TEST_F(StatusMenuGui, WhatInformsCanBeReadAndACommandThatIsOffLooksOff)
 TEST_F(StatusMenuGui, ATrayThatDrawsTheMenuGetsPlainRowsAndHelpAsAnItem)
 {
     launch();
-    ExportedMenu exported(statusMenu());
-    Q_EMIT exported.aboutToShow();
+    DBusMenu exported(QDBusConnection(u"none"_s), u"/Menu"_s, [] { return false; });
+    exported.setMenu(&statusMenu());
+    exported.AboutToShow(0);
     answer();
-    const QMenu* history = exported.actions().constFirst()->menu();
-    ASSERT_TRUE(history);
-    EXPECT_EQ(history->actions().at(2)->text(), u"First: N/A"_s);
-    EXPECT_EQ(history->actions().at(0)->text(), u"Latest Backup of Each Disk"_s);
-    history->actions().at(0)->trigger();
+    MenuLayout layout;
+    exported.GetLayout(0, -1, {}, layout);
+    const auto history = layout.children.value(0).children;
+    EXPECT_EQ(history.value(2).properties[u"label"_s], u"First: N/A"_s);
+    EXPECT_EQ(history.value(0).properties[u"label"_s], u"Latest Backup of Each Disk"_s);
+    exported.Event(history.value(0).id, u"clicked"_s, {}, 0);
+    QCoreApplication::processEvents();
     closeHelp();
 }
 

@@ -56,6 +56,8 @@ void MenuBarButton::setContent(const StatusItemContent& content)
 {
     content_ = content;
     setAccessibleName(content.title.text.isEmpty() ? QGuiApplication::applicationDisplayName() : content.title.text);
+    setAccessibleDescription(content.description());
+    setToolTip(content.description());
     updateGeometry();
     update();
 }

@@ -21,6 +21,9 @@ struct SymbolImage {
     QString name;
     std::optional<SymbolColor> paletteColor;
     bool isTemplate = true;
+    QString description{};        ///< what it stands for, in a sentence; empty where it tells nothing
+    bool needsAttention = false;  ///< for trays that make such items stand out
+    std::optional<int> percent{}; ///< how far a run has come, which trays draw into the symbol
 
     bool operator==(const SymbolImage&) const = default;
 };

@@ -2,12 +2,22 @@
 
 #include "StatusItem.h"
 
+#include <QStringList>
+
 namespace quillon {
 
 /// What the item says, whichever way it is shown.
 struct StatusItemContent {
     AttributedTitle title;
     std::optional<SymbolImage> image;
+
+    QString description() const { return image ? image->description : QString(); }
+    /// The title's lines, and what the image stands for below them.
+    QString text() const
+    {
+        const QStringList lines{title.text, description()};
+        return lines.join(u'\n').trimmed();
+    }
 };
 
 /// One way of showing the status item. Main thread only.

@@ -1,8 +1,9 @@
 #include "ColorScheme_linux.h"
 #include "MenuBarWindow_linux.h"
+#include "NotifierStatusItem_linux.h"
 #include "StatusNotifierHostWatcher_linux.h"
-#include "TrayStatusItem_linux.h"
 #include "XEmbedHostWatcher_linux.h"
+#include "XEmbedStatusItem_linux.h"
 
 #include <QDBusConnection>
 #include <QMenu>
@@ -30,12 +31,8 @@ public:
     PopoverAnchor anchor() const override;
 
 private:
-    StatusItemFace* face() const;
-    bool trayIsThere() const;
     void choose();
-    void showInTray();
-    void hideInTray();
-    void showInBar();
+    StatusItemFace* chosenFace();
 
     const StatusItemPlacement placement_;
     ColorScheme colorScheme_{QDBusConnection::sessionBus()};
@@ -45,9 +42,10 @@ private:
     StatusItemContent content_;
     double fontSize_ = 0;
     QPointer<QMenu> menu_;
-    std::unique_ptr<TrayStatusItem> tray_; ///< kept once it was made
-    std::unique_ptr<MenuBarWindow> bar_;   ///< there while it is shown
-    bool inTray_ = false;
+    std::unique_ptr<NotifierStatusItem> notifier_; ///< kept once it was made, as is the next
+    std::unique_ptr<XEmbedStatusItem> xembed_;
+    std::unique_ptr<MenuBarWindow> bar_; ///< there while it is shown
+    StatusItemFace* face_ = nullptr;     ///< the one of them that is shown
     QTimer barDelay_;
 };
 
@@ -70,8 +68,8 @@ void LinuxStatusItem::setAttributedTitle(const AttributedTitle& title)
     if (content_.title == title)
         return;
     content_.title = title;
-    if (face())
-        face()->setContent(content_);
+    if (face_)
+        face_->setContent(content_);
 }
 
 void LinuxStatusItem::setImage(const std::optional<SymbolImage>& image)
@@ -79,87 +77,66 @@ void LinuxStatusItem::setImage(const std::optional<SymbolImage>& image)
     if (content_.image == image)
         return;
     content_.image = image;
-    if (face())
-        face()->setContent(content_);
+    if (face_)
+        face_->setContent(content_);
 }
 
 void LinuxStatusItem::setMenu(QMenu* menu)
 {
     menu_ = menu;
-    if (face())
-        face()->setMenu(menu_);
+    if (face_)
+        face_->setMenu(menu_);
 }
 
 PopoverAnchor LinuxStatusItem::anchor() const
 {
-    return face() ? face()->anchor() : PopoverAnchor();
-}
-
-StatusItemFace* LinuxStatusItem::face() const
-{
-    if (inTray_)
-        return tray_.get();
-    return bar_.get();
-}
-
-bool LinuxStatusItem::trayIsThere() const
-{
-    // Before the first tray icon any kind will do, afterwards only the kind that Qt has decided for.
-    if (!tray_)
-        return statusNotifierHost_.isPresent() || xembedHost_.isPresent();
-    return tray_->protocol() == TrayProtocol::XEmbed ? xembedHost_.isPresent() : statusNotifierHost_.isPresent();
+    return face_ ? face_->anchor() : PopoverAnchor();
 }
 
 void LinuxStatusItem::choose()
 {
-    if (placement_ == StatusItemPlacement::Bar) {
-        showInBar();
+    if (placement_ != StatusItemPlacement::Bar && !statusNotifierHost_.isKnown())
+        return; // a bar that gives way at once would only flash
+    StatusItemFace* const chosen = chosenFace();
+    if (face_ == chosen)
         return;
-    }
-    if (!statusNotifierHost_.isKnown()) // a bar that gives way at once would only flash
-        return;
-    if (trayIsThere()) {
-        barDelay_.stop();
+    face_ = chosen;
+    if (xembed_ && face_ != xembed_.get())
+        xembed_->hide();
+    if (face_ != bar_.get())
         bar_.reset();
-        showInTray();
-    } else if (placement_ == StatusItemPlacement::Automatic) {
-        // A host that is started anew is back soon, and a window that comes up meanwhile would take the keyboard.
-        if (inTray_)
-            barDelay_.start(hostReturns);
-        else if (!barDelay_.isActive())
-            showInBar();
-        hideInTray();
-    } else {
-        hideInTray();
+    if (!face_)
+        return;
+    face_->setContent(content_);
+    face_->setMenu(menu_);
+}
+
+/// Nothing where there is no tray and the bar is unwanted.
+StatusItemFace* LinuxStatusItem::chosenFace()
+{
+    const bool trayIsWanted = placement_ != StatusItemPlacement::Bar;
+    if (trayIsWanted && statusNotifierHost_.isPresent()) {
+        if (!notifier_)
+            notifier_ = std::make_unique<NotifierStatusItem>(QDBusConnection::sessionBus());
+        return notifier_.get();
     }
-}
-
-void LinuxStatusItem::showInTray()
-{
-    if (inTray_)
-        return;
-    inTray_ = true;
-    if (!tray_)
-        tray_ = std::make_unique<TrayStatusItem>();
-    tray_->setContent(content_);
-    tray_->setMenu(menu_);
-    tray_->setShown(true);
-}
-
-void LinuxStatusItem::hideInTray()
-{
-    inTray_ = false;
-    if (tray_)
-        tray_->setShown(false);
-}
-
-void LinuxStatusItem::showInBar()
-{
-    if (bar_)
-        return;
-    bar_ = std::make_unique<MenuBarWindow>();
-    bar_->setContent(content_);
-    bar_->setMenu(menu_);
+    if (trayIsWanted && xembedHost_.isPresent()) {
+        if (!xembed_)
+            xembed_ = std::make_unique<XEmbedStatusItem>();
+        xembed_->setContent(content_);
+        if (xembed_->show())
+            return xembed_.get();
+    }
+    if (placement_ == StatusItemPlacement::Tray)
+        return nullptr;
+    // A host that is started anew is back soon, and a window that comes up meanwhile would take the keyboard.
+    if (face_ && face_ != bar_.get())
+        barDelay_.start(hostReturns);
+    if (barDelay_.isActive())
+        return nullptr;
+    if (!bar_)
+        bar_ = std::make_unique<MenuBarWindow>();
+    return bar_.get();
 }
 
 } // namespace

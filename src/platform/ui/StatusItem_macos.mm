@@ -87,6 +87,8 @@ public:
     void setImage(const std::optional<SymbolImage>& image) override
     {
         item_.button.image = image ? systemSymbol(*image) : nil;
+        description_ = image ? image->description : QString();
+        label(title_);
     }
 
     void setMenu(QMenu* menu) override { item_.menu = menu ? menu->toNSMenu() : nil; }
@@ -105,9 +107,14 @@ public:
 private:
     void label(const QString& text)
     {
+        title_ = text;
         const QString name = text.isEmpty() ? QGuiApplication::applicationDisplayName() : text;
-        [item_.button setAccessibilityLabel:name.toNSString()];
+        const QString spoken = description_.isEmpty() ? name : name + u'\n' + description_;
+        [item_.button setAccessibilityLabel:spoken.toNSString()];
     }
+
+    QString title_;
+    QString description_;
 
     NSStatusItem* item_;
     id<NSObject> activity_;

@@ -3,6 +3,7 @@
 #include "SystemColor.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QSvgRenderer>
 
 #include <algorithm>
@@ -45,6 +46,27 @@ void paintRim(QPainter& painter, const QPixmap& shape)
     }
 }
 
+constexpr int allPercent = 100;
+
+/// The part that is still to come stays faint.
+void paintFilled(QPainter& painter, const QPixmap& shape, int percent)
+{
+    constexpr qreal faint = 0.4;
+    constexpr qreal top = 90; // degrees from the right, against the clock
+    constexpr qreal fullTurn = -360;
+    const QRectF area(QPointF(), shape.deviceIndependentSize());
+    QPainterPath done(area.center());
+    done.arcTo(area + QMarginsF(area.width(), area.width(), area.width(), area.width()), top,
+               fullTurn * percent / allPercent);
+    if (percent < allPercent) {
+        painter.setOpacity(faint);
+        painter.drawPixmap(0, 0, shape);
+        painter.setOpacity(1);
+        painter.setClipPath(done);
+    }
+    painter.drawPixmap(0, 0, shape);
+}
+
 } // namespace
 
 QColor symbolColor(const SymbolImage& symbol, const QPalette& palette)
@@ -69,6 +91,16 @@ QPixmap symbolPixmap(const QString& name, int side, qreal devicePixelRatio, cons
     return pixmap;
 }
 
+QIcon trayIcon(const std::optional<SymbolImage>& symbol)
+{
+    if (symbol)
+        return symbolIcon(*symbol);
+    constexpr int side = 22;
+    QPixmap nothing(side, side);
+    nothing.fill(Qt::transparent);
+    return nothing;
+}
+
 QIcon symbolIcon(const SymbolImage& symbol)
 {
     QIcon icon;
@@ -79,7 +111,7 @@ QIcon symbolIcon(const SymbolImage& symbol)
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         paintRim(painter, symbolPixmap(symbol.name, side, 1, QColor::fromRgb(iconRim)));
-        painter.drawPixmap(0, 0, symbolPixmap(symbol.name, side, 1, color));
+        paintFilled(painter, symbolPixmap(symbol.name, side, 1, color), symbol.percent.value_or(allPercent));
         painter.end();
         icon.addPixmap(pixmap);
     }

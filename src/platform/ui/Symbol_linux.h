@@ -16,7 +16,10 @@ QColor symbolColor(const SymbolImage& symbol, const QPalette& palette);
 QPixmap symbolPixmap(const QString& name, int side, qreal devicePixelRatio, const QColor& color);
 
 /// The symbol in the sizes that trays and task bars ask for. Neither tells whether it is dark: the icon is light with a
-/// dark rim, and so is seen on either ground.
+/// dark rim, and so is seen on either ground. Progress fills it clockwise.
 QIcon symbolIcon(const SymbolImage& symbol);
+
+/// The symbol's icon or, without one, an empty icon that keeps the item's place.
+QIcon trayIcon(const std::optional<SymbolImage>& symbol);
 
 } // namespace quillon

@@ -129,8 +129,12 @@ TEST_F(MenuBarTest, IsReadOutAsItsTitleOrElseByTheProgramsName)
     const auto name = [this] { return QAccessible::queryAccessibleInterface(&button())->text(QAccessible::Name); };
     EXPECT_EQ(name(), u"Next:\n5h 12m"_s);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&button())->role(), QAccessible::Button);
-    bar_.setContent(content(QString()));
+    StatusItemContent failure = content(QString());
+    failure.image->description = u"It failed."_s;
+    bar_.setContent(failure);
     EXPECT_EQ(name(), u"Quillon"_s);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&button())->text(QAccessible::Description), u"It failed."_s);
+    EXPECT_EQ(button().toolTip(), u"It failed."_s);
 }
 
 TEST_F(MenuBarTest, OpensItsMenuOnAPressAndByKeyboard)

@@ -5,6 +5,8 @@
 #include "host/Waiting.h"
 #include "host/WaylandCompositor.h"
 
+#include <QSignalSpy>
+
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
@@ -106,7 +108,7 @@ private:
     QStringList connections_;
 };
 
-TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayWithTitleIconAndMenu)
+TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayAndTellsOfItself)
 {
     const auto tray = statusNotifierTray();
     start(u"auto"_s);
@@ -114,24 +116,71 @@ TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayWithTitleIconAndMenu)
     EXPECT_FALSE(probe_->bar());
 
     const QString item = tray->items().constFirst();
-    EXPECT_EQ(tray->toolTip(item), u"Quillon\nNext:\n5h 12m"_s);
+    EXPECT_EQ(tray->text(item, u"Id"_s), u"status_item_probe"_s);
+    EXPECT_EQ(tray->text(item, u"Category"_s), u"SystemServices"_s);
+    EXPECT_TRUE(tray->property(item, u"ItemIsMenu"_s, u"b"_s).toBool());
+    EXPECT_EQ(tray->text(item, u"Title"_s), u"Quillon"_s);
+    EXPECT_EQ(tray->text(item, u"Status"_s), u"Active"_s);
+    EXPECT_EQ(tray->text(item, u"XAyatanaLabel"_s), u"Next: 5h 12m"_s);
+    EXPECT_EQ(tray->text(item, u"IconName"_s), QString()) << "no theme has the icon";
+    EXPECT_EQ(tray->toolTip(item).title, u"Quillon"_s);
+    EXPECT_EQ(tray->toolTip(item).text, u"Next:\n5h 12m"_s);
+    const auto idle = tray->pixmaps(item, u"IconPixmap"_s);
+    EXPECT_EQ(idle.value(0).pixels.size(), 16 * 16 * 4);
+    EXPECT_TRUE(tray->pixmaps(item, u"AttentionIconPixmap"_s).isEmpty());
+
+    tray->takeSignals();
+    probe_->tell(u"title 45.3%|2m"_s);
+    EXPECT_EQ(tray->text(item, u"XAyatanaLabel"_s), u"45.3% – 2m"_s);
+    EXPECT_EQ(tray->takeSignals(), (QStringList{u"NewToolTip"_s, u"XAyatanaNewLabel"_s}));
+    probe_->tell(u"title"_s);
+    probe_->tell(u"failure clock.arrow.2.circlepath"_s);
+    EXPECT_EQ(tray->text(item, u"Status"_s), u"NeedsAttention"_s);
+    EXPECT_EQ(tray->text(item, u"Title"_s), u"Quillon: It <failed>."_s);
+    EXPECT_EQ(tray->text(item, u"IconAccessibleDesc"_s), u"It <failed>."_s);
+    EXPECT_EQ(tray->toolTip(item).text, u"It &lt;failed&gt;."_s);
+    const auto failed = tray->pixmaps(item, u"AttentionIconPixmap"_s);
+    EXPECT_NE(failed, idle);
+    EXPECT_EQ(failed, tray->pixmaps(item, u"IconPixmap"_s));
+    const QStringList told = tray->takeSignals();
+    for (const auto& signal : {u"NewTitle"_s, u"NewIcon"_s, u"NewAttentionIcon"_s, u"NewStatus"_s, u"NewToolTip"_s})
+        EXPECT_TRUE(told.contains(signal)) << signal.toStdString();
+}
+
+TEST_F(StatusItemTest, AHostDrawsTheMenuAndClicksInIt)
+{
+    const auto tray = statusNotifierTray();
+    start(u"auto"_s);
+    ASSERT_TRUE(itemComes(*tray));
+    const QString item = tray->items().constFirst();
     EXPECT_EQ(tray->menuLabels(item),
               (QStringList{u"Back up now"_s, u"Pause"_s, u"Browse A_B & C & __D"_s, u"Quit"_s}));
-    const auto idle = tray->iconData(item);
-    EXPECT_FALSE(idle.isEmpty());
+    const auto items = tray->menu(item).children;
+    EXPECT_TRUE(tray->aboutToShowMenu(item, items[1].id)) << "the submenu is filled as it opens";
+    EXPECT_EQ(tray->menu(item).children[1].children.value(0).properties[u"label"_s], u"1 hour"_s);
+    EXPECT_TRUE(tray->takeSignals().contains(u"LayoutUpdated"_s));
 
-    probe_->tell(u"title 45.3%|2m"_s);
-    probe_->tell(u"image clock.arrow.2.circlepath"_s);
-    EXPECT_EQ(tray->toolTip(item), u"Quillon\n45.3%\n2m"_s);
-    probe_->tell(u"title"_s);
-    EXPECT_EQ(tray->toolTip(item), u"Quillon"_s);
-    EXPECT_NE(tray->iconData(item), idle);
+    EXPECT_EQ(tray->menuEvent(item, 77, u"clicked"_s), u"org.freedesktop.DBus.Error.InvalidArgs"_s);
+    const auto chosen = [this] { return probe_->tell(u"state"_s)[u"chosen"_s].toString(); };
+    EXPECT_EQ(chosen(), QString());
+    EXPECT_EQ(tray->menuEvent(item, items[0].id, u"clicked"_s), QString());
+    EXPECT_TRUE(eventually([&] { return chosen() == u"Back up now"_s; }));
+    EXPECT_TRUE(alertComesBack([&] { tray->menuEvent(item, 0, u"opened"_s); }));
+}
 
-    tray->activate(item);
-    EXPECT_TRUE(menuOpens());
-    display_.pressKey(u"Escape"_s);
-    ASSERT_TRUE(menuCloses());
-    EXPECT_TRUE(alertComesBack([&] { tray->activate(item); }));
+TEST_F(StatusItemTest, OpensItsOwnMenuForAHostThatDrawsNone)
+{
+    const auto tray = statusNotifierTray();
+    start(u"auto"_s);
+    ASSERT_TRUE(itemComes(*tray));
+    const QString item = tray->items().constFirst();
+    for (const auto& method : {u"Activate"_s, u"ContextMenu"_s}) {
+        EXPECT_EQ(tray->callAtPlace(item, method), QString());
+        EXPECT_TRUE(menuOpens());
+        display_.pressKey(u"Escape"_s);
+        ASSERT_TRUE(menuCloses());
+    }
+    EXPECT_TRUE(alertComesBack([&] { tray->callAtPlace(item, u"Activate"_s); }));
 }
 
 TEST_F(StatusItemTest, GoesIntoAnXEmbedTray)
@@ -188,23 +237,48 @@ TEST_F(StatusItemTest, TheBarGivesWayToAnXEmbedTrayAndComesBack)
     }
 }
 
-TEST_F(StatusItemTest, ATrayOfTheOtherKindThatTheIconCannotMoveToLeavesTheBar)
+TEST_F(StatusItemTest, MovesBetweenTraysOfBothKinds)
+{
+    auto host = statusNotifierTray();
+    start(u"auto"_s);
+    ASSERT_TRUE(itemComes(*host));
+    const auto panel = xembedTray();
+    ASSERT_TRUE(eventually([&] { return panel->isUp(); }));
+    host.reset();
+    ASSERT_TRUE(itemComes(*panel));
+    EXPECT_FALSE(probe_->bar());
+
+    host = statusNotifierTray();
+    ASSERT_TRUE(itemComes(*host));
+    EXPECT_TRUE(eventually([&] { return !panel->holds(Probe::windowName()); }));
+    EXPECT_EQ(host->items().size(), 1) << "there is no second item of Qt's";
+}
+
+TEST_F(StatusItemTest, RegistersWithAWatcherThatTakesTheOldOnesPlaceWithoutAGap)
 {
     auto first = statusNotifierTray();
     start(u"auto"_s);
     ASSERT_TRUE(itemComes(*first));
+    const auto second = statusNotifierTray(false);
     first.reset();
+    ASSERT_TRUE(itemComes(*second));
+    EXPECT_TRUE(barComes()) << "nobody shows its items yet";
+    second->setHost(true);
+    EXPECT_TRUE(barGoes());
+}
+
+TEST_F(StatusItemTest, NoItemOfQtsStaysWhereAHostComesAtTheSameMomentAsAnXEmbedTray)
+{
+    const auto host = statusNotifierTray(false);
+    start(u"auto"_s);
     ASSERT_TRUE(barComes());
-
-    const auto second = xembedTray();
-    ASSERT_TRUE(eventually([&] { return second->isUp(); }));
-    display_.click(imageInBar());
-    EXPECT_TRUE(menuOpens());
-    display_.pressKey(u"Escape"_s);
-    ASSERT_TRUE(menuCloses());
-
-    first = statusNotifierTray();
-    EXPECT_TRUE(itemComes(*first));
+    host->setHostSilently();
+    const QSignalSpy registered(host.get(), &FakeStatusNotifierTray::StatusNotifierItemRegistered);
+    const auto panel = xembedTray();
+    EXPECT_TRUE(eventually([&] { return !registered.isEmpty() && host->items().isEmpty(); }));
+    EXPECT_TRUE(probe_->bar());
+    host->setHost(true);
+    EXPECT_TRUE(itemComes(*host));
     EXPECT_TRUE(barGoes());
 }
 
@@ -318,6 +392,8 @@ TEST(StatusItemOnWayland, IsASmallWindowWithATitleUntilThereIsATray)
 
     FakeStatusNotifierTray tray(bus.connect(u"desktop"_s));
     EXPECT_TRUE(eventually([&] { return tray.items().size() == 1 && !probe.bar(); }));
+    EXPECT_EQ(tray.callAtPlace(tray.items().constFirst(), u"Activate"_s), u"org.freedesktop.DBus.Error.UnknownMethod"_s)
+        << "hosts that are refused open their own menu";
     QDBusConnection::disconnectFromBus(u"desktop"_s);
 }
 

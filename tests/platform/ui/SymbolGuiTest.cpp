@@ -129,6 +129,29 @@ TEST(Symbol, AStateThatHasAColourHasItInTheTray)
     }
 }
 
+TEST(Symbol, ProgressFillsItClockwiseFromTheTop)
+{
+    // Pixels as strong as in the whole symbol, in its left half and in its right half.
+    const auto strong = [](std::optional<int> percent) {
+        SymbolImage symbol{.name = symbolNames[1], .paletteColor = {}};
+        const QImage whole = symbolIcon(symbol).pixmap(64, 64).toImage();
+        symbol.percent = percent;
+        const QImage shown = symbolIcon(symbol).pixmap(64, 64).toImage();
+        const auto bright = [](QRgb a, QRgb b) { return qGray(a) > 200 && a == b; };
+        const auto half = [](const QImage& image, int x) { return image.copy(x, 0, 32, 64); };
+        return std::pair{countPixels(half(whole, 0), half(shown, 0), bright),
+                         countPixels(half(whole, 32), half(shown, 32), bright)};
+    };
+    const auto [left, right] = strong({});
+    EXPECT_GT(std::min(left, right), 300);
+    EXPECT_EQ(strong(100), std::pair(left, right));
+    EXPECT_EQ(strong(0), std::pair(0, 0));
+    EXPECT_EQ(strong(50).first, 0);
+    EXPECT_GT(strong(50).second, right * 4 / 5); // but for the pixels on the edge
+    EXPECT_GT(strong(75).first, left / 4);
+    EXPECT_LT(strong(75).first, left);
+}
+
 TEST_P(SymbolTest, StandsOutFromItsGround)
 {
     const QPalette palette = paletteFor(GetParam());

@@ -2,7 +2,9 @@
 
 #include "Waiting.h"
 
-#include <QDBusMessage>
+#include <QDBusConnectionInterface>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 
@@ -16,6 +18,8 @@ namespace {
 
 constexpr auto service = "org.kde.StatusNotifierWatcher"_L1;
 constexpr auto path = "/StatusNotifierWatcher"_L1;
+constexpr auto itemPath = "/StatusNotifierItem"_L1;
+constexpr auto itemInterface = "org.kde.StatusNotifierItem"_L1;
 
 /// Two underscores are displayed as one, a single one is not displayed (com.canonical.dbusmenu, property "label").
 QString displayed(const QString& label)
@@ -30,6 +34,19 @@ QString displayed(const QString& label)
     return text;
 }
 
+/// The name of the error that an answer is, if it is one.
+QString refusal(const QDBusMessage& answer)
+{
+    return answer.type() == QDBusMessage::ErrorMessage ? answer.errorName() : QString();
+}
+
+void expectSignature(const QDBusMessage& answer, const QString& signature)
+{
+    if (answer.signature() != signature)
+        throw std::runtime_error("the item answers with " + answer.signature().toStdString() + ' ' +
+                                 answer.errorMessage().toStdString());
+}
+
 } // namespace
 
 FakeStatusNotifierTray::FakeStatusNotifierTray(const QDBusConnection& bus, bool withHost)
@@ -40,7 +57,11 @@ FakeStatusNotifierTray::FakeStatusNotifierTray(const QDBusConnection& bus, bool 
     itemWatcher_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     connect(&itemWatcher_, &QDBusServiceWatcher::serviceUnregistered, this,
             [this](const QString& item) { items_.removeAll(item); });
-    if (!bus_.registerObject(path, this, QDBusConnection::ExportAllContents) || !bus_.registerService(service))
+    registerMenuTypes();
+    registerNotifierTypes();
+    const bool isExported = bus_.registerObject(path, this, QDBusConnection::ExportAllContents);
+    const auto queued = bus_.interface()->registerService(service, QDBusConnectionInterface::QueueService);
+    if (!isExported || queued.value() == QDBusConnectionInterface::ServiceNotRegistered)
         throw std::runtime_error("the bus takes no tray");
 }
 
@@ -59,97 +80,93 @@ void FakeStatusNotifierTray::setHost(bool present)
         Q_EMIT StatusNotifierHostUnregistered();
 }
 
-void FakeStatusNotifierTray::RegisterStatusNotifierItem(const QString& /*service*/)
+void FakeStatusNotifierTray::RegisterStatusNotifierItem(const QString& item)
 {
-    const QString item = message().service();
+    if (items_.contains(item))
+        return;
     itemWatcher_.addWatchedService(item);
     items_.append(item);
+    for (const auto& interface : {QString(itemInterface), u"com.canonical.dbusmenu"_s})
+        bus_.connect(item, QString(), interface, QString(), this, SLOT(noteSignal(QDBusMessage)));
     Q_EMIT StatusNotifierItemRegistered(item);
+    if (!bus_.interface()->isServiceRegistered(item)) // it has gone while its request was on the way
+        items_.removeAll(item);
 }
 
-QVariantList FakeStatusNotifierTray::call(const QString& item, const QString& object, const QString& interface,
+QDBusMessage FakeStatusNotifierTray::call(const QString& item, const QString& object, const QString& interface,
                                           const QString& method, const QVariantList& arguments)
 {
     auto message = QDBusMessage::createMethodCall(item, object, interface, method);
     message.setArguments(arguments);
     const QDBusPendingCall answer = bus_.asyncCall(message);
     // The event loop goes on: the program may need an answer of ours first.
-    if (!eventually([&answer] { return answer.isFinished(); }) || answer.isError())
-        throw std::runtime_error("the item does not answer: " + answer.error().message().toStdString());
-    return answer.reply().arguments();
+    if (!eventually([&answer] { return answer.isFinished(); }))
+        throw std::runtime_error("the item does not answer");
+    return answer.reply();
 }
 
-QDBusArgument FakeStatusNotifierTray::itemProperty(const QString& item, const QString& name)
+QVariant FakeStatusNotifierTray::property(const QString& item, const QString& name, const QString& signature)
 {
-    const auto answer = call(item, u"/StatusNotifierItem"_s, u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
-                             {u"org.kde.StatusNotifierItem"_s, name});
-    return answer.value(0).value<QDBusVariant>().variant().value<QDBusArgument>();
+    const auto answer =
+        call(item, itemPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s, {QString(itemInterface), name});
+    expectSignature(answer, u"v"_s);
+    const QVariant value = answer.arguments().value(0).value<QDBusVariant>().variant();
+    const bool isStructure = value.metaType() == QMetaType::fromType<QDBusArgument>();
+    const QString found = isStructure ? value.value<QDBusArgument>().currentSignature()
+                                      : QString::fromLatin1(QDBusMetaType::typeToSignature(value.metaType()));
+    if (found != signature)
+        throw std::runtime_error(name.toStdString() + " is a " + found.toStdString());
+    return value;
 }
 
-QString FakeStatusNotifierTray::toolTip(const QString& item)
+NotifierToolTip FakeStatusNotifierTray::toolTip(const QString& item)
 {
-    // (icon name, icons, title, text)
-    const QDBusArgument toolTip = itemProperty(item, u"ToolTip"_s);
-    QString iconName;
-    QString title;
-    QString text;
-    toolTip.beginStructure();
-    toolTip >> iconName;
-    toolTip.asVariant(); // the icons
-    toolTip >> title >> text;
-    toolTip.endStructure();
-    return title;
+    return qdbus_cast<NotifierToolTip>(property(item, u"ToolTip"_s, u"(sa(iiay)ss)"_s));
 }
 
-QByteArray FakeStatusNotifierTray::iconData(const QString& item)
+NotifierPixmaps FakeStatusNotifierTray::pixmaps(const QString& item, const QString& name)
 {
-    // An array of (width, height, pixels)
-    const QDBusArgument icons = itemProperty(item, u"IconPixmap"_s);
-    QByteArray data;
-    icons.beginArray();
-    while (!icons.atEnd()) {
-        int width = 0;
-        int height = 0;
-        QByteArray pixels;
-        icons.beginStructure();
-        icons >> width >> height >> pixels;
-        icons.endStructure();
-        data.append(pixels);
-    }
-    icons.endArray();
-    return data;
+    return qdbus_cast<NotifierPixmaps>(property(item, name, u"a(iiay)"_s));
+}
+
+QDBusMessage FakeStatusNotifierTray::callMenu(const QString& item, const QString& method, const QVariantList& arguments)
+{
+    const QString menuPath = property(item, u"Menu"_s, u"o"_s).value<QDBusObjectPath>().path();
+    return call(item, menuPath, u"com.canonical.dbusmenu"_s, method, arguments);
+}
+
+MenuLayout FakeStatusNotifierTray::menu(const QString& item)
+{
+    const auto answer = callMenu(item, u"GetLayout"_s, {0, -1, QStringList()});
+    expectSignature(answer, u"u(ia{sv}av)"_s);
+    return qdbus_cast<MenuLayout>(answer.arguments().value(1));
 }
 
 QStringList FakeStatusNotifierTray::menuLabels(const QString& item)
 {
-    // The layout is (revision, (id, properties, children)), every child the same kind of triple in a variant.
-    const auto answer =
-        call(item, u"/MenuBar"_s, u"com.canonical.dbusmenu"_s, u"GetLayout"_s, {0, 1, QStringList{u"label"_s}});
-    const auto layout = answer.value(1).value<QDBusArgument>();
     QStringList labels;
-    int identifier = 0;
-    QVariantMap properties;
-    layout.beginStructure();
-    layout >> identifier >> properties;
-    layout.beginArray();
-    while (!layout.atEnd()) {
-        QDBusVariant child;
-        layout >> child;
-        const auto fields = child.variant().value<QDBusArgument>();
-        fields.beginStructure();
-        fields >> identifier >> properties;
-        fields.asVariant(); // no grandchildren were asked for
-        fields.endStructure();
-        labels.append(displayed(properties.value(u"label"_s).toString()));
-    }
-    layout.endArray();
-    layout.endStructure();
+    const auto items = menu(item).children;
+    for (const MenuLayout& shown : items)
+        labels.append(displayed(shown.properties.value(u"label"_s).toString()));
     return labels;
 }
 
-void FakeStatusNotifierTray::activate(const QString& item)
+QString FakeStatusNotifierTray::menuEvent(const QString& item, int id, const QString& event)
 {
-    call(item, u"/StatusNotifierItem"_s, u"org.kde.StatusNotifierItem"_s, u"Activate"_s, {0, 0});
+    return refusal(
+        callMenu(item, u"Event"_s, {id, event, QVariant::fromValue(QDBusVariant(QString())), QVariant::fromValue(0U)}));
+}
+
+bool FakeStatusNotifierTray::aboutToShowMenu(const QString& item, int id)
+{
+    const auto answer = callMenu(item, u"AboutToShow"_s, {id});
+    expectSignature(answer, u"b"_s);
+    return answer.arguments().constFirst().toBool();
+}
+
+QString FakeStatusNotifierTray::callAtPlace(const QString& item, const QString& method)
+{
+    return refusal(call(item, itemPath, itemInterface, method, {0, 0}));
 }
 
 } // namespace quillon

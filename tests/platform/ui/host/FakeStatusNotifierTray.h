@@ -1,15 +1,19 @@
 #pragma once
 
-#include <QDBusArgument>
+#include "MenuLayout_linux.h"
+#include "NotifierTypes_linux.h"
+
 #include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusMessage>
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <QStringList>
 
 namespace quillon {
 
-/// A tray of the StatusNotifier kind: the watcher that items register with, and the host that would show them.
+/// A tray of the StatusNotifier kind: the watcher that items register with, and the host that shows them and draws
+/// their menus.
 class FakeStatusNotifierTray final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
@@ -18,20 +22,33 @@ class FakeStatusNotifierTray final : public QObject, protected QDBusContext {
     Q_PROPERTY(int ProtocolVersion READ protocolVersion)
 
 public:
-    /// Puts the watcher on the bus, its host with it unless that comes later.
+    /// Puts the watcher on the bus, its host with it unless that comes later. Where there is a watcher, this one waits
+    /// to take its place.
     explicit FakeStatusNotifierTray(const QDBusConnection& bus, bool withHost = true);
     ~FakeStatusNotifierTray() override;
 
     void setHost(bool present);
+    /// The host is there, and nobody has been told yet.
+    void setHostSilently() { host_ = true; }
 
     /// Bus names of the items in the tray.
     QStringList items() const { return items_; }
-    QString toolTip(const QString& item);
-    /// The pixels of the item's icon, all sizes one after the other.
-    QByteArray iconData(const QString& item);
-    /// The labels of the item's exported menu, top level, as the host shows them.
+    /// A property of the item, of that D-Bus type.
+    QVariant property(const QString& item, const QString& name, const QString& signature = QStringLiteral("s"));
+    QString text(const QString& item, const QString& name) { return property(item, name).toString(); }
+    NotifierToolTip toolTip(const QString& item);
+    NotifierPixmaps pixmaps(const QString& item, const QString& name);
+    /// Names of the signals of items and their menus since the last call.
+    QStringList takeSignals() { return std::exchange(signals_, {}); }
+
+    MenuLayout menu(const QString& item);
+    /// The labels of the item's menu, top level, as the host shows them.
     QStringList menuLabels(const QString& item);
-    void activate(const QString& item);
+    /// Tells of what has happened to an item of the menu; the error's name when it is refused.
+    QString menuEvent(const QString& item, int id, const QString& event);
+    bool aboutToShowMenu(const QString& item, int id);
+    /// Calls a method of the item that takes a place on the screen; the error's name when it is refused.
+    QString callAtPlace(const QString& item, const QString& method);
 
 public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString& service); // NOLINT: names of the protocol
@@ -43,16 +60,20 @@ Q_SIGNALS:
     void StatusNotifierHostRegistered();
     void StatusNotifierHostUnregistered();
 
+private Q_SLOTS:
+    void noteSignal(const QDBusMessage& signal) { signals_.append(signal.member()); }
+
 private:
     bool hasHost() const { return host_; }
     int protocolVersion() const { return 0; }
-    QDBusArgument itemProperty(const QString& item, const QString& name);
-    QVariantList call(const QString& item, const QString& path, const QString& interface, const QString& method,
+    QDBusMessage call(const QString& item, const QString& path, const QString& interface, const QString& method,
                       const QVariantList& arguments);
+    QDBusMessage callMenu(const QString& item, const QString& method, const QVariantList& arguments);
 
     QDBusConnection bus_;
     QDBusServiceWatcher itemWatcher_;
     QStringList items_;
+    QStringList signals_;
     bool host_;
 };
 

@@ -56,6 +56,9 @@ void obey(const QString& line, quillon::StatusItem& item, quillon::AlertPresente
         item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = {}});
     else if (command == "orange"_L1)
         item.setImage(quillon::SymbolImage{.name = argument, .paletteColor = quillon::SymbolColor::SystemOrange});
+    else if (command == "failure"_L1)
+        item.setImage(quillon::SymbolImage{
+            .name = argument, .paletteColor = {}, .description = u"It <failed>."_s, .needsAttention = true});
     else if (command == "alert"_L1)
         alerts.present({.messageText = u"Alert"_s, .informativeText = {}, .buttons = {}}, {});
     else if (command == "minimize"_L1)
@@ -75,7 +78,8 @@ int main(int argc, char** argv)
     QString chosen;
     QMenu menu;
     menu.addAction(u"Back up now"_s, &menu, [&chosen] { chosen = u"Back up now"_s; });
-    menu.addMenu(u"Pause"_s)->addAction(u"1 hour"_s);
+    QMenu* pause = menu.addMenu(u"Pause"_s);
+    QObject::connect(pause, &QMenu::aboutToShow, pause, [pause] { pause->addAction(u"1 hour"_s); });
     menu.addAction(u"Browse A_B && C && __D"_s);
     menu.addAction(u"Quit"_s, &application, &QApplication::quit);
 
