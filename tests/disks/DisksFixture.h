@@ -170,7 +170,7 @@ protected:
         for (QPushButton* button : shown->buttons()) {
             if (button->text() == localizedString(buttonKey)) {
                 QTest::mouseClick(button, Qt::LeftButton);
-                runUntil([&shown] { return !shown; });
+                runUntil([&shown] { return !shown || !shown->isVisible(); });
                 return;
             }
         }
