@@ -12,6 +12,7 @@
 #include "Verification.h"
 
 #include <QFileInfo>
+#include <QSysInfo>
 
 #include <algorithm>
 
@@ -157,9 +158,13 @@ Restic Backup::restic() const
 void Backup::findSources()
 {
     sources_ = SourceSet::of(configuration_, folders_);
-    earlier_.emplace(*repository_, restic());
+    history_.noteHostName(QSysInfo::machineHostName());
+    earlier_.emplace(*repository_, restic(), history_.hostNames());
+    findLostBackups();
     settleCutOffBackups();
     findLostSources(sources_.missing, "is not there"_L1);
+    findLostSources(sources_.moved, "leads elsewhere by a link now"_L1);
+    findLostSources(sources_.leftOut, "is left out by an exclusion"_L1);
     for (const QString& source : sources_.leftOut)
         remark_.lackingSources.append(u"The folder \"%1\" is left out by an exclusion."_s.arg(source));
     if (sources_.folders.isEmpty())
@@ -178,6 +183,43 @@ void Backup::findLostSources(const QStringList& suspects, QLatin1StringView stat
                 "with \"tmutil removesource\"."_s.arg(source, state));
         else if (sources_.missing.contains(source))
             remark_.lackingSources.append(u"The folder \"%1\" is not there."_s.arg(source));
+    }
+}
+
+/// The latest backup is what no thinning takes, by whichever computer. What a prune would remove of those that are gone
+/// is left alone for a week.
+void Backup::findLostBackups()
+{
+    const QVariantList known = history_.backups(destination_.id);
+    const auto isThere = [this](const QVariant& backup) {
+        return earlier_->contains(backup.toMap().value(u"Snapshot"_s).toString());
+    };
+    if (known.isEmpty() || isThere(known.last()))
+        return;
+    remark_.lostBackups = known.size() - std::ranges::count_if(known, isThere);
+    history_.setLastPrune(destination_.id, QDateTime::currentDateTimeUtc());
+}
+
+/// A folder that is there and that restic cannot save is one of which the disk holds a damaged record: restic takes
+/// that for the folder's contents, and would leave them out.
+void Backup::findUnsavedFolders(const QStringList& unread)
+{
+    if (!history_.damage(destination_.id))
+        return;
+    for (const QString& path : unread) {
+        if (const QFileInfo folder(path); folder.isDir() && folder.isReadable() && folder.isExecutable())
+            remark_.lostSources.append(
+                u"The folder \"%1\" could not be saved, since what the disk has of it is damaged."_s.arg(path));
+    }
+}
+
+/// On its first backup nothing tells that a source should hold something, but what lies in it does.
+void Backup::findSwallowedSources(const QStringList& empty)
+{
+    const QStringList withoutFiles = empty.isEmpty() ? QStringList() : sources_.withoutFiles();
+    for (const QString& source : empty) {
+        if (!withoutFiles.contains(source))
+            remark_.lackingSources.append(u"Of the folder \"%1\" nothing is backed up: all is left out."_s.arg(source));
     }
 }
 
@@ -231,6 +273,8 @@ void Backup::copy()
         const bool isMade = !snapshotId_.isEmpty() && !outcome.diskGone;
         if (isMade && remark_.lostSources.isEmpty()) {
             findLostSources(output.emptySources(), "is empty or cannot be read"_L1);
+            findUnsavedFolders(output.unreadPaths());
+            findSwallowedSources(output.emptySources());
             if (remark_.lostSources.isEmpty())
                 remember();
             else
@@ -239,9 +283,20 @@ void Backup::copy()
         endIfStopped();
         if (isMade && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
             return;
-        if (outcome.diagnosis().problem != ResticProblem::NoSpace || !makeRoom())
+        const ResticProblem problem = outcome.diagnosis().problem;
+        if (problem == ResticProblem::Unknown && setAsideDamagedSnapshots())
+            continue;
+        if (problem != ResticProblem::NoSpace || !makeRoom())
             throw outcome.failure();
     }
+}
+
+/// One damaged record of a backup keeps restic from making any.
+bool Backup::setAsideDamagedSnapshots()
+{
+    const auto count = quillon::setAsideDamagedSnapshots(*repository_);
+    remark_.damagedRecords += count;
+    return count > 0;
 }
 
 void Backup::note(const BackupOutput& output, const ResticOutcome& outcome)
@@ -271,7 +326,7 @@ void Backup::remember()
         snapshots_ = snapshotsIn(*repository_, restic());
         const auto found =
             std::ranges::find_if(*snapshots_, [this](const Snapshot& one) { return one.id.startsWith(snapshotId_); });
-        if (found == snapshots_->end())
+        if (found == snapshots_->end() || !holdsSnapshot(*repository_, found->id)) // restic may know it by its cache
             throw failureOf(
                 ResticProblem::NoRepository,
                 u"The backup was written, but cannot be found on the disk \"%1\"."_s.arg(destination_.name));
@@ -305,18 +360,18 @@ void Backup::thin()
         program.run({u"unlock"_s}).require(); // removes those of processes that have died
     const QDateTime now = QDateTime::currentDateTimeUtc();
     const auto snapshots = snapshots_ ? *snapshots_ : snapshotsIn(*repository_, program);
-    QStringList names;
     for (const Snapshot& snapshot : snapshots) {
-        names.append(snapshot.name());
         if (snapshotId_.isEmpty() ? !snapshot.complete : snapshot.id.startsWith(snapshotId_))
             log_.backup = snapshot.name();
     }
     const auto leaving = dispensable(snapshots, configuration_.keepRules(), snapshotId_, now);
     forget(leaving, program);
     endIfStopped();
-    for (const Snapshot& snapshot : leaving)
-        names.removeOne(snapshot.name());
-    history_.setBackups(destination_.id, names, log_.backup, log_.bytesAdded);
+    auto staying = snapshots;
+    std::erase_if(staying, [&leaving](const Snapshot& one) {
+        return std::ranges::find(leaving, one.id, &Snapshot::id) != leaving.end();
+    });
+    history_.setBackups(destination_.id, staying, log_.backup, log_.bytesAdded);
     if (isWeekOver(history_.lastPrune(destination_.id), now)) {
         program.runUnlocking({u"prune"_s}).require();
         history_.setLastPrune(destination_.id, now);

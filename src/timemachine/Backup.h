@@ -64,6 +64,10 @@ private:
     void findSources();
     void findLostSources(const QStringList& suspects, QLatin1StringView state);
     void findDroppedFolders();
+    void findLostBackups();
+    void findUnsavedFolders(const QStringList& unread);
+    void findSwallowedSources(const QStringList& empty);
+    bool setAsideDamagedSnapshots();
     void settleCutOffBackups();
     void copy();
     void markIncomplete();

@@ -37,6 +37,13 @@ std::optional<std::pair<QString, QString>> BackupRemark::text(const QDateTime& n
         sentences += some;
     };
     add(u"SourceLost"_s, lostSources);
+    if (lostBackups > 0)
+        add(u"BackupsLost"_s,
+            {u"%1 earlier backups, the latest among them, are gone from the disk, and this program has not removed "
+             u"them. "
+             "\"restic recover\" may bring their files back within the coming week."_s.arg(lostBackups)});
+    if (damagedRecords > 0)
+        add(u"Damaged"_s, {u"The records of %1 backups were damaged and have been put aside."_s.arg(damagedRecords)});
     if (unreadFiles > 0)
         add(u"UnreadFiles"_s, {counted(unreadFiles)});
     add(u"MissingSource"_s, lackingSources);

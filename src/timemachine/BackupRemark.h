@@ -17,6 +17,8 @@ struct BackupRemark {
     QStringList lostSources;    ///< sentences on sources that held files before and don't now
     QStringList lackingSources; ///< sentences on what is not there or left out
     qlonglong unreadFiles = 0;
+    qlonglong lostBackups = 0;     ///< that were on the disk at the last run, and that nobody thins
+    qlonglong damagedRecords = 0;  ///< of backups, put aside
     std::vector<Snapshot> removed; ///< for want of room, oldest first
     QString thinningProblem;
     QDateTime lastVerification; ///< invalid where there was none yet

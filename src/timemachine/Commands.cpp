@@ -150,10 +150,15 @@ void deleteBackups(const Folders& folders, const QStringList& names)
     if (!left.isEmpty())
         throw Failure(ExitStatus::NoBackup, u"\"%1\" is no backup. See \"tmutil listbackups\"."_s.arg(left.first()));
     Verification::stopRunning(folders.state);
+    History history(folders.state);
     for (const auto& [repository, snapshots] : found) {
         const Restic restic(repository, folders, &stop);
+        removeReserve(repository); // a full disk could take not even a lock
         forget(snapshots, restic);
+        history.forgetBackups(repository.destination().id, names);
+        history.save();
         restic.runUnlocking({u"prune"_s}).require();
+        keepReserve(repository);
     }
 }
 
@@ -243,10 +248,12 @@ std::vector<Snapshot> snapshots(const Folders& folders)
         throw Failure(ExitStatus::NoDestination, u"No backup disk is set. Set one with \"tmutil setdestination\"."_s);
     std::vector<Snapshot> all;
     std::optional<Failure> unreadable;
+    bool isAnyThere = false;
     for (const Destination& destination : configuration.destinations()) {
         const auto repository = RepositoryFolder::open(destination);
         if (!repository)
             continue;
+        isAnyThere = true;
         try {
             const auto some = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
             all.insert(all.end(), some.begin(), some.end());
@@ -255,6 +262,8 @@ std::vector<Snapshot> snapshots(const Folders& folders)
             printError(unreadable->message());
         }
     }
+    if (!isAnyThere)
+        throw Failure(ExitStatus::DestinationMissing, u"No backup disk is there."_s);
     if (all.empty())
         throw unreadable.value_or(Failure(ExitStatus::NoBackup, u"There are no backups."_s));
     std::ranges::stable_sort(all, {}, &Snapshot::time);

@@ -245,7 +245,8 @@ void Configuration::requireNames(const QStringList& patterns)
     for (const QString& pattern : patterns) {
         requireStorable(pattern);
         // What else restic takes for a pattern is not what people mean by it.
-        if (pattern.contains(u'/') || pattern.contains(u'[') || pattern.contains(u'\\'))
+        if (pattern.contains(u'/') || pattern.contains(u'[') || pattern.contains(u'\\') || pattern == "."_L1 ||
+            pattern == ".."_L1)
             throw Failure(
                 ExitStatus::NoInput,
                 u"\"%1\" is no name: of what restic takes for a pattern only * and ? are known."_s.arg(pattern));

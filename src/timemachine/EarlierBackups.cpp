@@ -3,8 +3,6 @@
 #include "Paths.h"
 #include "RepositoryFolder.h"
 
-#include <QSysInfo>
-
 #include <algorithm>
 #include <iterator>
 
@@ -12,15 +10,21 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-EarlierBackups::EarlierBackups(const RepositoryFolder& repository, Restic restic)
+EarlierBackups::EarlierBackups(const RepositoryFolder& repository, Restic restic, const QStringList& hostNames)
     : repository_(repository)
     , restic_(std::move(restic))
+    , hostNames_(hostNames)
 {
 }
 
 bool EarlierBackups::heldFiles(const QString& folder, const QString& justMade)
 {
     return heldFilesFrom(all().rbegin(), folder, justMade);
+}
+
+bool EarlierBackups::contains(const QString& identifier)
+{
+    return std::ranges::any_of(all(), [&](const Snapshot& snapshot) { return snapshot.id == identifier; });
 }
 
 void EarlierBackups::markEmptied(const QDateTime& since)
@@ -40,8 +44,7 @@ const std::vector<Snapshot>& EarlierBackups::all()
 {
     if (!snapshots_) {
         snapshots_ = snapshotsIn(repository_, restic_);
-        std::erase_if(*snapshots_,
-                      [](const Snapshot& snapshot) { return snapshot.host != QSysInfo::machineHostName(); });
+        std::erase_if(*snapshots_, [this](const Snapshot& snapshot) { return !hostNames_.contains(snapshot.host); });
     }
     return *snapshots_;
 }

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -15,12 +16,15 @@ namespace quillon {
 /// they are asked for. All operations throw Failure.
 class EarlierBackups {
 public:
-    /// `repository` must outlive this object.
-    EarlierBackups(const RepositoryFolder& repository, Restic restic);
+    /// `repository` must outlive this object. The names are those that this computer has had.
+    EarlierBackups(const RepositoryFolder& repository, Restic restic, const QStringList& hostNames);
 
     /// Whether the latest complete one of that folder has a file in it; `justMade`, an identifier or its beginning, is
     /// none of them.
     bool heldFiles(const QString& folder, const QString& justMade = {});
+
+    /// Whether there is one of that identifier.
+    bool contains(const QString& identifier);
 
     /// Of those made since then, the ones that lack a source which held files before become incomplete.
     void markEmptied(const QDateTime& since);
@@ -33,6 +37,7 @@ private:
 
     const RepositoryFolder& repository_;
     Restic restic_;
+    QStringList hostNames_;
     std::optional<std::vector<Snapshot>> snapshots_;
 };
 

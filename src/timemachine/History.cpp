@@ -5,14 +5,24 @@
 #include "PropertyListFile.h"
 #include "RunState.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QHash>
+#include <QThread>
 
 #include <algorithm>
+#include <chrono>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto patience = 5s;
+
+} // namespace
 
 History::History(const QString& stateFolder)
     : file_(stateFolder + "/history.plist"_L1)
@@ -28,6 +38,20 @@ History::History(const QString& stateFolder)
 QString History::lastDestination() const
 {
     return contents_.value(u"LastDestination"_s).toString();
+}
+
+QStringList History::hostNames() const
+{
+    return contents_.value(u"HostNames"_s).toStringList();
+}
+
+void History::noteHostName(const QString& name)
+{
+    QVariantList names = contents_.value(u"HostNames"_s).toList();
+    if (names.contains(name))
+        return;
+    names.append(name);
+    contents_.insert(u"HostNames"_s, names);
 }
 
 void History::setLastDestination(const QString& id)
@@ -51,6 +75,9 @@ void History::noteNewRepository(const QString& destinationId)
     setLastPrune(destinationId, now);
     setLastVerification(destinationId, now);
     setNextSlice(destinationId, {});
+    for (const QString& key :
+         {u"Damage"_s, u"UncheckedSince"_s, u"VerificationUnfinished"_s, u"Backups"_s, u"OtherFileSystems"_s})
+        setOfDestination(destinationId, key, {});
 }
 
 QDateTime History::lastPrune(const QString& destinationId) const
@@ -68,7 +95,7 @@ QVariantList History::backups(const QString& destinationId) const
     return ofDestination(destinationId, u"Backups"_s).toList();
 }
 
-void History::setBackups(const QString& destinationId, const QStringList& names, const QString& justMade,
+void History::setBackups(const QString& destinationId, const std::vector<Snapshot>& snapshots, const QString& justMade,
                          qlonglong bytesAdded)
 {
     QHash<QString, QVariant> sizes;
@@ -79,13 +106,20 @@ void History::setBackups(const QString& destinationId, const QStringList& names,
     }
     sizes.insert(justMade, bytesAdded);
     QVariantList list;
-    for (const QString& name : names) {
-        QVariantMap one{{u"Name"_s, name}};
-        if (sizes.contains(name))
-            one.insert(u"BytesAdded"_s, sizes.value(name));
+    for (const Snapshot& snapshot : snapshots) {
+        QVariantMap one{{u"Name"_s, snapshot.name()}, {u"Snapshot"_s, snapshot.id}};
+        if (sizes.contains(snapshot.name()))
+            one.insert(u"BytesAdded"_s, sizes.value(snapshot.name()));
         list.append(one);
     }
     setOfDestination(destinationId, u"Backups"_s, list);
+}
+
+void History::forgetBackups(const QString& destinationId, const QStringList& names)
+{
+    QVariantList left = backups(destinationId);
+    left.removeIf([&names](const QVariant& one) { return names.contains(one.toMap().value(u"Name"_s).toString()); });
+    setOfDestination(destinationId, u"Backups"_s, left);
 }
 
 QDateTime History::uncheckedSince(const QString& destinationId) const
@@ -188,8 +222,12 @@ bool History::change(const QString& stateFolder, const std::function<void(Histor
 {
     makePrivateFolder(stateFolder);
     ProcessLock lock(RunState::lockPath(stateFolder));
-    if (!lock.tryLock())
-        return false;
+    const QDeadlineTimer limit(patience); // most who hold it do so for a moment
+    while (!lock.tryLock()) {
+        if (limit.hasExpired())
+            return false;
+        QThread::msleep(20);
+    }
     History history(stateFolder);
     edit(history);
     return history.save();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LastFailure.h"
+#include "Snapshot.h"
 #include "Verification.h"
 
 #include <QDateTime>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace quillon {
 
@@ -24,6 +26,10 @@ public:
     QString lastDestination() const;
     void setLastDestination(const QString& id);
 
+    /// The names that this computer has had while it made backups.
+    QStringList hostNames() const;
+    void noteHostName(const QString& name);
+
     /// The end of the last completed backup there; invalid where there is none.
     QDateTime lastBackup(const QString& destinationId) const;
     void setLastBackup(const QString& destinationId, const QDateTime& date);
@@ -34,11 +40,14 @@ public:
     QDateTime lastPrune(const QString& destinationId) const;
     void setLastPrune(const QString& destinationId, const QDateTime& date);
 
-    /// The backups that were on the disk when the last one had been made, oldest first: dictionaries with "Name" and,
-    /// where it is known, "BytesAdded", what that backup took of the disk beyond those before it.
+    /// The backups that were on the disk when the last one had been made, oldest first: dictionaries with "Name",
+    /// "Snapshot", which is restic's identifier, and, where it is known, "BytesAdded", what that backup took of the
+    /// disk beyond those before it.
     QVariantList backups(const QString& destinationId) const;
-    void setBackups(const QString& destinationId, const QStringList& names, const QString& justMade,
+    void setBackups(const QString& destinationId, const std::vector<Snapshot>& snapshots, const QString& justMade,
                     qlonglong bytesAdded);
+
+    void forgetBackups(const QString& destinationId, const QStringList& names);
 
     /// Since when a backup may have been made that nobody has looked at; invalid where all have been.
     QDateTime uncheckedSince(const QString& destinationId) const;

@@ -1,9 +1,11 @@
 #include "ReportMarks.h"
 
+#include "FolderTree.h"
 #include "Folders.h"
 
-#include <QDir>
 #include <QFile>
+
+#include <fcntl.h>
 
 namespace quillon {
 
@@ -16,7 +18,8 @@ ReportMarks::ReportMarks(const QString& stateFolder)
 
 void ReportMarks::clear() const
 {
-    QDir(folder_).removeRecursively();
+    QFile::remove(folder_); // should it be a link: not what that leads to
+    removeFolderTree(AT_FDCWD, QFile::encodeName(folder_).constData());
     makePrivateFolder(folder_);
 }
 

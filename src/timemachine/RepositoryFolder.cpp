@@ -83,12 +83,35 @@ bool isOwn(const Destination& destination, int descriptor)
            (stat(encoded(destination.path).constData(), &disk) == 0 && folder.st_uid == disk.st_uid);
 }
 
+/// Whether a folder has a link in it, which restic would follow to wherever whoever made it likes.
+bool holdsLink(int parent, const char* name)
+{
+    const int folder = openat(parent, name, folderFlags);
+    if (folder < 0)
+        return false;
+    DIR* const entries = fdopendir(folder);
+    if (entries == nullptr) {
+        close(folder);
+        return false;
+    }
+    bool found = false;
+    for (const dirent* entry = readdir(entries); entry != nullptr && !found; entry = readdir(entries)) {
+        struct stat state {};
+        found = entry->d_type == DT_LNK ||
+                (entry->d_type == DT_UNKNOWN && fstatat(folder, entry->d_name, &state, AT_SYMLINK_NOFOLLOW) == 0 &&
+                 S_ISLNK(state.st_mode));
+    }
+    closedir(entries);
+    return found;
+}
+
 /// What restic would follow or wait for.
 bool holdsTrap(int descriptor)
 {
     for (const char* name : {"data", "index", "keys", "locks", "snapshots"}) {
         struct stat entry {};
-        if (fstatat(descriptor, name, &entry, AT_SYMLINK_NOFOLLOW) == 0 && !S_ISDIR(entry.st_mode))
+        if (fstatat(descriptor, name, &entry, AT_SYMLINK_NOFOLLOW) == 0 &&
+            (!S_ISDIR(entry.st_mode) || holdsLink(descriptor, name)))
             return true;
     }
     struct stat config {};
@@ -191,6 +214,21 @@ RepositoryFolder::~RepositoryFolder()
 {
     if (descriptor_ >= 0)
         close(descriptor_);
+}
+
+QByteArrayList RepositoryFolder::namesIn(const char* folder) const
+{
+    QByteArrayList names;
+    const int copy = openat(descriptor_, folder, folderFlags);
+    DIR* const entries = copy >= 0 ? fdopendir(copy) : nullptr;
+    if (entries == nullptr)
+        return names;
+    for (const dirent* entry = readdir(entries); entry != nullptr; entry = readdir(entries)) {
+        if (const QByteArray name = entry->d_name; name != "." && name != "..")
+            names.append(name);
+    }
+    closedir(entries);
+    return names;
 }
 
 bool RepositoryFolder::isEmptyFolder(const char* name) const

@@ -2,6 +2,7 @@
 
 #include "Destination.h"
 
+#include <QByteArrayList>
 #include <QString>
 
 #include <optional>
@@ -44,6 +45,7 @@ public:
     bool isEmpty() const { return isEmptyFolder("."); }
     /// Locks of a restic that works there, or that has died.
     bool hasLocks() const { return !isEmptyFolder("locks"); }
+    QByteArrayList namesIn(const char* folder) const;
     bool isWritable() const;
     bool hasConfig() const;
 

@@ -4,7 +4,9 @@
 #include <QCryptographicHash>
 
 #include <array>
+#include <cstdio>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -47,6 +49,26 @@ QStringList damagedPacks(const RepositoryFolder& repository, const QStringList& 
             damaged.append(pack);
     }
     return damaged;
+}
+
+bool holdsSnapshot(const RepositoryFolder& repository, const QString& identifier)
+{
+    const QByteArray name = identifier.toLatin1();
+    return stateOf(repository.descriptor(), "snapshots/" + name, name) == PackState::Sound;
+}
+
+qlonglong setAsideDamagedSnapshots(const RepositoryFolder& repository)
+{
+    qlonglong count = 0;
+    for (const QByteArray& name : repository.namesIn("snapshots")) {
+        if (stateOf(repository.descriptor(), "snapshots/" + name, name) != PackState::Damaged)
+            continue;
+        mkdirat(repository.descriptor(), "damaged", S_IRWXU);
+        if (renameat(repository.descriptor(), ("snapshots/" + name).constData(), repository.descriptor(),
+                     ("damaged/" + name).constData()) == 0)
+            ++count;
+    }
+    return count;
 }
 
 void repairRepository(const RepositoryFolder& repository, const QStringList& packs, const Restic& restic)

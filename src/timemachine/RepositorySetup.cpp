@@ -158,6 +158,8 @@ Destination takeUpRepository(const QString& path, const QString& passphrase, con
     const auto found = canonical.isEmpty() ? std::vector<Destination>() : candidates(canonical);
     if (found.empty())
         throw Failure(ExitStatus::NoBackup, u"There are no backups of yours at \"%1\"."_s.arg(path));
+    if (passphrase.isEmpty())
+        throw Failure(ExitStatus::WrongKey, u"Nothing was given that could open the backups."_s);
     const QString recoveryKey = recoveryKeyFrom(passphrase);
     const SecretFile secret(recoveryKey.isEmpty() ? passphrase : recoveryKey);
     const KeyStore keys(folders.configuration);

@@ -20,6 +20,7 @@ struct Sign {
 // A wrong key comes first: what goes wrong before a repository is open is said in the same breath as other words.
 constexpr std::array signs{
     Sign{"wrong password or no key found"_L1, false, ResticProblem::WrongKey},
+    Sign{"maximum number of keys reached"_L1, false, ResticProblem::WrongKey}, // none of those that were tried
     Sign{"repository is already locked"_L1, false, ResticProblem::Locked},
     Sign{"Is there a repository at the following location?"_L1, false, ResticProblem::NoRepository},
     Sign{"no space left on device"_L1, true, ResticProblem::NoSpace},

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QUuid>
 
 #include <algorithm>
@@ -97,6 +98,9 @@ public:
         , name_(".tmutil-restore-" + QUuid::createUuid().toByteArray(QUuid::Id128))
         , parentPath_(QFileInfo(target).path())
     {
+        if (parent_ < 0)
+            throw Failure(ExitStatus::CannotWrite,
+                          u"The folder \"%1\" cannot be opened: %2."_s.arg(parentPath_, qt_error_string(errno)));
         removeAbandoned();
         if (mkdirat(parent_, name_.constData(), S_IRWXU) == 0)
             folder_ = openat(parent_, name_.constData(), flags);
@@ -123,7 +127,10 @@ private:
 
     void removeAbandoned() const
     {
+        static const QRegularExpression ours(u"^\\.tmutil-restore-[0-9a-f]{32}$"_s);
         for (const QString& name : QDir(parentPath_).entryList({u".tmutil-restore-*"_s}, QDir::Dirs | QDir::Hidden)) {
+            if (!ours.match(name).hasMatch())
+                continue;
             const int folder = openat(parent_, QFile::encodeName(name).constData(), flags);
             struct stat state {};
             if (folder >= 0 && fstat(folder, &state) == 0 && state.st_uid == geteuid() &&
@@ -209,9 +216,15 @@ void restore(const QString& source, const QString& target, const std::vector<Des
     for (const QString& path : paths) {
         const QString tree = work.path() + "/tree"_L1 + QString::number(paths.indexOf(path));
         QByteArrayList lines;
-        const auto outcome = Restic(wanted.repository, folders, &stop)
-                                 .runUnlocking(argumentsFor(wanted, path, tree), {},
-                                               [&](const QByteArray& line) { lines.append(line); });
+        const auto run = [&](const QStringList& options) {
+            lines.clear();
+            return Restic(wanted.repository, folders, &stop)
+                .runUnlocking(argumentsFor(wanted, path, tree) + options, {},
+                              [&](const QByteArray& line) { lines.append(line); });
+        };
+        auto outcome = run({});
+        if (outcome.exitStatus != 0 && outcome.diagnosis().problem == ResticProblem::NoSpace)
+            outcome = run({u"--no-lock"_s}); // not even a lock fits on a full disk
         if (stop.isMade())
             throw Failure(ExitStatus::Stopped, u"The restore was stopped; nothing was restored."_s);
         RestoreErrors errors([&](const QString& one) { return one == path || modeOf(encodePath(tree + one)) != 0; });
@@ -223,10 +236,12 @@ void restore(const QString& source, const QString& target, const std::vector<Des
                                                    "restored."_s.arg(target, errors.targetProblem()));
         if (outcome.exitStatus < 0 || (outcome.exitStatus != 0 && damaged.isEmpty() && !errors.lackAttributes()))
             throw outcome.failure();
-        if (damaged.contains(path))
+        const bool isDamaged = damaged.contains(path);
+        if (isDamaged && !S_ISREG(modeOf(encodePath(tree + path))))
             throw Failure(ExitStatus::Failed, u"\"%1\" is damaged in the backup."_s.arg(path));
         const QStringList unmarked = markDamaged(tree, damaged);
-        if (!move(tree + path, free))
+        const QString suffix = isDamaged ? u".incomplete"_s : QString();
+        if (!move(tree + path + suffix, free + suffix))
             continue;
         if (const QString lost = partsLost(errors, unmarked); !lost.isEmpty())
             throw Failure(ExitStatus::RestoredInPart, lost);

@@ -24,8 +24,7 @@ bool isOfAttributes(const QString& words)
 
 bool isOfTarget(const QString& words)
 {
-    constexpr std::array ends{"no space left on device"_L1, "disk quota exceeded"_L1, "file too large"_L1,
-                              "file name too long"_L1, "read-only file system"_L1};
+    constexpr std::array ends{"no space left on device"_L1, "disk quota exceeded"_L1, "read-only file system"_L1};
     return std::ranges::any_of(ends, [&words](QLatin1StringView end) { return words.endsWith(end); });
 }
 

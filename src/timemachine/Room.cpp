@@ -58,6 +58,11 @@ void keepReserve(const RepositoryFolder& repository)
     close(file);
 }
 
+void removeReserve(const RepositoryFolder& repository)
+{
+    unlinkat(repository.descriptor(), reserveName, 0);
+}
+
 void forget(const std::vector<Snapshot>& snapshots, const Restic& restic)
 {
     if (snapshots.empty())
@@ -70,7 +75,7 @@ void forget(const std::vector<Snapshot>& snapshots, const Restic& restic)
 
 quint64 removeLeftovers(const RepositoryFolder& repository, const Restic& restic, const KeepRules& rules)
 {
-    unlinkat(repository.descriptor(), reserveName, 0);
+    removeReserve(repository);
     forget(dispensable(snapshotsIn(repository, restic), rules, {}, QDateTime::currentDateTimeUtc()), restic);
     prune(repository, restic);
     const auto room = roomOf(repository);

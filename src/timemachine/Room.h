@@ -18,6 +18,8 @@ bool isFull(const RepositoryFolder& repository);
 /// while not even a lock can be written. Made where there is plenty of room and none yet.
 void keepReserve(const RepositoryFolder& repository);
 
+void removeReserve(const RepositoryFolder& repository);
+
 /// The first step on a full disk: removes the reserve, what an interrupted backup has left, and what the rules don't
 /// keep. Gives the room to aim for, in blocks of the disk, should that not be enough: a twentieth of it, or twice what
 /// is free now. Throws Failure.

@@ -104,7 +104,9 @@ QString readSecret()
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
     }
     QByteArray line;
-    for (int character = std::getchar(); character != EOF && character != '\n'; character = std::getchar())
+    constexpr qsizetype longest = 4096;
+    for (int character = std::getchar(); character != EOF && character != '\n' && line.size() < longest;
+         character = std::getchar())
         line += static_cast<char>(character);
     if (terminal) {
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &before);
@@ -185,8 +187,9 @@ void keepRecoveryKey(const Folders& folders, const Destination& destination, con
 
 void adopt(const Folders& folders, const QString& path)
 {
+    const QString secret = readSecret(); // ahead of the stop, so that an interrupt ends the prompt
     const StopRequest stop;
-    const Destination destination = takeUpRepository(path, readSecret(), folders, stop);
+    const Destination destination = takeUpRepository(path, secret, folders, stop);
     Configuration(folders, Configuration::IfLost::BeginAnew).takeUp(destination);
     const auto repository = RepositoryFolder::open(destination);
     takeStock(*repository, Restic(*repository, folders, &stop), folders);

@@ -67,6 +67,8 @@ SourceSet SourceSet::of(const Configuration& configuration, const Folders& folde
             set.leftOut.append(source);
         else
             set.folders.append(canonical);
+        if (!canonical.isEmpty() && canonical != source)
+            set.moved.append(source);
     }
     set.folders.removeDuplicates();
 

@@ -16,6 +16,7 @@ class Configuration;
 struct SourceSet {
     QStringList folders;  ///< those that are there, free of links: restic would store a link itself
     QStringList missing;  ///< those that are not
+    QStringList moved;    ///< as they were named, those that a link has come in the way of since
     QStringList leftOut;  ///< those that an exclusion leaves nothing of
     QStringList excluded; ///< by the user or not
 

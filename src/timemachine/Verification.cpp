@@ -48,7 +48,7 @@ void CheckFindings::readLine(const QString& line)
     if (line.contains("not referenced"_L1))
         return;
     static const QRegularExpression pack(u"[Pp]ack(?: ID does not match, want|:)? ([0-9a-f]{64})"_s);
-    static const QRegularExpression tree(u"tree ([0-9a-f]{64})"_s);
+    static const QRegularExpression tree(u"tree ([0-9a-f]{8,64})\\b"_s);
     collect(line, pack, packs);
     collect(line, tree, trees);
 }
@@ -264,6 +264,9 @@ bool Verification::stopRunning(const QString& stateFolder)
     const auto holder = ProcessLock::holder(lockPath(stateFolder));
     if (!holder)
         return false;
+    // The kernel gives no process of another name space a number, and to a signal 0 and -1 stand for many.
+    if (*holder <= 0)
+        throw Failure(ExitStatus::AlreadyRunning, u"The backups are verified from elsewhere, such as a container."_s);
     kill(*holder, SIGTERM);
     for (const QDeadlineTimer limit(stopPatience); !limit.hasExpired(); QThread::msleep(20)) {
         if (ProcessLock::holder(lockPath(stateFolder)) != holder)

@@ -99,7 +99,8 @@ public:
                                                 const StopRequest& stop, bool all);
     static QString lockPath(const QString& stateFolder);
 
-    /// Asks the one that runs to end, and waits until it has. Gives whether there was one.
+    /// Asks the one that runs to end, and waits until it has. Gives whether there was one. Throws Failure where it runs
+    /// out of reach.
     static bool stopRunning(const QString& stateFolder);
 
 private:
@@ -112,6 +113,13 @@ private:
 
 /// Of those files of data the ones that are there and not as they were written.
 QStringList damagedPacks(const RepositoryFolder& repository, const QStringList& packs);
+
+/// Whether the record of that backup, by its whole identifier, is on the disk as it was written.
+bool holdsSnapshot(const RepositoryFolder& repository, const QString& identifier);
+
+/// Moves the records of backups that are not as they were written into a folder beside them, so that they keep restic
+/// from nothing. Gives their number.
+qlonglong setAsideDamagedSnapshots(const RepositoryFolder& repository);
 
 /// Prepares a damaged repository for the next backup, which stores anew what it does not find: restic saves what it can
 /// of files of data that are not as they were written, if it knows how to, and the index is made anew. Throws Failure.

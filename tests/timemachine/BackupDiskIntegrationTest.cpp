@@ -51,6 +51,9 @@ TEST_F(BackupDiskIntegration, WhatALinkOnTheDiskLeadsToIsLeftAlone)
     QFile::remove(own + "/data"_L1);
     ASSERT_TRUE(QDir().rename(practice_.path(u"data"_s), own + "/data"_L1));
     backUp("the repository as it was", true);
+    ASSERT_TRUE(QFile::link(practice_.path(u"home"_s), own + "/data/link"_L1));
+    backUp("a link where files of data go", false);
+    QFile::remove(own + "/data/link"_L1);
 
     for (const QString& replaced : {own, shared}) {
         ASSERT_TRUE(QDir().rename(replaced, practice_.path(u"aside"_s)));

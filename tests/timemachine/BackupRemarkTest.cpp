@@ -24,10 +24,15 @@ TEST(BackupRemark, NamesTheGravestCauseAndAllThatThereIsToSay)
     EXPECT_EQ(cause(), u"MissingSource"_s);
     remark.unreadFiles = 1;
     EXPECT_EQ(cause(), u"UnreadFiles"_s);
+    remark.damagedRecords = 1;
+    EXPECT_EQ(cause(), u"Damaged"_s);
+    remark.lostBackups = 3;
+    EXPECT_EQ(cause(), u"BackupsLost"_s);
     remark.lostSources = {u"B is empty."_s};
     EXPECT_EQ(cause(), u"SourceLost"_s);
     const QString text = remark.text(now)->second;
-    for (const auto& part : {u"B is empty. One file could not be read. A is not there. The disk was full, and 2"_s,
+    for (const auto& part : {u"B is empty. 3 earlier backups, the latest"_s,
+                             u"put aside. One file could not be read. A is not there. The disk was full, and 2"_s,
                              u"restic: something."_s, u"not been verified since 2026-10-24."_s})
         EXPECT_TRUE(text.contains(part)) << text.toStdString();
 }

@@ -287,8 +287,15 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     history.setLastBackup(second.id, date);
     const KeyStore keys(folders_.configuration);
     keys.setKeptRecoveryKey(first.id, u"6c2a9f01"_s);
-    history.setBackups(second.id, {u"made elsewhere"_s, u"older"_s}, u"older"_s, 7);
-    history.setBackups(second.id, {u"older"_s, u"latest"_s}, u"latest"_s, 9);
+    const auto backup = [](const QString& id) {
+        Snapshot snapshot;
+        snapshot.id = id;
+        snapshot.host = id;
+        return snapshot;
+    };
+    const QString name = backup(u"b"_s).name();
+    history.setBackups(second.id, {backup(u"made elsewhere"_s), backup(u"b"_s)}, name, 7);
+    history.setBackups(second.id, {backup(u"b"_s), backup(u"c"_s)}, backup(u"c"_s).name(), 9);
     const auto xml = propertylist::parse(destinationXml(destinations(), history, keys));
     ASSERT_TRUE(xml);
     const QVariantList entries = xml->toMap().value(u"Destinations"_s).toList();
@@ -305,8 +312,9 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     EXPECT_EQ(entries[1].toMap().value(u"RecoveryKeyMissing"_s), qlonglong{1});
     EXPECT_EQ(entries[1].toMap().value(u"Path"_s), second.path);
     EXPECT_EQ(entries[1].toMap().value(u"Backups"_s),
-              (QVariantList{QVariantMap{{u"Name"_s, u"older"_s}, {u"BytesAdded"_s, 7LL}},
-                            QVariantMap{{u"Name"_s, u"latest"_s}, {u"BytesAdded"_s, 9LL}}}));
+              (QVariantList{
+                  QVariantMap{{u"Name"_s, name}, {u"Snapshot"_s, u"b"_s}, {u"BytesAdded"_s, 7LL}},
+                  QVariantMap{{u"Name"_s, backup(u"c"_s).name()}, {u"Snapshot"_s, u"c"_s}, {u"BytesAdded"_s, 9LL}}}));
     EXPECT_EQ(entries[1].toMap().value(u"LastBackup"_s), date);
     EXPECT_EQ(entries[1].toMap().value(u"LastDestination"_s), qlonglong{0});
     history.setLastDestination(second.id);

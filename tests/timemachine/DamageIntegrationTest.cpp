@@ -129,9 +129,47 @@ TEST_F(DamageIntegration, WhatCanBeReadIsRestoredAndTheRestNamed)
     EXPECT_EQ(QDir(practice_.path(u"all"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name),
               (QStringList{u"folder"_s, u"large.incomplete"_s, u"small"_s}));
     EXPECT_EQ(restore(u"/folder"_s, u"linked/folder"_s).status, 0);
-    EXPECT_EQ(restore(u"/large"_s, u"large"_s).status, static_cast<int>(ExitStatus::Failed));
+    EXPECT_EQ(restore(u"/large"_s, u"large"_s).status, static_cast<int>(ExitStatus::RestoredInPart));
     EXPECT_FALSE(QFileInfo::exists(practice_.path(u"large"_s)));
+    EXPECT_TRUE(QFileInfo::exists(practice_.path(u"large.incomplete"_s)));
     EXPECT_EQ(hiddenFolders(), QStringList());
+}
+
+TEST_F(DamageIntegration, ADamagedOrLostRecordOfABackupIsToldAndKeepsNoOtherFromBeingMade)
+{
+    const QDir records(practice_.repository(u"disk"_s, id_) + "/snapshots"_L1);
+    const auto only = [&records] { return records.filePath(records.entryList(QDir::Files).value(0)); };
+    QFile::setPermissions(only(), QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(QFile::resize(only(), 10));
+    QDir(practice_.path(u"cache"_s)).removeRecursively();
+    EXPECT_EQ(practice_.backUp().status, 0);
+    EXPECT_EQ(failureCause(), u"BackupsLost"_s);
+    EXPECT_EQ(QDir(practice_.repository(u"disk"_s, id_) + "/damaged"_L1).entryList(QDir::Files).size(), 1);
+
+    EXPECT_EQ(practice_.backUp().status, 0);
+    EXPECT_EQ(failureCause(), QString()) << "what is known is what was there then";
+    for (const QString& name : records.entryList(QDir::Files))
+        ASSERT_TRUE(QFile::remove(records.filePath(name)));
+    EXPECT_EQ(practice_.backUp().status, 0);
+    EXPECT_EQ(failureCause(), u"BackupsLost"_s);
+    EXPECT_EQ(call({u"deletebackup"_s, QString::fromUtf8(practice_.run({u"latestbackup"_s}).output).trimmed()}), 0);
+    EXPECT_EQ(practice_.backUp().status, 0);
+    EXPECT_EQ(failureCause(), QString()) << "the user has deleted it";
+}
+
+TEST_F(DamageIntegration, AFullDiskStillGivesBackWhatItHas)
+{
+    const auto answer = runWhereMountsAreAllowed(uR"(
+mount -t tmpfs -o size=12M none '%1/disk' && '%2' setdestination '%1/disk' >/dev/null || exit
+rm '%1/source/large'
+'%2' startbackup -b; latest=$('%2' latestbackup)
+head -c 20000000 /dev/zero >'%1/disk/junk' 2>/dev/null
+'%2' restore "$latest%1/source/small" '%1/back'; echo $?; cat '%1/back'; echo
+'%2' deletebackup "$latest"; echo $?
+)"_s.arg(practice_.path(u"."_s), practice_.executable()));
+    if (answer) {
+        EXPECT_EQ(answer->output, "0\nsmall\n0\n") << answer->error.toStdString();
+    }
 }
 
 TEST_F(DamageIntegration, AVerificationFollowsABackupOnceAWeekAndGivesWayToTheNext)

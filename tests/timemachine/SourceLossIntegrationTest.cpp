@@ -48,6 +48,9 @@ TEST_F(SourceLossIntegration, ALostSourceIsAFailureUntilItIsBackAndCostsNoBackup
     const QString aside = practice_.path(u"aside"_s);
     ASSERT_TRUE(QDir().rename(folder, aside));
     expectIncomplete("absent");
+    ASSERT_TRUE(QDir().mkpath(practice_.path(u"elsewhere"_s)) && QFile::link(practice_.path(u"elsewhere"_s), folder));
+    expectIncomplete("a link to nothing of what it held");
+    ASSERT_TRUE(QFile::remove(folder));
     ASSERT_TRUE(QDir().mkdir(folder));
     expectIncomplete("empty");
     ASSERT_TRUE(QDir().rmdir(folder) && QDir().rename(aside, folder));
@@ -102,9 +105,8 @@ TEST_F(SourceLossIntegration, ABackupThatWasCutOffBeforeItWasLookedAtIsLookedAtB
     giveToOrdinaryUser(practice_);
     EXPECT_EQ(backUp(), 0);
     const QByteArrayList names = practice_.run({u"listbackups"_s}).output.trimmed().split('\n');
-    ASSERT_EQ(names.size(), 3);
-    EXPECT_TRUE(!names[0].endsWith(".incomplete") && names[1].endsWith(".incomplete") &&
-                !names[2].endsWith(".incomplete"));
+    ASSERT_GE(names.size(), 2); // the first may be of the same hour as the last
+    EXPECT_TRUE(names[names.size() - 2].endsWith(".incomplete") && !names.last().endsWith(".incomplete"));
 }
 
 TEST_F(SourceLossIntegration, AFolderThatBackupsHaveLostToAnotherFileSystemIsToldOfUntilTheUserDecides)
@@ -113,7 +115,7 @@ TEST_F(SourceLossIntegration, AFolderThatBackupsHaveLostToAnotherFileSystemIsTol
 cd '%1' && mkdir hidden empty && echo only here >hidden/file || exit
 '%2' startbackup -b
 mount -t tmpfs none hidden && mount -t tmpfs none empty || exit
-for turn in 1 2; do '%2' startbackup -b | grep -o '[a-z]*".*on another file system'; done
+for turn in 1 2; do '%2' startbackup -b | grep -o 'hidden", which.*on another file system'; done
 '%2' addexclusion '%1/hidden' && '%2' startbackup -b
 )"_s.arg(practice_.source(), practice_.executable()));
     if (answer) {
@@ -144,6 +146,17 @@ back_up
                                                    "./mounted/far")
             << answer->error.toStdString();
     }
+}
+
+TEST_F(SourceLossIntegration, ASourceOfWhichAllIsLeftOutOnItsFirstBackupIsTold)
+{
+    EXPECT_EQ(call({u"excludename"_s, u".."_s}), static_cast<int>(ExitStatus::NoInput));
+    practice_.write(u"third/only.x"_s, "left out");
+    ASSERT_EQ(call({u"excludename"_s, u"*.x"_s}), 0);
+    ASSERT_EQ(call({u"addsource"_s, practice_.path(u"third"_s)}), 0);
+    giveToOrdinaryUser(practice_);
+    EXPECT_EQ(backUp(), 0);
+    EXPECT_EQ(failureCause(), u"MissingSource"_s);
 }
 
 TEST_F(SourceLossIntegration, WhatNamesAndSizesLeaveOutIsToldBeforeItIsKept)

@@ -250,6 +250,13 @@ TEST_F(StatusReportTest, ReportsAreMarkedForTheirOwnRunAndKind)
     StatusReport(folders_).markReported();
     EXPECT_TRUE(marks.isFinishingReported(u"run"_s));
     EXPECT_FALSE(marks.isReported(u"another"_s));
+
+    const QString folder = state() + "/reported"_L1;
+    const QString elsewhere = state() + "/elsewhere"_L1;
+    ASSERT_TRUE(QDir(folder).removeRecursively() && QDir().mkpath(elsewhere + "/precious"_L1));
+    ASSERT_TRUE(QFile::link(elsewhere, folder));
+    marks.clear();
+    EXPECT_TRUE(QFileInfo::exists(elsewhere + "/precious"_L1)) << "what a link in their place leads to";
 }
 
 TEST_F(StatusReportTest, AReaderNeverSeesHalfAFile)

@@ -44,7 +44,7 @@ back_up() {
 '%2' setdestination '%1' >/dev/null
 echo small >'%3/small'; '%2' startbackup -b
 by_hand() {
-    restic -q -r '%1/Quillon.backups/'* --no-cache --password-file '%4/keys/'* "$@" >/dev/null
+    restic -q -r '%1/Quillon.backups/'* --no-cache --password-file '%4/keys/'*.key "$@" >/dev/null
 }
 for year in 2001 2002 2003; do
     random data 2000000
@@ -70,7 +70,7 @@ mount -t tmpfs -o size=13m none '%1' || exit
 change() { head -c 5000000 /dev/urandom >'%3/data'; }
 '%2' setdestination '%1' >/dev/null
 by_hand() {
-    restic -q -r '%1/Quillon.backups/'* --no-cache --password-file '%4/keys/'* "$@" >/dev/null
+    restic -q -r '%1/Quillon.backups/'* --no-cache --password-file '%4/keys/'*.key "$@" >/dev/null
 }
 for year in 2020 2021; do change; by_hand backup --tag quillon --time "$year-01-01 10:00:00" '%3'; done
 change; '%2' startbackup -b | sed 's/".*"/NAME/'

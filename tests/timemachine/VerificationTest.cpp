@@ -19,7 +19,7 @@ TEST(Verification, TellsWhatIsDamaged)
          {{pack}, {}}},
         {u"error for tree 38d443e4:\n  tree %1: file \"f1\" blob %2 not found in index\n"
          "  tree %1: file \"f2\" blob %2 not found in index\n"_s.arg(other, pack),
-         {{}, {other}}},
+         {{}, {u"38d443e4"_s, other}}},
         {u"pack %1: not referenced in any index\n"_s.arg(pack), {}},
         // restic 0.18, written from its documentation ("Troubleshooting")
         {u"pack %1 contains 1 errors: [blob 0: ciphertext verification failed]\n"
