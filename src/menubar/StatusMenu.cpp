@@ -5,6 +5,7 @@
 #include "PauseDurations.h"
 
 #include <QActionEvent>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QStyleOptionMenuItem>
 
@@ -39,6 +40,7 @@ StatusMenu::StatusMenu(const RunLoop& runLoop)
                           updateAvailableMenuItem})
         item->setVisible(false);
     addPauseDurations();
+    setAccessibleName(QGuiApplication::applicationDisplayName());
     setFont(withColorEmoji(font()));
 }
 
@@ -95,6 +97,8 @@ void StatusMenu::showEvent(QShowEvent* event)
 void StatusMenu::actionEvent(QActionEvent* event)
 {
     QMenu::actionEvent(event);
+    if (QMenu* submenu = event->action()->menu())
+        submenu->setAccessibleName(event->action()->text().replace("&&"_L1, "&"_L1));
     if (!isVisible() || event->type() != QEvent::ActionChanged)
         return;
     const QAction* item = event->action();

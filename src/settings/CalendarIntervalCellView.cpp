@@ -23,6 +23,7 @@ CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
     applyTitles();
     auto& picker = *ui_->calendarIntervalDatePicker;
     ui_->calendarIntervalDayPopupButton->setAccessibleName(ui_->backupTitle->text());
+    ui_->backupTitle->setBuddy(ui_->calendarIntervalDayPopupButton);
     picker.setAccessibleName(ui_->atTimeTitle->text());
     ui_->deleteButton->setAccessibleName(localizedString("deleteRuleTitle"));
     ui_->deleteButton->setToolTip(localizedString("deleteRuleTitle"));

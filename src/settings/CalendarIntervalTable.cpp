@@ -1,5 +1,6 @@
 #include "CalendarIntervalTable.h"
 
+#include "AccessibleRole.h"
 #include "CalendarIntervalCellView.h"
 #include "SystemColor.h"
 
@@ -23,6 +24,7 @@ constexpr int border = 3; // keeps the rows clear of the rounded corners
 CalendarIntervalTable::CalendarIntervalTable(QWidget* parent)
     : QScrollArea(parent)
 {
+    setAccessibleRole(*this, QAccessible::Grouping);
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -95,6 +95,8 @@ void SettingsViewController::nameControls()
     const QString schedule = ui_->scheduleGroupLabel->text();
     explain(ui_->enableScheduleCheckmark, {}, schedule);
     explain(ui_->schedulePopup, ui_->enableScheduleCheckmark->text(), schedule);
+    // On Linux Qt calls a combo box by what is chosen in it; its name is that of the label whose buddy it is.
+    ui_->scheduleGroupLabel->setBuddy(ui_->schedulePopup);
     const SetupAdvice advice = setupAdvice(std::nullopt);
     explain(ui_->warningButton, advice.subject, advice.text);
     ui_->warningButton->setAlertStyle(advice.style);

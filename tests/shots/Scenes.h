@@ -2,6 +2,7 @@
 
 #include "Stage.h"
 
+#include <ostream>
 #include <span>
 
 namespace quillon {
@@ -13,5 +14,11 @@ struct Scene {
 };
 
 std::span<const Scene> allScenes();
+
+/// For the names of tests that are made of them.
+inline void PrintTo(const Scene& scene, std::ostream* out)
+{
+    *out << scene.name;
+}
 
 } // namespace quillon

@@ -21,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What stands in front of the others comes last.
 QWidgetList visibleWindows()
 {
     QWidgetList windows = QApplication::topLevelWidgets();
@@ -134,26 +133,35 @@ void Stage::showAlert()
     alerts_.present(program_.alerts.presented.back().first, {});
 }
 
-bool Stage::take(const QString& path)
+QWidgetList Stage::windows()
 {
     settleWindows();
-    const auto windows = visibleWindows();
-    const QRect area = takenArea(windows);
+    return visibleWindows();
+}
+
+QImage Stage::picture()
+{
+    const auto shown = windows();
+    const QRect area = takenArea(shown);
     const qreal ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
     QImage picture((QSizeF(area.size()) * ratio).toSize(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(ratio);
     picture.fill(isDark(QGuiApplication::palette()) ? 0xff303840 : 0xffb8c4d0);
     QPainter painter(&picture);
-    for (QWidget* window : windows)
+    for (QWidget* window : shown)
         painter.drawPixmap(window->pos() - area.topLeft(), window->grab());
-    painter.end();
-    for (QWidget* window : windows) {
+    return picture;
+}
+
+void Stage::clear()
+{
+    const auto shown = visibleWindows();
+    for (QWidget* window : shown) {
         if (auto* alert = window->findChild<Alert*>())
             alert->escapeButton()->click();
         else if (qobject_cast<QMenu*>(window))
             window->close();
     }
-    return picture.save(path);
 }
 
 } // namespace quillon

@@ -6,10 +6,11 @@
 #include "ScopedEnvironment.h"
 #include "StatusItem.h"
 
+#include <QImage>
+#include <QWidgetList>
+
 #include <memory>
 #include <optional>
-
-class QString;
 
 namespace quillon {
 
@@ -32,8 +33,12 @@ public:
     void choose(const char* comboBox, int item);
     /// Shows the alert that the program has presented last.
     void showAlert();
-    /// Saves a picture of what is on the screen, and closes it; false when the file cannot be written.
-    bool take(const QString& path);
+    /// What is on the screen once nothing moves any more; what stands in front of the others comes last.
+    static QWidgetList windows();
+    /// A picture of them.
+    static QImage picture();
+    /// Answers alerts and closes menus.
+    static void clear();
 
 private:
     ScopedEnvironment zone_{"TZ", "Europe/Berlin"};

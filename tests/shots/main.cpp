@@ -65,7 +65,9 @@ bool takeScenes(const QDir& folder, qreal textScale)
             stage.launch();
             scene.play(stage);
             const QString path = folder.filePath(u"%1-%2.png"_s.arg(scheme, QLatin1StringView(scene.name)));
-            if (!stage.take(path))
+            const bool written = Stage::picture().save(path);
+            Stage::clear();
+            if (!written)
                 return fail("cannot write "_L1 + path);
         }
     }

@@ -1,5 +1,6 @@
 #include "AlertPopover.h"
 
+#include "AccessibleRole.h"
 #include "Alert.h"
 
 #include <QCoreApplication>
@@ -91,6 +92,7 @@ AlertPopover::PopoverPointer AlertPopover::makePopover()
         });
     PopoverPointer popover(new Popover);
     popover->setContentView(alert.release());
+    setAccessibleRole(*popover, QAccessible::AlertMessage);
     return popover;
 }
 

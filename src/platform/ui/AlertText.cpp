@@ -1,5 +1,7 @@
 #include "AlertText.h"
 
+#include "AccessibleRole.h"
+
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -20,6 +22,7 @@ constexpr double highestShareOfScreen = 0.6;
 AlertText::AlertText(const QString& text, bool bold, QWidget* parent)
     : QTextEdit(parent)
 {
+    setAccessibleRole(*this, QAccessible::StaticText);
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
     viewport()->setCursor(Qt::ArrowCursor);
@@ -34,6 +37,7 @@ AlertText::AlertText(const QString& text, bool bold, QWidget* parent)
     own.setBold(bold);
     setFont(own);
     setPlainText(text);
+    setAccessibleName(text);
     takeWindowColor();
     fitToText();
 }

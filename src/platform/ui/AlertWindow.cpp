@@ -1,5 +1,6 @@
 #include "AlertWindow.h"
 
+#include "AccessibleRole.h"
 #include "Alert.h"
 #include "WindowSystem.h"
 
@@ -17,6 +18,7 @@ AlertWindow::AlertWindow(const AlertRequest& request)
                            Qt::WindowStaysOnTopHint)
     , alert_(new Alert(request, this))
 {
+    setAccessibleRole(*this, QAccessible::AlertMessage);
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setAccessibleName(alert_->accessibleName());
     setWindowModality(Qt::ApplicationModal);

@@ -1,5 +1,6 @@
 #include "MenuBarWindow_linux.h"
 
+#include "AccessibleRole.h"
 #include "MenuBarButton_linux.h"
 #include "ModalWindow.h"
 #include "ScreenStrip_linux.h"
@@ -28,6 +29,7 @@ MenuBarWindow::MenuBarWindow()
 {
     setObjectName(u"MenuBarWindow"_s);
     setWindowTitle(QGuiApplication::applicationDisplayName());
+    setAccessibleRole(*this, QAccessible::Window);
     setAttribute(Qt::WA_ShowWithoutActivating);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

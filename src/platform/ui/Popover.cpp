@@ -1,5 +1,6 @@
 #include "Popover.h"
 
+#include "AccessibleRole.h"
 #include "PopoverFrame.h"
 #include "WindowSystem.h"
 
@@ -59,6 +60,7 @@ Popover::Popover(QWidget* parent)
 {
     setAttribute(Qt::WA_MacAlwaysShowToolWindow);
     setAttribute(Qt::WA_TranslucentBackground);
+    setAccessibleRole(*this, QAccessible::Dialog);
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     fade_.setDuration(fadeMilliseconds);
@@ -78,6 +80,7 @@ void Popover::setContentView(QWidget* content)
 {
     delete content_;
     content_ = content;
+    setAccessibleName(content ? content->accessibleName() : QString());
     if (content)
         layout()->addWidget(content);
 }

@@ -36,7 +36,8 @@ class Popover : public QWidget {
 public:
     explicit Popover(QWidget* parent = nullptr);
 
-    /// Takes ownership; the content before is deleted. The popover is as large as the content's size hint.
+    /// Takes ownership; the content before is deleted. The popover is as large as the content's size hint, and bears
+    /// its accessible name.
     void setContentView(QWidget* content);
     QWidget* contentView() const { return content_; }
     /// The default is ApplicationDefined.
