@@ -61,7 +61,7 @@ protected:
         QColor ground = palette().color(QPalette::WindowText);
         ground.setAlphaF(0.08F); // fainter than on an item that does something
         painter.setBrush(ground);
-        painter.setPen(palette().color(QPalette::Highlight));
+        painter.setPen(systemBlueColor(palette()));
         constexpr qreal cornerRadius = 4;
         painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 0.5, -1.5, -0.5), cornerRadius, cornerRadius);
     }

@@ -1,5 +1,7 @@
 #include "DeleteButton.h"
 
+#include "SystemColor.h"
+
 #include <QPainter>
 
 namespace quillon {
@@ -24,7 +26,7 @@ void DeleteButton::paintEvent(QPaintEvent* /*event*/)
     const QRectF whole(rect());
     if (hasFocus()) {
         constexpr qreal half = focusRing / 2;
-        painter.setPen(QPen(palette().color(QPalette::Highlight), focusRing));
+        painter.setPen(QPen(systemBlueColor(palette()), focusRing));
         painter.drawEllipse(whole.adjusted(half, half, -half, -half));
     }
     constexpr qreal inset = focusRing + gap;

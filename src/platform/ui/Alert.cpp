@@ -109,7 +109,7 @@ void Alert::tintDestructiveButton()
     constexpr int middle = 128;
     const bool dark = palette().color(QPalette::Button).lightness() < middle;
     QPalette own;
-    own.setColor(QPalette::ButtonText, dark ? QColor(0xff, 0x7b, 0x72) : QColor(0xc8, 0x10, 0x22));
+    own.setColor(QPalette::ButtonText, dark ? QColor(0xff, 0xb9, 0xb3) : QColor(0xc8, 0x10, 0x22));
     destructiveButton_->setPalette(own);
 }
 

@@ -26,9 +26,17 @@ constexpr auto colorSchemeKey = "color-scheme"_L1;
 constexpr auto readOne = "ReadOne"_L1;
 constexpr auto read = "Read"_L1; // before version 2 of the interface
 
+constexpr QRgb selection = 0x2f6fde;
+
 struct SchemeColors {
-    QColor window, text, base, button, highlight, link;
+    QColor window, text, base, button, link;
 };
+
+void select(QPalette& palette)
+{
+    palette.setColor(QPalette::Highlight, selection);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+}
 
 QPalette paletteOf(const SchemeColors& colors)
 {
@@ -38,8 +46,7 @@ QPalette paletteOf(const SchemeColors& colors)
     palette.setColor(QPalette::Base, colors.base);
     palette.setColor(QPalette::AlternateBase, colors.window);
     palette.setColor(QPalette::ToolTipBase, colors.base);
-    palette.setColor(QPalette::Highlight, colors.highlight);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    select(palette);
     palette.setColor(QPalette::Link, colors.link);
     QColor faint = colors.text;
     faint.setAlphaF(0.45F);
@@ -51,22 +58,12 @@ QPalette paletteOf(const SchemeColors& colors)
 
 QPalette darkPalette()
 {
-    return paletteOf({.window = 0x2b2b2d,
-                      .text = 0xf2f2f3,
-                      .base = 0x1f1f21,
-                      .button = 0x3a3a3d,
-                      .highlight = 0x2f6fde,
-                      .link = 0x6ea8ff});
+    return paletteOf({.window = 0x2b2b2d, .text = 0xf2f2f3, .base = 0x1f1f21, .button = 0x3a3a3d, .link = 0x6ea8ff});
 }
 
 QPalette lightPalette()
 {
-    return paletteOf({.window = 0xf4f4f5,
-                      .text = 0x1d1d1f,
-                      .base = 0xffffff,
-                      .button = 0xe9e9eb,
-                      .highlight = 0x2f6fde,
-                      .link = 0x1a5fd0});
+    return paletteOf({.window = 0xf4f4f5, .text = 0x1d1d1f, .base = 0xffffff, .button = 0xe9e9eb, .link = 0x1a5fd0});
 }
 
 } // namespace
@@ -133,11 +130,18 @@ void applyColorScheme(ColorSchemePreference preference)
     if (!qobject_cast<SchemeStyle*>(QApplication::style()))
         QApplication::setStyle(std::make_unique<SchemeStyle>().release()); // owned by the application
     QApplication::setPalette(QPalette());                                  // the desktop's own again
-    if (preference == ColorSchemePreference::None)
-        return;
+    const QPalette desktop = QGuiApplication::palette();
     const bool dark = preference == ColorSchemePreference::Dark;
-    if (isDark(QGuiApplication::palette()) != dark)
+    if (preference != ColorSchemePreference::None && isDark(desktop) != dark) {
         QApplication::setPalette(dark ? darkPalette() : lightPalette());
+        return;
+    }
+    constexpr double readable = 4.5; // WCAG 2.1, 1.4.3
+    if (contrast(desktop.color(QPalette::Highlight), desktop.color(QPalette::HighlightedText)) >= readable)
+        return;
+    QPalette readableSelection; // the rest still follows the desktop
+    select(readableSelection);
+    QApplication::setPalette(readableSelection);
 }
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #include "HelpButton.h"
 
+#include "SystemColor.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -40,7 +42,7 @@ void HelpButton::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     QColor ground = palette().color(QPalette::ButtonText);
     ground.setAlphaF(isDown() ? 0.30F : underMouse() ? 0.18F : 0.08F);
-    QColor edge = palette().color(hasFocus() ? QPalette::Highlight : QPalette::ButtonText);
+    QColor edge = hasFocus() ? systemBlueColor(palette()) : palette().color(QPalette::ButtonText);
     if (!hasFocus())
         edge.setAlphaF(0.45F);
     painter.setBrush(ground);

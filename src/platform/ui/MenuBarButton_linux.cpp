@@ -3,6 +3,7 @@
 #include "EmojiFont.h"
 #include "ModalWindow.h"
 #include "Symbol_linux.h"
+#include "SystemColor.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -189,7 +190,7 @@ void MenuBarButton::paintGround(QPainter& painter) const
     QColor ground = palette().color(QPalette::WindowText);
     ground.setAlphaF(isDown() ? 0.18F : 0.08F);
     painter.setBrush(ground);
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 1) : QPen(Qt::NoPen));
+    painter.setPen(hasFocus() ? QPen(systemBlueColor(palette()), 1) : QPen(Qt::NoPen));
     constexpr qreal cornerRadius = 5;
     painter.drawRoundedRect(QRectF(rect()).adjusted(groundInset, groundInset, -groundInset, -groundInset), cornerRadius,
                             cornerRadius);

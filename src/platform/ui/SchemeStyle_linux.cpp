@@ -19,31 +19,61 @@ QColor lineColor(const QStyleOption& option, float opacity)
     return line;
 }
 
+/// Around what has the keyboard.
+void drawRing(const QStyleOption& option, qreal sideMargin, qreal cornerRadius, QPainter& painter)
+{
+    constexpr qreal half = 0.5; // of the line
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(systemBlueColor(option.palette));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(sideMargin + half, half, -sideMargin - half, -half),
+                            cornerRadius, cornerRadius);
+    painter.restore();
+}
+
+bool hasKeyboard(const QStyleOption& option)
+{
+    return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange);
+}
+
+constexpr qreal controlCornerRadius = 2; // as Qt's own style rounds them
+
 } // namespace
 
 void SchemeStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const
 {
-    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    const bool separator = element == CE_MenuItem && item && item->menuItemType == QStyleOptionMenuItem::Separator;
-    if (!separator || !isDark(option->palette)) {
-        QProxyStyle::drawControl(element, option, painter, widget);
+    const auto* item = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    const bool separator = item && item->menuItemType == QStyleOptionMenuItem::Separator;
+    if (separator && isDark(option->palette)) {
+        constexpr int sideMargin = 5;
+        painter->fillRect(item->rect.left() + sideMargin, item->rect.center().y(), item->rect.width() - 2 * sideMargin,
+                          1, lineColor(*option, 0.2F));
         return;
     }
-    constexpr int sideMargin = 5;
-    painter->fillRect(item->rect.left() + sideMargin, item->rect.center().y(), item->rect.width() - 2 * sideMargin, 1,
-                      lineColor(*option, 0.2F));
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void SchemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                     const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && hasKeyboard(*option))
+        drawRing(*option, 0, controlCornerRadius, *painter);
 }
 
 void SchemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element != PE_IndicatorCheckBox || !isDark(option->palette))
+    if (element == PE_PanelButtonCommand && hasKeyboard(*option))
+        drawRing(*option, 0, controlCornerRadius, *painter);
+    if (element != PE_IndicatorCheckBox)
         return;
-    // At least 3:1 against the dark window while it can be used (WCAG 2.1, 1.4.11).
+    // At least 3:1 against the window while it can be used (WCAG 2.1, 1.4.11).
     painter->save();
-    painter->setPen(lineColor(*option, option->state.testFlag(State_Enabled) ? 0.5F : 0.25F));
+    painter->setPen(lineColor(*option, option->state.testFlag(State_Enabled) ? 0.55F : 0.25F));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     painter->restore();

@@ -4,9 +4,10 @@
 
 namespace quillon {
 
-/// The desktop's style where Qt's own one falls short: on dark grounds, where that draws black on black, with
-/// separators in menus and outlines of check boxes, and where a bright shadow makes disabled text the brightest; with
-/// room for all of a menu's text in large fonts, and with room on either side of a button's text.
+/// The desktop's style where Qt's own one falls short: with separators in menus on dark grounds, where that draws black
+/// on black; with outlines of check boxes and rings around buttons that can be seen, and without the shadow that
+/// doubles disabled text; with room for all of a menu's text in large fonts, and with room on either side of a button's
+/// text.
 class SchemeStyle final : public QProxyStyle {
     Q_OBJECT
 
@@ -15,6 +16,8 @@ public:
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

@@ -1,6 +1,7 @@
 #include "SignButton.h"
 
 #include "AlertIcon.h"
+#include "SystemColor.h"
 
 #include <QPainter>
 
@@ -41,7 +42,7 @@ void SignButton::paintEvent(QPaintEvent* /*event*/)
     QColor ground = palette().color(QPalette::WindowText);
     ground.setAlphaF(isDown() ? 0.25F : underMouse() && isEnabled() ? 0.12F : 0.0F);
     painter.setBrush(ground);
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), ring) : QPen(Qt::NoPen));
+    painter.setPen(hasFocus() ? QPen(systemBlueColor(palette()), ring) : QPen(Qt::NoPen));
     painter.drawRoundedRect(QRectF(rect()).adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2), cornerRadius,
                             cornerRadius);
     if (!isEnabled())

@@ -116,7 +116,7 @@ TEST_F(AlertTest, MarksTheDestructiveButtonInLightAndDark)
         };
         EXPECT_TRUE(eventually([&] {
             const QColor mark = textColor(1);
-            return mark.red() > 2 * mark.green() - 10 && std::abs(mark.lightness() - ground.lightness()) > 80;
+            return mark.red() > mark.green() + 50 && std::abs(mark.lightness() - ground.lightness()) > 80;
         }));
         EXPECT_NE(textColor(0), textColor(1));
     }
