@@ -143,6 +143,31 @@ TEST_F(StatusMenuGui, EverythingIsReachedByKeyboard)
     EXPECT_TRUE(menu().resumeScheduleMenuItem->isVisible());
 }
 
+TEST_F(StatusMenuGui, WhatInformsIsReachedByTheArrowKeysAndCannotBeChosen)
+{
+    applyColorScheme(ColorSchemePreference::None);
+    launch();
+    machine.start(u"A"_s);
+    runLoop.advance(Seconds(20));
+    openMenu();
+    answer();
+    QList<QAction*> expected = statusMenu().actions();
+    expected.removeIf([](const QAction* action) { return !action->isVisible() || action->isSeparator(); });
+    EXPECT_TRUE(expected.contains(menu().backupDiskMenuItem));
+    QList<QAction*> reached;
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        QTest::keyClick(&statusMenu(), Qt::Key_Down);
+        reached += statusMenu().activeAction();
+    }
+    EXPECT_EQ(reached, expected);
+
+    const QImage elsewhere = statusMenu().grab(statusMenu().actionGeometry(menu().remainingTimeMenuItem)).toImage();
+    statusMenu().setActiveAction(menu().remainingTimeMenuItem);
+    EXPECT_NE(statusMenu().grab(statusMenu().actionGeometry(menu().remainingTimeMenuItem)).toImage(), elsewhere);
+    QTest::keyClick(&statusMenu(), Qt::Key_Return);
+    EXPECT_TRUE(statusMenu().isVisible());
+}
+
 TEST_F(StatusMenuGui, TheHistorysHelpClosesTheMenuAndOpensAPopoverThatItsButtonCloses)
 {
     launch();

@@ -53,6 +53,9 @@ void SchemeStyle::drawControl(ControlElement element, const QStyleOption* option
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+    // An item that can be chosen is filled instead.
+    if (item && !separator && item->state.testFlag(State_Selected) && !item->state.testFlag(State_Enabled))
+        drawRing(*item, 1, 2 * controlCornerRadius, *painter);
 }
 
 void SchemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -100,7 +103,14 @@ QSize SchemeStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
 int SchemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* returned) const
 {
-    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+    switch (hint) {
+    case SH_EtchDisabledText:
+        return 0;
+    case SH_Menu_AllowActiveAndDisabled:
+        return 1;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
 }
 
 } // namespace quillon
