@@ -158,7 +158,8 @@ TEST_F(Quillonctl, TellsTheDoctorOfToolDisksAndSettingsAndNamesNoFileOfTheUser)
     EXPECT_TRUE(change[u"at"_s].toString().contains(u"T03:00:00+02:00"_s) ||
                 change[u"at"_s].toString().contains(u"T02:00:00+01:00"_s));
     EXPECT_FALSE(found.toJson().contains("secret"));
-    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"com.Orvane.Quillon.plist"_s});
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden),
+              (QStringList{u"com.Orvane.Quillon.plist"_s, u"com.Orvane.Quillon.plist.lock"_s}));
 }
 
 TEST_F(Quillonctl, FindsTheTrayThatIsThere)

@@ -1,9 +1,9 @@
 #include "FileUserDefaults.h"
 
+#include "PrivateFolder.h"
 #include "PropertyList.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <iostream>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -25,22 +26,24 @@ namespace {
 // Writing takes a few milliseconds: whoever holds the lock has let go of it by then.
 constexpr std::chrono::seconds untilNextTry{1};
 
-/// The kernel's lock on a folder: it leaves nothing behind, and ends with its process at whatever instant that dies.
-class FolderLock {
+/// The kernel's lock on a file that only the user can open, for whoever can open a file can hold it. The lock ends with
+/// its process at whatever instant that dies; the file stays, since removing it would let two hold a lock of that name.
+class FileLock {
 public:
-    explicit FolderLock(const QString& folder)
-        : descriptor_(open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    explicit FileLock(const QString& path)
+        : descriptor_(
+              open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR))
     {
     }
-    FolderLock(const FolderLock&) = delete;
-    FolderLock& operator=(const FolderLock&) = delete;
-    ~FolderLock()
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+    ~FileLock()
     {
         if (descriptor_ >= 0)
             close(descriptor_);
     }
 
-    /// Takes the lock. Where the file system has none, or there is no folder yet, there is nobody to wait for.
+    /// Takes the lock. Where the file system has none, or nothing can be written, there is nobody to wait for.
     bool isHeldByAnother() const { return flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; }
 
 private:
@@ -162,7 +165,11 @@ bool FileUserDefaults::setAside(const QString& reason)
 
 void FileUserDefaults::save()
 {
-    const FolderLock lock(QFileInfo(path_).path());
+    if (!makePrivateFolder(QFileInfo(path_).path())) {
+        complain(u"the folder of %1 cannot be made; settings are not saved"_s.arg(path_));
+        return;
+    }
+    const FileLock lock(path_ + ".lock"_L1);
     if (lock.isHeldByAnother()) {
         complain(u"%1 is locked by another program; settings are saved once it is free"_s.arg(path_));
         nextTry_ = runLoop_.scheduleRepeating(untilNextTry, [this] { save(); });
@@ -177,8 +184,6 @@ void FileUserDefaults::save()
 
 bool FileUserDefaults::write()
 {
-    if (!QDir().mkpath(QFileInfo(path_).path()))
-        return complain(u"the folder of %1 cannot be made; settings are not saved"_s.arg(path_));
     auto values = fileValues();
     if (!values)
         return false;

@@ -11,7 +11,7 @@ namespace quillon {
 /// User defaults in an XML property list, which is read in any format; it is written as a binary list where it holds
 /// foreign values that XML cannot.
 ///
-/// Every change is on disk when the setter returns, unless another program holds the lock on the settings folder: then
+/// Every change is on disk when the setter returns, unless another program holds the lock beside the file: then
 /// it follows from the run loop as soon as the lock is free. A crash at any instant leaves the file as it was or as it
 /// is to be. What others changed in the file since is kept. A file that is no property list is set aside under a name
 /// of its own, never over an earlier one. What cannot be written stays in memory and goes out with the next change or,

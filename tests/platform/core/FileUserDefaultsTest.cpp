@@ -39,7 +39,13 @@ protected:
 
     QVariantMap stored() const { return propertylist::parse(contents(path())).value_or(QVariant()).toMap(); }
 
-    QStringList files() const { return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    /// But for the lock.
+    QStringList files() const
+    {
+        QStringList names = QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+        names.removeIf([](const QString& name) { return name.endsWith(u".lock"_s); });
+        return names;
+    }
 
     QString folder() const { return temporary_.filePath(u"config"_s); }
     QString path() const { return folder() + u"/settings.plist"_s; }
@@ -194,15 +200,16 @@ TEST_F(FileUserDefaultsTest, AReadOnlyDatabaseTouchesNothingOnDisk)
 TEST_F(FileUserDefaultsTest, WhatAnotherProgramsLockKeepsInMemoryFollowsOnceItIsFreeAndAtTheEndAtTheLatest)
 {
     write("{ a = 1; }");
-    const auto lockFolder = [this] {
-        const int other = open(QFile::encodeName(folder()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const auto holdLock = [this] {
+        const int other =
+            open(QFile::encodeName(path() + u".lock"_s).constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
         EXPECT_EQ(flock(other, LOCK_EX), 0);
         return other;
     };
     testing::internal::CaptureStderr();
     {
         FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
-        const int first = lockFolder();
+        const int first = holdLock();
         defaults.setObject(u"b"_s, 2);
         defaults.setObject(u"a"_s, QVariant());
         runLoop_.advance(Seconds(10));
@@ -215,16 +222,44 @@ TEST_F(FileUserDefaultsTest, WhatAnotherProgramsLockKeepsInMemoryFollowsOnceItIs
         runLoop_.advance(Seconds(60));
         EXPECT_EQ(contents(path()), "{ theirs = 1; }") << "nothing is left to write";
 
-        const int second = lockFolder();
+        const int second = holdLock();
         defaults.setObject(u"c"_s, 3);
         EXPECT_EQ(contents(path()), "{ theirs = 1; }");
         write("{ theirs = 2; }");
         close(second);
-        lockFolder(); // by somebody who never lets go
+        holdLock(); // by somebody who never lets go
     }
     EXPECT_EQ(stored(), (QVariantMap{{u"theirs"_s, u"2"_s}, {u"c"_s, 3LL}}));
     const QString warnings = QString::fromStdString(testing::internal::GetCapturedStderr());
     EXPECT_EQ(warnings.count(u'\n'), 2) << "one trouble is told once: " << warnings.toStdString();
+}
+
+TEST_F(FileUserDefaultsTest, WhoCanReadTheFolderCannotKeepSettingsFromBeingSaved)
+{
+    write("{ a = 1; }");
+    FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
+    defaults.setObject(u"a"_s, 2);
+    const int readable = open(QFile::encodeName(folder()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(flock(readable, LOCK_EX), 0);
+    defaults.setObject(u"a"_s, 3);
+    close(readable);
+    EXPECT_EQ(stored().value(u"a"_s), 3LL);
+}
+
+TEST_F(FileUserDefaultsTest, FoldersThatItMakesAreTheUsersAlone)
+{
+    const QString deep = folder() + u"/deeper/settings.plist"_s;
+    const mode_t before = umask(0);
+    FileUserDefaults(deep, DefaultsAccess::ReadWrite, runLoop_).setObject(u"a"_s, 1);
+    umask(before);
+    const auto mode = [](const QString& of) {
+        struct stat status {};
+        EXPECT_EQ(stat(QFile::encodeName(of).constData(), &status), 0);
+        return status.st_mode & 0777;
+    };
+    EXPECT_EQ(mode(folder()), 0700);
+    EXPECT_EQ(mode(folder() + u"/deeper"_s), 0700);
+    EXPECT_EQ(mode(deep + u".lock"_s), 0600);
 }
 
 TEST_F(FileUserDefaultsTest, AValueThatTheFileCannotHoldChangesNothing)
