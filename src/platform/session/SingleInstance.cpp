@@ -1,5 +1,7 @@
 #include "SingleInstance.h"
 
+#include "PeerUser.h"
+#include "PrivateFolder.h"
 #include "ReopenWatch.h"
 
 #include <QCryptographicHash>
@@ -7,6 +9,7 @@
 #include <QDir>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QThread>
 
 #include <cerrno>
@@ -26,14 +29,24 @@ constexpr auto pauseBetweenTries = 20ms;
 constexpr QByteArrayView request("present\n");
 constexpr QByteArrayView confirmation("presenting\n");
 
+constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+
+/// The user's own folder for sockets, which the session's end empties; empty where the session has none.
+QString runtimeFolder()
+{
+    // Qt would fall back to a fixed name below the folder for temporary files, which another user can take first.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        return {};
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
 /// A name for the folder's socket. The folder's own path may be longer than the 104 bytes (macOS) or 108 bytes (Linux)
-/// that the address of a socket holds, unix(4) and unix(7); the runtime folder is short and the user's alone.
+/// that the address of a socket holds, unix(4) and unix(7).
 QString socketName(const QString& folder)
 {
     const QByteArray path = QDir(folder).canonicalPath().toUtf8();
     const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex().first(16);
-    const QDir runtime(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
-    return runtime.filePath("quillon-"_L1 + QLatin1StringView(hash));
+    return "quillon-"_L1 + QLatin1StringView(hash);
 }
 
 } // namespace
@@ -71,7 +84,9 @@ bool SingleInstance::isHeldByAnother()
 SingleInstance::Claim SingleInstance::claim()
 {
     // QFile opens close-on-exec: a child that outlives this process does not keep the lock.
-    if (!QDir().mkpath(folder_) || !lockFile_.open(QIODevice::ReadWrite)) {
+    // Only the user can open the file, for whoever can open one can hold its lock.
+    if (!makePrivateFolder(folder_) || !lockFile_.open(QIODevice::ReadWrite, ownerOnly) ||
+        !lockFile_.setPermissions(ownerOnly)) { // of a file that an earlier version made for all to read
         errorString_ = u"cannot write in the folder %1"_s.arg(folder_);
         return Claim::Impossible;
     }
@@ -88,7 +103,12 @@ SingleInstance::Claim SingleInstance::claim()
 
 void SingleInstance::listen()
 {
-    const QString name = socketName(folder_);
+    QString place = runtimeFolder();
+    if (place.isEmpty()) {
+        ownFolder_ = std::make_unique<QTemporaryDir>();
+        place = ownFolder_->path();
+    }
+    const QString name = QDir(place).filePath(socketName(folder_));
     QLocalServer::removeServer(name); // left by a crash: whoever listened there has lost the lock
     if (!server_.listen(name)) {
         qWarning("a second start will not bring this one to the front: %ls", qUtf16Printable(server_.errorString()));
@@ -101,6 +121,10 @@ void SingleInstance::listen()
 void SingleInstance::answerNextClient()
 {
     QLocalSocket* client = server_.nextPendingConnection();
+    if (!isPeerOwnUser(client->socketDescriptor())) {
+        delete client;
+        return;
+    }
     connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
     connect(client, &QLocalSocket::readyRead, this, [this, client] {
         if (client->bytesAvailable() < request.size())
@@ -136,7 +160,7 @@ bool SingleInstance::ask(const QDeadlineTimer& deadline) const
         return false;
     QLocalSocket first;
     first.connectToServer(QFile::decodeName(address.readAll()));
-    if (!first.waitForConnected(remaining()))
+    if (!first.waitForConnected(remaining()) || !isPeerOwnUser(first.socketDescriptor()))
         return false;
     first.write(request.data(), request.size());
     while (first.bytesAvailable() < confirmation.size()) {

@@ -4,6 +4,7 @@
 #include <QLocalServer>
 #include <QObject>
 #include <QString>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -14,8 +15,8 @@ namespace quillon {
 /// Sees to it that one instance at most runs on a settings folder. Main thread only.
 ///
 /// The claim is a kernel lock on a file in the folder: it ends with the process, however that ends. The file names the
-/// socket over which a later start asks the first instance to present itself. Where the system turns a second start
-/// into a message to the first instance, that message counts as the same request.
+/// socket over which a later start of the same user asks the first instance to present itself. Where the system turns a
+/// second start into a message to the first instance, that message counts as the same request.
 class SingleInstance final : public QObject {
     Q_OBJECT
 
@@ -51,6 +52,7 @@ private:
 
     QString folder_;
     QFile lockFile_;
+    std::unique_ptr<QTemporaryDir> ownFolder_; ///< of the socket, where the session has none for sockets
     QLocalServer server_; // below the lock file, so that the socket is gone before the lock is free
     std::unique_ptr<QObject> reopenWatch_;
     QString errorString_;

@@ -10,8 +10,14 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <cstring>
 #include <deque>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -151,6 +157,57 @@ TEST_F(SingleInstanceIntegrationTest, TheSocketIsTheUsersAloneAndTakesNoOtherWor
     Instance second(folder);
     EXPECT_EQ(second.says(), u"presented"_s);
     EXPECT_EQ(presents, 1);
+}
+
+TEST_F(SingleInstanceIntegrationTest, WithoutASessionNobodyElseCanTakeTheSocketsPlace)
+{
+    const ScopedEnvironment noRuntimeFolder("XDG_RUNTIME_DIR", {});
+    const ScopedEnvironment temporary("TMPDIR", QFile::encodeName(runtime.path()));
+    Instance first(folder);
+    ASSERT_EQ(first.says(), u"first"_s);
+    Instance second(folder);
+    EXPECT_EQ(second.says(), u"presented"_s);
+    const auto made = QDir(runtime.path()).entryInfoList({u"instance_program-*"_s}, QDir::Dirs);
+    ASSERT_EQ(made.size(), 1);
+    EXPECT_EQ(made.first().permissions() & (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
+              QFile::Permissions());
+}
+
+TEST_F(SingleInstanceIntegrationTest, OnlyItsOwnUserIsListenedToAndCanHoldTheLock)
+{
+    SingleInstance first(folder);
+    ASSERT_TRUE(first.acquire());
+    int presents = 0;
+    QObject::connect(&first, &SingleInstance::presentRequested, [&presents] { ++presents; });
+    const QFileInfo lock(QDir(folder).filePath(u"com.Orvane.Quillon.instance"_s));
+    EXPECT_EQ(lock.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    EXPECT_EQ(QFileInfo(folder).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+
+    // Even where permissions do not keep another user out.
+    const QByteArray socket = QFile::encodeName(sockets().first().filePath());
+    chmod(QFile::encodeName(runtime.path()).constData(), 0755);
+    chmod(socket.constData(), 0777);
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr uid_t nobody = 65534;
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        strncpy(address.sun_path, socket.constData(), sizeof address.sun_path - 1);
+        const int stranger = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        const bool said = setuid(nobody) == 0 &&
+                          connect(stranger, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+                          write(stranger, "present\n", 8) == 8;
+        char answer = 0;
+        _exit(said && read(stranger, &answer, 1) > 0 ? 1 : 0); // waits for the answer or the end
+    }
+    int status = -1;
+    bool ended = false;
+    EXPECT_TRUE(runUntil([&] {
+        ended = ended || waitpid(child, &status, WNOHANG) == child;
+        return ended;
+    }));
+    EXPECT_EQ(status, 0) << "no answer";
+    EXPECT_EQ(presents, 0);
 }
 
 TEST_F(SingleInstanceIntegrationTest, AFolderThatCannotBeUsedIsReported)
