@@ -97,6 +97,8 @@ public:
 
     /// Starts a backup, or stops the one that runs. Ignored while an earlier click is under way.
     void backupNowClicked();
+    /// Starts a backup as the item does that offers one, for somebody who does not see it: a run is left alone.
+    void backupNowRequested();
     /// Starts a backup to that destination. Ignored while an earlier click is under way.
     void backupNowSubMenuItemClicked(const QString& identifier);
     void skipRetryAttemptClicked();

@@ -17,6 +17,21 @@ void StatusMenuController::backupNowClicked()
     askForStatus([this, offeredToStop](const TMStatus& status) { answerBackupNow(status, offeredToStop); });
 }
 
+void StatusMenuController::backupNowRequested()
+{
+    if (commandIsUnderWay_ || isActive())
+        return;
+    commandBegins();
+    askForStatus([this](const TMStatus& status) {
+        if (status.state != TMState::Running && status.state != TMState::Stopping && !isActive()) {
+            answerBackupNow(status, false);
+            return;
+        }
+        takeOverStatus(status);
+        commandSettled();
+    });
+}
+
 void StatusMenuController::answerBackupNow(const TMStatus& status, bool offeredToStop)
 {
     if (offeredToStop && status.state == TMState::Unknown) { // the next poll may know more

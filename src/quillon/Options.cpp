@@ -37,6 +37,8 @@ std::optional<Options> Options::parse(const QStringList& words, QString* error)
                 return std::nullopt;
             }
             options.placement = *placement;
+        } else if (const auto request = startRequestNamed(word.mid(2).toUtf8()); request && word.startsWith("--"_L1)) {
+            options.request = *request;
         } else {
             *error = u"unknown option \"%1\"; --help lists them"_s.arg(word);
             return std::nullopt;
@@ -52,9 +54,13 @@ QString Options::helpText()
            "  --menu-bar=auto|tray|bar  where the menu-bar item is shown (Linux): in the tray\n"
            "                            when there is one and else in a slim bar, or always in\n"
            "                            one of them\n"
+           "  --back-up-now             start a backup, unless one runs\n"
+           "  --pause-for-an-hour       pause the schedule for an hour\n"
+           "  --settings                open the settings\n"
            "  --print-changes           print a line for each change of the menu-bar item\n"
            "  --version                 print the version and end\n"
            "  -h, --help                print this text and end\n\n"
+           "Where Quillon runs already, it is the running one that does these things.\n\n"
            "Environment: QUILLON_TMUTIL names the tmutil tool to use.\n"_s;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "StartRequest.h"
 #include "StatusItem.h"
 
 #include <QString>
@@ -14,6 +15,7 @@ struct Options {
     bool help = false;
     bool version = false;
     bool printChanges = false; ///< a line on standard output for each change of the menu-bar item
+    StartRequest request = StartRequest::Present;
     StatusItemPlacement placement = StatusItemPlacement::Automatic;
 
     /// Reads the words behind the program's name; nothing, with one clear line in `error`, when one is unknown.

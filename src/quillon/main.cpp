@@ -9,7 +9,6 @@
 #include "LoginItemFactory.h"
 #include "MakerService.h"
 #include "ModalAlertPresenter.h"
-#include "ModalWindow.h"
 #include "NotificationCenter.h"
 #include "Options.h"
 #include "QtRunLoop.h"
@@ -43,13 +42,6 @@ void printLine(std::FILE* stream, const QString& text)
     std::fputs((text + u'\n').toLocal8Bit().constData(), stream);
 }
 
-/// A second start of the program asks for the settings, not for the menu: the item may be hidden in a crowded bar.
-void present(StatusMenuController& controller)
-{
-    if (!bringModalWindowToFront())
-        controller.preferencesClicked();
-}
-
 /// Creates the services, joins the parts and runs until the user quits.
 int runApplication(const Options& options, SingleInstance& instance)
 {
@@ -77,19 +69,27 @@ int runApplication(const Options& options, SingleInstance& instance)
     controller.awakeFromNib();
     QObject::connect(&controller, &StatusMenuController::terminate, qApp, &QCoreApplication::quit);
     Cirrel::initWithAppId(makerservice::applicationId(), makerservice::apiKey(), makerservice::address());
-    QObject::connect(&instance, &SingleInstance::presentRequested, &controller, [&controller] { present(controller); });
+    QObject::connect(&instance, &SingleInstance::presentRequested, &controller,
+                     [&controller] { carryOut(StartRequest::Present, controller); });
+    QObject::connect(&instance, &SingleInstance::requested, &controller, [&controller](const QByteArray& name) {
+        if (const auto request = startRequestNamed(name))
+            carryOut(*request, controller);
+    });
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [&tmutilQueue] { tmutilQueue.shutDown(); });
     delegate.applicationDidFinishLaunching();
+    if (options.request != StartRequest::Present)
+        runLoop.enqueue([&controller, &options] { carryOut(options.request, controller); });
     return QApplication::exec();
 }
 
-/// Two instances on one settings folder never run: a second start brings the first one to the front.
+/// Two instances on one settings folder never run: a second start has the first one do what it was started for.
 int runAsOnlyInstance(const Options& options)
 {
-    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                            startRequestNames());
     if (instance.acquire())
         return runApplication(options, instance);
-    if (instance.askFirstToPresent())
+    if (instance.askFirst(nameOf(options.request)))
         return 0;
     // The other one may just have ended.
     if (instance.acquire())

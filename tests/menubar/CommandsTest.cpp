@@ -50,6 +50,28 @@ TEST_F(Commands, BackUpNowStartsAndIsFollowedClosely)
     EXPECT_EQ(manager->latestBackupInfo().size(), 1);
 }
 
+TEST_F(Commands, ABackupAskedForFromElsewhereIsStartedAsByTheItemAndARunIsLeftAlone)
+{
+    launch();
+    controller->backupNowRequested();
+    runLoop.advance(Seconds(2.2 * machine.callDuration));
+    EXPECT_EQ(machine.starts(), 1);
+    EXPECT_EQ(controller->tmState(), TMState::Starting);
+    controller->backupNowRequested();
+    runLoop.advance(Seconds(5));
+    controller->backupNowRequested();
+    runLoop.advance(Seconds(1));
+    EXPECT_EQ(calls(u"stopbackup"_s).size(), 0);
+    runLoop.advance(Seconds(120));
+
+    machine.start(u"A"_s); // by somebody else, and not yet found out
+    controller->backupNowRequested();
+    runLoop.advance(Seconds(1));
+    EXPECT_EQ(calls(u"stopbackup"_s).size(), 0);
+    EXPECT_EQ(calls(u"startbackup"_s).size(), 1);
+    EXPECT_EQ(controller->tmState(), TMState::Running);
+}
+
 TEST_F(Commands, DisksRotateOnlyWhenTheSystemChooses)
 {
     machine.phases = {{u"Copying"_s, 1, true}, {u"Finishing"_s, 6}};

@@ -103,7 +103,7 @@ class InstallationTest(unittest.TestCase):
                                          stdout=subprocess.PIPE, text=True)
                 self.assertEqual((checked.returncode, checked.stdout), (0, ""))
                 for section in entry.sections():
-                    self.assertTrue(os.access(self.prefix / "bin" / entry[section]["Exec"], os.X_OK))
+                    self.assertTrue(os.access(self.prefix / "bin" / entry[section]["Exec"].split()[0], os.X_OK))
                 self.assertTrue((self.share / f"icons/hicolor/scalable/apps/{entry['Desktop Entry']['Icon']}.svg")
                                 .exists())
 

@@ -151,6 +151,21 @@ TEST_F(Application, ASecondStartOpensTheSettingsOfTheFirstAndEnds)
     EXPECT_EQ(application.state(), QProcess::Running);
 }
 
+TEST_F(Application, AStartDoesWhatItIsForAndHasTheRunningOneDoIt)
+{
+    practice.addDisk(u"Backup Disk"_s);
+    settings(DefaultsAccess::ReadWrite).setObject(settingskeys::didShowAlertAtFirstLaunch, true);
+    start(application, {u"--menu-bar=bar"_s, u"--print-changes"_s, u"--back-up-now"_s});
+    ASSERT_TRUE(hasPrinted("icon=3 ")) << printed.toStdString();
+    EXPECT_EQ(practice.run({u"latestbackup"_s}).status, 0);
+
+    QProcess second;
+    start(second, {u"--pause-for-an-hour"_s});
+    EXPECT_TRUE(runUntil([&] { return second.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(second.exitCode(), 0);
+    EXPECT_TRUE(runUntil([&] { return settings().integer(settingskeys::pauseUntilTag) == 3600; }));
+}
+
 TEST_F(Application, DamagedSettingsAreSetAsideWithAWarningAndAToolThatIsMissingIsSurvived)
 {
     practice.write(u"settings/com.Orvane.Quillon.plist"_s, "<plist><dict><key>half");

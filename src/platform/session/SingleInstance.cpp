@@ -26,7 +26,8 @@ namespace {
 constexpr auto patience = 2s;
 constexpr auto pauseBetweenTries = 20ms;
 
-constexpr QByteArrayView request("present\n");
+constexpr auto present = "present";
+constexpr qint64 longestRequest = 64;
 constexpr QByteArrayView confirmation("presenting\n");
 
 constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
@@ -51,8 +52,9 @@ QString socketName(const QString& folder)
 
 } // namespace
 
-SingleInstance::SingleInstance(const QString& folder)
+SingleInstance::SingleInstance(const QString& folder, const QByteArrayList& requests)
     : folder_(folder)
+    , requests_(requests)
     , lockFile_(QDir(folder).filePath(u"com.Orvane.Quillon.instance"_s))
 {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
@@ -126,25 +128,37 @@ void SingleInstance::answerNextClient()
         return;
     }
     connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
-    connect(client, &QLocalSocket::readyRead, this, [this, client] {
-        if (client->bytesAvailable() < request.size())
-            return;
-        if (client->read(request.size()) != request) {
-            client->abort();
-            return;
-        }
-        // Confirmed before the slots run, which may open a menu and wait for the user.
-        client->write(confirmation.data(), confirmation.size());
-        client->flush();
-        client->disconnectFromServer();
+    connect(client, &QLocalSocket::readyRead, this, [this, client] { answer(*client); });
+}
+
+void SingleInstance::answer(QLocalSocket& client)
+{
+    if (!client.canReadLine() && client.bytesAvailable() < longestRequest)
+        return;
+    const QByteArray request = client.readLine(longestRequest).trimmed();
+    if (request != present && !requests_.contains(request)) {
+        client.abort();
+        return;
+    }
+    // Confirmed before the slots run, which may open a menu and wait for the user.
+    client.write(confirmation.data(), confirmation.size());
+    client.flush();
+    client.disconnectFromServer();
+    if (request == present)
         Q_EMIT presentRequested();
-    });
+    else
+        Q_EMIT requested(request);
 }
 
 bool SingleInstance::askFirstToPresent()
 {
+    return askFirst(present);
+}
+
+bool SingleInstance::askFirst(const QByteArray& request)
+{
     const QDeadlineTimer deadline(patience);
-    while (!ask(deadline)) {
+    while (!ask(request, deadline)) {
         if (deadline.hasExpired())
             return false;
         QThread::msleep(pauseBetweenTries.count());
@@ -152,7 +166,7 @@ bool SingleInstance::askFirstToPresent()
     return true;
 }
 
-bool SingleInstance::ask(const QDeadlineTimer& deadline) const
+bool SingleInstance::ask(const QByteArray& request, const QDeadlineTimer& deadline) const
 {
     const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
     QFile address(lockFile_.fileName());
@@ -162,7 +176,7 @@ bool SingleInstance::ask(const QDeadlineTimer& deadline) const
     first.connectToServer(QFile::decodeName(address.readAll()));
     if (!first.waitForConnected(remaining()) || !isPeerOwnUser(first.socketDescriptor()))
         return false;
-    first.write(request.data(), request.size());
+    first.write(request + '\n');
     while (first.bytesAvailable() < confirmation.size()) {
         if (!first.waitForReadyRead(remaining()))
             return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayList>
 #include <QFile>
 #include <QLocalServer>
 #include <QObject>
@@ -9,6 +10,7 @@
 #include <memory>
 
 class QDeadlineTimer;
+class QLocalSocket;
 
 namespace quillon {
 
@@ -22,7 +24,8 @@ class SingleInstance final : public QObject {
 
 public:
     /// The folder is made when it does not exist.
-    explicit SingleInstance(const QString& folder);
+    /// @param requests what else than to present itself the first instance can be asked for: small letters and dashes
+    explicit SingleInstance(const QString& folder, const QByteArrayList& requests = {});
 
     /// True when this is the one instance, until the object is destroyed. False when another one is, or when the folder
     /// cannot be used: errorString() says which.
@@ -35,6 +38,8 @@ public:
     /// seconds at most and is meant for start-up, ahead of the event loop. After a false the first instance may just
     /// have ended: acquire() is worth another try.
     [[nodiscard]] bool askFirstToPresent();
+    /// The same for any request, which the first instance has to know.
+    [[nodiscard]] bool askFirst(const QByteArray& request);
 
     /// Why the last acquire() returned false: one line in English.
     QString errorString() const { return errorString_; }
@@ -42,15 +47,19 @@ public:
 Q_SIGNALS:
     /// Another start on the same folder, or of the same application, asks this one to come to the front.
     void presentRequested();
+    /// The same for one of the requests that the constructor was given.
+    void requested(const QByteArray& request);
 
 private:
     enum class Claim { Ours, Anothers, Impossible };
     Claim claim();
     void listen();
     void answerNextClient();
-    bool ask(const QDeadlineTimer& deadline) const;
+    void answer(QLocalSocket& client);
+    bool ask(const QByteArray& request, const QDeadlineTimer& deadline) const;
 
     QString folder_;
+    QByteArrayList requests_;
     QFile lockFile_;
     std::unique_ptr<QTemporaryDir> ownFolder_; ///< of the socket, where the session has none for sockets
     QLocalServer server_; // below the lock file, so that the socket is gone before the lock is free

@@ -22,12 +22,15 @@ void say(const QString& line)
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    quillon::SingleInstance instance(application.arguments().value(1));
+    quillon::SingleInstance instance(application.arguments().value(1), {"back-up-now"});
+    const QByteArray request = application.arguments().value(2, u"present"_s).toUtf8();
     if (!instance.acquire()) {
-        say(instance.askFirstToPresent() ? u"presented"_s : u"refused: "_s + instance.errorString());
+        say(instance.askFirst(request) ? u"presented"_s : u"refused: "_s + instance.errorString());
         return 0;
     }
     QObject::connect(&instance, &quillon::SingleInstance::presentRequested, [] { say(u"present"_s); });
+    QObject::connect(&instance, &quillon::SingleInstance::requested,
+                     [](const QByteArray& wanted) { say(QString::fromUtf8(wanted)); });
     if (application.arguments().contains(u"--leave-child"_s)) {
         qint64 child = 0;
         QProcess::startDetached(u"sleep"_s, {u"600"_s}, {}, &child);

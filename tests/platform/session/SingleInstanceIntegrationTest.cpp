@@ -88,6 +88,17 @@ TEST_F(SingleInstanceIntegrationTest, ASecondStartBringsTheFirstToTheFront)
     EXPECT_EQ(third.says(), u"presented"_s);
 }
 
+TEST_F(SingleInstanceIntegrationTest, ASecondStartPassesOnWhatItIsForAndNothingUnknown)
+{
+    Instance first(folder);
+    ASSERT_EQ(first.says(), u"first"_s);
+    Instance wanted(folder, {u"back-up-now"_s});
+    EXPECT_EQ(wanted.says(), u"presented"_s);
+    EXPECT_EQ(first.says(), u"back-up-now"_s);
+    Instance unknown(folder, {u"erase-everything"_s});
+    EXPECT_EQ(unknown.says(), u"refused: another instance runs on the folder "_s + folder);
+}
+
 TEST_F(SingleInstanceIntegrationTest, ACrashLeavesNothingInTheWay)
 {
     Instance first(folder, {u"--leave-child"_s});
