@@ -1,9 +1,9 @@
 #include "BackupPhase.h"
 #include "DateComponentsFormatter.h"
+#include "DisplayedName.h"
 #include "Format.h"
 #include "LocalizedString.h"
 #include "StatusMenuController.h"
-#include "TextComparison.h"
 
 #include <algorithm>
 
@@ -92,10 +92,8 @@ QString StatusMenuController::nameForBackupDiskWithIdentifier(const QString& ide
 
 QString StatusMenuController::nameForBackupDiskWithName(const QString& name)
 {
-    if (name.isEmpty())
-        return localizedString("notAvailableAbbreviation");
-    const auto decoded = removePercentEncoding(name);
-    return decoded && !decoded->isEmpty() ? *decoded : name;
+    const QString shown = displayedName(name);
+    return shown.isEmpty() ? localizedString("notAvailableAbbreviation") : shown;
 }
 
 QString StatusMenuController::localisedStringForBackupPhase(const QString& rawPhase) const

@@ -7,6 +7,7 @@
 #include "Calendar.h"
 #include "CalendarIntervalRule.h"
 #include "ComingStarts.h"
+#include "DisplayedName.h"
 #include "MenuBarIconState.h"
 #include "NextBackup.h"
 #include "PlistAccess.h"
@@ -14,7 +15,6 @@
 #include "SettingsKeys.h"
 #include "StatusItemPlace.h"
 #include "TMStatus.h"
-#include "TextComparison.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -42,12 +42,6 @@ QString anonymousPath(const QString& path)
 {
     const QString home = QDir::homePath();
     return home.size() > 1 && path.startsWith(home + u'/') ? u'~' + path.mid(home.size()) : path;
-}
-
-/// A name on one line, as people know it.
-QString readableName(const QString& name)
-{
-    return removePercentEncoding(name).value_or(name).simplified();
 }
 
 QString describe(const CalendarIntervalRule& rule)
@@ -197,13 +191,13 @@ void Doctor::examineDisks(Diagnosis& found, const ToolAnswer& answer) const
             latest = std::max(latest, record->date());
             records.erase(record);
         }
-        found.disks.append({readableName(disk.name), true, detail.contains(u"MountPoint"_s), disk.isLast, latest});
+        found.disks.append({displayedName(disk.name), true, detail.contains(u"MountPoint"_s), disk.isLast, latest});
         if (found.lastFailure && found.lastFailure->disk == disk.id)
             found.lastFailure->disk = found.disks.last().name;
     }
     const auto isSetUp = disks ? std::optional(false) : std::nullopt;
     for (const auto& record : std::as_const(records))
-        found.disks.append({readableName(record.diskName()), isSetUp, std::nullopt, false, record.date()});
+        found.disks.append({displayedName(record.diskName()), isSetUp, std::nullopt, false, record.date()});
 }
 
 void Doctor::examineSchedule(Diagnosis& found) const

@@ -1,6 +1,7 @@
 #include "Report.h"
 
 #include "Calendar.h"
+#include "DisplayedName.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -77,7 +78,8 @@ QByteArray destinations(const QList<BackupDestination>& destinations, bool json)
     for (const auto& destination : destinations) {
         array.append(
             QJsonObject{{u"id"_s, destination.id}, {u"name"_s, destination.name}, {u"isLast"_s, destination.isLast}});
-        lines += u"%1  %2%3\n"_s.arg(destination.id, destination.name, destination.isLast ? u"  (last used)"_s : u""_s);
+        lines += u"%1  %2%3\n"_s.arg(destination.id, displayedName(destination.name),
+                                     destination.isLast ? u"  (last used)"_s : u""_s);
     }
     return json ? QJsonDocument(array).toJson() : text(lines);
 }

@@ -1,8 +1,8 @@
+#include "DisplayedName.h"
 #include "LocalizedString.h"
 #include "RunLoop.h"
 #include "SetupAdvice.h"
 #include "TMUtil.h"
-#include "TextComparison.h"
 
 #include <memory>
 #include <utility>
@@ -15,7 +15,7 @@ QString namesOf(const QList<BackupDestination>& disks)
 {
     QStringList names;
     for (const auto& disk : disks)
-        names.append(removePercentEncoding(disk.name).value_or(disk.name).simplified());
+        names.append(displayedName(disk.name));
     return names.join(u'\n');
 }
 
