@@ -26,6 +26,8 @@ namespace {
 // Writing takes a few milliseconds: whoever holds the lock has let go of it by then.
 constexpr std::chrono::seconds untilNextTry{1};
 
+constexpr qint64 largestFile = 16 << 20; // bytes; settings have a few thousand
+
 /// The kernel's lock on a file that only the user can open, for whoever can open a file can hold it. The lock ends with
 /// its process at whatever instant that dies; the file stays, since removing it would let two hold a lock of that name.
 class FileLock {
@@ -131,6 +133,11 @@ std::optional<QVariantMap> FileUserDefaults::fileValues()
     QFile file(path_);
     if (!file.exists())
         return values_;
+    // Reading a pipe would wait for ever, and a device gives no end.
+    if (const QFileInfo found(path_); !found.isFile() || found.size() > largestFile) {
+        complain(u"%1 cannot be read: it is %2"_s.arg(path_, found.isFile() ? u"too large"_s : u"no file"_s));
+        return std::nullopt;
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         complain(u"%1 cannot be read: %2"_s.arg(path_, file.errorString()));
         return std::nullopt;

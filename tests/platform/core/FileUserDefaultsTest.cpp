@@ -304,6 +304,44 @@ TEST_F(FileUserDefaultsTest, AFileThatCannotBeReadIsNeverReplaced)
     EXPECT_EQ(contents(path()), "{ a = 1; }");
 }
 
+TEST_F(FileUserDefaultsTest, WhatIsNoSettingsFileIsNeitherWaitedForNorReplaced)
+{
+    const auto expectRefused = [this](const char* reason) {
+        testing::internal::CaptureStderr();
+        {
+            FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
+            defaults.setObject(u"a"_s, 1);
+            EXPECT_EQ(defaults.integer(u"a"_s), 1);
+        }
+        EXPECT_NE(testing::internal::GetCapturedStderr().find(reason), std::string::npos);
+        EXPECT_EQ(files().filter(u"damaged"_s), QStringList());
+    };
+    write("");
+    const QByteArray name = QFile::encodeName(path());
+    ASSERT_TRUE(QFile::resize(path(), qint64{1} << 34));
+    expectRefused("too large");
+    EXPECT_EQ(QFile(path()).size(), qint64{1} << 34);
+    QFile::remove(path());
+    ASSERT_EQ(mkfifo(name.constData(), 0600), 0);
+    expectRefused("no file");
+    QFile::remove(path());
+    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, path()));
+    expectRefused("no file");
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+}
+
+TEST_F(FileUserDefaultsTest, AnEntityThatGrowsWithoutBoundIsDamage)
+{
+    QByteArray bomb = "<?xml version=\"1.0\"?><!DOCTYPE plist [<!ENTITY e0 \"xxxxxxxxxx\">";
+    for (int level = 1; level < 12; ++level)
+        bomb += "<!ENTITY e" + QByteArray::number(level) + " \"" +
+                ("&e" + QByteArray::number(level - 1) + ';').repeated(10) + "\">";
+    write(bomb + "]><plist><dict><key>a</key><string>&e11;</string></dict></plist>");
+    testing::internal::CaptureStderr();
+    const FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("set aside"), std::string::npos);
+}
+
 TEST_F(FileUserDefaultsTest, ACrashAtAnyInstantLeavesAWholeFile)
 {
     write("{ step = 0; }");
