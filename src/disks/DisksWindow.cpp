@@ -1,5 +1,6 @@
 #include "DisksWindow.h"
 
+#include "AccessibleRole.h"
 #include "DisksPage.h"
 #include "ExclusionsPage.h"
 #include "LocalizedString.h"
@@ -35,9 +36,12 @@ DisksWindow::DisksWindow(const Setup::Services& services, const QString& lsblk)
     , troubleBar_(new QWidget)
     , troubleLabel_(new QLabel)
 {
+    setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(localizedString("disksWindowTitle"));
 
     auto* tabs = new QTabWidget;
+    setAccessibleRole(*tabs, QAccessible::Grouping);
+    tabs->setAccessibleName(windowTitle());
     tabs->addTab(disksPage_, localizedString("disksDisksTitle"));
     tabs->addTab(sourcesPage_, localizedString("disksSourcesTitle"));
     tabs->addTab(exclusionsPage_, localizedString("disksExclusionsTitle"));

@@ -120,7 +120,7 @@ class Application(unittest.TestCase):
         self.backup = FirstBackup(self.installation.disk, self.installation.prefix / "bin" / "quillonctl", os.environ,
                                   take_picture=None, folder=None)
         self.quillon = self.installation.start()
-        alert = self.screen.see("dialog", "Welcome to Quillon")
+        alert = self.screen.see("alert", "Welcome to Quillon")
         self.assertNotIn("appSettingsDidShowAlertAtFirstLaunch", self.installation.settings())
         self.screen.click(next(widgets(alert, "push button", "Close")))
         wait_for("the alert is not noted",
@@ -170,7 +170,7 @@ class Application(unittest.TestCase):
         wait_for("Quillon was not started at log-in", self.installation.running)
         wait_for("the update was not asked for", lambda: len(self.server.requests()) >= 2)
         wait_for("no update in the menu", self.is_update_offered)
-        self.assertFalse(list(self.screen.all("dialog", "Welcome to Quillon")))
+        self.assertFalse(list(self.screen.all("alert", "Welcome to Quillon")))
 
         self.assertEqual(self.installation.start().wait(PATIENCE), 0)
         retry = self.screen.see("check box", "Retry after a missed backup")

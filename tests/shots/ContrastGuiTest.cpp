@@ -126,8 +126,9 @@ protected:
             std::string faint;
             for (QWidget* window : windows) {
                 auto parts = window->findChildren<QWidget*>();
-                parts.removeIf([](const QWidget* part) {
-                    return !part->isEnabled() || !part->isVisible() || part->visibleRegion().isEmpty();
+                parts.removeIf([window](const QWidget* part) { // a dialog's come with the dialog
+                    return part->window() != window || !part->isEnabled() || !part->isVisible() ||
+                           part->visibleRegion().isEmpty();
                 });
                 window->setAttribute(Qt::WA_KeyboardFocusChange); // as with the first Tab key
                 faint += measure(*window, parts);

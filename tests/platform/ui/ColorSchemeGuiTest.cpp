@@ -66,7 +66,12 @@ TEST(ApplicationPalette, TakesThePreferredSchemeAndGoesBackToTheDesktopsOwn)
         EXPECT_EQ(isDark(QGuiApplication::palette()), preference == Dark);
     }
     applyColorScheme(None);
-    EXPECT_EQ(QGuiApplication::palette(), own);
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+        const auto one = static_cast<QPalette::ColorRole>(role);
+        // The desktop's selection may be too faint to be read.
+        const bool isSelection = one == QPalette::Highlight || one == QPalette::HighlightedText;
+        EXPECT_TRUE(isSelection || QGuiApplication::palette().color(one) == own.color(one)) << role;
+    }
 }
 
 TEST(ApplicationPalette, LeavesAnEmptyCheckBoxVisibleInTheDark)
