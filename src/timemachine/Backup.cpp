@@ -318,23 +318,13 @@ void Backup::markIncomplete()
     history_.save();
 }
 
-/// Before anything else is done: whatever ends this process while it cleans up, the backup counts. It does once it can
-/// be found; who stops the search takes restic's word for it.
+/// Before anything else is done: whatever ends this process while it cleans up, the backup counts. It does once its
+/// record is found on the disk; restic may know it by its cache, and takes as long to start as to back up.
 void Backup::remember()
 {
-    try {
-        snapshots_ = snapshotsIn(*repository_, restic());
-        const auto found =
-            std::ranges::find_if(*snapshots_, [this](const Snapshot& one) { return one.id.startsWith(snapshotId_); });
-        if (found == snapshots_->end() || !holdsSnapshot(*repository_, found->id)) // restic may know it by its cache
-            throw failureOf(
-                ResticProblem::NoRepository,
-                u"The backup was written, but cannot be found on the disk \"%1\"."_s.arg(destination_.name));
-        log_.backup = found->name();
-    } catch (const Failure&) {
-        if (!stop_.isMade())
-            throw;
-    }
+    if (!holdsSnapshot(*repository_, snapshotId_))
+        throw failureOf(ResticProblem::NoRepository,
+                        u"The backup was written, but cannot be found on the disk \"%1\"."_s.arg(destination_.name));
     history_.setUncheckedSince(destination_.id, {});
     history_.setLastBackup(destination_.id, QDateTime::currentDateTimeUtc());
     history_.setLastFailure(destination_.id, lastRemark());
@@ -359,7 +349,7 @@ void Backup::thin()
     if (repository_->hasLocks())
         program.run({u"unlock"_s}).require(); // removes those of processes that have died
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    const auto snapshots = snapshots_ ? *snapshots_ : snapshotsIn(*repository_, program);
+    const auto snapshots = snapshotsIn(*repository_, program);
     for (const Snapshot& snapshot : snapshots) {
         if (snapshotId_.isEmpty() ? !snapshot.complete : snapshot.id.startsWith(snapshotId_))
             log_.backup = snapshot.name();

@@ -89,7 +89,6 @@ private:
     SourceSet sources_;
     std::optional<EarlierBackups> earlier_;
     QString snapshotId_;
-    std::optional<std::vector<Snapshot>> snapshots_; ///< this one and all before it, once it has been found
     bool repaired_ = false;
     std::optional<quint64> roomWanted_; ///< in blocks of the disk, once room has been made
     BackupRemark remark_;

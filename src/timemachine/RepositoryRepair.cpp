@@ -3,6 +3,7 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <fcntl.h>
@@ -53,8 +54,10 @@ QStringList damagedPacks(const RepositoryFolder& repository, const QStringList& 
 
 bool holdsSnapshot(const RepositoryFolder& repository, const QString& identifier)
 {
-    const QByteArray name = identifier.toLatin1();
-    return stateOf(repository.descriptor(), "snapshots/" + name, name) == PackState::Sound;
+    return std::ranges::any_of(repository.namesIn("snapshots"), [&](const QByteArray& name) {
+        return name.startsWith(identifier.toLatin1()) &&
+               stateOf(repository.descriptor(), "snapshots/" + name, name) == PackState::Sound;
+    });
 }
 
 qlonglong setAsideDamagedSnapshots(const RepositoryFolder& repository)

@@ -114,7 +114,7 @@ private:
 /// Of those files of data the ones that are there and not as they were written.
 QStringList damagedPacks(const RepositoryFolder& repository, const QStringList& packs);
 
-/// Whether the record of that backup, by its whole identifier, is on the disk as it was written.
+/// Whether the record of a backup, of that identifier or one that begins so, is on the disk as it was written.
 bool holdsSnapshot(const RepositoryFolder& repository, const QString& identifier);
 
 /// Moves the records of backups that are not as they were written into a folder beside them, so that they keep restic
