@@ -194,7 +194,7 @@ void Backup::findLostBackups()
     const auto isThere = [this](const QVariant& backup) {
         return earlier_->contains(backup.toMap().value(u"Snapshot"_s).toString());
     };
-    if (known.isEmpty() || isThere(known.last()))
+    if (known.isEmpty() || holdsSnapshot(*repository_, known.last().toMap().value(u"Snapshot"_s).toString()))
         return;
     remark_.lostBackups = known.size() - std::ranges::count_if(known, isThere);
     history_.setLastPrune(destination_.id, QDateTime::currentDateTimeUtc());
