@@ -1,8 +1,8 @@
 #include "BackupPhase.h"
 #include "DateComponentsFormatter.h"
-#include "DisplayedName.h"
 #include "Format.h"
 #include "LocalizedString.h"
+#include "ShownText.h"
 #include "StatusMenuController.h"
 
 #include <algorithm>

@@ -7,12 +7,12 @@
 #include "Calendar.h"
 #include "CalendarIntervalRule.h"
 #include "ComingStarts.h"
-#include "DisplayedName.h"
 #include "MenuBarIconState.h"
 #include "NextBackup.h"
 #include "PlistAccess.h"
 #include "PropertyList.h"
 #include "SettingsKeys.h"
+#include "ShownText.h"
 #include "StatusItemPlace.h"
 #include "TMStatus.h"
 

@@ -1,7 +1,7 @@
 #include "Report.h"
 
 #include "Calendar.h"
-#include "DisplayedName.h"
+#include "ShownText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
-#include "DisplayedName.h"
 #include "LocalizedString.h"
 #include "RunLoop.h"
 #include "SetupAdvice.h"
+#include "ShownText.h"
 #include "TMUtil.h"
 
 #include <memory>

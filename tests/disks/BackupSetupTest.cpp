@@ -2,7 +2,6 @@
 
 #include "Entries.h"
 #include "LocalizedString.h"
-#include "ShownText.h"
 
 #include <gtest/gtest.h>
 
@@ -63,19 +62,6 @@ TEST(BackupSetup, AnExclusionIsRemovedTheWayItWasMade)
         removals.append(exclusionRemoval(entry.id).join(u' '));
     EXPECT_EQ(removals,
               (QStringList{u"removeexclusion -- /home/you/a&b"_s, u"includename -- -*.iso"_s, u"excludelarger 0"_s}));
-}
-
-TEST(BackupSetup, WhatComesFromOutsideIsShownOnOneLineThatTurnsNothingAround)
-{
-    const QString family = u"\U0001F468\u200D\U0001F469"_s;
-    for (const auto& [text, shown] :
-         {std::pair{u"Disk & <b>"_s, u"Disk & <b>"_s},
-          {u"a\nb\tc\u2028d\u0007"_s, u"a b c d"_s},
-          {u"\u202Egpj.exe\u2069\u200F"_s, u"gpj.exe"_s},
-          {family, family},
-          {QString(3000, u'x'), QString(40, u'x') + u'…' + QString(40, u'x')},
-          {u"\U0001F4BE"_s.repeated(100), u"\U0001F4BE"_s.repeated(40) + u'…' + u"\U0001F4BE"_s.repeated(40)}})
-        EXPECT_EQ(shownText(text), shown) << text.toStdString();
 }
 
 TEST(BackupSetup, AnAnswerThatIsNotWholeIsNotTakenForAnEmptyOne)

@@ -1,5 +1,7 @@
 #include "ShownText.h"
 
+#include "TextComparison.h"
+
 #include <QList>
 
 namespace quillon {
@@ -42,6 +44,12 @@ QString shownLongText(const QString& text)
 {
     constexpr qsizetype longest = 500;
     return shownText(text, longest);
+}
+
+QString displayedName(const QString& name)
+{
+    const auto decoded = removePercentEncoding(name);
+    return shownText(decoded && !decoded->isEmpty() ? *decoded : name);
 }
 
 } // namespace quillon
