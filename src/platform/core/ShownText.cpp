@@ -8,6 +8,7 @@ namespace quillon {
 
 namespace {
 
+constexpr qsizetype longestName = 80;
 constexpr char32_t zeroWidthNonJoiner = 0x200C;
 constexpr char32_t zeroWidthJoiner = 0x200D;
 
@@ -26,9 +27,7 @@ char32_t shownCharacter(char32_t character)
     }
 }
 
-} // namespace
-
-QString shownText(const QString& text, qsizetype longest)
+QString onOneLine(const QString& text, qsizetype longest)
 {
     QList<char32_t> characters;
     for (const char32_t character : text.toUcs4()) {
@@ -37,7 +36,14 @@ QString shownText(const QString& text, qsizetype longest)
     }
     if (characters.size() > longest)
         characters = characters.first(longest / 2) + QList<char32_t>{U'…'} + characters.last(longest / 2);
-    return QString::fromUcs4(characters.constData(), characters.size()).trimmed();
+    return QString::fromUcs4(characters.constData(), characters.size());
+}
+
+} // namespace
+
+QString shownText(const QString& text, qsizetype longest)
+{
+    return onOneLine(text, longest).trimmed();
 }
 
 QString shownLongText(const QString& text)
@@ -49,7 +55,7 @@ QString shownLongText(const QString& text)
 QString displayedName(const QString& name)
 {
     const auto decoded = removePercentEncoding(name);
-    return shownText(decoded && !decoded->isEmpty() ? *decoded : name);
+    return onOneLine(decoded && !decoded->isEmpty() ? *decoded : name, longestName);
 }
 
 } // namespace quillon

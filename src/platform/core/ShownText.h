@@ -12,7 +12,7 @@ QString shownText(const QString& text, qsizetype longest = 80);
 /// The same of a path, or of a sentence that may hold one.
 QString shownLongText(const QString& text);
 
-/// The same of a disk's name as Time Machine gives it, without its percent-encoding.
+/// The same of a disk's name as Time Machine gives it, without its percent-encoding, and with the spaces at its ends.
 QString displayedName(const QString& name);
 
 } // namespace quillon
