@@ -84,10 +84,13 @@ class Handler(BaseHTTPRequestHandler):
             pass
 
     def _drip(self):
-        self._send(b"", length=ENDLESS)
-        while not self._is_left():
-            self.wfile.write(b" ")
-            self.server.service.dripped += 1
+        try:
+            self._send(b"", length=ENDLESS)
+            while not self._is_left():
+                self.wfile.write(b" ")
+                self.server.service.dripped += 1
+        except OSError:  # it left in the midst of being told something
+            self.server.service.left += 1
 
     def _is_left(self):
         """Whether the client has gone within the time of one drip; it sends nothing more otherwise."""
