@@ -10,8 +10,8 @@ from pathlib import Path
 
 # Layers of the application: each may include those before it.
 LAYERS = ["platform/core", "platform/session", "platform/net", "platform/tray", "platform/statusnotifier",
-          "platform/ui", "common/core", "common/ui", "tmcontrol", "schedule", "settings", "app", "menubar", "quillon"]
-CORE = {"platform/core", "common/core", "tmcontrol", "schedule"}
+          "platform/ui", "common/core", "common/ui", "tmcontrol", "schedule", "run", "settings", "app", "menubar", "quillon"]
+CORE = {"platform/core", "common/core", "tmcontrol", "schedule", "run"}
 ALLOWED = {layer: {before for before in LAYERS[:index] if layer not in CORE or before in CORE}
            for index, layer in enumerate(LAYERS)}
 # Programs that use a part of them.

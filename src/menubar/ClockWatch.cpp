@@ -11,6 +11,8 @@ namespace {
 // More than a clock that is kept right by the network drifts between two looks.
 constexpr auto jumpThreshold = 2s;
 
+constexpr auto longestWaitForWake = 1min;
+
 constexpr auto watchedAhead = std::chrono::days(366);
 
 // Two looks are held against the same year, so that a change which time alone brings into view counts as none.
@@ -32,6 +34,7 @@ ClockWatch::ClockWatch(const RunLoop& runLoop)
 
 ClockWatch::Change ClockWatch::look()
 {
+    asleepSince_.reset();
     const auto previous = std::exchange(wallAheadOfUptime_, wallAheadOfUptime(runLoop_));
     Change change;
     if (const auto step = wallAheadOfUptime_ - previous; std::chrono::abs(step) > jumpThreshold)
@@ -41,6 +44,11 @@ ClockWatch::Change ClockWatch::look()
     const Date now = runLoop_.now();
     zone_ = std::chrono::abs(now - zone_.begin) > yearIsKept ? zoneYearFrom(now) : sameYear;
     return change;
+}
+
+bool ClockWatch::wakeUpWasLost() const
+{
+    return asleepSince_ && runLoop_.uptime() - *asleepSince_ > longestWaitForWake; // a clock that stands still in sleep
 }
 
 ClockWatch::ZoneYear ClockWatch::zoneYearFrom(Date begin)

@@ -1,9 +1,10 @@
 #include "StatusMenuController.h"
 
+#include "Bundle.h"
 #include "LocalizedString.h"
+#include "MakerSite.h"
 #include "Notifications.h"
-#include "PollIntervals.h"
-#include "ProcessInfo.h"
+#include "RestoreGuide.h"
 #include "SettingsKeys.h"
 #include "SystemVersion.h"
 
@@ -11,80 +12,103 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Points of the system font.
-double buttonFontSize(const OperatingSystemVersion& system)
-{
-    return system.major < 11 ? 12.0 : 11.0;
-}
-
-} // namespace
-
 StatusMenuController::StatusMenuController(const Services& services)
-    : runLoop_(services.runLoop)
-    , defaults_(services.defaults)
-    , notifications_(services.notifications)
-    , workspace_(services.workspace)
-    , alerts_(services.alerts)
-    , tmutilQueue_(services.tmutilQueue)
-    , launcher_(services.launcher)
-    , sharedDataManager_(services.dataManager)
-    , loginItem_(services.loginItem)
-    , statusItem_(services.statusItem)
+    : services_(services)
     , tmutil_(services.tmutilQueue, services.launcher, services.runLoop, services.workspace, services.alerts)
-    , tmPhase_(u"NotRunning"_s)
-    , clockWatch_(services.runLoop)
+    , statusMenu_(services.runLoop)
+    , follower_(services.runLoop, tmutil_)
+    , commands_({services.runLoop, services.defaults, services.dataManager, services.alerts, tmutil_, follower_})
+    , disks_({services.runLoop, services.defaults, services.dataManager, tmutil_, follower_.run()}, statusMenu_)
+    , pause_({services.runLoop, services.defaults, services.dataManager}, statusMenu_)
+    , panels_({services.runLoop, services.defaults, services.notifications, services.dataManager, services.loginItem,
+               services.tmutilQueue, services.launcher, services.workspace, services.alerts},
+              services.statusItem, statusMenu_)
+    , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
+    , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
 {
+    connectParts();
 }
 
 StatusMenuController::~StatusMenuController()
 {
     // An open settings panel posts once more as it goes.
-    notifications_.disconnect(this);
+    services_.notifications.disconnect(this);
+}
+
+void StatusMenuController::connectParts()
+{
+    connect(&follower_, &RunFollower::ticked, &schedule_, &ScheduleWatch::checkClock);
+    connect(&follower_, &RunFollower::stepped, this, &StatusMenuController::showStep);
+    connect(&commands_, &BackupCommands::began, this, [this] { showBackupNow(shown::menu(snapshot())); });
+    connect(&commands_, &BackupCommands::scheduledBackupStarts, this, [this] {
+        services_.runLoop.enqueue(
+            [this] { disks_.request(); }); // behind the first poll: a slow list hides no short run
+    });
+    connect(&disks_, &DisksInMenu::listed, this, &StatusMenuController::updateBackupDiskMenuItem);
+    connect(&disks_, &DisksInMenu::systemChoiceClicked, this, &StatusMenuController::backupNowClicked);
+    connect(&disks_, &DisksInMenu::diskClicked, this, &StatusMenuController::backupNowSubMenuItemClicked);
+    connect(&disks_, &DisksInMenu::helpButtonPressed, this, &StatusMenuController::allBackupInfoHelpButtonPressed);
+    connect(&pause_, &SchedulePause::changed, this, &StatusMenuController::updateStatusBar);
+    connect(&schedule_, &ScheduleWatch::looked, this, &StatusMenuController::updateStatusBar);
+    connect(&face_, &StatusItemFace::menuBarIconStateChanged, this, &StatusMenuController::menuBarIconStateChanged);
 }
 
 void StatusMenuController::awakeFromNib()
 {
-    const QVariant lastIcon = defaults_.object(settingskeys::lastMenuBarIconState);
-    setMenuBarIconState(lastIcon.isValid() ? MenuBarIconState{defaults_.integer(settingskeys::lastMenuBarIconState)}
-                                           : MenuBarIconState::Idle);
-    statusItem_.setFontSize(buttonFontSize(operatingSystemVersion()));
-    statusItem_.setMenu(&statusMenu_);
-    StatusMenu::setTitle(statusMenu_.quitMenuItem, localizedString("quitApplicationTitle").arg(u"Quillon"_s));
+    face_.restore();
+    services_.statusItem.setMenu(&statusMenu_);
     connectCommands();
     updateStatusBar();
-    chooseLocaleKeys();
     titleMenuItems();
-    restorePause();
-    startTimerWithInterval(pollintervals::idle);
-    firePollTimer();
-    requestBackupDisks(); // the first menu is to be whole as it opens
-    createPopovers();
+    pause_.restore();
+    follower_.start();
+    follower_.fire();
+    disks_.request(); // the first menu is to be whole as it opens
     registerObservers();
-}
-
-void StatusMenuController::chooseLocaleKeys()
-{
-    const bool ventura = systemIsAtLeast(u"13.0");
-    enterTimeMachineTitleLocaleKey_ = ventura ? "enterTimeMachineTitleVentura" : "enterTimeMachineTitle";
-    skipThisBackupTitleLocaleKey_ = ventura ? "skipThisBackupTitleVentura" : "skipThisBackupTitle";
 }
 
 void StatusMenuController::titleMenuItems()
 {
+    const bool ventura = systemIsAtLeast(u"13.0");
+    enterTimeMachineTitleLocaleKey_ = ventura ? "enterTimeMachineTitleVentura" : "enterTimeMachineTitle";
+    skipThisBackupTitleLocaleKey_ = ventura ? "skipThisBackupTitleVentura" : "skipThisBackupTitle";
     const auto title = [](QAction* item, const char* key, const QString& pattern = u"%1"_s) {
         StatusMenu::setTitle(item, pattern.arg(localizedString(key)));
     };
     const QString opens = u"%1..."_s;
+    StatusMenu::setTitle(statusMenu_.quitMenuItem, localizedString("quitApplicationTitle").arg(u"Quillon"_s));
     title(statusMenu_.skipRetryAttemptMenuItem, "skipRetryAttemptTitle");
     title(statusMenu_.enterTimeMachineMenuItem, enterTimeMachineTitleLocaleKey_);
     title(statusMenu_.updateAvailableMenuItem, "updateAvailableMenuTitle", u"🟢 %1..."_s);
     title(statusMenu_.preferencesMenuItem, "preferencesMenuTitle", opens);
-    title(statusMenu_.openSystemPreferencesMenuItem, sharedDataManager_.openSystemPreferencesTitleLocaleKey(), opens);
+    title(statusMenu_.openSystemPreferencesMenuItem, services_.dataManager.openSystemPreferencesTitleLocaleKey(),
+          opens);
     title(statusMenu_.aboutMenuItem, "aboutMenuTitle", opens);
     title(statusMenu_.pauseScheduleMenuItem, "pauseScheduleForTitle");
     title(statusMenu_.resumeScheduleMenuItem, "resumeScheduleTitle");
+}
+
+void StatusMenuController::registerObservers()
+{
+    NotificationCenter& notifications = services_.notifications;
+    notifications.addObserver(notifications::scheduledBackupShouldStart, this,
+                              [this](const QVariantMap&) { commands_.startScheduledBackup(); });
+    notifications.addObserver(notifications::scheduledBackupFoundLate, this, [this](const QVariantMap&) {
+        schedule_.lookAtSchedule(startdecision::Occasion::ClockChanged);
+    });
+    notifications.addObserver(notifications::shouldUpdateStatusBar, this, [this](const QVariantMap&) {
+        updateStatusBar();
+        services_.runLoop.enqueue([this] { face_.drawIcon(); });
+    });
+    notifications.addObserver(notifications::appUpdateAvailable, this, [this](const QVariantMap& userInfo) {
+        const QString version = userInfo.value(u"latestAppVersion"_s).toString();
+        latestAppVersion_ = version.isEmpty() ? std::nullopt : std::optional(version);
+        updateStatusBar();
+    });
+    connect(&services_.workspace, &Workspace::willSleep, &schedule_, &ScheduleWatch::systemWillSleep,
+            Qt::DirectConnection);
+    connect(&services_.workspace, &Workspace::didWake, this,
+            [this] { schedule_.lookAtSchedule(startdecision::Occasion::Woke); });
 }
 
 void StatusMenuController::enableMenuButtons(bool enable)
@@ -98,46 +122,77 @@ void StatusMenuController::enableMenuButtons(bool enable)
         updateStatusBar();
 }
 
-void StatusMenuController::createPopovers()
+void StatusMenuController::connectCommands()
 {
-    // Their contents follow when they are first shown: most days nobody looks at them.
-    for (auto* popover : {&aboutPopover_, &preferencesPopover_}) {
-        *popover = std::make_unique<Popover>();
-        (*popover)->setBehavior(PopoverBehavior::Transient);
-        (*popover)->setAnimates(true);
-    }
-    // Their frames show no title; screen readers and lists of windows do.
-    aboutPopover_->setWindowTitle(localizedString("aboutMenuTitle"));
-    preferencesPopover_->setWindowTitle(localizedString("preferencesMenuTitle"));
-}
-
-void StatusMenuController::registerObservers()
-{
-    notifications_.addObserver(notifications::scheduledBackupShouldStart, this,
-                               [this](const QVariantMap&) { startScheduledBackup(); });
-    notifications_.addObserver(notifications::scheduledBackupFoundLate, this,
-                               [this](const QVariantMap&) { handleWake(Wake::ClockJump); });
-    notifications_.addObserver(notifications::shouldUpdateStatusBar, this, [this](const QVariantMap&) {
-        updateStatusBar();
-        runLoop_.enqueue([this] { statusItem_.setImage(getMenuBarIcon()); });
+    connect(&statusMenu_, &QMenu::aboutToShow, this, &StatusMenuController::menuWillOpen);
+    const auto onClick = [this](QAction* item, auto command) {
+        connect(item, &QAction::triggered, this, [this, item, command] {
+            if (!statusMenu_.hasJustChanged(item))
+                QMetaObject::invokeMethod(this, command);
+        });
+    };
+    onClick(statusMenu_.backupNowMenuItem, [this] {
+        if (!statusMenu_.backupNowMenuItem->menu()) // with a submenu the item only opens it
+            backupNowClicked();
     });
-    notifications_.addObserver(notifications::appUpdateAvailable, this, [this](const QVariantMap& userInfo) {
-        const QString version = userInfo.value(u"latestAppVersion"_s).toString();
-        latestAppVersion_ = version.isEmpty() ? std::nullopt : std::optional(version);
-        updateStatusBar();
+    onClick(statusMenu_.pauseScheduleMenuItem, [this] {
+        // It only opens its submenu; a desktop that draws the menu may toggle the mark all the same.
+        StatusMenu::setState(statusMenu_.pauseScheduleMenuItem, statusMenu_.resumeScheduleMenuItem->isVisible());
     });
-    connect(&workspace_, &Workspace::willSleep, this, &StatusMenuController::prepareForSleep, Qt::DirectConnection);
-    connect(&workspace_, &Workspace::didWake, this, [this] { handleWake(Wake::FromSleep); });
+    onClick(statusMenu_.resumeScheduleMenuItem, &StatusMenuController::resumeScheduleClicked);
+    onClick(statusMenu_.skipRetryAttemptMenuItem, &StatusMenuController::skipRetryAttemptClicked);
+    onClick(statusMenu_.enterTimeMachineMenuItem, &StatusMenuController::enterTimeMachineClicked);
+    onClick(statusMenu_.updateAvailableMenuItem, &StatusMenuController::updateAvailableClicked);
+    onClick(statusMenu_.openSystemPreferencesMenuItem, &StatusMenuController::openSystemPreferences);
+    onClick(statusMenu_.preferencesMenuItem, &StatusMenuController::preferencesClicked);
+    onClick(statusMenu_.aboutMenuItem, &StatusMenuController::aboutClicked);
+    onClick(statusMenu_.quitMenuItem, &StatusMenuController::quitClicked);
+    const auto durations = statusMenu_.pauseDurationItems();
+    for (QAction* item : durations)
+        onClick(item, [this, item] { pauseForClicked(item->data().toLongLong()); });
 }
 
-bool StatusMenuController::switchIsOn(const QString& key) const
+void StatusMenuController::skipRetryAttemptClicked()
 {
-    return defaults_.integer(key) == 1;
+    services_.dataManager.setRetryBackupDate(std::nullopt);
+    updateStatusBar();
 }
 
-bool StatusMenuController::iconOnly() const
+void StatusMenuController::enterTimeMachineClicked()
 {
-    return defaults_.integer(settingskeys::showMenuBarIconOnly) != 0;
+    services_.workspace.openApplication(u"com.apple.backup.launcher"_s, [this](bool opened) {
+        if (opened)
+            return;
+        QStringList latestBackups;
+        if (!services_.dataManager.latestBackupInfo().isEmpty()) {
+            for (const auto& row : disks_.historyRows())
+                latestBackups.append(row.title());
+        }
+        if (const auto guide = restoreGuide(latestBackups))
+            services_.alerts.present(*guide, {});
+    });
+}
+
+void StatusMenuController::openSystemPreferences()
+{
+    tmutil_.openTimeMachineSettings(u"Quillon"_s);
+}
+
+void StatusMenuController::updateAvailableClicked()
+{
+    AlertRequest update;
+    update.messageText = localizedString("appUpdateAvailableAlertTitle").arg(latestAppVersion_.value_or(QString()));
+    update.informativeText = localizedString("appUpdateAvailableAlertMessage").arg(bundleShortVersion());
+    update.buttons = {localizedString("AlertButtonGetUpdate"), localizedString("AlertButtonCancel")};
+    services_.alerts.present(update, [this](int response) {
+        if (response != alertFirstButtonReturn)
+            return;
+        // The program makes way for the one that is about to replace it.
+        services_.workspace.openURL(makersite::page(u"/quillon/download/"_s), [this](bool opened) {
+            if (opened)
+                services_.runLoop.enqueue([this] { quitClicked(); });
+        });
+    });
 }
 
 } // namespace quillon

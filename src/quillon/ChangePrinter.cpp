@@ -19,8 +19,8 @@ ChangePrinter::ChangePrinter(const StatusMenuController& controller, const RunLo
 void ChangePrinter::printIfChanged()
 {
     const QString line = u"icon=%1 title=\"%2\" text=\"%3\" phase=\"%4\""_s.arg(
-        QString::number(static_cast<int>(controller_.menuBarIconState())), controller_.statusTitle(),
-        controller_.statusText(), controller_.tmPhase());
+        QString::number(static_cast<int>(controller_.menuBarIconState())), controller_.itemTitle().title,
+        controller_.itemTitle().text, controller_.tmPhase());
     if (line == lastLine_)
         return;
     lastLine_ = line;

@@ -6,6 +6,7 @@
 #include "NextBackup.h"
 #include "NotificationCenter.h"
 #include "RunLoop.h"
+#include "StartDecision.h"
 #include "UserDefaults.h"
 
 #include <QByteArray>
@@ -30,9 +31,6 @@ public:
         NotificationCenter& notifications;
         LoginItem& loginItem;
     };
-
-    /// A scheduled start that is found late by less than this is still made; a later one counts as missed.
-    static constexpr std::chrono::seconds startGrace{60};
 
     /// Registers the defaults, loads what is stored and plans the next backup.
     explicit DataManager(const Services& services);
@@ -76,8 +74,10 @@ public:
     void pauseBackupSchedule();
     /// The wall clock was set back. After a large step the dates that have fired already count again.
     void clockWasSetBack(std::chrono::milliseconds step);
-    /// Makes a start now whose date has passed by less than startGrace, as its timer would have.
-    void makeStartThatIsDue();
+    /// What becomes of the next start.
+    startdecision::Decision startDecision(startdecision::Occasion occasion, bool isMarkedAsMissed) const;
+    /// Tells the program to start a backup, and plans the one after it.
+    void makeScheduledStart();
     static nextbackup::TimeComponents timeComponentsFromTimeInterval(double seconds);
 
     /// Notes a completed backup: one record a disk, newest first; stored at once.

@@ -45,13 +45,25 @@ void DataManager::setNextScheduledBackupDate(std::optional<Date> date)
 
 void DataManager::startTimerFired()
 {
-    const Date date = *nextScheduledBackupDate_;
-    // A retry is never too late: it is there because a start was missed.
-    if (date != retryBackupDate_ && runLoop_.now() - date >= startGrace) {
+    using namespace startdecision;
+    if (startDecision(Occasion::TimerRan, false) == Decision::Start)
+        makeScheduledStart();
+    else
         notifications_.post(notifications::scheduledBackupFoundLate);
-        return;
-    }
-    lastFiredDate_ = date;
+}
+
+startdecision::Decision DataManager::startDecision(startdecision::Occasion occasion, bool isMarkedAsMissed) const
+{
+    return startdecision::decide(occasion, {.now = runLoop_.now(),
+                                            .next = nextScheduledBackupDate_,
+                                            .retry = retryBackupDate_,
+                                            .lastBackup = defaults_.date(settingskeys::lastBackupDate),
+                                            .isMarkedAsMissed = isMarkedAsMissed});
+}
+
+void DataManager::makeScheduledStart()
+{
+    lastFiredDate_ = nextScheduledBackupDate_;
     notifications_.post(notifications::scheduledBackupShouldStart);
     scheduleNextBackup();
 }
@@ -60,13 +72,6 @@ void DataManager::clockWasSetBack(std::chrono::milliseconds step)
 {
     if (step > largestStepBackWithoutRepeat)
         lastFiredDate_.reset();
-}
-
-void DataManager::makeStartThatIsDue()
-{
-    const Date now = runLoop_.now();
-    if (nextScheduledBackupDate_ && *nextScheduledBackupDate_ < now && now - *nextScheduledBackupDate_ < startGrace)
-        startBackupTimer_.fire();
 }
 
 void DataManager::setRetryBackupDate(std::optional<Date> date)

@@ -1,0 +1,59 @@
+#include "Panels.h"
+
+#include "AboutViewController.h"
+#include "LocalizedString.h"
+
+namespace quillon {
+
+Panels::Panels(const SettingsViewController::Services& services, StatusItem& item, StatusMenu& menu)
+    : services_(services)
+    , item_(item)
+    , menu_(menu)
+{
+    for (Popover* popover : {&aboutPopover_, &preferencesPopover_}) {
+        popover->setBehavior(PopoverBehavior::Transient);
+        popover->setAnimates(true);
+    }
+    // Their frames show no title; screen readers and lists of windows do.
+    aboutPopover_.setWindowTitle(localizedString("aboutMenuTitle"));
+    preferencesPopover_.setWindowTitle(localizedString("preferencesMenuTitle"));
+}
+
+// Their contents follow when they are first shown: most days nobody looks at them.
+
+void Panels::showSettings()
+{
+    if (!preferencesPopover_.contentView()) // which takes it
+        preferencesPopover_.setContentView(std::make_unique<SettingsViewController>(services_).release());
+    show(preferencesPopover_);
+}
+
+void Panels::showAbout()
+{
+    if (!aboutPopover_.contentView())
+        aboutPopover_.setContentView(
+            std::make_unique<AboutViewController>(services_.runLoop, services_.workspace, services_.alerts).release());
+    show(aboutPopover_);
+}
+
+void Panels::show(Popover& popover)
+{
+    menu_.close(); // which a second start of the program finds open; it would lie on top
+    popover.showRelativeTo(item_.anchor(), RectEdge::MinY);
+}
+
+void Panels::showHistoryHelp()
+{
+    menu_.close();                   // it holds the keyboard and the pointer
+    auto help = historyHelp_.lock(); // there already, or pushed aside by another one: once is enough
+    if (!help) {
+        AlertRequest request;
+        request.informativeText = localizedString("allBackupInfoHelpMessage");
+        request.buttons = {localizedString("AlertButtonClose")};
+        help = AlertPopover::create(request);
+        historyHelp_ = help;
+    }
+    help->runAsPopoverForView(item_.anchor(), RectEdge::MinY);
+}
+
+} // namespace quillon

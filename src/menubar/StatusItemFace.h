@@ -1,0 +1,48 @@
+#pragma once
+
+#include "MenuBarIconState.h"
+#include "RunLoop.h"
+#include "Shown.h"
+#include "StatusItem.h"
+#include "UserDefaults.h"
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+namespace quillon {
+
+/// What the item in the menu bar shows: its title of two lines, and the icon of a state that is kept between launches.
+class StatusItemFace final : public QObject {
+    Q_OBJECT
+
+public:
+    /// The icon bears the progress of the run.
+    StatusItemFace(RunLoop& runLoop, UserDefaults& defaults, StatusItem& item, const BackupRun& run);
+
+    MenuBarIconState menuBarIconState() const { return menuBarIconState_; }
+    const shown::ItemTitle& title() const { return title_; }
+
+    /// Takes up the icon of the last launch.
+    void restore();
+    /// An idle icon does not replace the mark of a failure or of a missed schedule.
+    void setMenuBarIconState(MenuBarIconState state);
+    std::optional<SymbolImage> getMenuBarIcon() const;
+    /// Draws the icon anew: its colours or its progress may have changed.
+    void drawIcon() { item_.setImage(getMenuBarIcon()); }
+    void updateStatusBarTitle(const QString& title, const QString& text);
+
+Q_SIGNALS:
+    void menuBarIconStateChanged();
+
+private:
+    RunLoop& runLoop_;
+    UserDefaults& defaults_;
+    StatusItem& item_;
+    const BackupRun& run_;
+    MenuBarIconState menuBarIconState_ = MenuBarIconState::None;
+    shown::ItemTitle title_;
+};
+
+} // namespace quillon

@@ -1,0 +1,94 @@
+#include "BackupRun.h"
+
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A run that has not been reported for so long is not about to be.
+constexpr std::chrono::minutes closelyWatchedStart{1};
+
+/// A start that was accepted takes a while to show. A command has to know what is true: the run may have come and gone.
+bool endsStarting(const TMStatus& status, BackupRun::Asked asked)
+{
+    return status.state != TMState::NotRunning || asked == BackupRun::Asked::ByCommand;
+}
+
+} // namespace
+
+bool BackupRun::isActive() const
+{
+    return isReported() || tmState_ == TMState::Starting;
+}
+
+void BackupRun::enter(TMState state, const QString& phase)
+{
+    tmState_ = state;
+    tmPhase_ = phase;
+}
+
+void BackupRun::take(const TMStatus& status, Asked asked, Date now)
+{
+    if (tmState_ != TMState::Starting || endsStarting(status, asked)) {
+        if (tmPhase_ == "Copying"_L1 && status.phase != "Copying"_L1)
+            progress_.copyPhaseEnded(now);
+        enter(status.state, status.phase);
+    }
+    progress_.update(status, now);
+    if (!status.destinationID.isEmpty())
+        activeBackupDiskIdentifier_ = status.destinationID;
+    markCompletion(status, now);
+}
+
+void BackupRun::markCompletion(const TMStatus& status, Date now)
+{
+    if (status.phase == "Finishing"_L1 || (status.phase == "ThinningPostBackup"_L1 && !backupCompleteDate_))
+        backupCompleteDate_ = now;
+    if (status.state == TMState::Stopping)
+        backupCompleteDate_.reset(); // a run that is stopped never counts as completed
+}
+
+void BackupRun::startAccepted(std::chrono::milliseconds uptime)
+{
+    enter(TMState::Starting, u"Starting"_s);
+    pace_ = Pace::Starting;
+    startAccepted_ = uptime;
+}
+
+void BackupRun::tick(std::chrono::milliseconds uptime)
+{
+    if (pace_ == Pace::Starting && uptime - startAccepted_ > closelyWatchedStart)
+        pace_ = Pace::Running;
+}
+
+BackupRun::Step BackupRun::step()
+{
+    Step step;
+    if (uiState_ != TMState::Running && tmState_ == TMState::Running) {
+        step.began = true;
+        uiState_ = TMState::Running;
+        pace_ = Pace::Running;
+        backupCompleteDate_.reset();
+    } else if (!isActive()) {
+        if (uiState_ == TMState::Running)
+            step.end = end();
+        pace_ = Pace::Idle;
+        // A stop that was accepted just as the run ended would keep the backup-now item disabled for ever.
+        stopBackupConfirmed_ = false;
+    }
+    previousTmPhase_ = tmPhase_;
+    return step;
+}
+
+BackupRun::End BackupRun::end()
+{
+    uiState_ = tmState_;
+    const RunProgress progress = std::exchange(progress_, {});
+    return {backupCompleteDate_, stopBackupConfirmed_, std::exchange(activeBackupDiskIdentifier_, {}),
+            progress.bytesCopied()};
+}
+
+} // namespace quillon
