@@ -17,7 +17,7 @@ namespace quillon::shown {
 /// All that what is shown is made of.
 struct Snapshot {
     Date now;
-    BackupRun run;
+    BackupRun run{};
     bool isScheduleEnabled = true;
     std::optional<Date> nextScheduledBackupDate{};
     std::optional<Date> retryBackupDate{};
