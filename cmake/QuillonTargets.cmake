@@ -4,7 +4,7 @@ add_library(quillon_options INTERFACE)
 target_compile_features(quillon_options INTERFACE cxx_std_20)
 target_compile_options(quillon_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align -Woverloaded-virtual
-  -Wconversion -Wno-sign-conversion -Werror)
+  -Wconversion -Wno-sign-conversion)
 target_compile_definitions(quillon_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
   QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS

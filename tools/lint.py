@@ -8,23 +8,13 @@ import re
 import sys
 from pathlib import Path
 
-# Layers of the application: each may include those before it.
-LAYERS = ["platform/core", "platform/session", "platform/net", "platform/tray", "platform/statusnotifier",
-          "platform/ui", "common/core", "common/ui", "tmcontrol", "schedule", "run", "settings", "app", "menubar", "quillon"]
-CORE = {"platform/core", "common/core", "tmcontrol", "schedule", "run"}
-ALLOWED = {layer: {before for before in LAYERS[:index] if layer not in CORE or before in CORE}
-           for index, layer in enumerate(LAYERS)}
-# Programs that use a part of them.
-ALLOWED["quillonctl"] = CORE | {"platform/tray"}
-ALLOWED["helper"] = {"platform/core", "platform/session"}
-ALLOWED["timemachine"] = {"platform/core"}
-ALLOWED["disks"] = {"platform/core", "platform/session", "platform/tray", "platform/ui", "common/core", "tmcontrol"}
-
 # The command line writes nothing, so it must not reach the object that does.
 FORBIDDEN_HEADERS = {"quillonctl": {"DataManager.h"}}
-# Core layers don't link these, but Debian's layout lets <QtGui/QImage> be found all the same.
-QT_MODULES_BEYOND_CORE = ("QtGui", "QtWidgets", "QtNetwork", "QtDBus", "QtSvg")
-CLOCKLESS = (set(LAYERS) | {"disks"}) - {"platform/core", "platform/session", "platform/ui", "quillon"}
+# Modules that Debian's layout lets an include find although the layer does not link them.
+QT_MODULES = {"QtGui": "Qt6::Widgets", "QtWidgets": "Qt6::Widgets", "QtNetwork": "Qt6::Network", "QtDBus": "Qt6::DBus",
+              "QtSvg": "Qt6::Svg"}
+# Who may ask a clock: what the run loop stands on, and programs that have none.
+WITH_CLOCK = {"platform/core", "platform/session", "platform/ui", "quillon", "quillonctl", "helper", "timemachine"}
 CLOCK = re.compile(r"\b(QDateTime::current\w*|QDate::currentDate|QTime::currentTime|(?:system|steady)_clock::now"
                    r"|QTimer|QElapsedTimer|QDeadlineTimer)\b")
 SYSTEM_SWITCH = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(Q_OS_\w+|__APPLE__|__linux__)\b")
@@ -33,9 +23,48 @@ COMMENTS_AND_TEXTS = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DO
 LONG_FILE = 420
 
 
+TARGET = re.compile(r"^(?:quillon_layer|quillon_program|add_library)\((\S+)", re.MULTILINE)
+LINKS = re.compile(r"(?:quillon_layer|quillon_program|target_link_libraries)\((\S+)\s([^)]*)\)")
+
+
+class Layers:
+    """The folders that CMake makes a target of, and what each target links, directly or by what it links."""
+
+    def __init__(self, source):
+        self._folders = {}
+        self._links = {}
+        for path in source.rglob("CMakeLists.txt"):
+            text = path.read_text(encoding="utf-8")
+            if target := TARGET.search(text):
+                self._folders[path.parent.relative_to(source).as_posix()] = target[1]
+            for name, links in LINKS.findall(text):
+                self._links.setdefault(name, set()).update(links.split())
+        self._targets = {target: folder for folder, target in self._folders.items()}
+
+    def layer_of(self, folder):
+        """The layer that a folder belongs to; None for none."""
+        while folder not in self._folders and "/" in folder:
+            folder = folder.rpartition("/")[0]
+        return folder if folder in self._folders else None
+
+    def linked(self, layer):
+        """Names of all that a layer links."""
+        reached, waiting = set(), [self._folders[layer]]
+        while waiting:
+            for link in self._links.get(waiting.pop(), ()):
+                if link not in reached:
+                    reached.add(link)
+                    waiting.append(link)
+        return reached
+
+    def allowed(self, layer):
+        return {self._targets[link] for link in self.linked(layer) if link in self._targets} | {layer}
+
+
 class Tree:
     def __init__(self, root):
         self._source = root / "src"
+        self._layers = Layers(self._source)
         self._files = sorted(path for ending in ("cpp", "h", "mm") for path in self._source.rglob(f"*.{ending}"))
         self._headers = {}
         for path in self._files:
@@ -52,7 +81,7 @@ class Tree:
                 self.warnings.append(f"{self._name(path)}: {lines} lines; does the class do one job?")
             layer = self._layer(path)
             if layer is None:
-                found.append(f"{self._name(path)}: its folder is no layer that tools/lint.py knows")
+                found.append(f"{self._name(path)}: its folder belongs to no target")
                 continue
             found += [f"{self._name(path)}:{line}: {what}" for line, what in self._in_file(path, layer, text)]
         return found
@@ -64,24 +93,23 @@ class Tree:
                 yield from ((number, what) for what in self._about_include(layer, *include.groups()))
             if (switch := SYSTEM_SWITCH.match(bare)) and not path.stem.endswith(("_linux", "_macos")):
                 yield number, f"{switch[1]} belongs into a file named *_linux or *_macos"
-            if (clock := CLOCK.search(bare)) and layer in CLOCKLESS:
+            if (clock := CLOCK.search(bare)) and layer not in WITH_CLOCK:
                 yield number, f"{clock[1]}: time comes from the run loop here"
 
     def _about_include(self, layer, own, foreign):
         if own:
             name = own.rpartition("/")[2]
             owners = self._headers.get(name, set())
-            if owners and not owners & (ALLOWED[layer] | {layer}):
+            if owners and not owners & self._layers.allowed(layer):
                 yield f"{layer} must not include {name} of {' or '.join(map(str, owners))}"
             if name in FORBIDDEN_HEADERS.get(layer, ()):
                 yield f"{layer} must not include {name}"
-        elif layer in CORE or layer in ("quillonctl", "timemachine"):
-            if foreign.startswith(QT_MODULES_BEYOND_CORE):
-                yield f"{layer} is a core layer and must not include <{foreign}>"
+        elif (module := foreign.partition("/")[0]) in QT_MODULES:
+            if QT_MODULES[module] not in self._layers.linked(layer):
+                yield f"{layer} links no {module} and must not include <{foreign}>"
 
     def _layer(self, path):
-        folder = path.parent.relative_to(self._source).as_posix()
-        return next((layer for layer in ALLOWED if folder == layer or folder.startswith(layer + "/")), None)
+        return self._layers.layer_of(path.parent.relative_to(self._source).as_posix())
 
     def _name(self, path):
         return path.relative_to(self._source.parent).as_posix()
