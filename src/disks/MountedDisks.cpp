@@ -81,12 +81,10 @@ void MountedDisks::refresh()
     child_ = launcher_.launch(
         {.executable = lsblk_,
          .arguments = {u"--json"_s, u"--list"_s, u"--bytes"_s, u"--output"_s, u"LABEL,MOUNTPOINTS,FSAVAIL,RO"_s},
-         .environmentName = u"LC_ALL"_s,
-         .environmentValue = u"C.UTF-8"_s},
+         .environment = {u"LC_ALL=C.UTF-8"_s}},
         [this](const TaskResult& result) { take(result); });
-    // One that hangs in the kernel does not end when it is killed; no other is started beside it. A repeating timer,
-    // because it does not follow a wall clock that is set back.
-    limit_ = runLoop_.scheduleRepeating(longestCall, [this] {
+    // One that hangs in the kernel does not end when it is killed; no other is started beside it.
+    limit_ = runLoop_.scheduleAfter(longestCall, [this] {
         fail();
         child_->kill();
     });

@@ -10,61 +10,28 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 TmutilClient::TmutilClient(TaskLauncher& launcher, RunLoop& runLoop, QString executable, Seconds longestCall)
-    : launcher_(launcher)
-    , runLoop_(runLoop)
-    , executable_(std::move(executable))
+    : executable_(executable)
     , longestCall_(longestCall)
+    , queue_(launcher, runLoop, std::move(executable))
 {
 }
 
-TmutilClient::~TmutilClient()
+void TmutilClient::call(const QStringList& arguments, const Handler& handler)
 {
-    // tmutil may be ended at any point: what it writes, it writes whole.
-    if (child_)
-        child_->kill();
+    queue_.submit({.command = arguments.first(),
+                   .arguments = arguments.mid(1),
+                   .ended =
+                       [this, handler](const TaskResult& result, bool tooSlow) {
+                           const bool success = result.status == 0 && result.output;
+                           handler({success, result.output.value_or(QByteArray()),
+                                    success ? QString() : complaintOf(result, tooSlow)});
+                       },
+                   .longest = longestCall_});
 }
 
-void TmutilClient::call(const QStringList& arguments, Handler handler)
+QString TmutilClient::complaintOf(const TaskResult& result, bool tooSlow) const
 {
-    calls_.push_back({arguments, std::move(handler)});
-    if (calls_.size() == 1)
-        launchNext();
-}
-
-void TmutilClient::launchNext()
-{
-    const QStringList& arguments = calls_.front().arguments;
-    tooSlow_ = false;
-    child_ = launcher_.launch({.executable = executable_,
-                               .arguments = arguments,
-                               .environmentName = u"command"_s,
-                               .environmentValue = arguments.first(),
-                               .captureOutput = true,
-                               .captureErrors = true},
-                              [this](const TaskResult& result) { ended(result); });
-    // A repeating timer, because it does not follow a wall clock that is set back.
-    limit_ = runLoop_.scheduleRepeating(longestCall_, [this] {
-        tooSlow_ = true;
-        child_->kill();
-    });
-}
-
-void TmutilClient::ended(const TaskResult& result)
-{
-    limit_.invalidate();
-    child_.reset();
-    const bool success = result.status == 0 && result.output.has_value();
-    const TmutilAnswer answer{success, result.output.value_or(QByteArray()), success ? QString() : complaintOf(result)};
-    const Handler handler = std::exchange(calls_.front().handler, nullptr);
-    calls_.pop_front();
-    if (!calls_.empty())
-        launchNext();
-    handler(answer);
-}
-
-QString TmutilClient::complaintOf(const TaskResult& result) const
-{
-    if (tooSlow_)
+    if (tooSlow)
         return localizedString("disksToolHangs");
     if (result.status == TaskResult::launchRefused)
         return localizedString("disksToolMissing").arg(executable_);

@@ -1,15 +1,12 @@
 #pragma once
 
-#include "RunLoop.h"
-#include "TaskLauncher.h"
+#include "TMUtilQueue.h"
 
 #include <QByteArray>
 #include <QStringList>
 
 #include <chrono>
-#include <deque>
 #include <functional>
-#include <memory>
 
 namespace quillon {
 
@@ -20,8 +17,8 @@ struct TmutilAnswer {
     QString complaint; ///< one line for people, tmutil's own where it had one; empty after a success
 };
 
-/// Calls tmutil without blocking, one call after the other, each ended when it takes too long. Main thread only. Calls
-/// that wait or run when this goes away are given up.
+/// Calls tmutil, one call after the other, and says in a line for people what went wrong. Main thread only. Calls that
+/// wait or run when this goes away are given up.
 class TmutilClient {
 public:
     /// Called once, in a later turn. It may make further calls.
@@ -32,28 +29,17 @@ public:
                  Seconds longestCall = std::chrono::minutes(1));
     TmutilClient(const TmutilClient&) = delete;
     TmutilClient& operator=(const TmutilClient&) = delete;
-    ~TmutilClient();
+    /// tmutil may be ended at any point: what it writes, it writes whole.
+    ~TmutilClient() { queue_.abandon(); }
 
-    void call(const QStringList& arguments, Handler handler);
+    void call(const QStringList& arguments, const Handler& handler);
 
 private:
-    struct Call {
-        QStringList arguments;
-        Handler handler;
-    };
+    QString complaintOf(const TaskResult& result, bool tooSlow) const;
 
-    void launchNext();
-    void ended(const TaskResult& result);
-    QString complaintOf(const TaskResult& result) const;
-
-    TaskLauncher& launcher_;
-    RunLoop& runLoop_;
     QString executable_;
     Seconds longestCall_;
-    std::deque<Call> calls_; ///< the first one runs
-    std::unique_ptr<RunningTask> child_;
-    Timer limit_;
-    bool tooSlow_ = false;
+    TMUtilQueue queue_;
 };
 
 } // namespace quillon

@@ -30,8 +30,7 @@ ToolAnswer askTool(RunLoop& runLoop, TaskLauncher& launcher, const QString& tool
     TaskRequest request;
     request.executable = tool;
     request.arguments = words;
-    request.environmentName = u"command"_s; // the one variable that the application gives it too
-    request.environmentValue = words.first();
+    request.environment = {u"command="_s + words.first()}; // what the application gives it too
     request.captureErrors = true;
 
     ToolAnswer answer;
@@ -44,7 +43,7 @@ ToolAnswer askTool(RunLoop& runLoop, TaskLauncher& launcher, const QString& tool
             answer.output = *result.output;
         waiting.quit();
     });
-    const Timer timeLimit = runLoop.scheduleRepeating(limit, [&] {
+    const Timer timeLimit = runLoop.scheduleAfter(limit, [&] {
         answer.trouble = u"the tool gave no answer within %1 s"_s.arg(limit.count());
         child->kill();
         waiting.quit(); // a process that waits for a dead disk outlives its end

@@ -51,10 +51,17 @@ void TMUtilQueue::submit(Request request)
 
 void TMUtilQueue::shutDown()
 {
+    if (child_ && !onlyReads(childCommand_))
+        child_.reset();
+    abandon();
+}
+
+void TMUtilQueue::abandon()
+{
     shutDown_ = true;
     waiting_.clear();
     timeout_.invalidate();
-    if (child_ && onlyReads(childCommand_))
+    if (child_)
         child_->kill();
     child_.reset();
 }
@@ -68,19 +75,23 @@ void TMUtilQueue::launchNext()
         return;
     Request request = std::move(waiting_.front());
     waiting_.pop_front();
-    request.enterSlot(handlers_);
+    if (request.enterSlot)
+        request.enterSlot(handlers_);
     childCommand_ = request.command;
 
     TaskRequest task;
     task.executable = executable_;
     task.arguments = QStringList(request.command) + request.arguments;
     // The tool runs with this one variable; it names the command to whoever looks at the process.
-    task.environmentName = u"command"_s;
-    task.environmentValue = request.command;
+    task.environment = {u"command="_s + request.command};
     // A start that outlives this program must not die of printing to a pipe that nobody reads any more.
-    task.captureOutput = static_cast<bool>(request.parse);
-    // A repeating timer, because it does not follow a wall clock that is set back.
-    timeout_ = runLoop_.scheduleRepeating(timeLimit(request.command), [this] { child_->kill(); });
+    task.captureOutput = request.parse || request.ended;
+    task.captureErrors = static_cast<bool>(request.ended);
+    tooSlow_ = false;
+    timeout_ = runLoop_.scheduleAfter(request.longest.value_or(timeLimit(request.command)), [this] {
+        tooSlow_ = true;
+        child_->kill();
+    });
     child_ = launcher_.launch(
         task, [this, request = std::move(request)](const TaskResult& result) { childEnded(request, result); });
 }
@@ -89,13 +100,20 @@ void TMUtilQueue::childEnded(const Request& request, const TaskResult& result)
 {
     if (shutDown_)
         return;
+    const std::weak_ptr<void> life = life_; // a handler may do away with whoever asked, and with this
     timeout_.invalidate();
     delivering_ = true;
     reportExitStatus(request.command, result.status);
     if (request.parse)
         request.parse(onlyUtf8(result.output));
+    if (request.ended)
+        request.ended(result, tooSlow_);
+    if (life.expired())
+        return;
     // Behind the blocks that the handlers have just queued.
-    runLoop_.enqueue([this] {
+    runLoop_.enqueue([this, life] {
+        if (life.expired())
+            return;
         child_.reset();
         launchNext();
     });

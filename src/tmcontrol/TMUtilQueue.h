@@ -39,11 +39,14 @@ class TMUtilQueue {
 public:
     struct Request {
         QString command;
-        QStringList arguments;
-        /// Puts the request's handler into its slot; called when the child is launched.
-        std::function<void(TMUtilHandlers&)> enterSlot;
+        QStringList arguments{};
+        /// Puts the request's handler into its slot; called when the child is launched. May be empty.
+        std::function<void(TMUtilHandlers&)> enterSlot{};
         /// Reads the child's standard output: nothing when it was not UTF-8 or too long. May be empty.
-        std::function<void(const std::optional<QByteArray>&)> parse;
+        std::function<void(const std::optional<QByteArray>&)> parse{};
+        /// Takes the end of the child whole, with its standard error; `tooSlow` of one that was killed for its time.
+        std::function<void(const TaskResult& result, bool tooSlow)> ended{};
+        std::optional<Seconds> longest{}; ///< how long the child may run, where the command's own limit does not fit
     };
 
     /// `executable` is the path of the tool.
@@ -54,6 +57,9 @@ public:
     /// The program is about to end: reading children are ended, those that start or stop a backup are left to finish,
     /// and nothing more is run or reported.
     void shutDown();
+
+    /// Gives up what runs and what waits; nothing more is run or reported.
+    void abandon();
 
     TMUtilHandlers& handlers() { return handlers_; }
 
@@ -70,10 +76,12 @@ private:
     std::unique_ptr<RunningTask> child_;
     QString childCommand_;
     Timer timeout_;
+    bool tooSlow_ = false;    ///< the child was killed for its time
     bool busy_ = false;       ///< a child runs, or its reports are being delivered
     bool delivering_ = false; ///< requests made now run next
     std::size_t urgent_ = 0;  ///< how many requests at the front were made during this delivery
     bool shutDown_ = false;
+    std::shared_ptr<void> life_ = std::make_shared<int>(); ///< gone with this
 };
 
 } // namespace quillon

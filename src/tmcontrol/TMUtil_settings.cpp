@@ -23,8 +23,7 @@ void TMUtil::openTimeMachineSettings(const QString& applicationName)
                         u"-e"_s, u"activate"_s,
                         u"-e"_s, u"set the current pane to pane id \"com.apple.prefs.backup\""_s,
                         u"-e"_s, u"end tell"_s};
-    script.environmentName = u"command"_s;
-    script.environmentValue = u"OpenTimeMachinePrefs"_s;
+    script.environment = {u"command=OpenTimeMachinePrefs"_s};
     script.captureOutput = false;
     const auto running = settingsScripts_.emplace(settingsScripts_.end());
     *running = launcher_.launch(script, [this, running, applicationName](const TaskResult& result) {

@@ -15,13 +15,11 @@ public:
     Answer call(const QStringList& arguments) override
     {
         Answer answer;
-        const auto child = machine_.launch({.executable = u"tmutil"_s,
-                                            .arguments = arguments,
-                                            .environmentName = u"command"_s,
-                                            .environmentValue = arguments.value(0)},
-                                           [&answer](const TaskResult& result) {
-                                               answer = {result.status, result.output.value_or(QByteArray()), {}};
-                                           });
+        const auto child = machine_.launch(
+            {.executable = u"tmutil"_s, .arguments = arguments, .environment = {u"command="_s + arguments.value(0)}},
+            [&answer](const TaskResult& result) {
+                answer = {result.status, result.output.value_or(QByteArray()), {}};
+            });
         constexpr Seconds betweenCalls(3);
         runLoop_.advance(betweenCalls);
         return answer;

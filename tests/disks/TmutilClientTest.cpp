@@ -87,6 +87,11 @@ TEST_F(TmutilClientTest, GoneItAnswersNothingAndLeavesNoChild)
     runLoop_.advance(100s);
     EXPECT_TRUE(answers_.empty());
     EXPECT_EQ(launcher_->liveChildren(), 0);
+
+    play({scripted(u"a"_s, TmutilScript::Fault::None)});
+    client_->call({u"a"_s}, [this](const TmutilAnswer&) { client_.reset(); });
+    runLoop_.advance(1s);
+    EXPECT_FALSE(client_) << "from inside an answer, too";
 }
 
 } // namespace quillon

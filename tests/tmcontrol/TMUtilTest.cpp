@@ -51,8 +51,7 @@ TEST_F(Tmutil, GivesTheToolItsWordsAndOneVariable)
     runLoop.advance(Seconds(1));
     for (const auto& request : launcher->launched()) {
         EXPECT_EQ(request.executable, u"tool"_s);
-        EXPECT_EQ(request.environmentName, u"command"_s);
-        EXPECT_EQ(request.environmentValue, request.arguments.first());
+        EXPECT_EQ(request.environment, QStringList(u"command="_s + request.arguments.first()));
     }
 }
 
@@ -155,7 +154,7 @@ TEST_F(Tmutil, SettingsAreALinkFromVersion13OnAndAScriptBefore)
     runLoop.advance(Seconds(590));
     EXPECT_EQ(launcher->liveChildren(), 1) << "the system may still be asking the user";
     EXPECT_EQ(launcher->launched().first().executable, u"/usr/bin/osascript"_s);
-    EXPECT_EQ(launcher->launched().first().environmentValue, u"OpenTimeMachinePrefs"_s);
+    EXPECT_EQ(launcher->launched().first().environment, QStringList(u"command=OpenTimeMachinePrefs"_s));
     tmutil->openTimeMachineSettings(u"Quillon"_s);
     runLoop.advance(Seconds(2));
     EXPECT_EQ(launcher->launched().size(), 2) << "another request is another script";

@@ -18,15 +18,14 @@ class ExecImage {
 public:
     explicit ExecImage(const TaskRequest& request)
         : path_(QFile::encodeName(request.executable))
-        , environmentEntry_((request.environmentName + u'=' + request.environmentValue).toLocal8Bit())
     {
         arguments_.push_back(path_);
         for (const QString& argument : request.arguments)
             arguments_.push_back(argument.toLocal8Bit());
-        for (QByteArray& argument : arguments_)
-            argumentPointers_.push_back(argument.data());
-        argumentPointers_.push_back(nullptr);
-        environmentPointers_ = {environmentEntry_.data(), nullptr};
+        for (const QString& entry : request.environment)
+            environment_.push_back(entry.toLocal8Bit());
+        argumentPointers_ = pointersTo(arguments_);
+        environmentPointers_ = pointersTo(environment_);
     }
 
     [[noreturn]] void exec() const
@@ -36,9 +35,18 @@ public:
     }
 
 private:
+    static std::vector<char*> pointersTo(std::vector<QByteArray>& texts)
+    {
+        std::vector<char*> pointers;
+        for (QByteArray& text : texts)
+            pointers.push_back(text.data());
+        pointers.push_back(nullptr);
+        return pointers;
+    }
+
     QByteArray path_;
-    QByteArray environmentEntry_;
     std::vector<QByteArray> arguments_;
+    std::vector<QByteArray> environment_;
     std::vector<char*> argumentPointers_;
     std::vector<char*> environmentPointers_;
 };

@@ -179,7 +179,7 @@ void FileUserDefaults::save()
     const FileLock lock(path_ + ".lock"_L1);
     if (lock.isHeldByAnother()) {
         complain(u"%1 is locked by another program; settings are saved once it is free"_s.arg(path_));
-        nextTry_ = runLoop_.scheduleRepeating(untilNextTry, [this] { save(); });
+        nextTry_ = runLoop_.scheduleAfter(untilNextTry, [this] { save(); });
         return;
     }
     nextTry_.invalidate();

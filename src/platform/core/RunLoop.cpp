@@ -18,24 +18,26 @@ void RunLoop::enqueue(Block block)
 
 Timer RunLoop::scheduleOnce(Date fireDate, Block block)
 {
-    auto state = std::make_shared<TimerState>();
-    state->block = std::move(block);
-    state->fireDate = fireDate;
-    state->due = uptime() + std::max(fireDate - now() + 1ms, 0ms);
-    timers_.emplace_back(state);
-    requestWake();
-    return Timer(std::move(state));
+    return schedule({std::move(block), uptime() + std::max(fireDate - now() + 1ms, 0ms), {}, fireDate});
+}
+
+Timer RunLoop::scheduleAfter(Seconds uptime, Block block)
+{
+    return schedule({std::move(block), this->uptime() + std::chrono::round<milliseconds>(uptime)});
 }
 
 Timer RunLoop::scheduleRepeating(Seconds interval, Block block)
 {
-    auto state = std::make_shared<TimerState>();
-    state->block = std::move(block);
-    state->interval = std::max(std::chrono::round<milliseconds>(interval), 1ms);
-    state->due = uptime() + *state->interval;
-    timers_.emplace_back(state);
+    const auto period = std::max(std::chrono::round<milliseconds>(interval), 1ms);
+    return schedule({std::move(block), uptime() + period, period});
+}
+
+Timer RunLoop::schedule(TimerState state)
+{
+    auto shared = std::make_shared<TimerState>(std::move(state));
+    timers_.emplace_back(shared);
     requestWake();
-    return Timer(std::move(state));
+    return Timer(std::move(shared));
 }
 
 void RunLoop::runTurn()
@@ -80,8 +82,8 @@ void RunLoop::runTimer(const std::shared_ptr<TimerState>& timer)
         run(Block(timer->block));
         return;
     }
-    if (const auto early = timer->fireDate + 1ms - now(); early > 0ms) {
-        timer->due = uptime() + early; // the wall clock was set back meanwhile
+    if (timer->fireDate && *timer->fireDate + 1ms > now()) {
+        timer->due = uptime() + (*timer->fireDate + 1ms - now()); // the wall clock was set back meanwhile
         return;
     }
     run(std::exchange(timer->block, nullptr));

@@ -21,8 +21,8 @@ namespace quillon {
 ///   than its date by at least 1 ms: whoever looks for "the next date that is not earlier than now" inside the block
 ///   cannot find the same date again. A wall clock that jumps forward does not make a timer run early; noticing
 ///   jumps is ClockWatch's business.
-/// - A repeating timer follows the uptime clock alone, so that no step of the wall clock stalls it. A tick that was
-///   missed is made up once, not once for every period.
+/// - The other timers follow the uptime clock alone, so that no step of the wall clock stalls them. A tick of a
+///   repeating one that was missed is made up once, not once for every period.
 class RunLoop {
 public:
     using Block = std::function<void()>;
@@ -43,6 +43,9 @@ public:
     /// A timer that runs once, at a wall-clock date any time ahead; a date not in the future is due at once.
     [[nodiscard]] Timer scheduleOnce(Date fireDate, Block block);
 
+    /// A timer that runs once, after so much uptime.
+    [[nodiscard]] Timer scheduleAfter(Seconds uptime, Block block);
+
     /// A timer that runs every `interval`, the first time one interval from now.
     [[nodiscard]] Timer scheduleRepeating(Seconds interval, Block block);
 
@@ -57,6 +60,7 @@ protected:
     std::optional<std::chrono::milliseconds> nextDue() const;
 
 private:
+    Timer schedule(TimerState state);
     void runQueuedBlocks();
     void runDueTimers();
     void runTimer(const std::shared_ptr<TimerState>& timer);

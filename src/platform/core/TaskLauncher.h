@@ -15,9 +15,8 @@ namespace quillon {
 struct TaskRequest {
     QString executable;
     QStringList arguments;
-    /// The child's whole environment is this one variable, whatever this program inherited.
-    QString environmentName;
-    QString environmentValue;
+    /// The child's whole environment, whatever this program inherited; each "NAME=value".
+    QStringList environment;
     /// Standard output is collected; when false it is discarded.
     bool captureOutput = true;
     /// Standard error is collected, for a program that shows what the child complains of.

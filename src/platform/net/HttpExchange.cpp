@@ -69,8 +69,7 @@ HttpExchange::HttpExchange(FormRequest form, RunLoop& runLoop, End end, QObject*
     , form_(std::move(form))
     , end_(std::move(end))
 {
-    // Repeating, though it runs once: such a timer does not wait longer when somebody sets the clock back.
-    timeout_ = runLoop.scheduleRepeating(
+    timeout_ = runLoop.scheduleAfter(
         form_.timeout, [this] { fail(QNetworkReply::TimeoutError, u"The server did not answer in time."_s); });
     send(form_.address);
 }

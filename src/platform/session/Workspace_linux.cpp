@@ -48,8 +48,7 @@ public:
 
     void start(const QUrl& url)
     {
-        // Repeating, though it runs once: such a timer does not wait longer when somebody sets the clock back.
-        patience_ = runLoop_.scheduleRepeating(patience, [this] { report(true); });
+        patience_ = runLoop_.scheduleAfter(patience, [this] { report(true); });
         process_.start(u"/bin/sh"_s, {u"-c"_s, openInBackground, u"sh"_s, url.toString(QUrl::FullyEncoded)});
     }
 

@@ -16,7 +16,7 @@ TEST(ShownText, IsWhatPeopleCanReadOnOneLine)
          u"نسخه‌پشتیبان 👨‍👩‍👧"_s}, // joiners belong to the writing
         {u"A%20100%"_s, u"A%20100%"_s},
         {u"A%0AB%1B%5B2J"_s, u"A B [2J"_s},
-        {u"\u009b2J\a\u001b]0;title\u0007"_s, u"2J  ]0;title"_s},
+        {u"\u009b2J\a\u001b]0;title\u0007"_s, u" 2J  ]0;title "_s},
         {u"one\r\ntwo\tthree\u2028four"_s, u"one  two three four"_s},
         {u"photo\u202egpj.exe\u2066\u200f"_s, u"photogpj.exe"_s},
         {QString(3000, u'x') + u"end"_s, QString(40, u'x') + u'\u2026' + QString(37, u'x') + u"end"_s},

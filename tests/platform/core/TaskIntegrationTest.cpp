@@ -22,10 +22,7 @@ namespace {
 
 TaskRequest shell(const QString& script)
 {
-    return {.executable = u"/bin/sh"_s,
-            .arguments = {u"-c"_s, script, u"sh"_s},
-            .environmentName = u"command"_s,
-            .environmentValue = u"status"_s};
+    return {.executable = u"/bin/sh"_s, .arguments = {u"-c"_s, script, u"sh"_s}, .environment = {u"command=status"_s}};
 }
 
 QString contents(const QString& path)
@@ -72,10 +69,8 @@ TEST_F(TaskIntegrationTest, TheChildSeesExactlyOneVariableWhateverTheParentHas)
 {
     const ScopedEnvironment path("LD_LIBRARY_PATH", "/usr/lib");
     const ScopedEnvironment dyld("DYLD_LIBRARY_PATH", "/usr/lib");
-    const auto result = run({.executable = u"/usr/bin/env"_s,
-                             .arguments = {},
-                             .environmentName = u"command"_s,
-                             .environmentValue = u"destinationinfo"_s});
+    const auto result =
+        run({.executable = u"/usr/bin/env"_s, .arguments = {}, .environment = {u"command=destinationinfo"_s}});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, "command=destinationinfo\n");
 }
@@ -120,10 +115,8 @@ TEST_F(TaskIntegrationTest, ARefusedLaunchEndsWithStatus127)
     for (const QString& path : {folder.filePath(u"missing"_s), plainFile, emptyProgram, folder.path(), QString()}) {
         SCOPED_TRACE(path.toStdString());
         results.clear();
-        EXPECT_EQ(
-            run({.executable = path, .arguments = {}, .environmentName = u"command"_s, .environmentValue = u"x"_s})
-                .status,
-            TaskResult::launchRefused);
+        EXPECT_EQ(run({.executable = path, .arguments = {}, .environment = {u"command=x"_s}}).status,
+                  TaskResult::launchRefused);
     }
 }
 
@@ -222,13 +215,12 @@ TEST_F(TaskIntegrationTest, TheCompletionMayDestroyHandleAndLauncher)
         auto launcher = std::make_unique<Task>();
         std::unique_ptr<RunningTask> handle;
         bool reported = false;
-        handle = launcher->launch(
-            {.executable = executable, .arguments = {}, .environmentName = u"command"_s, .environmentValue = u"x"_s},
-            [&](const TaskResult&) {
-                handle.reset();
-                launcher.reset();
-                reported = true;
-            });
+        handle = launcher->launch({.executable = executable, .arguments = {}, .environment = {u"command=x"_s}},
+                                  [&](const TaskResult&) {
+                                      handle.reset();
+                                      launcher.reset();
+                                      reported = true;
+                                  });
         EXPECT_TRUE(runUntil([&] { return reported; })) << executable.toStdString();
     }
 }
