@@ -1,0 +1,228 @@
+#include "LivedSchedule.h"
+
+#include "Calendar.h"
+#include "DateFormatter.h"
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto reactionTime = 2s;
+
+} // namespace
+
+void Tally::add(const Tally& other)
+{
+    due += other.due;
+    made += other.made;
+    retries += other.retries;
+    for (const auto& [reason, count] : other.skipped.asKeyValueRange())
+        skipped[reason] += count;
+    lost += other.lost;
+    doubled += other.doubled;
+    untrue += other.untrue;
+}
+
+LivedSchedule::LivedSchedule(Date begin, unsigned seed)
+    : PlayedProgram(begin)
+    , random_(seed)
+{
+    defaults.stored[settingskeys::lastBackupDate] =
+        QDateTime::fromMSecsSinceEpoch(begin.time_since_epoch().count() - 1);
+    setRules({{CalendarIntervalRule::everyDay, between(1, 5) * 3600 + between(0, 59) * 60},
+              {CalendarIntervalRule::mondayToFriday, between(12, 17) * 3600 + between(0, 59) * 60}});
+    launch();
+}
+
+int LivedSchedule::between(int least, int most)
+{
+    return std::uniform_int_distribution(least, most)(random_);
+}
+
+void LivedSchedule::liveThrough(int days)
+{
+    LocalTime day = Calendar().localTime(runLoop.now());
+    for (int lived = 0; lived < days; ++lived) {
+        for (const Date due : dueOn(day))
+            meet(due);
+        if (between(1, 20) == 1)
+            travel();
+        else
+            sleepUntil(Calendar().date({day.year, day.month, day.day + 1, 0}));
+        day = Calendar().localTime(runLoop.now());
+    }
+}
+
+QList<Date> LivedSchedule::dueOn(const LocalTime& day) const
+{
+    QList<Date> due;
+    for (const auto& rule : manager->calendarIntervalSettings()) {
+        if (rule.allowsWeekday(day.weekday))
+            due.append(
+                Calendar().date({day.year, day.month, day.day, int(rule.time / 3600), int(rule.time % 3600 / 60)}));
+    }
+    std::ranges::sort(due);
+    return due;
+}
+
+/// The night ends somewhere else; a start that it has passed over there is made up for.
+void LivedSchedule::travel()
+{
+    constexpr std::array zones = {"Europe/Berlin", "America/New_York", "Asia/Kolkata", "Pacific/Auckland"};
+    qputenv("TZ", zones[std::size_t(between(0, 3))]);
+    tzset();
+    const LocalTime here = Calendar().localTime(runLoop.now());
+    sleepUntil(Calendar().date({here.year, here.month, here.day + 1, 0}));
+    runLoop.advance(20s);
+    if (manager->retryBackupDate())
+        expectRetry();
+}
+
+void LivedSchedule::meet(Date due)
+{
+    if (runLoop.now() > due - 10min)
+        return; // what came before has taken that long
+    ++tally_.due;
+    sleepUntil(due - 5min);
+    runLoop.advance(20s);
+    expectStart(runLoop.now(), false, {});
+    event_ = Event(std::max(between(-10, int(Event::ByHand)), 0)); // most days nothing happens
+    play(event_, due);
+    look(due);
+}
+
+void LivedSchedule::play(Event event, Date due)
+{
+    const auto completed = machine.phases;
+    switch (event) {
+    case Event::Nothing:
+    case Event::SetBack:
+        runLoop.advanceTo(due + reactionTime);
+        expectStart(due, true, {});
+        letRunEnd();
+        if (event == Event::SetBack) {
+            runLoop.stepWallClock(-std::chrono::seconds(between(10, 600)));
+            runLoop.advanceTo(std::max(runLoop.now(), due) + 2min);
+            expectStart(due, false, {});
+        }
+        break;
+    case Event::RunFails:
+        machine.phases = {{u"Copying"_s, 20, true}};
+        runLoop.advanceTo(due + reactionTime);
+        expectStart(due, true, {});
+        letRunEnd(); // as a completed one would have ended too
+        machine.phases = completed;
+        expectRetry();
+        break;
+    case Event::Asleep:
+        sleepUntil(due + std::chrono::seconds(between(1, 3600)));
+        runLoop.advance(reactionTime);
+        expectStart(due, false, u"asleep"_s);
+        expectRetry();
+        break;
+    case Event::SmallJump:
+        runLoop.advanceTo(due - 20s);
+        runLoop.stepWallClock(std::chrono::seconds(between(21, 60)));
+        runLoop.advance(16s);
+        expectStart(due, true, {});
+        letRunEnd();
+        break;
+    case Event::LargeJump:
+        runLoop.advanceTo(due - 20s);
+        runLoop.stepWallClock(std::chrono::seconds(between(100, 3600)));
+        runLoop.advance(16s);
+        expectStart(due, false, u"the clock was set past it"_s);
+        expectRetry();
+        break;
+    case Event::Paused:
+        controller->pauseForClicked(3600);
+        runLoop.advanceTo(due + reactionTime);
+        expectStart(due, false, u"paused"_s);
+        controller->resumeScheduleClicked();
+        break;
+    case Event::OtherRun:
+        runLoop.advanceTo(due - 30s);
+        machine.start(u"A"_s);
+        ++seen_;
+        runLoop.advanceTo(due + reactionTime);
+        expectStart(due, false, u"another backup ran"_s);
+        letRunEnd();
+        break;
+    case Event::ToolFails:
+        runLoop.advanceTo(due - 1s);
+        machine.injection = {int(std::ranges::count(machine.launched(), u"startbackup"_s,
+                                                    [](const auto& call) { return call.arguments.value(0); })) +
+                                 1,
+                             TmutilScript::Fault::Refused, 0, u"startbackup"_s};
+        runLoop.advanceTo(due + reactionTime);
+        expectStart(due, false, u"refused"_s);
+        machine.injection = {};
+        break;
+    case Event::ByHand:
+        runLoop.advanceTo(due - 1s);
+        controller->backupNowClicked();
+        runLoop.advanceTo(due + reactionTime);
+        tally_.skipped[u"started by hand"_s] += 1;
+        ++seen_;
+        expectStart(due, false, {});
+        letRunEnd();
+        break;
+    }
+}
+
+void LivedSchedule::expectStart(Date due, bool isExpected, const QString& reason)
+{
+    const int made = machine.starts() - std::exchange(seen_, machine.starts());
+    const QString line = lineAt(due);
+    if (isExpected && made == 0)
+        tally_.lost.append(line);
+    if (made > (isExpected ? 1 : 0))
+        tally_.doubled.append(line);
+    tally_.made += isExpected && made == 1;
+    if (!reason.isEmpty())
+        tally_.skipped[reason] += 1;
+}
+
+/// Of a start that was missed, or of a run that failed.
+void LivedSchedule::expectRetry()
+{
+    const auto retry = manager->retryBackupDate();
+    if (!retry) {
+        tally_.lost.append(lineAt(runLoop.now()) + u", no retry"_s);
+        return;
+    }
+    runLoop.advanceTo(*retry + reactionTime);
+    const int made = tally_.made;
+    expectStart(*retry, true, {});
+    tally_.retries += std::exchange(tally_.made, made) - made;
+    letRunEnd();
+}
+
+void LivedSchedule::letRunEnd()
+{
+    runLoop.advance(2min);
+}
+
+/// Between two backups nothing is left over.
+void LivedSchedule::look(Date due)
+{
+    const bool isTrue = controller->tmState() == TMState::NotRunning && controller->uiState() != TMState::Running &&
+                        item.title.startsWith(u"Next:"_s) && machine.liveChildren() == 0 &&
+                        manager->nextScheduledBackupDate() > runLoop.now();
+    if (!isTrue)
+        tally_.untrue.append(lineAt(due) + u", "_s + item.title.replace(u'\n', u' '));
+}
+
+QString LivedSchedule::lineAt(Date date) const
+{
+    return DateFormatter::string(date, u"yyyy-MM-dd HH:mm:ss"_s) + u", event %1"_s.arg(int(event_));
+}
+
+} // namespace quillon

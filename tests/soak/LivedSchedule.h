@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Calendar.h"
+#include "PlayedProgram.h"
+#include "ScopedEnvironment.h"
+
+#include <QMap>
+#include <QStringList>
+
+#include <optional>
+#include <random>
+
+namespace quillon {
+
+/// What became of the starts that the rules called for.
+struct Tally {
+    int due = 0;
+    int made = 0;
+    int retries = 0;            ///< made besides
+    QMap<QString, int> skipped; ///< by reason
+    QStringList lost;           ///< when a start was due and not made
+    QStringList doubled;        ///< when one was made that nothing called for
+    QStringList untrue;         ///< when something else was shown than was so
+
+    void add(const Tally& other);
+};
+
+/// A computer with the whole program on it, day after day: it sleeps and wakes, somebody sets its clock and travels
+/// with it, pauses the schedule and backs up by hand, and Time Machine fails now and then. What is to be expected of
+/// each start is known from what is done to it, not from the program.
+class LivedSchedule : PlayedProgram {
+public:
+    /// A place with its zone lasts for a life.
+    struct Place {
+        explicit Place(const char* name)
+            : zone("TZ", name)
+        {
+        }
+        ScopedEnvironment zone;
+        ScopedEnvironment language{"LC_ALL", "en_US.UTF-8"};
+    };
+
+    LivedSchedule(Date begin, unsigned seed);
+
+    void liveThrough(int days);
+    const Tally& tally() const { return tally_; }
+    Date now() const { return runLoop.now(); }
+
+private:
+    /// What happens around the time of a start.
+    enum class Event { Nothing, RunFails, Asleep, SmallJump, LargeJump, SetBack, Paused, OtherRun, ToolFails, ByHand };
+
+    int between(int least, int most);
+    QList<Date> dueOn(const LocalTime& day) const;
+    void meet(Date due);
+    void travel();
+    void play(Event event, Date due);
+    void expectStart(Date from, bool isExpected, const QString& reason);
+    void expectRetry();
+    void letRunEnd();
+    void look(Date due);
+    QString lineAt(Date date) const;
+
+    std::mt19937 random_;
+    Tally tally_;
+    Event event_ = Event::Nothing;
+    int seen_ = 0; ///< how many runs have been accounted for
+};
+
+} // namespace quillon
