@@ -29,7 +29,7 @@ inline const QString calendarIntervals = u"userSettingsCalendarIntervals"_s;
 inline const QString pauseUntilDate = u"userSettingsPauseUntilDate"_s;
 inline const QString pauseUntilTag = u"userSettingsPauseUntilTag"_s;
 
-/// The last backup as earlier versions stored it: date, integer, string.
+/// The latest backup to any disk: date, integer, string.
 inline const QString lastBackupDate = u"appSettingsLastBackupDate"_s;
 inline const QString lastBackupBytesCopied = u"appSettingsLastBackupBytesCopied"_s;
 inline const QString lastBackupDiskIdentifier = u"appSettingsLastBackupDiskIdentifier"_s;

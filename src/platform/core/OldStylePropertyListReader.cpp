@@ -295,7 +295,7 @@ bool OldStylePropertyListReader::readString(QString& text)
     position_ = std::find_if_not(start, end_, isBare);
     if (position_ == start)
         return fail(start, "unexpected character");
-    text = recent_.text(std::string_view(start, position_));
+    text = QString::fromLatin1(start, position_ - start);
     return true;
 }
 
@@ -318,7 +318,7 @@ bool OldStylePropertyListReader::readQuotedString(QString& text)
     position_ = at + 1;
     if (escaped)
         return unescape(start, at, text);
-    text = ascii ? recent_.text(std::string_view(start, at)) : *strictUtf8(QByteArrayView(start, at));
+    text = ascii ? QString::fromLatin1(start, at - start) : *strictUtf8(QByteArrayView(start, at));
     return true;
 }
 

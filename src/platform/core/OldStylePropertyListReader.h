@@ -1,7 +1,6 @@
 #pragma once
 
 #include "PropertyList.h"
-#include "RecentTexts.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -49,7 +48,6 @@ private:
     const char* const end_;
     const char* position_;
     QStringDecoder utf8_{QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom};
-    RecentTexts recent_;
     int depth_ = 0;
     const char* errorPosition_ = nullptr;
     const char* errorMessage_ = nullptr;
