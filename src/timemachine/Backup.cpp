@@ -83,9 +83,7 @@ void Backup::findDisk()
     repository_ = RepositoryFolder::open(destination_);
     if (!repository_) {
         const bool foreign = RepositoryFolder::contents(destination_) == RepositoryFolder::Contents::Foreign;
-        throw foreign ? failureOf(ResticProblem::NoPermission,
-                                  u"\"%1\" is not yours, or leads elsewhere."_s.arg(destination_.repository()))
-                      : failureOf(ResticProblem::DiskGone, destination_.absence());
+        throw failureOf(foreign ? ResticProblem::NoPermission : ResticProblem::DiskGone, destination_.absence());
     }
     const KeyStore keys(folders_.configuration);
     if (!keys.contains(destination_.id))

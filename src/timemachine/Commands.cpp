@@ -100,7 +100,7 @@ RepositoryFolder openRepository(const Destination& destination)
 {
     auto repository = RepositoryFolder::open(destination);
     if (!repository)
-        throw Failure(ExitStatus::DestinationMissing, u"The backup disk \"%1\" is not there."_s.arg(destination.name));
+        throw Failure(ExitStatus::DestinationMissing, destination.absence());
     if (!repository->hasConfig() && repository->isEmpty())
         throw Failure(ExitStatus::NoBackup, u"There are no backups."_s);
     return std::move(*repository);

@@ -1,6 +1,7 @@
 #include "Destination.h"
 
 #include "RepositoryFolder.h"
+#include "ShownText.h"
 
 #include <QDir>
 
@@ -20,6 +21,11 @@ bool Destination::isPresent() const
 
 QString Destination::absence() const
 {
+    if (const QString trap = RepositoryFolder::trap(*this); !trap.isEmpty())
+        return u"\"%1\" is neither a file nor a folder, or is a link, and would keep these backups from being read. "
+               "Whoever can change the disk has put it there. Remove it."_s.arg(shownLongText(trap));
+    if (RepositoryFolder::contents(*this) == RepositoryFolder::Contents::Foreign)
+        return u"\"%1\" is not yours, or leads elsewhere."_s.arg(repository());
     // An empty mount point, or none, stands for a disk that is not connected.
     if (bare || QDir(path).isEmpty())
         return u"The backup disk \"%1\" is not there."_s.arg(name);

@@ -20,7 +20,7 @@ struct Destination {
     /// Whether the disk is there, and what is on it is this user's.
     bool isPresent() const;
 
-    /// A sentence on a disk that is not there, or is another one than before.
+    /// A sentence on a disk that is not there, is another one than before, or holds what is not this user's.
     QString absence() const;
 
     /// The folder of a disk in which the repositories of all its users lie.

@@ -83,39 +83,50 @@ bool isOwn(const Destination& destination, int descriptor)
            (stat(encoded(destination.path).constData(), &disk) == 0 && folder.st_uid == disk.st_uid);
 }
 
-/// Whether a folder has a link in it, which restic would follow to wherever whoever made it likes.
-bool holdsLink(int parent, const char* name)
+/// The first entry of a folder that is neither a plain file nor a folder; empty where there is none.
+QByteArray trapIn(int parent, const char* name)
 {
     const int folder = openat(parent, name, folderFlags);
     if (folder < 0)
-        return false;
+        return {};
     DIR* const entries = fdopendir(folder);
     if (entries == nullptr) {
         close(folder);
-        return false;
+        return {};
     }
-    bool found = false;
-    for (const dirent* entry = readdir(entries); entry != nullptr && !found; entry = readdir(entries)) {
+    QByteArray found;
+    for (const dirent* entry = readdir(entries); entry != nullptr && found.isEmpty(); entry = readdir(entries)) {
         struct stat state {};
-        found = entry->d_type == DT_LNK ||
-                (entry->d_type == DT_UNKNOWN && fstatat(folder, entry->d_name, &state, AT_SYMLINK_NOFOLLOW) == 0 &&
-                 S_ISLNK(state.st_mode));
+        const bool isPlain =
+            entry->d_type == DT_REG || entry->d_type == DT_DIR ||
+            (entry->d_type == DT_UNKNOWN && (fstatat(folder, entry->d_name, &state, AT_SYMLINK_NOFOLLOW) != 0 ||
+                                             S_ISREG(state.st_mode) || S_ISDIR(state.st_mode)));
+        if (!isPlain)
+            found = QByteArray(name) + '/' + entry->d_name;
     }
     closedir(entries);
     return found;
 }
 
-/// What restic would follow or wait for.
-bool holdsTrap(int descriptor)
+/// The folder's own path counts from there.
+QByteArray trapIn(int descriptor)
 {
     for (const char* name : {"data", "index", "keys", "locks", "snapshots"}) {
         struct stat entry {};
-        if (fstatat(descriptor, name, &entry, AT_SYMLINK_NOFOLLOW) == 0 &&
-            (!S_ISDIR(entry.st_mode) || holdsLink(descriptor, name)))
-            return true;
+        if (fstatat(descriptor, name, &entry, AT_SYMLINK_NOFOLLOW) != 0)
+            continue;
+        if (const QByteArray trap = S_ISDIR(entry.st_mode) ? trapIn(descriptor, name) : name; !trap.isEmpty())
+            return trap;
     }
     struct stat config {};
-    return fstatat(descriptor, "config", &config, AT_SYMLINK_NOFOLLOW) == 0 && !S_ISREG(config.st_mode);
+    return fstatat(descriptor, "config", &config, AT_SYMLINK_NOFOLLOW) == 0 && !S_ISREG(config.st_mode) ? "config" : "";
+}
+
+Descriptor openOwn(const Destination& destination)
+{
+    const Descriptor shared(openShared(destination));
+    Descriptor own(openat(shared.get(), nameOf(destination).constData(), folderFlags));
+    return Descriptor(isOwn(destination, own.get()) ? own.release() : -1);
 }
 
 Failure cannotBeWritten(const QString& path, int error)
@@ -145,11 +156,17 @@ RepositoryFolder::Contents RepositoryFolder::contents(const Destination& destina
 
 std::optional<RepositoryFolder> RepositoryFolder::open(const Destination& destination)
 {
-    const Descriptor shared(openShared(destination));
-    Descriptor own(openat(shared.get(), nameOf(destination).constData(), folderFlags));
-    if (own.get() < 0 || !isOwn(destination, own.get()) || holdsTrap(own.get()))
+    Descriptor own = openOwn(destination);
+    if (own.get() < 0 || !trapIn(own.get()).isEmpty())
         return std::nullopt;
     return RepositoryFolder(destination, encoded(destination.repository()), own.release());
+}
+
+QString RepositoryFolder::trap(const Destination& destination)
+{
+    const Descriptor own = openOwn(destination);
+    const QByteArray name = own.get() >= 0 ? trapIn(own.get()) : QByteArray();
+    return name.isEmpty() ? QString() : destination.repository() + u'/' + QFile::decodeName(name);
 }
 
 /// Everyone may add to the outer folder, nobody may touch what is another's. A file system without rights of its own
@@ -171,8 +188,10 @@ void RepositoryFolder::make(const Destination& destination)
     if (mkdirat(shared.get(), encoded(destination.id).constData(), S_IRWXU) != 0 && errno != EEXIST)
         throw cannotBeWritten(destination.repository(), errno);
     const auto own = open(destination);
-    if (!own || !own->isWritable())
-        throw cannotBeWritten(destination.repository(), own ? errno : EACCES);
+    if (!own)
+        throw Failure(ExitStatus::CannotWrite, destination.absence());
+    if (!own->isWritable())
+        throw cannotBeWritten(destination.repository(), errno);
 }
 
 RepositoryFolder RepositoryFolder::makeBeside(const Destination& destination)

@@ -20,12 +20,16 @@ public:
         Empty,      ///< nothing yet
         Repository, ///< a restic repository
         Damaged,    ///< something, but not what makes a repository
-        Foreign,    ///< a link, or another user's; it is not touched
+        Foreign,    ///< a link, or another user's, or with a trap in it; it is not touched
     };
     static Contents contents(const Destination& destination);
 
-    /// Nothing unless the folder is there and the user's own.
+    /// Nothing unless the folder is there, the user's own, and without a trap.
     static std::optional<RepositoryFolder> open(const Destination& destination);
+
+    /// The path of something in the folder that restic would follow or wait for: a link, a pipe, a device. Empty where
+    /// there is none.
+    static QString trap(const Destination& destination);
 
     /// Makes the folder, and the one around it in which all users of the disk have theirs; does nothing where both are
     /// there. Throws Failure.

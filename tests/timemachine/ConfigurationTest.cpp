@@ -7,6 +7,7 @@
 #include "KeyStore.h"
 #include "PropertyList.h"
 #include "PropertyListFile.h"
+#include "RepositoryFolder.h"
 #include "SourceSet.h"
 
 #include <QDir>
@@ -102,6 +103,24 @@ TEST_F(ConfigurationTest, ADiskIsOpenToAllUsersAndEachRepositoryToItsOwn)
     chmod(QFile::encodeName(Destination::backupFolder(disk.path)).constData(), 0700);
     set(u"Disk"_s, false);
     EXPECT_EQ(mode(Destination::backupFolder(disk.path)), 0700U) << "what its owner has decided since stays";
+}
+
+TEST_F(ConfigurationTest, WhatResticWouldWaitForOrFollowIsNamed)
+{
+    const Destination disk = set(u"Disk"_s, false);
+    for (const char* name :
+         {"config", "data", "data/pipe", "index/pipe", "keys/pipe", "locks/pipe", "snapshots/pipe"}) {
+        const QString path = disk.repository() + u'/' + QLatin1StringView(name);
+        QDir().mkpath(QFileInfo(path).path());
+        QDir().rmdir(path);
+        ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        EXPECT_FALSE(disk.isPresent()) << name;
+        EXPECT_EQ(RepositoryFolder::contents(disk), RepositoryFolder::Contents::Foreign) << name;
+        EXPECT_TRUE(disk.absence().contains(path)) << disk.absence().toStdString();
+        EXPECT_EQ(statusOf([&] { set(u"Disk"_s, false); }), ExitStatus::CannotWrite) << name;
+        QFile::remove(path);
+    }
+    EXPECT_TRUE(disk.isPresent());
 }
 
 TEST_F(ConfigurationTest, SourcesAreTheHomeFolderUntilOneIsNamed)

@@ -11,6 +11,37 @@
 
 namespace quillon {
 
+namespace {
+
+/// Pipes that nobody writes to in the place of all files of data: they hold a restic that reads any.
+class PipesForData {
+public:
+    PipesForData(const QString& data, const QString& aside)
+        : aside_(aside)
+    {
+        EXPECT_TRUE(QDir().mkpath(aside));
+        for (QDirIterator files(data, QDir::Files, QDirIterator::Subdirectories); files.hasNext();)
+            packs_.append(files.next());
+        for (const QString& pack : packs_) {
+            EXPECT_TRUE(QFile::rename(pack, asideOf(pack)));
+            EXPECT_EQ(mkfifo(QFile::encodeName(pack).constData(), 0600), 0);
+        }
+    }
+    void giveBack() const
+    {
+        for (const QString& pack : packs_)
+            EXPECT_TRUE(QFile::remove(pack) && QFile::rename(asideOf(pack), pack));
+    }
+
+private:
+    QString asideOf(const QString& pack) const { return aside_ + u'/' + QFileInfo(pack).fileName(); }
+
+    QString aside_;
+    QStringList packs_;
+};
+
+} // namespace
+
 /// Repositories that a disk has damaged.
 class DamageIntegration : public BackupIntegration {
 protected:
@@ -178,11 +209,9 @@ TEST_F(DamageIntegration, AVerificationFollowsABackupOnceAWeekAndGivesWayToTheNe
         history.setLastVerification(id_, history.lastVerification(id_).addDays(-7));
         history.setNextSlice(id_, {.tenth = 4});
     }));
-    // A pipe that nobody writes to holds restic where it reads the index.
-    const QString pipe = practice_.repository(u"disk"_s, id_) + "/index/"_L1 + QString(64, u'0');
     ASSERT_EQ(call({u"startbackup"_s}), 0);
     ASSERT_TRUE(eventually([this] { return practice_.phase() == "Finishing"_L1; }));
-    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const PipesForData pipes(practice_.repository(u"disk"_s, id_) + "/data"_L1, practice_.path(u"packs"_s));
     ASSERT_TRUE(eventually([this] { return isVerifying(); }));
     EXPECT_FALSE(isRunning()) << "the application must not take it for a backup";
     EXPECT_EQ(call({u"verify"_s}), static_cast<int>(ExitStatus::AlreadyRunning));
@@ -193,7 +222,7 @@ TEST_F(DamageIntegration, AVerificationFollowsABackupOnceAWeekAndGivesWayToTheNe
     QProcess verification;
     verification.start(practice_.executable(), {u"verify"_s});
     ASSERT_TRUE(eventually([this] { return isVerifying(); }));
-    QFile::remove(pipe);
+    pipes.giveBack();
     ASSERT_TRUE(backUpAndWatch());
     ASSERT_TRUE(verification.waitForFinished(60'000));
     EXPECT_EQ(verification.exitCode(), static_cast<int>(ExitStatus::Stopped));
