@@ -8,6 +8,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 QString decodePath(const QByteArray& path)
 {
     QString text;
@@ -42,6 +44,27 @@ QByteArray encodePath(const QString& path)
         at += pair ? 1 : 0;
     }
     return bytes;
+}
+
+QString shownPath(const QString& path)
+{
+    QString shown;
+    for (qsizetype at = 0; at < path.size(); ++at) {
+        const QChar unit = path[at];
+        const bool pair = unit.isHighSurrogate() && at + 1 < path.size() && path[at + 1].isLowSurrogate();
+        const char32_t character = pair ? QChar::surrogateToUcs4(unit, path[at + 1]) : unit.unicode();
+        const bool isByte = character >= 0xDC80 && character <= 0xDCFF;
+        if (character == U'\\')
+            shown += "\\\\"_L1;
+        else if (character == U'\n')
+            shown += "\\n"_L1;
+        else if (isByte || !QChar::isPrint(character))
+            shown += "\\x"_L1 + QString::number(isByte ? character - 0xDC00 : character, 16).toUpper();
+        else
+            shown += QStringView(path).sliced(at, pair ? 2 : 1);
+        at += pair ? 1 : 0;
+    }
+    return shown;
 }
 
 QString absolutePath(const QString& path)

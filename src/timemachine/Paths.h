@@ -10,6 +10,9 @@ namespace quillon {
 QString decodePath(const QByteArray& path);
 QByteArray encodePath(const QString& path);
 
+/// The same on one line, for people: what a line cannot show as \n, \x1B and the like, and a backslash doubled.
+QString shownPath(const QString& path);
+
 /// Without dots, relative to the working folder; links stay.
 QString absolutePath(const QString& path);
 

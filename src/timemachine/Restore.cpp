@@ -178,14 +178,21 @@ QStringList markDamaged(const QString& tree, QStringList paths)
     return paths;
 }
 
+QString listed(const QStringList& paths)
+{
+    QStringList shown;
+    std::ranges::transform(paths, std::back_inserter(shown), shownPath);
+    return shown.join(u", "_s);
+}
+
 QString partsLost(const RestoreErrors& errors, const QStringList& unmarked)
 {
     QStringList sentences;
     if (const QStringList damaged = errors.damaged(); !damaged.isEmpty())
         sentences.append(u"All but what is damaged in the backup was restored. Missing or, by the name of "
-                         "FILE.incomplete, with holes: %1"_s.arg(damaged.join(u", "_s)));
+                         "FILE.incomplete, with holes: %1"_s.arg(listed(damaged)));
     if (!unmarked.isEmpty())
-        sentences.append(u"By their own names, with holes: %1"_s.arg(unmarked.join(u", "_s)));
+        sentences.append(u"By their own names, with holes: %1"_s.arg(listed(unmarked)));
     if (errors.lackAttributes())
         sentences.append(u"Some files lack their owner, their rights or other attributes; their contents are whole."_s);
     return sentences.join(u' ');
@@ -228,8 +235,7 @@ void restore(const QString& source, const QString& target, const std::vector<Des
         if (stop.isMade())
             throw Failure(ExitStatus::Stopped, u"The restore was stopped; nothing was restored."_s);
         RestoreErrors errors([&](const QString& one) { return one == path || modeOf(encodePath(tree + one)) != 0; });
-        for (const QByteArray& line : lines)
-            errors.readLine(QString::fromUtf8(line));
+        errors.read(lines.join());
         const QStringList damaged = errors.damaged();
         if (!errors.targetProblem().isEmpty())
             throw Failure(ExitStatus::CannotWrite, u"\"%1\" cannot take all that is to be restored: %2. Nothing was "
@@ -238,7 +244,7 @@ void restore(const QString& source, const QString& target, const std::vector<Des
             throw outcome.failure();
         const bool isDamaged = damaged.contains(path);
         if (isDamaged && !S_ISREG(modeOf(encodePath(tree + path))))
-            throw Failure(ExitStatus::Failed, u"\"%1\" is damaged in the backup."_s.arg(path));
+            throw Failure(ExitStatus::Failed, u"\"%1\" is damaged in the backup."_s.arg(shownPath(path)));
         const QStringList unmarked = markDamaged(tree, damaged);
         const QString suffix = isDamaged ? u".incomplete"_s : QString();
         if (!move(tree + path + suffix, free + suffix))

@@ -1,5 +1,7 @@
 #include "RestoreErrors.h"
 
+#include "Paths.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -35,11 +37,27 @@ RestoreErrors::RestoreErrors(std::function<bool(const QString& path)> isThere)
 {
 }
 
-void RestoreErrors::readLine(const QString& line)
+void RestoreErrors::read(const QByteArray& text)
 {
-    if (!line.startsWith(start + u'/'))
-        return;
-    const QString text = line.mid(start.size()).trimmed();
+    QByteArray message;
+    const auto endMessage = [&] {
+        if (!message.isEmpty())
+            readMessage(decodePath(message.sliced(start.size(), message.size() - start.size() - 1)));
+        message.clear();
+    };
+    // A line that begins nothing is the rest of a name.
+    for (const QByteArray& line : text.split('\n')) {
+        const bool begins = line.startsWith(QByteArray(start.data(), start.size()) + '/');
+        if (begins || line.startsWith("Fatal: ") || line.isEmpty())
+            endMessage();
+        if (begins || !message.isEmpty())
+            message += line + '\n';
+    }
+    endMessage();
+}
+
+void RestoreErrors::readMessage(const QString& text)
+{
     qsizetype end = text.indexOf(separator);
     for (qsizetype at = text.lastIndexOf(separator); at > 0; at = text.lastIndexOf(separator, at - 1)) {
         if (isThere_(text.left(at))) {
@@ -47,10 +65,8 @@ void RestoreErrors::readLine(const QString& line)
             break;
         }
     }
-    if (end < 0)
-        return;
-    const QString path = text.left(end);
-    const QString words = text.mid(end + separator.size());
+    const QString path = end < 0 ? text : text.left(end);
+    const QString words = end < 0 ? QString() : text.mid(end + separator.size());
     if (isOfAttributes(words))
         lackAttributes_ = true;
     else if (!isOfTarget(words))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -14,10 +15,11 @@ public:
     /// a name may hold anything, also what ends one in restic's words.
     explicit RestoreErrors(std::function<bool(const QString& path)> isThere);
 
-    /// Takes one line of standard error.
-    void readLine(const QString& line);
+    /// Takes all of standard error, in which names may hold line breaks and bytes that are no UTF-8.
+    void read(const QByteArray& text);
 
-    /// Those that did not come back as they were, in order. What came back of them is not the file.
+    /// The decodePath()s of those that did not come back as they were, in order. What came back of them is not the
+    /// file.
     QStringList damaged() const;
 
     /// Whether the owner, the rights or other attributes of something could not be given back. Its contents were.
@@ -27,6 +29,8 @@ public:
     const QString& targetProblem() const { return targetProblem_; }
 
 private:
+    void readMessage(const QString& text);
+
     std::function<bool(const QString& path)> isThere_;
     QStringList damaged_;
     bool lackAttributes_ = false;
