@@ -5,6 +5,7 @@
 #include "KeyStore.h"
 #include "RepositorySetup.h"
 #include "Restic.h"
+#include "ResticLocks.h"
 #include "Retention.h"
 #include "Room.h"
 #include "RunState.h"
@@ -344,8 +345,7 @@ void Backup::cleanUp()
 void Backup::thin()
 {
     const Restic program = restic();
-    if (repository_->hasLocks())
-        program.run({u"unlock"_s}).require(); // removes those of processes that have died
+    removeStaleLocks(*repository_, program);
     const QDateTime now = QDateTime::currentDateTimeUtc();
     const auto snapshots = snapshotsIn(*repository_, program);
     for (const Snapshot& snapshot : snapshots) {

@@ -250,6 +250,12 @@ QByteArrayList RepositoryFolder::namesIn(const char* folder) const
     return names;
 }
 
+void RepositoryFolder::removeLock(const QByteArray& name) const
+{
+    const Descriptor locks(openat(descriptor_, "locks", folderFlags));
+    unlinkat(locks.get(), name.constData(), 0);
+}
+
 bool RepositoryFolder::isEmptyFolder(const char* name) const
 {
     const int copy = openat(descriptor_, name, folderFlags);

@@ -47,9 +47,8 @@ public:
     const Destination& destination() const { return destination_; }
     int descriptor() const { return descriptor_; }
     bool isEmpty() const { return isEmptyFolder("."); }
-    /// Locks of a restic that works there, or that has died.
-    bool hasLocks() const { return !isEmptyFolder("locks"); }
     QByteArrayList namesIn(const char* folder) const;
+    void removeLock(const QByteArray& name) const;
     bool isWritable() const;
     bool hasConfig() const;
 

@@ -2,6 +2,7 @@
 
 #include "KeyStore.h"
 #include "RepositoryFolder.h"
+#include "ResticLocks.h"
 #include "StopRequest.h"
 
 #include <QDir>
@@ -199,7 +200,8 @@ ResticOutcome Restic::runUnlocking(const QStringList& arguments, const LineHandl
     for (int unlocked = 0; unlocked < unlockings && isLocked(outcome) && !isStopped(); ++unlocked) {
         if (unlocked > 0)
             pause();
-        if (run({u"unlock"_s}).exitStatus != 0 || isStopped())
+        removeStaleLocks(repository_, *this);
+        if (isStopped())
             break;
         outcome = run(arguments, onOutput, onMessage);
     }

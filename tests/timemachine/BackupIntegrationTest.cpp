@@ -166,10 +166,14 @@ TEST_F(BackupIntegration, AResticThatSaysInJsonWhatEndedItIsUnderstoodAndALockTh
 end() { echo '{"message_type":"exit_error","code":'$1',"message":"'"$2"'"}' >&2; exit $1; }
 case "$*" in
 *' backup '*)
-    [ -e '$folder/locked' ] && end 11 'unable to create lock in backend: repository is already locked by PID 1'
+    [ -e '$folder/locked' ] && {
+        [ -e '$folder/asked' ] && rm -f '$folder/locked'
+        touch '$folder/asked'
+        end 11 'unable to create lock in backend: repository is already locked by PID 1'
+    }
     [ -e '$folder/forgetful' ] && { /usr/bin/restic "$@"; rm -f snapshots/*; exit; }
     [ -e '$folder/broken' ] && end 1 'Fatal: unable to save snapshot: something new' ;;
-*' unlock') [ -e '$folder/asked' ] && rm -f '$folder/locked'; touch '$folder/asked'; exit 0 ;;
+*' unlock') end 1 'sends SIGHUP to whichever process bears the number in a lock' ;;
 esac
 exec /usr/bin/restic "$@"
 )"_ba.replace("$folder", practice_.path(u"."_s).toUtf8()));
