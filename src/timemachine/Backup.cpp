@@ -1,6 +1,7 @@
 #include "Backup.h"
 
 #include "BackupOutput.h"
+#include "DroppedFolders.h"
 #include "History.h"
 #include "KeyStore.h"
 #include "RepositorySetup.h"
@@ -222,21 +223,22 @@ void Backup::findSwallowedSources(const QStringList& empty)
     }
 }
 
-/// What another file system hides, or what was moved to one, had been backed up without being named.
+/// What another file system hides, or what a program tags as a cache, had been backed up without being named.
 void Backup::findDroppedFolders()
 {
+    const auto held = [this](const QStringList& folders) { return earlier_->thatHeldFiles(folders); };
     QVariantMap judged = history_.otherFileSystems(destination_.id);
-    judged.removeIf([this](const auto& entry) { return !sources_.otherFileSystems.contains(entry.key()); });
-    for (const QString& folder : sources_.otherFileSystems) {
-        if (!judged.contains(folder))
-            judged.insert(folder, qlonglong{earlier_->heldFiles(folder) ? 1 : 0});
-        if (judged.value(folder).toBool())
-            remark_.lackingSources.append(
-                u"The folder \"%1\", which held files before, is on another file system and is not "
-                "backed up: have it so by \"tmutil addsource\", or let it be by \"tmutil "
-                "addexclusion\"."_s.arg(folder));
-    }
+    for (const QString& folder : droppedFolders(judged, sources_.otherFileSystems, held))
+        remark_.lackingSources.append(
+            u"The folder \"%1\", which held files before, is on another file system and is not backed up: have it so "
+            "by \"tmutil addsource\", or let it be by \"tmutil addexclusion\"."_s.arg(folder));
     history_.setOtherFileSystems(destination_.id, judged);
+    judged = history_.caches(destination_.id);
+    for (const QString& folder : droppedFolders(judged, sources_.caches(), held))
+        remark_.lackingSources.append(
+            u"The folder \"%1\", which was backed up before, is tagged as a cache and is left out: remove "
+            "\"CACHEDIR.TAG\" from it, or let it be by \"tmutil addexclusion\"."_s.arg(folder));
+    history_.setCaches(destination_.id, judged);
 }
 
 /// A backup that is cut off before it was looked at bears the tag of a complete one.

@@ -4,6 +4,7 @@
 #include "Snapshot.h"
 
 #include <QDateTime>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -23,6 +24,9 @@ public:
     /// none of them.
     bool heldFiles(const QString& folder, const QString& justMade = {});
 
+    /// Of those folders the ones of which the latest complete one has a file in it; a cache's tag is none.
+    QStringList thatHeldFiles(const QStringList& folders);
+
     /// Whether there is one of that identifier.
     bool contains(const QString& identifier);
 
@@ -33,6 +37,8 @@ private:
     const std::vector<Snapshot>& all();
     bool holdsFile(const Snapshot& snapshot, const QString& folder) const;
     using Latest = std::vector<Snapshot>::const_reverse_iterator;
+    Latest latestOf(Latest begin, const QString& folder, const QString& justMade = {});
+    void findFiles(const QString& backup, const QStringList& folders, QSet<QString>& held) const;
     bool heldFilesFrom(Latest begin, const QString& folder, const QString& justMade = {});
 
     const RepositoryFolder& repository_;

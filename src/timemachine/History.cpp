@@ -75,8 +75,8 @@ void History::noteNewRepository(const QString& destinationId)
     setLastPrune(destinationId, now);
     setLastVerification(destinationId, now);
     setNextSlice(destinationId, {});
-    for (const QString& key :
-         {u"Damage"_s, u"UncheckedSince"_s, u"VerificationUnfinished"_s, u"Backups"_s, u"OtherFileSystems"_s})
+    for (const QString& key : {u"Damage"_s, u"UncheckedSince"_s, u"VerificationUnfinished"_s, u"Backups"_s,
+                               u"OtherFileSystems"_s, u"Caches"_s})
         setOfDestination(destinationId, key, {});
 }
 
@@ -140,6 +140,16 @@ QVariantMap History::otherFileSystems(const QString& destinationId) const
 void History::setOtherFileSystems(const QString& destinationId, const QVariantMap& folders)
 {
     setOfDestination(destinationId, u"OtherFileSystems"_s, folders.isEmpty() ? QVariant() : QVariant(folders));
+}
+
+QVariantMap History::caches(const QString& destinationId) const
+{
+    return ofDestination(destinationId, u"Caches"_s).toMap();
+}
+
+void History::setCaches(const QString& destinationId, const QVariantMap& folders)
+{
+    setOfDestination(destinationId, u"Caches"_s, folders.isEmpty() ? QVariant() : QVariant(folders));
 }
 
 QVariantMap History::lastFailure(const std::optional<QStringList>& destinationIds) const

@@ -58,6 +58,10 @@ public:
     QVariantMap otherFileSystems(const QString& destinationId) const;
     void setOtherFileSystems(const QString& destinationId, const QVariantMap& folders);
 
+    /// The same of those that it left out for being tagged as caches.
+    QVariantMap caches(const QString& destinationId) const;
+    void setCaches(const QString& destinationId, const QVariantMap& folders);
+
     /// When a tenth of the data, or all of it, had been verified last.
     QDateTime lastVerification(const QString& destinationId) const;
     void setLastVerification(const QString& destinationId, const QDateTime& date);

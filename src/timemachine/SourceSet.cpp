@@ -1,5 +1,6 @@
 #include "SourceSet.h"
 
+#include "CacheTag.h"
 #include "Configuration.h"
 #include "Paths.h"
 #include "Restic.h"
@@ -24,10 +25,19 @@ bool coveredByAny(const QStringList& folders, const QString& path)
 
 /// restic looks for the tag beside each item: in a source it would leave nothing of it but the tag, and beside a source
 /// not even that. Naming a folder is how the user says that it is to be backed up.
-bool isTaggedAsCache(const QString& source)
+bool isInCache(const QString& source)
 {
-    constexpr auto tag = "/CACHEDIR.TAG"_L1;
-    return QFileInfo::exists(source + tag) || QFileInfo::exists(QFileInfo(source).path() + tag);
+    return isTaggedAsCache(source) || isTaggedAsCache(QFileInfo(source).path());
+}
+
+/// Whether a folder from that source down to the path, which may be one, bears the tag.
+bool isInCacheBelow(const QString& source, const QString& path)
+{
+    for (QString folder = path; covers(source, folder) && folder != source; folder = QFileInfo(folder).path()) {
+        if (isTaggedAsCache(folder))
+            return true;
+    }
+    return false;
 }
 
 /// Whether a name of that file, or of a folder on the way to it from a source, or its size leaves it out.
@@ -139,14 +149,32 @@ SourceSet::Omission SourceSet::omittedBy(const QStringList& names, qlonglong lar
 bool SourceSet::contains(const QString& path) const
 {
     return !coveredByAny(excluded, path) && std::ranges::any_of(folders, [&](const QString& folder) {
-        return covers(folder, path) && !omits(excludedNames, largestFile, folder, QFileInfo(path));
+        return covers(folder, path) && !omits(excludedNames, largestFile, folder, QFileInfo(path)) &&
+               !(leavesCachesOut() && isInCacheBelow(folder, path));
     });
+}
+
+bool SourceSet::leavesCachesOut() const
+{
+    return std::ranges::none_of(folders, isInCache);
+}
+
+QStringList SourceSet::caches() const
+{
+    QStringList found;
+    if (!leavesCachesOut())
+        return found;
+    for (const QString& source : folders)
+        found += foldersTaggedAsCache(source, [&](const QString& folder) {
+            return excluded.contains(folder) || omits(excludedNames, 0, source, QFileInfo(folder));
+        });
+    return found;
 }
 
 QStringList SourceSet::arguments() const
 {
     QStringList arguments;
-    if (std::ranges::none_of(folders, isTaggedAsCache))
+    if (leavesCachesOut())
         arguments << u"--exclude-caches"_s;
     for (const QString& path : excluded)
         arguments << u"--exclude"_s << Restic::literalPattern(path);

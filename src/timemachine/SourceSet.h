@@ -45,11 +45,15 @@ struct SourceSet {
     /// Whether a backup reads that path, if there is something.
     bool contains(const QString& path) const;
 
+    /// Of the folders that are read those that are left out for being tagged as caches. All folders are looked into.
+    QStringList caches() const;
+
     /// The arguments of `restic backup` that say so. Folders that are tagged as caches are left out, too, unless a
     /// source is one.
     QStringList arguments() const;
 
 private:
+    bool leavesCachesOut() const;
     bool leaveOut(const QString& path, const QString& reason);
     bool leaveOutUnlessSource(const QString& path, const QString& reason);
 };

@@ -376,7 +376,21 @@ TEST_F(ConfigurationTest, OwnFilesAndDisksAreNeverBackedUp)
         << "neither a disk nor a cache folder that holds a source is left out whole";
     EXPECT_TRUE(set.arguments().contains(folder(u"home"_s) + "/disk \\*"_L1)) << "patterns are literal";
     EXPECT_TRUE(set.arguments().contains(u"--exclude-caches"_s));
-    folder(u"home/CACHEDIR.TAG"_s);
+    const auto tag = [this](const QString& name) {
+        QFile file(folder(name) + "/CACHEDIR.TAG"_L1);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("Signature: 8a477f597d28d172789f06886806bc55\n") > 0);
+    };
+    const QString cache = folder(u"home/cache"_s);
+    const QString other = folder(u"home/other"_s);
+    tag(u"home/cache"_s);
+    tag(u"home/cache/inner"_s);
+    tag(u"home/disk */cache"_s);
+    EXPECT_TRUE(QFile(other + "/CACHEDIR.TAG"_L1).open(QIODevice::WriteOnly)) << "without what makes it one";
+    EXPECT_EQ(set.caches(), QStringList(cache)) << "none that is left out anyway";
+    EXPECT_FALSE(set.contains(cache) || set.contains(cache + "/inner/x"_L1));
+    EXPECT_TRUE(set.contains(other) && set.contains(other + "/x"_L1));
+    tag(u"home"_s);
+    EXPECT_TRUE(set.contains(cache) && set.caches().isEmpty());
     EXPECT_FALSE(set.arguments().contains(u"--exclude-caches"_s)) << "it would leave nothing of a source";
 }
 

@@ -109,19 +109,20 @@ TEST_F(SourceLossIntegration, ABackupThatWasCutOffBeforeItWasLookedAtIsLookedAtB
     EXPECT_TRUE(names[names.size() - 2].endsWith(".incomplete") && !names.last().endsWith(".incomplete"));
 }
 
-TEST_F(SourceLossIntegration, AFolderThatBackupsHaveLostToAnotherFileSystemIsToldOfUntilTheUserDecides)
+TEST_F(SourceLossIntegration, AFolderThatBackupsHaveLostToAnotherFileSystemOrATagIsToldOfUntilTheUserDecides)
 {
     const auto answer = runWhereMountsAreAllowed(uR"(
-cd '%1' && mkdir hidden empty && echo only here >hidden/file || exit
+cd '%1' && mkdir hidden empty tagged && echo only here | tee hidden/file >tagged/file || exit
 '%2' startbackup -b
+echo 'Signature: 8a477f597d28d172789f06886806bc55' | tee empty/CACHEDIR.TAG >tagged/CACHEDIR.TAG
 mount -t tmpfs none hidden && mount -t tmpfs none empty || exit
-for turn in 1 2; do '%2' startbackup -b | grep -o 'hidden", which.*on another file system'; done
-'%2' addexclusion '%1/hidden' && '%2' startbackup -b
+for turn in 1 2; do '%2' startbackup -b | grep -Eo '[a-z]+", which[^,]*, is [a-z ]+'; done
+'%2' addexclusion '%1/hidden' '%1/tagged' && '%2' startbackup -b
 )"_s.arg(practice_.source(), practice_.executable()));
     if (answer) {
-        EXPECT_EQ(answer->output, "hidden\", which held files before, is on another file system\n"
-                                  "hidden\", which held files before, is on another file system\n")
-            << answer->error.toStdString();
+        const QByteArray told = "hidden\", which held files before, is on another file system and is not backed up\n"
+                                "tagged\", which was backed up before, is tagged as a cache and is left out\n";
+        EXPECT_EQ(answer->output, told + told) << answer->error.toStdString();
     }
 }
 

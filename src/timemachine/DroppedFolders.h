@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStringList>
+#include <QVariantMap>
+
+#include <functional>
+
+namespace quillon {
+
+/// Of the folders that a backup leaves out without the user's word the ones that had been backed up before. `judged`
+/// holds what was found out about each, 1 or 0, as long as it is left out; only of those that are new there it is asked
+/// which `held` files.
+QStringList droppedFolders(QVariantMap& judged, const QStringList& leftOut,
+                           const std::function<QStringList(const QStringList& folders)>& held);
+
+} // namespace quillon
