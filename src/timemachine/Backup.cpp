@@ -87,13 +87,7 @@ void Backup::findDisk()
         const bool foreign = RepositoryFolder::contents(destination_) == RepositoryFolder::Contents::Foreign;
         throw failureOf(foreign ? ResticProblem::NoPermission : ResticProblem::DiskGone, destination_.absence());
     }
-    const KeyStore keys(folders_.configuration);
-    if (!keys.contains(destination_.id))
-        throw failureOf(ResticProblem::WrongKey,
-                        u"The key of the backup disk \"%1\" is missing."_s.arg(destination_.name));
-    if (!QFileInfo(keys.path(destination_.id)).isReadable())
-        throw failureOf(ResticProblem::WrongKey, u"The key of the backup disk \"%1\", \"%2\", cannot be read."_s.arg(
-                                                     destination_.name, keys.path(destination_.id)));
+    KeyStore(folders_.configuration).require(destination_);
 }
 
 void Backup::prepareRepository()
@@ -132,10 +126,9 @@ void Backup::repairIfDamaged()
 
 void Backup::makeRepository()
 {
-    if (destination_.bare)
-        throw failureOf(ResticProblem::NoRepository,
-                        u"The backups at \"%1\" are damaged: their configuration is missing."_s.arg(destination_.path));
-    if (const QDateTime last = history_.lastBackup(destination_.id); repository_->isEmpty() && last.isValid())
+    if (destination_.bare || !repository_->isEmpty())
+        repository_->requireConfig();
+    if (const QDateTime last = history_.lastBackup(destination_.id); last.isValid())
         throw failureOf(
             ResticProblem::NoRepository,
             u"The backups on the disk \"%1\", the last of %2, are gone. To begin anew on it, set it again with "

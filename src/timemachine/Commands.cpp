@@ -103,6 +103,7 @@ RepositoryFolder openRepository(const Destination& destination)
         throw Failure(ExitStatus::DestinationMissing, destination.absence());
     if (!repository->hasConfig() && repository->isEmpty())
         throw Failure(ExitStatus::NoBackup, u"There are no backups."_s);
+    repository->requireConfig();
     return std::move(*repository);
 }
 

@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 #include "Folders.h"
+#include "ResticDiagnosis.h"
+#include "ShownText.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -41,7 +43,23 @@ QString KeyStore::path(const QString& destinationId) const
 
 bool KeyStore::contains(const QString& destinationId) const
 {
-    return QFileInfo::exists(path(destinationId));
+    return QFileInfo(path(destinationId)).isFile(); // restic would wait for a pipe
+}
+
+void KeyStore::require(const Destination& destination) const
+{
+    const QString file = path(destination.id);
+    const QString disk = displayedName(destination.name);
+    const QString cause = ResticDiagnosis::of(ResticProblem::WrongKey).cause();
+    if (!contains(destination.id))
+        throw Failure(
+            ExitStatus::WrongKey,
+            u"The key of the backup disk \"%1\", \"%2\", is missing. Put it back, or take the disk up with its "
+            "recovery key by \"tmutil adopt\"."_s.arg(disk, file),
+            cause);
+    if (!QFileInfo(file).isReadable())
+        throw Failure(ExitStatus::WrongKey,
+                      u"The key of the backup disk \"%1\", \"%2\", cannot be read."_s.arg(disk, file), cause);
 }
 
 QString KeyStore::makeKey()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Destination.h"
+
 #include <QString>
 
 namespace quillon {
@@ -12,6 +14,9 @@ public:
 
     QString path(const QString& destinationId) const;
     bool contains(const QString& destinationId) const;
+
+    /// Throws Failure, which says what to do, unless there is one that can be read.
+    void require(const Destination& destination) const;
 
     /// A random key of 256 bits.
     static QString makeKey();

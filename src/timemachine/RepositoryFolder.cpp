@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "FolderTree.h"
+#include "ResticDiagnosis.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -277,6 +278,17 @@ bool RepositoryFolder::isWritable() const
 bool RepositoryFolder::hasConfig() const
 {
     return faccessat(descriptor_, "config", F_OK, AT_EACCESS) == 0;
+}
+
+void RepositoryFolder::requireConfig() const
+{
+    if (!hasConfig())
+        throw Failure(
+            ExitStatus::Failed,
+            u"The backups in \"%1\" cannot be opened: their file \"config\" is missing. Put it back from a copy "
+            "of that folder; or, to begin anew, move the folder away and set the disk again with \"tmutil "
+            "setdestination\"."_s.arg(destination_.repository()),
+            ResticDiagnosis::of(ResticProblem::NoRepository).cause());
 }
 
 bool RepositoryFolder::isStillThere() const

@@ -51,6 +51,8 @@ public:
     void removeLock(const QByteArray& name) const;
     bool isWritable() const;
     bool hasConfig() const;
+    /// Throws Failure, which says what to do, without it: restic then opens nothing.
+    void requireConfig() const;
 
     /// Whether the path that led here still does: false once the disk is gone.
     bool isStillThere() const;

@@ -114,7 +114,8 @@ ResticDiagnosis ResticOutcome::diagnosis() const
 Failure ResticOutcome::failure() const
 {
     const ResticDiagnosis found = diagnosis();
-    return {ExitStatus::Failed, found.description, found.cause()};
+    const bool isKey = found.problem == ResticProblem::WrongKey;
+    return {isKey ? ExitStatus::WrongKey : ExitStatus::Failed, found.description, found.cause()};
 }
 
 void ResticOutcome::require() const
@@ -136,6 +137,8 @@ Restic::Restic(const RepositoryFolder& repository, const Folders& folders, const
     , workFolder_(cacheFolder(folders))
     , stop_(stop)
 {
+    if (keyFile.isEmpty())
+        KeyStore(folders.configuration).require(repository.destination());
     QDir().mkpath(cacheFolder(folders)); // its temporary files need it ahead of its cache
 }
 

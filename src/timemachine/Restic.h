@@ -38,8 +38,9 @@ class Restic {
 public:
     using LineHandler = std::function<void(const QByteArray& line)>;
 
-    /// Throws Failure where restic is not installed. `stop` may be absent; it and the folder must outlive this object.
-    /// It is opened with the key that is kept for the destination, unless another file with one is given.
+    /// Throws Failure where restic is not installed, or the key is missing. `stop` may be absent; it and the folder
+    /// must outlive this object. It is opened with the key that is kept for the destination, unless another file with
+    /// one is given.
     Restic(const RepositoryFolder& repository, const Folders& folders, const StopRequest* stop,
            const QString& keyFile = {});
 

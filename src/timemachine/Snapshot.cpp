@@ -28,6 +28,7 @@ std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Rest
 {
     if (!repository.hasConfig() && repository.isEmpty())
         return {};
+    repository.requireConfig();
     // Reading the list needs no lock, so it works during a prune and on a disk that cannot be written.
     const auto outcome = restic.run({u"snapshots"_s, u"--json"_s, u"--no-lock"_s});
     const auto list = QJsonDocument::fromJson(outcome.output);

@@ -379,7 +379,7 @@ TEST_F(BackupIntegration, ARepositoryThatLostItsConfigurationIsNeverMadeAnew)
     ASSERT_TRUE(QFile::remove(practice_.repository(u"disk"_s, id) + "/config"_L1));
     const Answer backup = practice_.backUp();
     EXPECT_EQ(backup.status, static_cast<int>(ExitStatus::Failed));
-    EXPECT_TRUE(backup.error.contains("are damaged")) << backup.error.toStdString();
+    EXPECT_TRUE(backup.error.contains("\"config\" is missing")) << backup.error.toStdString();
     EXPECT_FALSE(QFileInfo::exists(practice_.repository(u"disk"_s, id) + "/config"_L1));
     EXPECT_EQ(call({u"listbackups"_s}), static_cast<int>(ExitStatus::Failed)) << "which is not to have none";
 }

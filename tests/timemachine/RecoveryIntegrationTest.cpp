@@ -145,8 +145,18 @@ TEST_F(RecoveryIntegration, ALostKeyIsNeverReplacedByOneThatOpensNothing)
     EXPECT_EQ(refused.status, static_cast<int>(ExitStatus::WrongKey));
     EXPECT_TRUE(refused.error.contains("tmutil adopt")) << refused.error.toStdString();
     EXPECT_FALSE(QFileInfo::exists(practice_.keyFile(id_)));
+    for (const QString& command : {u"listbackups"_s, u"latestbackup"_s, u"verify"_s, u"recoverykey"_s}) {
+        const Answer answer = practice_.run({command});
+        EXPECT_EQ(answer.status, static_cast<int>(ExitStatus::WrongKey)) << command.toStdString();
+        EXPECT_TRUE(answer.error.contains(practice_.keyFile(id_).toUtf8())) << answer.error.toStdString();
+    }
     EXPECT_EQ(adopt(practice_, practice_.path(u"disk"_s), key_).status, 0);
     EXPECT_EQ(practice_.backUp().status, 0);
+
+    ASSERT_TRUE(QFile::rename(practice_.repository(u"disk"_s, id_) + "/config"_L1, practice_.path(u"config file"_s)));
+    for (const QStringList& command : {QStringList{u"listbackups"_s}, {u"verify"_s}, {u"startbackup"_s, u"-b"_s}})
+        EXPECT_TRUE(practice_.run(command).error.contains("\"config\" is missing. Put it back"))
+            << command[0].toStdString();
 }
 
 TEST_F(RecoveryIntegration, ALockOfAProcessThatDiedIsNotInTheWay)
