@@ -38,10 +38,15 @@ struct Wanted {
 Wanted find(const QString& source, const std::vector<Destination>& destinations, const Folders& folders)
 {
     const QString clean = QDir::cleanPath(source);
+    QString absence;
     for (const Destination& destination : destinations) {
-        auto repository = covers(destination.path, clean) ? RepositoryFolder::open(destination) : std::nullopt;
-        if (!repository)
+        if (!covers(destination.path, clean))
             continue;
+        auto repository = RepositoryFolder::open(destination);
+        if (!repository) {
+            absence = destination.absence();
+            continue;
+        }
         const auto snapshots = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
         const auto named = [&clean](const Snapshot& snapshot) { return covers(snapshot.name(), clean); };
         const auto found = std::ranges::find_if(snapshots, named);
@@ -51,6 +56,8 @@ Wanted find(const QString& source, const std::vector<Destination>& destinations,
             throw Failure(ExitStatus::NoBackup, u"\"%1\" names more than one backup."_s.arg(found->name()));
         return {std::move(*repository), *found, clean.mid(found->name().size())};
     }
+    if (!absence.isEmpty())
+        throw Failure(ExitStatus::DestinationMissing, absence);
     throw Failure(ExitStatus::NoBackup, u"\"%1\" is not in any backup. See \"tmutil listbackups\"."_s.arg(source));
 }
 

@@ -8,6 +8,7 @@
 #include "PropertyList.h"
 #include "PropertyListFile.h"
 #include "RepositoryFolder.h"
+#include "Restore.h"
 #include "SourceSet.h"
 
 #include <QDir>
@@ -277,6 +278,13 @@ TEST_F(ConfigurationTest, TheUsualDiskIsTheLastUsedOrTheFirstPresent)
     EXPECT_EQ(namedDestination(destinations(), first.id.toLower()), first);
     unplug(first);
     EXPECT_EQ(statusOf([&] { usualDestination(destinations(), history); }), ExitStatus::DestinationMissing);
+    const auto restoreFrom = [&](const QString& disk) {
+        return statusOf([&] {
+            restore(disk + "/host/2026-11-21-072258/file"_L1, root_.filePath(u"x"_s), destinations(), folders_);
+        });
+    };
+    EXPECT_EQ(restoreFrom(first.path), ExitStatus::DestinationMissing);
+    EXPECT_EQ(restoreFrom(root_.path()), ExitStatus::NoBackup) << "no disk was ever there";
 }
 
 TEST_F(ConfigurationTest, RotationTakesTheOldestOfThosePresent)
