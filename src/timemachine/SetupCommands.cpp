@@ -13,7 +13,9 @@
 #include <QFile>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
+#include <functional>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
@@ -33,6 +35,19 @@ void printRecoveryKey(const Destination& destination, const QString& key)
         {},
         u"Write it down and keep it away from this computer and from the disk. It is shown only now; whoever has it "
         "and the disk can read the backups. On another computer \"tmutil adopt PATH\" asks for it and takes the backups up."_s});
+}
+
+/// One that nobody has seen must not stay: it opens nothing for anybody and counts among the few that restic tries.
+void showNewKey(const Restic& restic, const RecoveryKey& made, const std::function<void()>& show)
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    try {
+        show();
+    } catch (const Failure& failure) {
+        removeRecoveryKeys(restic, {made.identifier});
+        throw Failure(failure.status(),
+                      u"The recovery key could not be shown and was removed again: %1"_s.arg(failure.message()));
+    }
 }
 
 void removeOlderKeys(const Restic& restic, const QStringList& older)
@@ -138,7 +153,7 @@ void setDestination(const Folders& folders, const QString& path, bool append)
             takeStock(*repository, restic, folders);
         if (isNew || recoveryKeys(restic).isEmpty()) {
             const RecoveryKey made = addRecoveryKey(restic, {});
-            printRecoveryKey(destination, made.key);
+            showNewKey(restic, made, [&] { printRecoveryKey(destination, made.key); });
             // Programs that set a disk need not show what is printed.
             if (isatty(STDOUT_FILENO) != 0)
                 KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, made.identifier);
@@ -165,9 +180,14 @@ void renewRecoveryKey(const Folders& folders, const Destination& destination, bo
         older = recoveryKeys(restic);
     }
     const RecoveryKey made = addRecoveryKey(restic, older);
+    showNewKey(restic, made, [&] {
+        if (xml)
+            printXml(QVariantMap{{u"RecoveryKey"_s, made.key}, {u"KeyID"_s, made.identifier}});
+        else
+            printRecoveryKey(destination, made.key);
+    });
     if (xml)
-        return printXml(QVariantMap{{u"RecoveryKey"_s, made.key}, {u"KeyID"_s, made.identifier}});
-    printRecoveryKey(destination, made.key);
+        return;
     keys.setKeptRecoveryKey(destination.id, made.identifier);
     removeOlderKeys(restic, older);
 }

@@ -57,8 +57,14 @@ TEST_F(RecoveryIntegration, ANewComputerTakesTheBackupsUpWithWhatWasWrittenDown)
     EXPECT_EQ(keyIn(again), QString()) << "it is shown once";
     EXPECT_TRUE(again.contains("is on the same disk as")) << again.toStdString();
     EXPECT_TRUE(disk(practice_).contains(u"RecoveryKeyMissing"_s)) << "no person may have seen it";
-    const QString command = u"'%1' recoverykey > /dev/full"_s.arg(practice_.executable());
-    EXPECT_NE(runProgram(u"/bin/sh"_s, {u"-c"_s, command}).status, 0);
+    const QDir keys(practice_.repository(u"disk"_s, id_) + "/keys"_L1);
+    const QStringList before = keys.entryList(QDir::Files);
+    for (const char* options : {"", "-X"}) {
+        const QString command =
+            u"'%1' recoverykey %2 >/dev/full"_s.arg(practice_.executable(), QLatin1StringView(options));
+        EXPECT_EQ(runProgram(u"/bin/sh"_s, {u"-c"_s, command}).status, static_cast<int>(ExitStatus::CannotWrite));
+        EXPECT_EQ(keys.entryList(QDir::Files), before) << "what nobody has seen is removed again";
+    }
     const PracticeTmutil unseen(QStringLiteral(TMUTIL_EXECUTABLE));
     EXPECT_EQ(adopt(unseen, practice_.path(u"disk"_s), key_).status, 0) << "one that was not shown replaces none";
     const QString renewed = keyIn(practice_.run({u"recoverykey"_s}).output);
