@@ -91,12 +91,12 @@ QStringList Configuration::sources() const
     return named.isEmpty() ? QStringList(folders_.home) : named;
 }
 
-Destination Configuration::setDestination(const QString& path, bool append)
+Destination Configuration::setDestination(const QString& path, bool append, const Opens& opens)
 {
     const QString folder = existingFolder(path);
     Destination destination;
     change([&] {
-        destination = destinationAt(folder);
+        destination = destinationAt(folder, opens);
         RepositoryFolder::make(destination);
         const KeyStore keys(folders_.configuration);
         const auto contents = RepositoryFolder::contents(destination);
@@ -335,15 +335,21 @@ QString Configuration::file() const
     return folders_.configuration + "/configuration.plist"_L1;
 }
 
-Destination Configuration::destinationAt(const QString& path) const
+Destination Configuration::destinationAt(const QString& path, const Opens& opens) const
 {
+    using Contents = RepositoryFolder::Contents;
     const auto known = std::ranges::find(destinations_, path, &Destination::path);
-    if (known != destinations_.end() && known->isPresent())
-        return *known;
+    if (known != destinations_.end() && RepositoryFolder::contents(*known) != Contents::Absent)
+        return *known; // where it is another's now, that is said
     const KeyStore keys(folders_.configuration);
     for (const QString& id : QDir(Destination::backupFolder(path)).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        if (keys.contains(id))
-            return {id, volumeName(path), path};
+        const Destination found{id, volumeName(path), path};
+        const Contents contents = keys.contains(id) ? RepositoryFolder::contents(found) : Contents::Absent;
+        const bool isOwn = contents == Contents::Repository
+                               ? opens(found)
+                               : contents != Contents::Absent && contents != Contents::Foreign;
+        if (isOwn || !RepositoryFolder::trap(found).isEmpty())
+            return found;
     }
     return {QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(), volumeName(path), path};
 }

@@ -30,8 +30,10 @@ public:
     QStringList sources() const;
 
     /// Makes that folder the only backup disk, or adds it to those there are. A folder that already held backups of
-    /// this user becomes the same destination again. Gives the destination.
-    Destination setDestination(const QString& path, bool append);
+    /// this user becomes the same destination again; `opens` tells whether the key that is kept for a repository opens
+    /// it, for anybody can name a folder. Gives the destination.
+    using Opens = std::function<bool(const Destination& destination)>;
+    Destination setDestination(const QString& path, bool append, const Opens& opens);
 
     /// Adds a destination whose repository and key are there.
     void takeUp(const Destination& destination);
@@ -72,7 +74,7 @@ private:
     void setPaths(const QString& key, const QStringList& paths);
     void read();
     void write();
-    Destination destinationAt(const QString& path) const;
+    Destination destinationAt(const QString& path, const Opens& opens) const;
 
     Folders folders_;
     IfLost ifLost_;

@@ -125,6 +125,16 @@ NewRepository makeRepository(const Destination& destination, const Folders& fold
     return made;
 }
 
+bool isOpenedByKey(const Destination& destination, const Folders& folders)
+{
+    const auto repository = RepositoryFolder::open(destination);
+    try {
+        return !repository || opens(Restic(*repository, folders, nullptr));
+    } catch (const Failure& failure) {
+        return failure.status() != ExitStatus::WrongKey;
+    }
+}
+
 QStringList recoveryKeys(const Restic& restic)
 {
     QStringList identifiers;

@@ -21,6 +21,9 @@ struct NewRepository {
 /// so that it is whole or not there. Throws Failure.
 NewRepository makeRepository(const Destination& destination, const Folders& folders, const StopRequest& stop);
 
+/// Whether the repository of a destination is opened by the key that is kept for it; true where that cannot be told.
+bool isOpenedByKey(const Destination& destination, const Folders& folders);
+
 /// Opens a repository besides the key that is kept on this computer.
 struct RecoveryKey {
     QString key;        ///< as makeRecoveryKey() writes it

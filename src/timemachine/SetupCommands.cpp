@@ -85,11 +85,11 @@ RepositoryFolder newRepository(const Destination& destination, const Folders& fo
 /// Repositories of this user that nothing on this computer opens: most often those of the computer before it.
 bool hasUnknownRepositories(const Destination& destination, const Folders& folders)
 {
-    const KeyStore keys(folders.configuration);
     const auto names = QDir(Destination::backupFolder(destination.path)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     return std::ranges::any_of(names, [&](const QString& id) {
-        return !keys.contains(id) &&
-               RepositoryFolder::contents({id, {}, destination.path}) == RepositoryFolder::Contents::Repository;
+        const Destination other{id, {}, destination.path};
+        return id != destination.id && RepositoryFolder::contents(other) == RepositoryFolder::Contents::Repository &&
+               !isOpenedByKey(other, folders);
     });
 }
 
@@ -135,7 +135,8 @@ QString readSecret()
 void setDestination(const Folders& folders, const QString& path, bool append)
 {
     Configuration configuration(folders, Configuration::IfLost::BeginAnew);
-    const Destination destination = configuration.setDestination(path, append);
+    const Destination destination = configuration.setDestination(
+        path, append, [&folders](const Destination& found) { return isOpenedByKey(found, folders); });
     if (const QStringList same = sourcesOnSameDisk(configuration, destination.path); !same.isEmpty())
         print(
             QStringList(u"\"%1\" is on the same disk as \"%2\": when that breaks, the backups are lost with it."_s.arg(

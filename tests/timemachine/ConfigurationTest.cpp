@@ -33,9 +33,9 @@ protected:
         QDir().mkpath(root_.filePath(name));
         return QFileInfo(root_.filePath(name)).canonicalFilePath();
     }
-    Destination set(const QString& name, bool append)
+    Destination set(const QString& name, bool append, bool opens = true)
     {
-        return Configuration(folders_).setDestination(folder(name), append);
+        return Configuration(folders_).setDestination(folder(name), append, [=](const Destination&) { return opens; });
     }
     std::vector<Destination> destinations() const { return Configuration(folders_).destinations(); }
     static void unplug(const Destination& disk) { QDir(disk.path).rename(u"Quillon.backups"_s, u"away"_s); }
@@ -70,6 +70,19 @@ TEST_F(ConfigurationTest, ADiskReplacesTheOthersOrJoinsThem)
     set(u"Disk 3"_s, false);
     EXPECT_EQ(destinations().size(), 1U);
     EXPECT_EQ(set(u"Disk 1"_s, false), first) << "its backups can still be read";
+}
+
+TEST_F(ConfigurationTest, AFolderThatBearsAKnownNameIsNotTakenForTheUsersOwn)
+{
+    const QString id = set(u"Disk 1"_s, true).id;
+    ASSERT_TRUE(QFile::link(root_.path(), folder(u"Disk 2/Quillon.backups"_s) + u'/' + id));
+    EXPECT_NE(set(u"Disk 2"_s, true).id, id);
+    const QString repository = folder(u"Disk 3/Quillon.backups/"_s + id);
+    ASSERT_TRUE(QFile(repository + "/config"_L1).open(QIODevice::WriteOnly));
+    unplug(destinations().front());
+    EXPECT_NE(set(u"Disk 3"_s, true, false).id, id) << "another key opens it";
+    ASSERT_TRUE(QDir().rename(repository, folder(u"Disk 5/Quillon.backups"_s) + u'/' + id));
+    EXPECT_EQ(set(u"Disk 5"_s, true).id, id);
 }
 
 TEST_F(ConfigurationTest, AKeyIsRandomKeptAndForTheUserOnly)
@@ -250,7 +263,7 @@ TEST_F(ConfigurationTest, WhatAnotherVersionWroteSurvivesAndSoDoesADamagedFile)
     QFile::resize(file, 100);
     QFile::resize(folder(u"config"_s) + "/configuration-previous.plist"_L1, 100);
     EXPECT_EQ(statusOf([this] { Configuration(folders_).addSource(folder(u"a"_s)); }), ExitStatus::Configuration);
-    Configuration(folders_, Configuration::IfLost::BeginAnew).setDestination(folder(u"Disk"_s), false);
+    Configuration(folders_, Configuration::IfLost::BeginAnew).setDestination(folder(u"Disk"_s), false, {});
     EXPECT_EQ(destinations().size(), 1U);
 }
 
