@@ -92,10 +92,7 @@ void Backup::findDisk()
 
 void Backup::prepareRepository()
 {
-    // restic would try again for a quarter of an hour.
-    if (!repository_->isWritable())
-        throw failureOf(ResticProblem::NoPermission,
-                        u"The backup disk \"%1\" cannot be written to."_s.arg(destination_.name));
+    repository_->requireWritable();
     while (isFull(*repository_) && repository_->hasConfig() && makeRoom()) {
     }
     if (isFull(*repository_))

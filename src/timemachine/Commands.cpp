@@ -145,8 +145,10 @@ void deleteBackups(const Folders& folders, const QStringList& names)
             continue;
         auto some = snapshotsIn(*repository, Restic(*repository, folders, &stop));
         std::erase_if(some, [&left](const Snapshot& snapshot) { return !left.removeOne(snapshot.name()); });
-        if (!some.empty())
-            found.emplace_back(std::move(*repository), std::move(some));
+        if (some.empty())
+            continue;
+        repository->requireWritable();
+        found.emplace_back(std::move(*repository), std::move(some));
     }
     if (!left.isEmpty())
         throw Failure(ExitStatus::NoBackup, u"\"%1\" is no backup. See \"tmutil listbackups\"."_s.arg(left.first()));

@@ -23,7 +23,7 @@ enum class ExitStatus {
     Usage = 64,             ///< EX_USAGE: the command line makes no sense
     StateDamaged = 65,      ///< EX_DATAERR: what tmutil remembers of runs cannot be read
     NoInput = 66,           ///< EX_NOINPUT: a file or folder that was named does not exist, or cannot be one
-    CannotWrite = 73,       ///< EX_CANTCREAT: a file of tmutil's own cannot be written
+    CannotWrite = 73,       ///< EX_CANTCREAT: a file of tmutil's own, or the backup disk, cannot be written
     Configuration = 78,     ///< EX_CONFIG: the configuration file is damaged
 };
 

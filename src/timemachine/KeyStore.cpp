@@ -49,7 +49,7 @@ bool KeyStore::contains(const QString& destinationId) const
 void KeyStore::require(const Destination& destination) const
 {
     const QString file = path(destination.id);
-    const QString disk = displayedName(destination.name);
+    const QString disk = shownText(destination.name);
     const QString cause = ResticDiagnosis::of(ResticProblem::WrongKey).cause();
     if (!contains(destination.id))
         throw Failure(

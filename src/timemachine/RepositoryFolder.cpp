@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "FolderTree.h"
 #include "ResticDiagnosis.h"
+#include "ShownText.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -273,6 +274,16 @@ bool RepositoryFolder::isEmptyFolder(const char* name) const
 bool RepositoryFolder::isWritable() const
 {
     return faccessat(descriptor_, ".", W_OK, AT_EACCESS) == 0;
+}
+
+void RepositoryFolder::requireWritable() const
+{
+    if (isWritable())
+        return;
+    const QString reason = qt_error_string(errno);
+    throw Failure(ExitStatus::CannotWrite,
+                  u"The backup disk \"%1\" cannot be written to: %2."_s.arg(shownText(destination_.name), reason),
+                  ResticDiagnosis::of(ResticProblem::NoPermission).cause());
 }
 
 bool RepositoryFolder::hasConfig() const

@@ -50,6 +50,8 @@ public:
     QByteArrayList namesIn(const char* folder) const;
     void removeLock(const QByteArray& name) const;
     bool isWritable() const;
+    /// Throws Failure at once where restic would try again for a quarter of an hour.
+    void requireWritable() const;
     bool hasConfig() const;
     /// Throws Failure, which says what to do, without it: restic then opens nothing.
     void requireConfig() const;

@@ -169,6 +169,7 @@ void setDestination(const Folders& folders, const QString& path, bool append)
 void renewRecoveryKey(const Folders& folders, const Destination& destination, bool xml)
 {
     const auto repository = RepositoryFolder::open(destination);
+    repository->requireWritable();
     const StopRequest stop;
     const Restic restic(*repository, folders, &stop);
     const KeyStore keys(folders.configuration);

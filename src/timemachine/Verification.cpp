@@ -161,8 +161,15 @@ std::optional<Damage> Verification::run(const std::optional<Slice>& slice, const
     const QString data = slice ? u"--read-data-subset="_s + subset : u"--read-data"_s;
     const Restic restic(repository_, folders_, &stop_);
     CheckFindings findings;
-    const auto outcome = restic.runUnlocking(
-        {u"check"_s, data}, {}, [&findings](const QByteArray& line) { findings.readLine(QString::fromUtf8(line)); });
+    const auto check = [&](const QStringList& options) {
+        findings = {};
+        return restic.runUnlocking(QStringList{u"check"_s, data} + options, {},
+                                   [&findings](const QByteArray& line) { findings.readLine(QString::fromUtf8(line)); });
+    };
+    const QStringList withoutLock{u"--no-lock"_s};
+    auto outcome = check(repository_.isWritable() ? QStringList() : withoutLock);
+    if (outcome.exitStatus != 0 && outcome.diagnosis().problem == ResticProblem::NoSpace)
+        outcome = check(withoutLock); // not even a lock fits on a full disk
     if (stop_.isMade())
         throw Failure(ExitStatus::Stopped, u"The verification was stopped."_s);
     const ResticDiagnosis diagnosis = outcome.diagnosis();

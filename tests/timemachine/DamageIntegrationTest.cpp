@@ -188,18 +188,21 @@ TEST_F(DamageIntegration, ADamagedOrLostRecordOfABackupIsToldAndKeepsNoOtherFrom
     EXPECT_EQ(failureCause(), QString()) << "the user has deleted it";
 }
 
-TEST_F(DamageIntegration, AFullDiskStillGivesBackWhatItHas)
+TEST_F(DamageIntegration, AFullOrReadOnlyDiskIsReadAllTheSame)
 {
-    const auto answer = runWhereMountsAreAllowed(uR"(
+    auto answer = runWhereMountsAreAllowed(uR"(
 mount -t tmpfs -o size=12M none '%1/disk' && '%2' setdestination '%1/disk' >/dev/null || exit
 rm '%1/source/large'
 '%2' startbackup -b; latest=$('%2' latestbackup)
 head -c 20000000 /dev/zero >'%1/disk/junk' 2>/dev/null
 '%2' restore "$latest%1/source/small" '%1/back'; echo $?; cat '%1/back'; echo
-'%2' deletebackup "$latest"; echo $?
+'%2' verify; echo $?
+mount -o remount,ro '%1/disk'; '%2' verify; echo $?; '%2' deletebackup "$latest"; echo $?
+mount -o remount,rw '%1/disk'; '%2' deletebackup "$latest"; echo $?
 )"_s.arg(practice_.path(u"."_s), practice_.executable()));
     if (answer) {
-        EXPECT_EQ(answer->output, "0\nsmall\n0\n") << answer->error.toStdString();
+        EXPECT_EQ(answer->output.replace("No damage was found.\n", "sound "), "0\nsmall\nsound 0\nsound 0\n73\n0\n")
+            << answer->error.toStdString();
     }
 }
 
