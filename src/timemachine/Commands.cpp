@@ -143,8 +143,7 @@ void deleteBackups(const Folders& folders, const QStringList& names)
         auto repository = RepositoryFolder::open(destination);
         if (!repository)
             continue;
-        auto some = snapshotsIn(*repository, Restic(*repository, folders, &stop));
-        std::erase_if(some, [&left](const Snapshot& snapshot) { return !left.removeOne(snapshot.name()); });
+        auto some = takeNamed(snapshotsIn(*repository, Restic(*repository, folders, &stop)), left);
         if (some.empty())
             continue;
         repository->requireWritable();
@@ -158,7 +157,7 @@ void deleteBackups(const Folders& folders, const QStringList& names)
         const Restic restic(repository, folders, &stop);
         removeReserve(repository); // a full disk could take not even a lock
         forget(snapshots, restic);
-        history.forgetBackups(repository.destination().id, names);
+        history.forgetBackups(repository.destination().id, snapshots);
         history.save();
         restic.runUnlocking({u"prune"_s}).require();
         keepReserve(repository);

@@ -115,10 +115,13 @@ void History::setBackups(const QString& destinationId, const std::vector<Snapsho
     setOfDestination(destinationId, u"Backups"_s, list);
 }
 
-void History::forgetBackups(const QString& destinationId, const QStringList& names)
+void History::forgetBackups(const QString& destinationId, const std::vector<Snapshot>& snapshots)
 {
     QVariantList left = backups(destinationId);
-    left.removeIf([&names](const QVariant& one) { return names.contains(one.toMap().value(u"Name"_s).toString()); });
+    left.removeIf([&snapshots](const QVariant& one) {
+        const QString id = one.toMap().value(u"Snapshot"_s).toString();
+        return std::ranges::find(snapshots, id, &Snapshot::id) != snapshots.end();
+    });
     setOfDestination(destinationId, u"Backups"_s, left);
 }
 

@@ -47,7 +47,7 @@ public:
     void setBackups(const QString& destinationId, const std::vector<Snapshot>& snapshots, const QString& justMade,
                     qlonglong bytesAdded);
 
-    void forgetBackups(const QString& destinationId, const QStringList& names);
+    void forgetBackups(const QString& destinationId, const std::vector<Snapshot>& snapshots);
 
     /// Since when a backup may have been made that nobody has looked at; invalid where all have been.
     QDateTime uncheckedSince(const QString& destinationId) const;

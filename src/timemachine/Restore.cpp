@@ -47,14 +47,13 @@ Wanted find(const QString& source, const std::vector<Destination>& destinations,
             absence = destination.absence();
             continue;
         }
-        const auto snapshots = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
-        const auto named = [&clean](const Snapshot& snapshot) { return covers(snapshot.name(), clean); };
-        const auto found = std::ranges::find_if(snapshots, named);
-        if (found == snapshots.end())
+        const auto found = holdersOf(snapshotsIn(*repository, Restic(*repository, folders, nullptr)), clean);
+        if (found.empty())
             continue;
-        if (std::ranges::count_if(snapshots, named) > 1)
-            throw Failure(ExitStatus::NoBackup, u"\"%1\" names more than one backup."_s.arg(found->name()));
-        return {std::move(*repository), *found, clean.mid(found->name().size())};
+        const qsizetype length = found.front().name().size();
+        if (found.size() > 1)
+            throw Failure(ExitStatus::NoBackup, u"\"%1\" names more than one backup."_s.arg(clean.left(length)));
+        return {std::move(*repository), found.front(), clean.mid(length)};
     }
     if (!absence.isEmpty())
         throw Failure(ExitStatus::DestinationMissing, absence);

@@ -1,5 +1,6 @@
 #include "Snapshot.h"
 
+#include "Paths.h"
 #include "RepositoryFolder.h"
 #include "Restic.h"
 
@@ -8,10 +9,19 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The first counts where both stand for one.
+constexpr std::array givenNames{&Snapshot::name, &Snapshot::earlierName};
+
+} // namespace
 
 QString Snapshot::tag(bool complete)
 {
@@ -20,8 +30,18 @@ QString Snapshot::tag(bool complete)
 
 QString Snapshot::name() const
 {
+    return nameAt(time);
+}
+
+QString Snapshot::earlierName() const
+{
+    return nameAt(time.toLocalTime());
+}
+
+QString Snapshot::nameAt(const QDateTime& date) const
+{
     return (mountPoint.endsWith(u'/') ? mountPoint : mountPoint + u'/') + host + u'/' +
-           time.toLocalTime().toString(u"yyyy-MM-dd-HHmmss"_s) + (complete ? QString() : u".incomplete"_s);
+           date.toString(u"yyyy-MM-dd-HHmmss"_s) + (complete ? QString() : u".incomplete"_s);
 }
 
 std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Restic& restic)
@@ -52,6 +72,31 @@ std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Rest
     }
     std::ranges::stable_sort(snapshots, {}, &Snapshot::time);
     return snapshots;
+}
+
+std::vector<Snapshot> holdersOf(const std::vector<Snapshot>& snapshots, const QString& path)
+{
+    std::vector<Snapshot> found;
+    for (const auto nameOf : givenNames) {
+        std::ranges::copy_if(snapshots, std::back_inserter(found),
+                             [&](const Snapshot& snapshot) { return covers((snapshot.*nameOf)(), path); });
+        if (!found.empty())
+            break;
+    }
+    return found;
+}
+
+std::vector<Snapshot> takeNamed(const std::vector<Snapshot>& snapshots, QStringList& names)
+{
+    std::vector<Snapshot> taken;
+    for (const auto nameOf : givenNames) {
+        for (const Snapshot& snapshot : snapshots) {
+            if (std::ranges::find(taken, snapshot.id, &Snapshot::id) == taken.end() &&
+                names.removeOne((snapshot.*nameOf)()))
+                taken.push_back(snapshot);
+        }
+    }
+    return taken;
 }
 
 const Snapshot* latestOf(const std::vector<Snapshot>& snapshots, const QDateTime& now)

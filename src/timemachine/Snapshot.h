@@ -24,13 +24,25 @@ struct Snapshot {
     /// Snapshots made here bear one of two tags.
     static QString tag(bool complete);
 
-    /// How people name it: "/media/disk/HOST/2026-11-21-072258", in local time; an incomplete one says so at its end.
+    /// How people name it: "/media/disk/HOST/2026-11-21-072258", in the local time of its making, so that it keeps its
+    /// name wherever the computer travels; an incomplete one says so at its end.
     QString name() const;
+    /// The same in the local time of now, by which earlier versions named it.
+    QString earlierName() const;
+
+private:
+    QString nameAt(const QDateTime& date) const;
 };
 
 /// The backups of this program in one repository, and all of them in one that was made by hand, oldest first. Throws
 /// Failure.
 std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Restic& restic);
+
+/// Those in which a path lies that begins with the name of one.
+std::vector<Snapshot> holdersOf(const std::vector<Snapshot>& snapshots, const QString& path);
+
+/// Those that the names stand for, each for one, the oldest of that name; these names are taken from the list.
+std::vector<Snapshot> takeNamed(const std::vector<Snapshot>& snapshots, QStringList& names);
 
 /// The latest complete one that is not dated later than now; else the last of all. Nothing where there is none.
 const Snapshot* latestOf(const std::vector<Snapshot>& snapshots, const QDateTime& now);

@@ -1,5 +1,7 @@
 #include "Retention.h"
 
+#include "ScopedEnvironment.h"
+
 #include <QTimeZone>
 
 #include <algorithm>
@@ -130,6 +132,25 @@ TEST(Retention, AWeekIsOverOnceWhateverTheClockDoes)
     EXPECT_FALSE(isWeekOver(noon.addDays(-6), noon));
     EXPECT_TRUE(isWeekOver(noon.addDays(-7), noon));
     EXPECT_TRUE(isWeekOver(noon.addDays(400), noon)) << "the clock has been set back";
+}
+
+TEST(Snapshot, KeepsItsNameInAnotherZoneAndStillHasTheOneItHadThere)
+{
+    const ScopedEnvironment zone("TZ", "EST5");
+    Snapshot inParis = at(QDateTime(QDate(2026, 11, 21), QTime(7, 22, 58), Qt::OffsetFromUTC, 3600));
+    Snapshot inNewYork = at(inParis.time.toOffsetFromUtc(-5 * 3600).addSecs(6 * 3600));
+    for (Snapshot* const snapshot : {&inParis, &inNewYork})
+        snapshot->mountPoint = u"/disk"_s;
+    inParis.host = inNewYork.host = u"host"_s;
+    const std::vector both{inParis, inNewYork};
+    EXPECT_EQ(inParis.name(), u"/disk/host/2026-11-21-072258"_s);
+    EXPECT_EQ(inNewYork.name(), inParis.name());
+    EXPECT_EQ(holdersOf(both, inParis.name() + "/file"_L1).size(), 2U) << "neither is taken for the other";
+    const auto there = holdersOf(both, u"/disk/host/2026-11-21-012258"_s);
+    EXPECT_EQ(identifiers(there), std::vector{inParis.id});
+    QStringList names{u"/disk/host/2026-11-21-012258"_s, inParis.name(), u"/disk/x"_s};
+    EXPECT_EQ(takeNamed(both, names).size(), 1U) << "a name stands for one";
+    EXPECT_EQ(names.last(), u"/disk/x"_s);
 }
 
 } // namespace quillon
