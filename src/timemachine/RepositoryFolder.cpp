@@ -7,13 +7,15 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QUuid>
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -131,6 +133,57 @@ Descriptor openOwn(const Destination& destination)
     return Descriptor(isOwn(destination, own.get()) ? own.release() : -1);
 }
 
+QByteArrayList namesIn(int parent, const char* name)
+{
+    QByteArrayList names;
+    const int copy = openat(parent, name, folderFlags);
+    DIR* const entries = copy >= 0 ? fdopendir(copy) : nullptr;
+    if (entries == nullptr)
+        return names;
+    for (const dirent* entry = readdir(entries); entry != nullptr; entry = readdir(entries)) {
+        if (const QByteArray one = entry->d_name; one != "." && one != "..")
+            names.append(one);
+    }
+    closedir(entries);
+    return names;
+}
+
+bool isFolder(int parent, const QByteArray& name)
+{
+    struct stat entry {};
+    return fstatat(parent, name.constData(), &entry, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(entry.st_mode);
+}
+
+/// Whether a folder holds no more than what making a repository in it leaves: no data, no index and no backup.
+bool holdsNothingStored(int folder)
+{
+    const QByteArrayList names = namesIn(folder, ".");
+    const bool isKnown = std::ranges::all_of(names, [](const QByteArray& name) {
+        static const QByteArrayList known{"data", "index", "keys", "locks", "snapshots"};
+        return known.contains(name) || name.startsWith("config");
+    });
+    const QByteArrayList data = namesIn(folder, "data");
+    return isKnown && namesIn(folder, "index").isEmpty() && namesIn(folder, "snapshots").isEmpty() &&
+           std::ranges::all_of(data, [folder](const QByteArray& name) {
+               return isFolder(folder, "data/" + name) && namesIn(folder, ("data/" + name).constData()).isEmpty();
+           });
+}
+
+/// What a process makes is locked as long as it lives.
+void removeLeftovers(int shared, const Destination& destination)
+{
+    static const QRegularExpression ours(u"-[0-9a-f]{32}$"_s);
+    for (const QByteArray& name : namesIn(shared, ".")) {
+        const QString text = QFile::decodeName(name);
+        if (!text.startsWith(destination.id) || ours.match(text).capturedStart() != destination.id.size())
+            continue;
+        const Descriptor folder(openat(shared, name.constData(), folderFlags));
+        if (isOwn(destination, folder.get()) && flock(folder.get(), LOCK_EX | LOCK_NB) == 0 &&
+            holdsNothingStored(folder.get()))
+            removeFolderTree(shared, name.constData());
+    }
+}
+
 Failure cannotBeWritten(const QString& path, int error)
 {
     QString message = u"\"%1\" cannot be written to: %2."_s.arg(path, qt_error_string(error));
@@ -199,6 +252,7 @@ void RepositoryFolder::make(const Destination& destination)
 RepositoryFolder RepositoryFolder::makeBeside(const Destination& destination)
 {
     const Descriptor shared(openShared(destination));
+    removeLeftovers(shared.get(), destination);
     const QString name = destination.id + u'-' + QUuid::createUuid().toString(QUuid::Id128);
     const QString path = Destination::backupFolder(destination.path) + u'/' + name;
     if (mkdirat(shared.get(), encoded(name).constData(), S_IRWXU) != 0)
@@ -206,6 +260,7 @@ RepositoryFolder RepositoryFolder::makeBeside(const Destination& destination)
     const int own = openat(shared.get(), encoded(name).constData(), folderFlags);
     if (own < 0)
         throw cannotBeWritten(path, errno);
+    flock(own, LOCK_EX | LOCK_NB);
     return {destination, encoded(path), own};
 }
 
@@ -239,17 +294,7 @@ RepositoryFolder::~RepositoryFolder()
 
 QByteArrayList RepositoryFolder::namesIn(const char* folder) const
 {
-    QByteArrayList names;
-    const int copy = openat(descriptor_, folder, folderFlags);
-    DIR* const entries = copy >= 0 ? fdopendir(copy) : nullptr;
-    if (entries == nullptr)
-        return names;
-    for (const dirent* entry = readdir(entries); entry != nullptr; entry = readdir(entries)) {
-        if (const QByteArray name = entry->d_name; name != "." && name != "..")
-            names.append(name);
-    }
-    closedir(entries);
-    return names;
+    return quillon::namesIn(descriptor_, folder);
 }
 
 void RepositoryFolder::removeLock(const QByteArray& name) const

@@ -35,7 +35,8 @@ public:
     /// there. Throws Failure.
     static void make(const Destination& destination);
 
-    /// A new, empty folder beside the destination's own. Throws Failure.
+    /// A new, empty folder beside the destination's own. Those that killed processes have left there are removed, as
+    /// far as nothing was stored in them. Throws Failure.
     static RepositoryFolder makeBeside(const Destination& destination);
 
     RepositoryFolder(RepositoryFolder&& other) noexcept;

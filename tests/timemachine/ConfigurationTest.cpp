@@ -137,6 +137,39 @@ TEST_F(ConfigurationTest, WhatResticWouldWaitForOrFollowIsNamed)
     EXPECT_TRUE(disk.isPresent());
 }
 
+TEST_F(ConfigurationTest, WhatAKilledSetupHasLeftIsRemovedByTheNext)
+{
+    const Destination disk = set(u"Disk"_s, false);
+    const QString shared = u"Disk/Quillon.backups/"_s;
+    const auto name = [](const QString& id, char digit) { return id + u'-' + QString(32, QLatin1Char(digit)); };
+    const auto write = [&](const QString& path) {
+        folder(QFileInfo(shared + path).path());
+        EXPECT_TRUE(QFile(root_.filePath(shared + path)).open(QIODevice::WriteOnly));
+    };
+    folder(shared + name(disk.id, '0'));
+    write(name(disk.id, '1') + "/config"_L1);
+    write(name(disk.id, '1') + "/keys/key"_L1);
+    folder(shared + name(disk.id, '1') + "/data/00"_L1);
+    const QStringList kept{name(disk.id, '2'), name(disk.id, '3'), name(disk.id, '4'), name(disk.id, '5') + u'x',
+                           name(u"another"_s, '6')};
+    write(kept[0] + "/snapshots/backup"_L1);
+    write(kept[1] + "/data/00/pack"_L1);
+    write(kept[2] + "/thesis"_L1);
+    folder(shared + kept[3]);
+    folder(shared + kept[4]);
+    const auto others = [&] {
+        QStringList names = QDir(root_.filePath(shared)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        names.removeAll(disk.id);
+        return QSet(names.begin(), names.end());
+    };
+    const RepositoryFolder first = RepositoryFolder::makeBeside(disk);
+    const auto withFirst = others();
+    EXPECT_EQ(withFirst.size(), kept.size() + 1);
+    EXPECT_TRUE(withFirst.contains(QSet(kept.begin(), kept.end())));
+    const RepositoryFolder second = RepositoryFolder::makeBeside(disk);
+    EXPECT_TRUE(others().contains(withFirst)) << "one that is being made";
+}
+
 TEST_F(ConfigurationTest, SourcesAreTheHomeFolderUntilOneIsNamed)
 {
     EXPECT_EQ(Configuration(folders_).sources(), QStringList(root_.path()));
