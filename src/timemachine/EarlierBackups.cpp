@@ -76,10 +76,8 @@ void EarlierBackups::markEmptied(const QDateTime& since)
 
 const std::vector<Snapshot>& EarlierBackups::all()
 {
-    if (!snapshots_) {
-        snapshots_ = snapshotsIn(repository_, restic_);
-        std::erase_if(*snapshots_, [this](const Snapshot& snapshot) { return !hostNames_.contains(snapshot.host); });
-    }
+    if (!snapshots_)
+        snapshots_ = madeBy(hostNames_, snapshotsIn(repository_, restic_));
     return *snapshots_;
 }
 

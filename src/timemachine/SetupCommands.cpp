@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSysInfo>
 
 #include <algorithm>
 #include <csignal>
@@ -60,13 +61,20 @@ void removeOlderKeys(const Restic& restic, const QStringList& older)
     }
 }
 
-/// What the disk has is what counts, also where another computer has written it or somebody has erased it.
-void takeStock(const RepositoryFolder& repository, const Restic& restic, const Folders& folders)
+/// What the disk has of this computer is what counts, also where somebody has erased it. Gives a sentence where it has
+/// backups of others alone.
+QString takeStock(const RepositoryFolder& repository, const Restic& restic, const Folders& folders)
 {
-    const auto snapshots = snapshotsIn(repository, restic);
-    const Snapshot* const latest = latestOf(snapshots, QDateTime::currentDateTimeUtc());
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const auto all = snapshotsIn(repository, restic);
+    const auto own = madeBy(History(folders.state).hostNames() << QSysInfo::machineHostName(), all);
+    const Snapshot* const latest = latestOf(own, now);
     const QDateTime date = latest != nullptr && latest->complete ? latest->time : QDateTime();
     History::change(folders.state, [&](History& history) { history.setLastBackup(repository.destination().id, date); });
+    if (all.empty() || !own.empty())
+        return {};
+    return u"Its backups are of another computer; the latest is \"%1\". Of this computer it has none yet."_s.arg(
+        latestOf(all, now)->name());
 }
 
 RepositoryFolder newRepository(const Destination& destination, const Folders& folders, const StopRequest& stop)
@@ -214,9 +222,11 @@ void adopt(const Folders& folders, const QString& path)
     const Destination destination = takeUpRepository(path, secret, folders, stop);
     Configuration(folders, Configuration::IfLost::BeginAnew).takeUp(destination);
     const auto repository = RepositoryFolder::open(destination);
-    takeStock(*repository, Restic(*repository, folders, &stop), folders);
+    const QString remark = takeStock(*repository, Restic(*repository, folders, &stop), folders);
     print(
         QStringList(u"The backups at \"%1\" are taken up. \"tmutil listbackups\" names them."_s.arg(destination.path)));
+    if (!remark.isEmpty())
+        print(QStringList(remark));
 }
 
 } // namespace quillon

@@ -99,6 +99,12 @@ std::vector<Snapshot> takeNamed(const std::vector<Snapshot>& snapshots, QStringL
     return taken;
 }
 
+std::vector<Snapshot> madeBy(const QStringList& hosts, std::vector<Snapshot> snapshots)
+{
+    std::erase_if(snapshots, [&hosts](const Snapshot& snapshot) { return !hosts.contains(snapshot.host); });
+    return snapshots;
+}
+
 const Snapshot* latestOf(const std::vector<Snapshot>& snapshots, const QDateTime& now)
 {
     const Snapshot* latest = nullptr;

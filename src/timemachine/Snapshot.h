@@ -44,6 +44,9 @@ std::vector<Snapshot> holdersOf(const std::vector<Snapshot>& snapshots, const QS
 /// Those that the names stand for, each for one, the oldest of that name; these names are taken from the list.
 std::vector<Snapshot> takeNamed(const std::vector<Snapshot>& snapshots, QStringList& names);
 
+/// Those that a computer of one of these names has made.
+std::vector<Snapshot> madeBy(const QStringList& hosts, std::vector<Snapshot> snapshots);
+
 /// The latest complete one that is not dated later than now; else the last of all. Nothing where there is none.
 const Snapshot* latestOf(const std::vector<Snapshot>& snapshots, const QDateTime& now);
 

@@ -133,11 +133,16 @@ TEST_F(RecoveryIntegration, ARepositoryMadeByHandIsTakenUpAndItsOwnBackupsAreKep
     };
     ASSERT_EQ(byHand({u"init"_s}), 0);
     for (const char* time : {"2020-01-01 10:00:00", "2020-01-01 10:30:00"})
-        ASSERT_EQ(byHand({u"backup"_s, u"--time"_s, QString::fromLatin1(time), practice_.source()}), 0);
+        ASSERT_EQ(byHand({u"backup"_s, u"--host"_s, u"elsewhere"_s, u"--time"_s, QString::fromLatin1(time),
+                          practice_.source()}),
+                  0);
     EXPECT_EQ(adopt(practice_, practice_.path(u"hand made"_s), u"a pass  phrase"_s).status,
               static_cast<int>(ExitStatus::WrongKey));
-    ASSERT_EQ(adopt(practice_, practice_.path(u"hand made"_s), u"a pass phrase"_s).status, 0);
+    const Answer adopted = adopt(practice_, practice_.path(u"hand made"_s), u"a pass phrase"_s);
+    ASSERT_EQ(adopted.status, 0);
+    EXPECT_TRUE(adopted.output.contains("/elsewhere/2020-01-01-103000\". Of this computer it has none"));
     ASSERT_EQ(call({u"removedestination"_s, id_}), 0);
+    EXPECT_FALSE(disk(practice_).contains(u"LastBackup"_s)) << "this computer has made none";
     EXPECT_EQ(practice_.backUp().status, 0);
     const QByteArray list = practice_.run({u"listbackups"_s}).output;
     EXPECT_EQ(list.count("/2020-01-01-10"), 2) << list.toStdString();
