@@ -1,6 +1,7 @@
 #include "Restic.h"
 
 #include "KeyStore.h"
+#include "ParentDeath.h"
 #include "RepositoryFolder.h"
 #include "ResticLocks.h"
 #include "StopRequest.h"
@@ -14,7 +15,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -44,15 +44,14 @@ QStringList searchPath()
 }
 
 /// Runs in the child, between fork and exec.
-void prepareChild(int folder)
+void prepareChild(int folder, pid_t parent)
 {
-    if (fchdir(folder) != 0)
+    if (!endWithParent(SIGINT, parent) || fchdir(folder) != 0)
         _exit(126);
     sigset_t none{};
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
     std::signal(SIGINT, SIG_DFL); // a shell's background jobs inherit it ignored
-    prctl(PR_SET_PDEATHSIG, SIGINT);
 }
 
 void readOutput(QProcess& process, const Restic::LineHandler& onOutput, ResticOutcome& outcome)
@@ -157,7 +156,8 @@ ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOut
     QEventLoop loop;
     process.setEnvironment(environment_);
     process.setStandardInputFile(QProcess::nullDevice());
-    process.setChildProcessModifier([folder = repository_.descriptor()] { prepareChild(folder); });
+    process.setChildProcessModifier(
+        [folder = repository_.descriptor(), parent = getpid()] { prepareChild(folder, parent); });
     QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
                      [&] { readOutput(process, onOutput, outcome); });
     QObject::connect(&process, &QProcess::readyReadStandardError, &process,

@@ -1,5 +1,7 @@
 #include "ResticLocks.h"
 
+#include "ParentDeath.h"
+
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -25,6 +27,12 @@ TEST(ResticLocks, AreStaleOnceTheirMakerIsSurelyGone)
         EXPECT_EQ(isStale(*lock, QString::fromLatin1(host), kind, lock->time.addSecs(age)), stale) << host << age;
     EXPECT_EQ(processKind(getpid()), ProcessKind::Other);
     EXPECT_EQ(processKind(-1), ProcessKind::None) << "all that may be signalled";
+}
+
+TEST(ParentDeath, IsNoticedAlsoWhereItCameFirst)
+{
+    EXPECT_TRUE(endWithParent(0, getppid()));
+    EXPECT_FALSE(endWithParent(0, getpid())) << "whoever forked it is its parent no more";
 }
 
 } // namespace quillon
