@@ -85,7 +85,7 @@ void startBackup(const Folders& folders, const CommandLine& line)
                                                                 : usualDestination(destinations, history);
     Restic::executable();
     if (const QString remark = startWorker(destination.id, line.block); !remark.isEmpty())
-        print(QStringList(remark));
+        printForPeople(QStringList(remark));
 }
 
 /// The disk that was named, or else the usual one.
@@ -179,11 +179,11 @@ RunLog runOf(const Folders& folders, const QStringList& names)
 void log(const Folders& folders, const QStringList& names)
 {
     if (!names.isEmpty())
-        return print(runOf(folders, names).text());
+        return printForPeople(runOf(folders, names).text());
     QStringList lines;
     for (const RunLog& run : RunLog::all(folders.state))
         lines.append(run.line());
-    print(lines);
+    printForPeople(lines);
 }
 
 void retention(const Folders& folders, const KeepRules& rules)
@@ -228,7 +228,7 @@ void diskUsage(const Folders& folders)
                 snapshot.name() +
                 (run == runs.end() ? QString() : u"  %1 files, %2 bytes added"_s.arg(run->files).arg(run->bytesAdded)));
         }
-        print(lines);
+        printForPeople(lines);
     }
 }
 

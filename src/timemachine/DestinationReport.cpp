@@ -4,6 +4,7 @@
 #include "History.h"
 #include "KeyStore.h"
 #include "PropertyList.h"
+#include "ShownText.h"
 
 #include <QStorageInfo>
 
@@ -18,9 +19,9 @@ QByteArray destinationText(const std::vector<Destination>& destinations, const H
     QString text;
     for (const Destination& destination : destinations) {
         text += destination.id == history.lastDestination() ? "> "_L1 + QString(50, u'=') : QString(52, u'=');
-        text += "\nName          : "_L1 + destination.name + "\nKind          : Local\n"_L1;
+        text += "\nName          : "_L1 + shownText(destination.name) + "\nKind          : Local\n"_L1;
         if (destination.isPresent())
-            text += "Mount Point   : "_L1 + destination.path + u'\n';
+            text += "Mount Point   : "_L1 + shownText(destination.path, destination.path.size()) + u'\n';
         text += "ID            : "_L1 + destination.id + u'\n';
         if (keys.keptRecoveryKey(destination.id).isEmpty())
             text += "Recovery Key  : not kept yet; \"tmutil recoverykey -d ID\" makes one and shows it\n"_L1;

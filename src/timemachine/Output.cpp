@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "PropertyList.h"
+#include "ShownText.h"
 
 #include <cstdio>
 
@@ -22,6 +23,12 @@ void print(const QStringList& lines)
         print(line.toUtf8() + '\n');
 }
 
+void printForPeople(const QStringList& lines)
+{
+    for (const QString& line : lines)
+        print(QStringList(shownText(line, line.size())));
+}
+
 void printXml(const QVariant& value)
 {
     const auto list = propertylist::toXml(value);
@@ -32,7 +39,7 @@ void printXml(const QVariant& value)
 
 void printError(const QString& sentence)
 {
-    std::fprintf(stderr, "tmutil: %s\n", sentence.toUtf8().constData());
+    std::fprintf(stderr, "tmutil: %s\n", shownText(sentence, sentence.size()).toUtf8().constData());
 }
 
 } // namespace quillon

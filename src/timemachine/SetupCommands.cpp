@@ -6,6 +6,7 @@
 #include "KeyStore.h"
 #include "Output.h"
 #include "RepositorySetup.h"
+#include "ShownText.h"
 #include "Snapshot.h"
 #include "StopRequest.h"
 
@@ -30,7 +31,7 @@ namespace {
 void printRecoveryKey(const Destination& destination, const QString& key)
 {
     print(QStringList{
-        u"The recovery key of the backup disk \"%1\":"_s.arg(destination.name),
+        u"The recovery key of the backup disk \"%1\":"_s.arg(shownText(destination.name)),
         {},
         u"    "_s + key,
         {},
@@ -146,11 +147,11 @@ void setDestination(const Folders& folders, const QString& path, bool append)
     const Destination destination = configuration.setDestination(
         path, append, [&folders](const Destination& found) { return isOpenedByKey(found, folders); });
     if (const QStringList same = sourcesOnSameDisk(configuration, destination.path); !same.isEmpty())
-        print(
+        printForPeople(
             QStringList(u"\"%1\" is on the same disk as \"%2\": when that breaks, the backups are lost with it."_s.arg(
                 destination.path, same.first())));
     if (hasUnknownRepositories(destination, folders))
-        print(QStringList(
+        printForPeople(QStringList(
             u"This disk also has backups whose key is not on this computer. If they are yours, \"tmutil adopt "
             "%1\" takes them up."_s.arg(destination.path)));
     try {
@@ -168,7 +169,7 @@ void setDestination(const Folders& folders, const QString& path, bool append)
                 KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, made.identifier);
         }
     } catch (const Failure& failure) {
-        print(
+        printForPeople(
             QStringList(u"There is no recovery key for this disk yet: %1 \"tmutil recoverykey -d %2\" makes one."_s.arg(
                 failure.message(), destination.id)));
     }
@@ -223,10 +224,10 @@ void adopt(const Folders& folders, const QString& path)
     Configuration(folders, Configuration::IfLost::BeginAnew).takeUp(destination);
     const auto repository = RepositoryFolder::open(destination);
     const QString remark = takeStock(*repository, Restic(*repository, folders, &stop), folders);
-    print(
+    printForPeople(
         QStringList(u"The backups at \"%1\" are taken up. \"tmutil listbackups\" names them."_s.arg(destination.path)));
     if (!remark.isEmpty())
-        print(QStringList(remark));
+        printForPeople(QStringList(remark));
 }
 
 } // namespace quillon

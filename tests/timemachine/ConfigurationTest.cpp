@@ -5,6 +5,7 @@
 #include "Failure.h"
 #include "History.h"
 #include "KeyStore.h"
+#include "Output.h"
 #include "PropertyList.h"
 #include "PropertyListFile.h"
 #include "RepositoryFolder.h"
@@ -395,6 +396,16 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     EXPECT_EQ(destinationText({second}, history, keys),
               "> " + QByteArray(50, '=') +
                   "\nName          : 2\nKind          : Local\nID            : " + second.id.toUtf8() + '\n');
+    Destination forged = second;
+    forged.name = u"2\u009B1A\nID"_s; // what moves the cursor, and what begins a line
+    EXPECT_TRUE(destinationText({forged}, history, keys).contains("\nName          : 2 1A ID\n"));
+    EXPECT_TRUE(destinationXml({forged}, history, keys).contains("2\u009B1A\nID"));
+    testing::internal::CaptureStdout();
+    printForPeople({forged.name});
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "2 1A ID\n");
+    testing::internal::CaptureStderr();
+    printError(forged.name);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "tmutil: 2 1A ID\n");
 }
 
 TEST_F(ConfigurationTest, OwnFilesAndDisksAreNeverBackedUp)
