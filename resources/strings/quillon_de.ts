@@ -787,6 +787,10 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Wiederherstellungsschlüssel noch nicht verwahrt</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>Auch der Ordner „%1“ liegt auf diesem Volume: Fällt es aus, geht beides verloren</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>Geht dieser Computer verloren, sind die Backups auf „%1“ ohne Wiederherstellungsschlüssel nicht lesbar.</translation>

@@ -787,6 +787,10 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>Recovery key not kept yet</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>The folder “%1” is on this disk too: when the disk breaks, both are lost</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>If this computer is lost, the backups on “%1” cannot be read without a recovery key.</translation>

@@ -787,6 +787,10 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>Clave de recuperación aún sin guardar</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>La carpeta “%1” también está en este disco: si falla, se pierde todo</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>Si pierdes este ordenador, las copias en “%1” no se podrán leer sin una clave de recuperación.</translation>

@@ -787,6 +787,10 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>Clé de secours pas encore conservée</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>Le dossier « %1 » se trouve aussi sur ce disque : s’il tombe en panne, tout est perdu</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>Si cet ordinateur est perdu, les sauvegardes sur « %1 » sont illisibles sans clé de secours.</translation>

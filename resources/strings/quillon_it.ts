@@ -787,6 +787,10 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>Chiave di recupero non ancora conservata</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>Anche la cartella “%1” è su questo disco: se si guasta, si perde tutto</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>Se perdi questo computer, i backup su “%1” non sono leggibili senza una chiave di recupero.</translation>

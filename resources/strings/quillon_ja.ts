@@ -787,6 +787,10 @@
         <source></source>
         <translation>復旧キーはまだ保管されていません</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>フォルダ「%1」もこのディスクにあります。故障すると両方とも失われます</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>このコンピュータを失った場合、復旧キーがないと「%1」のバックアップを読み出せません。</translation>

@@ -787,6 +787,10 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>Herstelsleutel nog niet bewaard</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>De map ‘%1’ staat ook op deze schijf: als die stukgaat, zijn beide verloren</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>Als deze computer verloren gaat, zijn de reservekopieën op ‘%1’ zonder herstelsleutel niet leesbaar.</translation>

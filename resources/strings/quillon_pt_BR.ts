@@ -787,6 +787,10 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>Chave reserva ainda não guardada</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>A pasta “%1” também está neste disco: se ele falhar, tudo se perde</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>Se este computador for perdido, os backups em “%1” não poderão ser lidos sem uma chave reserva.</translation>

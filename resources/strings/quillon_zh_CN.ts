@@ -787,6 +787,10 @@
         <source></source>
         <translation>尚未保存恢复密钥</translation>
     </message>
+    <message id="disksSourceOnDisk">
+        <source></source>
+        <translation>文件夹“%1”也在此磁盘上：磁盘损坏时，两者都会丢失</translation>
+    </message>
     <message id="disksKeyBar">
         <source></source>
         <translation>如果这台电脑丢失，没有恢复密钥就无法读取“%1”上的备份。</translation>

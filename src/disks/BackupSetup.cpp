@@ -51,7 +51,8 @@ BackupDisk readBackupDisk(const QVariantMap& entry)
                     .problem = readProblem(entry.value(u"LastFailure"_s).toMap()),
                     .bytesFree = numberIn(entry, u"BytesFree"_s),
                     .bytesTotal = numberIn(entry, u"BytesTotal"_s),
-                    .recoveryKeyKept = !entry.contains(u"RecoveryKeyMissing"_s)};
+                    .recoveryKeyKept = !entry.contains(u"RecoveryKeyMissing"_s),
+                    .sourceOnDisk = entry.value(u"SourceOnDisk"_s).toString()};
     if (const QDateTime date = entry.value(u"LastBackup"_s).toDateTime(); date.isValid())
         disk.lastBackup = dateOf(date);
     return disk;

@@ -29,6 +29,7 @@ struct BackupDisk {
     std::optional<qint64> bytesFree;  ///< of one that is there
     std::optional<qint64> bytesTotal; ///< likewise
     bool recoveryKeyKept = false;
+    QString sourceOnDisk; ///< a folder that is backed up to the disk on which it lies itself; empty where there is none
 };
 
 /// What is left out of backups besides what nobody has to name.

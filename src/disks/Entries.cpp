@@ -74,6 +74,8 @@ ListEntry diskEntry(const BackupDisk& disk, std::optional<qint64> taken)
         entry.details.append(room);
     if (disk.problem)
         entry.remarks.append(problemOf(*disk.problem));
+    if (!disk.sourceOnDisk.isEmpty())
+        entry.remarks.append(localizedString("disksSourceOnDisk").arg(shownName(disk.sourceOnDisk)));
     if (!disk.recoveryKeyKept)
         entry.remarks.append(localizedString("disksKeyNotKept"));
     return entry;

@@ -47,7 +47,7 @@ void destinationInfo(const Folders& folders, bool xml)
     const Configuration configuration(folders);
     const History history(folders.state);
     const KeyStore keys(folders.configuration);
-    print(xml ? destinationXml(configuration.destinations(), history, keys)
+    print(xml ? destinationXml(configuration, history, keys)
               : destinationText(configuration.destinations(), history, keys));
 }
 

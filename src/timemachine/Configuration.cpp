@@ -91,6 +91,16 @@ QStringList Configuration::sources() const
     return named.isEmpty() ? QStringList(folders_.home) : named;
 }
 
+QString Configuration::sourceOnDisk(const QString& path, const MountTable& mounts) const
+{
+    for (const QString& source : sources()) {
+        // The others were free of links when they were added.
+        if (mounts.haveOneFileSystem(source == folders_.home ? resolvedPath(source) : source, path))
+            return source;
+    }
+    return {};
+}
+
 Destination Configuration::setDestination(const QString& path, bool append, const Opens& opens)
 {
     const QString folder = existingFolder(path);

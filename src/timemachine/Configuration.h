@@ -2,6 +2,7 @@
 
 #include "Destination.h"
 #include "Folders.h"
+#include "MountTable.h"
 #include "Retention.h"
 
 #include <QStringList>
@@ -28,6 +29,9 @@ public:
 
     /// The folders to back up: the home folder until the user names some.
     QStringList sources() const;
+
+    /// The first of them that lies on the disk at that path, where a backup is lost with it; empty where none does.
+    QString sourceOnDisk(const QString& path, const MountTable& mounts = MountTable::current()) const;
 
     /// Makes that folder the only backup disk, or adds it to those there are. A folder that already held backups of
     /// this user becomes the same destination again; `opens` tells whether the key that is kept for a repository opens

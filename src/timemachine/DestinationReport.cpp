@@ -1,5 +1,6 @@
 #include "DestinationReport.h"
 
+#include "Configuration.h"
 #include "Failure.h"
 #include "History.h"
 #include "KeyStore.h"
@@ -29,10 +30,11 @@ QByteArray destinationText(const std::vector<Destination>& destinations, const H
     return text.toUtf8();
 }
 
-QByteArray destinationXml(const std::vector<Destination>& destinations, const History& history, const KeyStore& keys)
+QByteArray destinationXml(const Configuration& configuration, const History& history, const KeyStore& keys,
+                          const MountTable& mounts)
 {
     QVariantList entries;
-    for (const Destination& destination : destinations) {
+    for (const Destination& destination : configuration.destinations()) {
         QVariantMap entry{{u"ID"_s, destination.id},
                           {u"Name"_s, destination.name},
                           {u"Kind"_s, u"Local"_s},
@@ -43,6 +45,8 @@ QByteArray destinationXml(const std::vector<Destination>& destinations, const Hi
             const QStorageInfo room(destination.path);
             entry.insert(u"BytesFree"_s, room.bytesAvailable());
             entry.insert(u"BytesTotal"_s, room.bytesTotal());
+            if (const QString source = configuration.sourceOnDisk(destination.path, mounts); !source.isEmpty())
+                entry.insert(u"SourceOnDisk"_s, source);
         }
         if (const QVariantMap failure = history.lastFailure(destination.id); !failure.isEmpty())
             entry.insert(u"LastFailure"_s, failure);

@@ -43,13 +43,26 @@ MountTable MountTable::current()
     return MountTable(table.open(QIODevice::ReadOnly) ? table.readAll() : QByteArray());
 }
 
-QStringList MountTable::foreignMountPointsIn(const QString& folder) const
+const MountTable::Mount* MountTable::around(const QString& path) const
 {
     const Mount* around = nullptr; // the last one counts where one lies over another
     for (const Mount& mount : mounts_) {
-        if (covers(mount.point, folder) && (around == nullptr || around->point.size() <= mount.point.size()))
+        if (covers(mount.point, path) && (around == nullptr || around->point.size() <= mount.point.size()))
             around = &mount;
     }
+    return around;
+}
+
+bool MountTable::haveOneFileSystem(const QString& one, const QString& other) const
+{
+    const Mount* const first = around(one);
+    const Mount* const second = around(other);
+    return first != nullptr && second != nullptr && first->device == second->device;
+}
+
+QStringList MountTable::foreignMountPointsIn(const QString& folder) const
+{
+    const Mount* const around = this->around(folder);
     QStringList points;
     for (const Mount& mount : mounts_) {
         if (mount.point != folder && covers(folder, mount.point) && around != nullptr && mount.device != around->device)

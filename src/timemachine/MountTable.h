@@ -18,11 +18,16 @@ public:
     /// that are mounted by themselves, as subvolumes are, are not among them.
     QStringList foreignMountPointsIn(const QString& folder) const;
 
+    /// Whether two paths lie on one file system. Neither is looked at, for a disk that hangs would block that.
+    bool haveOneFileSystem(const QString& one, const QString& other) const;
+
 private:
     struct Mount {
         QString point;
         QByteArray device;
     };
+    const Mount* around(const QString& path) const;
+
     std::vector<Mount> mounts_;
 };
 

@@ -18,7 +18,6 @@
 #include <csignal>
 #include <cstdio>
 #include <functional>
-#include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -102,19 +101,6 @@ bool hasUnknownRepositories(const Destination& destination, const Folders& folde
     });
 }
 
-/// A backup beside the only copy goes with it.
-QStringList sourcesOnSameDisk(const Configuration& configuration, const QString& path)
-{
-    struct stat disk {};
-    stat(QFile::encodeName(path).constData(), &disk);
-    QStringList same = configuration.sources();
-    same.removeIf([&disk](const QString& source) {
-        struct stat folder {};
-        return stat(QFile::encodeName(source).constData(), &folder) != 0 || folder.st_dev != disk.st_dev;
-    });
-    return same;
-}
-
 /// One line, which a terminal does not show.
 QString readSecret()
 {
@@ -146,10 +132,10 @@ void setDestination(const Folders& folders, const QString& path, bool append)
     Configuration configuration(folders, Configuration::IfLost::BeginAnew);
     const Destination destination = configuration.setDestination(
         path, append, [&folders](const Destination& found) { return isOpenedByKey(found, folders); });
-    if (const QStringList same = sourcesOnSameDisk(configuration, destination.path); !same.isEmpty())
+    if (const QString source = configuration.sourceOnDisk(destination.path); !source.isEmpty())
         printForPeople(
             QStringList(u"\"%1\" is on the same disk as \"%2\": when that breaks, the backups are lost with it."_s.arg(
-                destination.path, same.first())));
+                destination.path, source)));
     if (hasUnknownRepositories(destination, folders))
         printForPeople(QStringList(
             u"This disk also has backups whose key is not on this computer. If they are yours, \"tmutil adopt "

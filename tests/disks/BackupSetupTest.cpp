@@ -26,7 +26,7 @@ TEST(BackupSetup, ADiskThatIsNotThereHasAPathButNoMountPoint)
     const auto disks = readBackupDisks(xml(R"(<dict><key>Destinations</key><array>
 <dict><key>ID</key><string>A</string><key>Name</key><string>One &amp; two</string><key>Path</key><string>/m/1</string>
 <key>MountPoint</key><string>/m/1</string><key>LastBackup</key><date>2026-11-21T07:22:58Z</date>
-<key>BytesFree</key><integer>2500000000</integer><key>BytesTotal</key><integer>2000000000000</integer>
+<key>SourceOnDisk</key><string>/home/you</string><key>BytesFree</key><integer>2500000000</integer><key>BytesTotal</key><integer>2000000000000</integer>
 <key>LastFailure</key><dict><key>Date</key><string>2026-11-21 07:22:58 +0000</string>
 <key>Description</key><string>The disk "1" is full.</string></dict></dict>
 <dict><key>ID</key><string>B</string><key>Name</key><string>Away</string><key>Path</key><string>/m/2</string>
@@ -46,7 +46,8 @@ TEST(BackupSetup, ADiskThatIsNotThereHasAPathButNoMountPoint)
     EXPECT_TRUE(here.details.last().contains(localizedString("disksRoom").arg(u"2.5 GB"_s, u"2.0 TB"_s)) &&
                 here.details.last().contains(localizedString("disksTaken").arg(u"1.5 MB"_s)))
         << here.details.last().toStdString();
-    ASSERT_EQ(here.remarks.size(), 1);
+    ASSERT_EQ(here.remarks.size(), 2);
+    EXPECT_EQ(here.remarks.last(), localizedString("disksSourceOnDisk").arg(u"you"_s));
     EXPECT_TRUE(here.remarks.first().endsWith(u"The disk \"1\" is full."_s));
     EXPECT_EQ(diskEntry(disks->back(), std::nullopt).remarks, QStringList(localizedString("disksKeyNotKept")));
 }

@@ -368,9 +368,11 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
         return snapshot;
     };
     const QString name = backup(u"b"_s).name();
+    const MountTable mounts("22 1 8:1 / / rw - ext4 /dev/sda1 rw\n30 22 8:17 / " +
+                            QString(first.path).replace(u" "_s, u"\\040"_s).toUtf8() + " rw - ext4 /dev/sdb1 rw\n");
     history.setBackups(second.id, {backup(u"made elsewhere"_s), backup(u"b"_s)}, name, 7);
     history.setBackups(second.id, {backup(u"b"_s), backup(u"c"_s)}, backup(u"c"_s).name(), 9);
-    const auto xml = propertylist::parse(destinationXml(destinations(), history, keys));
+    const auto xml = propertylist::parse(destinationXml(Configuration(folders_), history, keys, mounts));
     ASSERT_TRUE(xml);
     const QVariantList entries = xml->toMap().value(u"Destinations"_s).toList();
     ASSERT_EQ(entries.size(), 2);
@@ -399,7 +401,10 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     Destination forged = second;
     forged.name = u"2\u009B1A\nID"_s; // what moves the cursor, and what begins a line
     EXPECT_TRUE(destinationText({forged}, history, keys).contains("\nName          : 2 1A ID\n"));
-    EXPECT_TRUE(destinationXml({forged}, history, keys).contains("2\u009B1A\nID"));
+    Configuration(folders_).takeUp(forged);
+    EXPECT_TRUE(destinationXml(Configuration(folders_), history, keys, mounts).contains("2\u009B1A\nID"));
+    const auto onOne = propertylist::parse(destinationXml(Configuration(folders_), history, keys));
+    EXPECT_EQ(onOne->toMap().value(u"Destinations"_s).toList()[0].toMap().value(u"SourceOnDisk"_s), root_.path());
     testing::internal::CaptureStdout();
     printForPeople({forged.name});
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "2 1A ID\n");
