@@ -190,17 +190,14 @@ void Backup::findLostBackups()
     history_.setLastPrune(destination_.id, QDateTime::currentDateTimeUtc());
 }
 
-/// A folder that is there and that restic cannot save is one of which the disk holds a damaged record: restic takes
-/// that for the folder's contents, and would leave them out.
+/// What has been damaged of them is no part of the new backup.
 void Backup::findUnsavedFolders(const QStringList& unread)
 {
     if (!history_.damage(destination_.id))
         return;
-    for (const QString& path : unread) {
-        if (const QFileInfo folder(path); folder.isDir() && folder.isReadable() && folder.isExecutable())
-            remark_.lostSources.append(
-                u"The folder \"%1\" could not be saved, since what the disk has of it is damaged."_s.arg(path));
-    }
+    for (const QString& folder : readableFolders(unread))
+        remark_.lostSources.append(
+            u"The folder \"%1\" could not be saved, since what the disk has of it is damaged."_s.arg(folder));
 }
 
 /// On its first backup nothing tells that a source should hold something, but what lies in it does.

@@ -1,5 +1,7 @@
 #include "DroppedFolders.h"
 
+#include <QFileInfo>
+
 namespace quillon {
 
 QStringList droppedFolders(QVariantMap& judged, const QStringList& leftOut,
@@ -14,6 +16,16 @@ QStringList droppedFolders(QVariantMap& judged, const QStringList& leftOut,
     QStringList dropped = leftOut;
     dropped.removeIf([&judged](const QString& folder) { return !judged.value(folder).toBool(); });
     return dropped;
+}
+
+QStringList readableFolders(const QStringList& unread)
+{
+    QStringList folders = unread;
+    folders.removeIf([](const QString& path) {
+        const QFileInfo folder(path);
+        return !folder.isDir() || !folder.isReadable() || !folder.isExecutable();
+    });
+    return folders;
 }
 
 } // namespace quillon

@@ -13,4 +13,8 @@ namespace quillon {
 QStringList droppedFolders(QVariantMap& judged, const QStringList& leftOut,
                            const std::function<QStringList(const QStringList& folders)>& held);
 
+/// Of the paths that restic could not save the folders that are there to be read. It can't be they that kept it from
+/// that: where the disk has a damaged record of one, restic takes it for the folder's contents.
+QStringList readableFolders(const QStringList& unread);
+
 } // namespace quillon

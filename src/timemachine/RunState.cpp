@@ -63,8 +63,9 @@ std::optional<RunState> RunState::current(const QString& stateFolder)
         throw Failure(ExitStatus::StateDamaged,
                       u"The state of the backup, \"%1\", cannot be read."_s.arg(file(stateFolder)));
     auto state = fromDictionary(contents);
-    // A worker that has the lock but not yet a state, or no longer, has not begun or is done.
-    if (!state || state->worker != *holder)
+    // A worker that has the lock but not yet a state, or no longer, has not begun or is done. The kernel gives no
+    // process out of reach a number, and to a signal 0 and -1 stand for many.
+    if (!state || state->worker != *holder || *holder <= 0)
         return std::nullopt;
     return state;
 }

@@ -27,6 +27,7 @@ TEST(RestoreErrors, TellDamageFromWhatTheTargetRefuses)
          false},
         {"ignoring error for /a/Notes: 2023.txt: lchown /t/a/Notes: operation not permitted", {}, {}, true},
         {"ignoring error for /a: xattr.LSet /t/a user.x: no space left on device", {}, {}, true},
+        {"ignoring error for /a/deep: open /t/a/deep: file name too long", {u"/a/deep"_s}, {}, false},
         {"Fatal: There were 1 errors", {}, {}, false},
         {"ignoring error for /a/two\nlines: x: unknown blob\nignoring error for /a/Gr\xFC\xDF"
          "e: bad\nFatal: There were 2 errors",
