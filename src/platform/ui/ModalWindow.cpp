@@ -20,9 +20,16 @@ bool bringModalWindowToFront()
 
 void letClicksThrough(QWidget& window)
 {
+    QWindow* modal = QGuiApplication::modalWindow();
+    if (!modal->isVisible()) // it blocks others until it is all gone
+        return;
     // Qt blocks no window that belongs to the modal one. Window systems are told of that when a window comes up, and
     // this one is up.
-    window.windowHandle()->setTransientParent(QGuiApplication::modalWindow());
+    QWindow* own = window.windowHandle();
+    own->setTransientParent(modal);
+    // Under Wayland Qt closes what belongs to a window that goes.
+    QObject::connect(
+        modal, &QWindow::visibleChanged, own, [own] { own->setTransientParent(nullptr); }, Qt::SingleShotConnection);
 }
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include "host/Waiting.h"
 #include "host/WaylandCompositor.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <algorithm>
@@ -389,6 +390,13 @@ TEST(StatusItemOnWayland, IsASmallWindowWithATitleUntilThereIsATray)
     ASSERT_TRUE(eventually([&] { return opened() == before + 1; }));
     probe.tell(u"press"_s);
     EXPECT_TRUE(eventually([&] { return opened() == before + 2; }));
+    const auto closed = [&] {
+        return QString::fromUtf8(compositor.messages()).count(QRegularExpression(u"xdg_toplevel@\\d+\\.destroy"_s));
+    };
+    const auto closedBefore = closed();
+    probe.tell(u"answer"_s);
+    EXPECT_TRUE(eventually([&] { return closed() == closedBefore + 1; }));
+    EXPECT_TRUE(probe.bar()) << "the alert's end takes nothing along";
 
     FakeStatusNotifierTray tray(bus.connect(u"desktop"_s));
     EXPECT_TRUE(eventually([&] { return tray.items().size() == 1 && !probe.bar(); }));

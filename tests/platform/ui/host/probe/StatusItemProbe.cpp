@@ -40,7 +40,7 @@ QJsonObject screenState(const quillon::StatusItem& item, const QMenu& menu, cons
         state[u"icon"_s] = toJson(icon);
     const auto widgets = QApplication::topLevelWidgets();
     for (const QWidget* widget : widgets) {
-        if (widget->objectName() == "MenuBarWindow"_L1 && widget->isVisible())
+        if (widget->objectName() == "MenuBarWindow"_L1 && widget->isVisible() && !widget->isMinimized())
             state[u"bar"_s] = toJson(widget->geometry());
     }
     return state;
@@ -63,6 +63,8 @@ void obey(const QString& line, quillon::StatusItem& item, quillon::AlertPresente
         alerts.present({.messageText = u"Alert"_s, .informativeText = {}, .buttons = {}}, {});
     else if (command == "minimize"_L1)
         QApplication::activeModalWidget()->showMinimized();
+    else if (command == "answer"_L1)
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
     else if (command == "press"_L1)
         QTest::keyClick(item.anchor().view, Qt::Key_Space);
 }
