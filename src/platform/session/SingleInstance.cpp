@@ -28,6 +28,8 @@ constexpr auto pauseBetweenTries = 20ms;
 
 constexpr auto present = "present";
 constexpr qint64 longestRequest = 64;
+constexpr qint64 longestToken = 512;
+constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
 constexpr QByteArrayView confirmation("presenting\n");
 
 constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
@@ -40,6 +42,24 @@ QString runtimeFolder()
         return {};
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
 }
+
+/// What the desktop has given this start, so that a window of it may come to the front: xdg-activation under Wayland.
+/// Desktops that don't know it yet take the identifier of the startup notification for one.
+QByteArray activationToken()
+{
+    const QByteArray token = qgetenv(tokenVariable);
+    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+/// Qt shows the token to the compositor with the next window that it brings to the front. A token serves once, and is
+/// of no use to programs that are started later.
+class TokenInEnvironment {
+public:
+    explicit TokenInEnvironment(const QByteArray& token) { qputenv(tokenVariable, token); }
+    TokenInEnvironment(const TokenInEnvironment&) = delete;
+    TokenInEnvironment& operator=(const TokenInEnvironment&) = delete;
+    ~TokenInEnvironment() { qunsetenv(tokenVariable); }
+};
 
 /// A name for the folder's socket. The folder's own path may be longer than the 104 bytes (macOS) or 108 bytes (Linux)
 /// that the address of a socket holds, unix(4) and unix(7).
@@ -136,6 +156,7 @@ void SingleInstance::answer(QLocalSocket& client)
     if (!client.canReadLine() && client.bytesAvailable() < longestRequest)
         return;
     const QByteArray request = client.readLine(longestRequest).trimmed();
+    const QByteArray token = client.canReadLine() ? client.readLine(longestToken).trimmed() : QByteArray();
     if (request != present && !requests_.contains(request)) {
         client.abort();
         return;
@@ -144,6 +165,7 @@ void SingleInstance::answer(QLocalSocket& client)
     client.write(confirmation.data(), confirmation.size());
     client.flush();
     client.disconnectFromServer();
+    const TokenInEnvironment shown(token);
     if (request == present)
         Q_EMIT presentRequested();
     else
@@ -176,7 +198,8 @@ bool SingleInstance::ask(const QByteArray& request, const QDeadlineTimer& deadli
     first.connectToServer(QFile::decodeName(address.readAll()));
     if (!first.waitForConnected(remaining()) || !isPeerOwnUser(first.socketDescriptor()))
         return false;
-    first.write(request + '\n');
+    // In a line of its own, which earlier versions leave unread.
+    first.write(request + '\n' + activationToken() + '\n');
     while (first.bytesAvailable() < confirmation.size()) {
         if (!first.waitForReadyRead(remaining()))
             return false;

@@ -18,7 +18,8 @@ namespace quillon {
 ///
 /// The claim is a kernel lock on a file in the folder: it ends with the process, however that ends. The file names the
 /// socket over which a later start of the same user asks the first instance to present itself. Where the system turns a
-/// second start into a message to the first instance, that message counts as the same request.
+/// second start into a message to the first instance, that message counts as the same request. With the request comes
+/// the token by which the later start could have come to the front; while the signal's slots run it is the first's.
 class SingleInstance final : public QObject {
     Q_OBJECT
 

@@ -28,7 +28,8 @@ int main(int argc, char** argv)
         say(instance.askFirst(request) ? u"presented"_s : u"refused: "_s + instance.errorString());
         return 0;
     }
-    QObject::connect(&instance, &quillon::SingleInstance::presentRequested, [] { say(u"present"_s); });
+    QObject::connect(&instance, &quillon::SingleInstance::presentRequested,
+                     [] { say((u"present "_s + qEnvironmentVariable("XDG_ACTIVATION_TOKEN")).trimmed()); });
     QObject::connect(&instance, &quillon::SingleInstance::requested,
                      [](const QByteArray& wanted) { say(QString::fromUtf8(wanted)); });
     if (application.arguments().contains(u"--leave-child"_s)) {

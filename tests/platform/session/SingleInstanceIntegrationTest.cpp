@@ -99,6 +99,21 @@ TEST_F(SingleInstanceIntegrationTest, ASecondStartPassesOnWhatItIsForAndNothingU
     EXPECT_EQ(unknown.says(), u"refused: another instance runs on the folder "_s + folder);
 }
 
+TEST_F(SingleInstanceIntegrationTest, ASecondStartGivesItsActivationTokenAwayOnce)
+{
+    Instance first(folder);
+    ASSERT_EQ(first.says(), u"first"_s);
+    for (const char* variable : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
+        {
+            const ScopedEnvironment launched(variable, "shell-1_TIME42");
+            EXPECT_EQ(Instance(folder).says(), u"presented"_s);
+        }
+        EXPECT_EQ(first.says(), u"present shell-1_TIME42"_s) << variable;
+        EXPECT_EQ(Instance(folder).says(), u"presented"_s);
+        EXPECT_EQ(first.says(), u"present"_s) << variable;
+    }
+}
+
 TEST_F(SingleInstanceIntegrationTest, ACrashLeavesNothingInTheWay)
 {
     Instance first(folder, {u"--leave-child"_s});
