@@ -8,8 +8,11 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <QTimer>
 
+#include <chrono>
 #include <memory>
+#include <utility>
 
 namespace quillon {
 
@@ -25,6 +28,8 @@ constexpr auto appearanceGroup = "org.freedesktop.appearance"_L1;
 constexpr auto colorSchemeKey = "color-scheme"_L1;
 constexpr auto readOne = "ReadOne"_L1;
 constexpr auto read = "Read"_L1; // before version 2 of the interface
+
+constexpr std::chrono::seconds patience{1};
 
 constexpr QRgb selection = 0x2f6fde;
 
@@ -72,6 +77,8 @@ ColorScheme::ColorScheme(const QDBusConnection& bus)
     : bus_(bus)
     , portal_(portalService, bus, QDBusServiceWatcher::WatchForRegistration)
 {
+    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains("GNOME"_L1))
+        readGnomeSetting();
     if (!bus_.isConnected())
         return;
     bus_.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, this,
@@ -119,10 +126,41 @@ void ColorScheme::take(const QVariant& value)
     const auto preference = number.toUInt() == 1   ? ColorSchemePreference::Dark
                             : number.toUInt() == 2 ? ColorSchemePreference::Light
                                                    : ColorSchemePreference::None;
+    answered_ = true;
+    set(preference);
+}
+
+void ColorScheme::set(ColorSchemePreference preference)
+{
     if (preference == preference_)
         return;
     preference_ = preference;
     Q_EMIT changed(preference_);
+}
+
+void ColorScheme::readGnomeSetting()
+{
+    gnomeSetting_ = new QProcess(this);
+    connect(gnomeSetting_, &QProcess::finished, this, &ColorScheme::takeGnomeSetting);
+    connect(gnomeSetting_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            takeGnomeSetting();
+    });
+    QTimer::singleShot(patience, gnomeSetting_, &QProcess::kill); // reading takes a few hundredths of a second
+    gnomeSetting_->start(u"gsettings"_s, {u"get"_s, u"org.gnome.desktop.interface"_s, u"color-scheme"_s},
+                         QIODevice::ReadOnly);
+}
+
+void ColorScheme::takeGnomeSetting()
+{
+    QProcess* read = std::exchange(gnomeSetting_, nullptr);
+    read->deleteLater();
+    const QByteArray value = read->readAllStandardOutput();
+    if (!answered_)
+        set(value.contains("prefer-dark")    ? ColorSchemePreference::Dark
+            : value.contains("prefer-light") ? ColorSchemePreference::Light
+                                             : ColorSchemePreference::None);
+    Q_EMIT known();
 }
 
 void applyColorScheme(ColorSchemePreference preference)

@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
 #include <QObject>
+#include <QProcess>
 
 namespace quillon {
 
@@ -11,8 +12,8 @@ namespace quillon {
 enum class ColorSchemePreference { None = 0, Dark = 1, Light = 2 };
 
 /// The colour scheme that the user has asked the desktop for, as the settings portal tells it; none without a portal.
-/// A portal that comes later, or again, is asked then.
-/// Main thread only; asks and listens, never waits.
+/// A portal that comes later, or again, is asked then. GNOME's portal takes seconds to come up at log-in, so its
+/// setting is read as well, and holds until the portal says anything. Main thread only; asks and listens, never waits.
 class ColorScheme final : public QObject {
     Q_OBJECT
 
@@ -20,8 +21,12 @@ public:
     explicit ColorScheme(const QDBusConnection& bus);
 
     ColorSchemePreference preference() const { return preference_; }
+    /// False for the moment in which GNOME's setting is read. The frame of a window that comes up keeps its colours.
+    bool isKnown() const { return !gnomeSetting_; }
 
 Q_SIGNALS:
+    /// isKnown() has become true; after changed(), if that is due.
+    void known();
     void changed(quillon::ColorSchemePreference preference);
 
 private Q_SLOTS:
@@ -29,12 +34,17 @@ private Q_SLOTS:
 
 private:
     void ask(const QString& method);
+    void readGnomeSetting();
+    void takeGnomeSetting();
+    void set(ColorSchemePreference preference);
     void take(const QVariant& value);
 
     QDBusConnection bus_;
     QDBusServiceWatcher portal_;
     ColorSchemePreference preference_ = ColorSchemePreference::None;
-    bool told_ = false; ///< a change was announced; an answer that is still under way is older
+    QProcess* gnomeSetting_ = nullptr; ///< reads it
+    bool answered_ = false;            ///< by a portal
+    bool told_ = false;                ///< a change was announced; an answer that is still under way is older
 };
 
 /// Gives the application's palette the preferred scheme where the desktop's own palette does not have it already. A

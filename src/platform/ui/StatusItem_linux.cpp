@@ -54,6 +54,7 @@ LinuxStatusItem::LinuxStatusItem(StatusItemPlacement placement)
 {
     applyColorScheme(colorScheme_.preference());
     connect(&colorScheme_, &ColorScheme::changed, this, applyColorScheme);
+    connect(&colorScheme_, &ColorScheme::known, this, &LinuxStatusItem::choose);
     connect(&statusNotifierHost_, &StatusNotifierHostWatcher::changed, this, &LinuxStatusItem::choose);
     connect(&xembedHost_, &XEmbedHostWatcher::changed, this, &LinuxStatusItem::choose);
     barDelay_.setSingleShot(true);
@@ -97,6 +98,8 @@ void LinuxStatusItem::choose()
 {
     if (placement_ != StatusItemPlacement::Bar && !statusNotifierHost_.isKnown())
         return; // a bar that gives way at once would only flash
+    if (!colorScheme_.isKnown())
+        return;
     StatusItemFace* const chosen = chosenFace();
     if (face_ == chosen)
         return;

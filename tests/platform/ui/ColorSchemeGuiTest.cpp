@@ -1,14 +1,17 @@
 #include "ColorScheme_linux.h"
+#include "ScopedEnvironment.h"
 #include "SystemColor.h"
 #include "host/FakeSettingsPortal.h"
 #include "host/PrivateBus.h"
 #include "host/Waiting.h"
 
 #include <QCheckBox>
+#include <QFile>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -53,6 +56,29 @@ TEST_P(ColorSchemeTest, IsReadFromAndFollowsThePortal)
     portal.reset();
     portal.emplace(connection(u"portal"_s), 1, GetParam());
     EXPECT_TRUE(eventually([&] { return scheme.preference() == Dark; })) << "a portal that comes later is asked";
+}
+
+TEST_P(ColorSchemeTest, IsGnomesSettingUntilAPortalSpeaks)
+{
+    const QTemporaryDir programs;
+    QFile gsettings(programs.filePath(u"gsettings"_s));
+    ASSERT_TRUE(gsettings.open(QIODevice::WriteOnly));
+    gsettings.write(
+        "#!/bin/sh\n[ \"$*\" = 'get org.gnome.desktop.interface color-scheme' ] && echo \"'prefer-dark'\"\n");
+    gsettings.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    gsettings.close();
+    const ScopedEnvironment path("PATH", QFile::encodeName(programs.path()));
+    {
+        const ScopedEnvironment desktop("XDG_CURRENT_DESKTOP", "sway");
+        EXPECT_TRUE(ColorScheme(connection(u"reader"_s)).isKnown());
+    }
+    const ScopedEnvironment desktop("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+    ColorScheme scheme(connection(u"reader"_s));
+    EXPECT_FALSE(scheme.isKnown());
+    EXPECT_TRUE(eventually([&] { return scheme.isKnown(); }));
+    EXPECT_EQ(scheme.preference(), Dark);
+    const FakeSettingsPortal portal(connection(u"portal"_s), 2, GetParam());
+    EXPECT_TRUE(eventually([&] { return scheme.preference() == Light; }));
 }
 
 INSTANTIATE_TEST_SUITE_P(Portals, ColorSchemeTest, testing::Values(Version::Current, Version::Old),
