@@ -53,6 +53,15 @@ bool isInput(QEvent::Type type)
     }
 }
 
+/// Makes a window active whose keys come to another one of the program.
+void activateInProgram(QWidget& window)
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // Qt has nothing in its place for windows that no window system gives the keyboard
+        QApplication::setActiveWindow(&window);
+    QT_WARNING_POP
+}
+
 } // namespace
 
 Popover::Popover(QWidget* parent)
@@ -103,7 +112,7 @@ void Popover::showRelativeTo(const PopoverAnchor& anchor, RectEdge preferredEdge
     place();
     if (appears)
         appear();
-    bringToFront(*this);
+    takeKeyboard();
     if (appears)
         Q_EMIT didShow();
 }
@@ -114,8 +123,12 @@ void Popover::close()
         return;
     shown_ = false;
     auto* parent = anchor_.view ? qobject_cast<Popover*>(anchor_.view->window()) : nullptr;
-    if (parent && parent->isShown() && QApplication::activeWindow() == this)
-        parent->activateWindow();
+    if (parent && parent->isShown() && QApplication::activeWindow() == this) {
+        if (isPlacedByCompositor_)
+            activateInProgram(*parent);
+        else
+            parent->activateWindow();
+    }
     if (!animates_ || !windowsFade()) {
         hide();
         return;
@@ -128,6 +141,10 @@ void Popover::close()
 /// A compositor may have come or gone since the popover was shown last, and windows don't change their kind.
 void Popover::adaptToDisplay()
 {
+    // Compositors place popups at their parents. Those of Qt's popup type also take the pointer, which needs a click
+    // that is not long ago, and end with the next one anywhere; tool tips do neither.
+    isPlacedByCompositor_ = !windowsCanBePlaced() && anchor_.view && qobject_cast<Popover*>(anchor_.view->window());
+    setWindowFlags((windowFlags() & ~Qt::WindowType_Mask) | (isPlacedByCompositor_ ? Qt::ToolTip : Qt::Tool));
     const bool translucent = windowsAreTranslucent();
     if (translucent != translucent_) {
         destroy();
@@ -161,17 +178,32 @@ void Popover::appear()
         focusNextChild();
 }
 
+void Popover::comeBack()
+{
+    if (!shown_ || isVisible() || !anchor_.view || !anchor_.view->isVisible())
+        return;
+    appear();
+    takeKeyboard();
+}
+
+void Popover::takeKeyboard()
+{
+    if (isPlacedByCompositor_)
+        activateInProgram(*this);
+    else
+        bringToFront(*this);
+}
+
 void Popover::place()
 {
-    if (!shown_ || !windowsCanBePlaced())
+    if (!shown_ || !(windowsCanBePlaced() || isPlacedByCompositor_))
         return;
     const QRect anchor = currentAnchor();
-    const QScreen* screen = screenOfAnchor(anchor);
-    if (!screen) // for a moment, while monitors are exchanged
+    const QRect available = roomAround(anchor);
+    if (available.isEmpty()) // for a moment, while monitors are exchanged
         return;
-    connect(screen, &QScreen::availableGeometryChanged, this, &Popover::place, Qt::UniqueConnection);
     const QRect own = body();
-    const auto [target, arrow] = popoverPlacement(anchor, own.size(), screen->availableGeometry(), preferredEdge_);
+    const auto [target, arrow] = popoverPlacement(anchor, own.size(), available, preferredEdge_);
     arrow_ = arrow;
     move(target.topLeft() - own.topLeft());
     if (body() != own) // moving has let a larger content in, and so has placed the popover anew
@@ -179,6 +211,20 @@ void Popover::place()
     if (!translucent_)
         setMask(QRegion(popoverOutline(own, arrow_).toFillPolygon().toPolygon()));
     update();
+}
+
+/// Where the popover may lie.
+QRect Popover::roomAround(const QRect& anchor)
+{
+    if (isPlacedByCompositor_ && anchor_.view) { // which knows of the screen, but may part arrow and anchor
+        const QWidget* parent = anchor_.view->window();
+        return {parent->mapToGlobal(QPoint()), parent->size()};
+    }
+    const QScreen* screen = screenOfAnchor(anchor);
+    if (!screen)
+        return {};
+    connect(screen, &QScreen::availableGeometryChanged, this, &Popover::place, Qt::UniqueConnection);
+    return screen->availableGeometry();
 }
 
 /// A view that goes away leaves behind where it was last.
@@ -247,14 +293,32 @@ void Popover::closeIfLeft()
 bool Popover::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate) {
-        if (Popover* front = child())
-            front->activateWindow();
+        if (Popover* front = child()) {
+            if (front->isPlacedByCompositor_)
+                activateInProgram(*front);
+            else
+                front->activateWindow();
+        }
     }
     return QWidget::event(event);
 }
 
+/// Compositors leave the keyboard with the parent of what they place.
+bool Popover::passKeyOn(QObject* watched, QEvent* event)
+{
+    const auto type = event->type();
+    const bool isKey = type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::ShortcutOverride;
+    if (!isKey || !isPlacedByCompositor_ || !anchor_.view || !watched->isWidgetType() ||
+        static_cast<QWidget*>(watched)->window() != anchor_.view->window())
+        return false;
+    QCoreApplication::sendEvent(focusWidget() ? focusWidget() : this, event);
+    return true;
+}
+
 bool Popover::eventFilter(QObject* watched, QEvent* event)
 {
+    if (shown_ && passKeyOn(watched, event))
+        return true;
     // What fades out takes no second click.
     if (!shown_)
         return isInput(event->type()) && watched->isWidgetType() && contains(static_cast<QWidget*>(watched));
@@ -287,6 +351,11 @@ void Popover::hideEvent(QHideEvent* event)
 {
     if (event->spontaneous())
         return;
+    if (shown_ && isPlacedByCompositor_ && behavior_ == PopoverBehavior::ApplicationDefined) {
+        // Some compositors close what they have placed when the user clicks elsewhere.
+        QMetaObject::invokeMethod(this, &Popover::comeBack, Qt::QueuedConnection);
+        return;
+    }
     shown_ = false;
     fade_.stop();
     qApp->removeEventFilter(this);

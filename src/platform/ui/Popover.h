@@ -29,7 +29,8 @@ struct PopoverAnchor {
 /// that has no room, follows the size of its content and the place of its anchor, and takes the keyboard when it is
 /// shown. A child popover, one whose anchor lies inside this one, keeps a transient popover open and has the keyboard
 /// before it; a menu or a combo box's list that belongs to it or an application-modal window keep it open too. Where a
-/// program cannot place windows (Wayland) it has no arrow and is a child of its anchor's window. Main thread only.
+/// program cannot place windows (Wayland) it has no arrow and is a child of its anchor's window; only a child popover
+/// is placed there too, by the compositor. Main thread only.
 class Popover : public QWidget {
     Q_OBJECT
 
@@ -71,7 +72,11 @@ protected:
 private:
     void adaptToDisplay();
     void appear();
+    void comeBack();
+    void takeKeyboard();
+    bool passKeyOn(QObject* watched, QEvent* event);
     void place();
+    QRect roomAround(const QRect& anchor);
     QRect currentAnchor();
     QScreen* screenOfAnchor(const QRect& anchor) const;
     QRect body() const;
@@ -85,6 +90,7 @@ private:
     bool animates_ = true;
     bool shown_ = false;
     bool translucent_ = true;
+    bool isPlacedByCompositor_ = false;
     int margin_ = 0; ///< around the body, for arrow and shadow
     PopoverAnchor anchor_;
     RectEdge preferredEdge_ = RectEdge::MinY;

@@ -1,5 +1,5 @@
-// A program with one popover on an X11 display. It obeys the words on its standard input and answers each with one line
-// of JSON about the popover; it ends with its input.
+// A program with a popover, and a child of it, on an X11 display or under Wayland. It obeys the words on its standard
+// input and answers each with one line of JSON about the popover; it ends with its input.
 
 #include "Popover.h"
 #include "X11_linux.h"
@@ -9,7 +9,10 @@
 #include <QJsonObject>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSocketNotifier>
+#include <QTest>
+#include <QWindow>
 
 #include <cstdio>
 #include <iostream>
@@ -73,6 +76,10 @@ int main(int argc, char** argv)
     text->setFixedSize(200, 40);
     popover.setContentView(text);
     popover.setBehavior(quillon::PopoverBehavior::Transient);
+    quillon::Popover child;
+    auto* childButton = new QPushButton; // without a seat Qt has no input method for texts under Wayland
+    childButton->setCheckable(true);
+    child.setContentView(childButton);
 
     QSocketNotifier input(fileno(stdin), QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &application, [&] {
@@ -86,7 +93,13 @@ int main(int argc, char** argv)
         else if (word == "grow") {
             new GrowthWhileMoving(popover, *text);
             popover.showRelativeTo({.screenRect = anchor.translated(-50, 50)}, quillon::RectEdge::MinY);
-        } else if (word == "close")
+        } else if (word == "child")
+            child.showRelativeTo({.view = text}, quillon::RectEdge::MinY);
+        else if (word == "key")
+            QTest::keyClick(text, Qt::Key_Space); // as a window system does that leaves the keyboard with the parent
+        else if (word == "dismiss")
+            child.windowHandle()->close();
+        else if (word == "close")
             popover.close();
         else if (word == "composited" || word == "plain")
             setComposited(backdrop, word == "composited");
@@ -98,6 +111,7 @@ int main(int argc, char** argv)
                                 {u"opacity"_s, popover.windowOpacity()},
                                 {u"window"_s, QString::number(popover.winId())},
                                 {u"cutOff"_s, !popover.mask().boundingRect().contains(text->geometry())},
+                                {u"childPressed"_s, childButton->isChecked()},
                                 {u"x"_s, content.x()},
                                 {u"y"_s, content.y()}};
         std::cout << QJsonDocument(state).toJson(QJsonDocument::Compact).toStdString() << std::endl;

@@ -1,6 +1,7 @@
 #include "PopoverFrame.h"
 #include "host/VirtualDisplay.h"
 #include "host/Waiting.h"
+#include "host/WaylandCompositor.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -95,6 +96,26 @@ TEST_F(PopoverOnX11Test, FadesWhereThereIsACompositorAndIsCutToItsShapeWhereTher
     tell(u"plain"_s);
     tell(u"show"_s);
     EXPECT_TRUE(isCutToShape());
+}
+
+TEST(PopoverOnWayland, LetsTheCompositorPlaceAChildWhichStaysAndHasTheKeyboard)
+{
+    const WaylandCompositor compositor;
+    ChildProgram probe(QStringLiteral(POPOVER_PROBE), {}, compositor.variables());
+    const auto tell = [&probe](const QString& word) {
+        probe.process().write(word.toUtf8() + '\n');
+        return QJsonDocument::fromJson(probe.readLine().toUtf8()).object();
+    };
+    const auto placed = [&compositor] { return compositor.messages().count("get_popup"); };
+    tell(u"show"_s);
+    EXPECT_EQ(placed(), 0);
+    tell(u"child"_s);
+    EXPECT_TRUE(eventually([&] { return placed() == 1; }));
+    const QJsonObject state = tell(u"key"_s);
+    EXPECT_EQ(state[u"childPressed"_s], true);
+    EXPECT_EQ(state[u"text"_s], u""_s);
+    tell(u"dismiss"_s);
+    EXPECT_TRUE(eventually([&] { return placed() == 2; })) << "a click elsewhere answers nothing";
 }
 
 } // namespace
