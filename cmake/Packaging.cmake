@@ -47,4 +47,6 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS "ca-certificates, restic (>= 0.14), xdg-utils")
 # and the menu.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, fonts-noto-color-emoji, \
 qt6-translations-l10n, qt6-wayland")
+# GNOME has no tray without it.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "gnome-shell-extension-appindicator")
 include(CPack)
