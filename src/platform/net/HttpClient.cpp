@@ -1,9 +1,9 @@
 #include "HttpClient.h"
 
+#include "EnvironmentProxy.h"
 #include "HttpExchange.h"
 #include "RunLoop.h"
 
-#include <QHostAddress>
 #include <QPointer>
 
 #include <utility>
@@ -13,11 +13,6 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool isThisMachine(const QString& host)
-{
-    return host == "localhost"_L1 || QHostAddress(host).isLoopback();
-}
 
 bool isAllowed(const QUrl& address)
 {

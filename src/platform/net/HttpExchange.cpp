@@ -1,5 +1,6 @@
 #include "HttpExchange.h"
 
+#include "EnvironmentProxy.h"
 #include "HttpClient.h"
 #include "RunLoop.h"
 
@@ -71,6 +72,8 @@ HttpExchange::HttpExchange(FormRequest form, RunLoop& runLoop, End end, QObject*
 {
     timeout_ = runLoop.scheduleAfter(
         form_.timeout, [this] { fail(QNetworkReply::TimeoutError, u"The server did not answer in time."_s); });
+    // Redirects stay with the host, and so with its proxy.
+    manager_.setProxy(environmentProxy(form_.address, QProcessEnvironment::systemEnvironment()));
     send(form_.address);
 }
 

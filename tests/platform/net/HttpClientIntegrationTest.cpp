@@ -1,10 +1,13 @@
 #include "EventLoop.h"
 #include "HttpClient.h"
 #include "ReferenceServer.h"
+#include "ScopedEnvironment.h"
 #include "TestCertificate.h"
 #include "VirtualRunLoop.h"
 
 #include <QNetworkReply>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 #include <deque>
 #include <gtest/gtest.h>
@@ -199,6 +202,21 @@ TEST_F(HttpClientIntegrationTest, OnlyAServerWithATrustedCertificateOfItsNameIsT
     EXPECT_EQ(code(ask(otherName)), QNetworkReply::SslHandshakeFailedError) << "of another host";
     EXPECT_TRUE(server.requests().isEmpty());
     EXPECT_EQ(ask(server.url(u"/v1/Event/"_s)).body, eventAnswer);
+}
+
+TEST_F(HttpClientIntegrationTest, TheProxyOfTheEnvironmentIsAskedForTheHost)
+{
+    QTcpServer proxy;
+    ASSERT_TRUE(proxy.listen(QHostAddress::LocalHost));
+    const ScopedEnvironment variable("https_proxy", "127.0.0.1:" + QByteArray::number(proxy.serverPort()));
+    const Results& results = post(QUrl(u"https://service.invalid/v1/Event/"_s));
+    ASSERT_TRUE(runUntil([&] { return proxy.hasPendingConnections(); }));
+    QTcpSocket* asked = proxy.nextPendingConnection();
+    ASSERT_TRUE(runUntil([&] { return asked->canReadLine(); }));
+    EXPECT_EQ(asked->readLine(), "CONNECT service.invalid:443 HTTP/1.1\r\n");
+    asked->write("HTTP/1.1 403 Forbidden\r\n\r\n");
+    asked->disconnectFromHost();
+    EXPECT_NE(code(end(results)), QNetworkReply::NoError);
 }
 
 TEST_F(HttpClientIntegrationTest, RedirectsStayWithTheHostAndItsEncryption)
