@@ -7,7 +7,6 @@ from pathlib import Path
 from session import SCREEN, ask, eventually, play_dark_portal, start
 from x11 import Display
 
-BUTTONS = {"left": 1, "right": 3}
 KEYS = {"Escape": 0xff1b, "Return": 0xff0d}
 
 
@@ -80,10 +79,10 @@ class Gnome:
         self._run("global.get_window_actors().map(a => a.meta_window)"
                   ".filter(w => w.get_title() === 'Quillon').forEach(w => w.minimize())")
 
-    def click(self, x, y, button="left"):
+    def click(self, x, y):
         self._device("POINTER", f"d.notify_absolute_motion(now, {x}, {y})")
         for state in ("PRESSED", "RELEASED"):
-            self._device("POINTER", f"d.notify_button(now, {BUTTONS[button]}, Clutter.ButtonState.{state})")
+            self._device("POINTER", f"d.notify_button(now, Clutter.BUTTON_PRIMARY, Clutter.ButtonState.{state})")
 
     def key(self, name):
         self._device("KEYBOARD", f"d.notify_keyval(now, {KEYS[name]}, Clutter.KeyState.PRESSED);"

@@ -6,8 +6,6 @@ import subprocess
 
 from session import SCREEN, ask, eventually, play_dark_portal, start
 
-BUTTONS = {"left": "1", "right": "3"}
-
 
 class Display:
     """Xvfb, with pointer and keyboard through XTEST."""
@@ -24,8 +22,8 @@ class Display:
     def picture(self, file):
         ask("import", "-window", "root", file)
 
-    def click(self, x, y, button="left"):
-        ask("xdotool", "mousemove", x, y, "click", BUTTONS[button])
+    def click(self, x, y):
+        ask("xdotool", "mousemove", x, y, "click", "1")
 
     def point(self, x, y):
         ask("xdotool", "mousemove", x, y)
