@@ -18,13 +18,30 @@ if(QUILLON_SANITIZE)
   endif()
 endif()
 
-# Sources of a folder that belong to the system being built for: a file named *_linux or *_macos is one twin of a
+# Folders of a target: the current one, and those in it that are no target of their own.
+function(quillon_folders result)
+  set(folders ${CMAKE_CURRENT_SOURCE_DIR})
+  file(GLOB entries CONFIGURE_DEPENDS LIST_DIRECTORIES true ${CMAKE_CURRENT_SOURCE_DIR}/*)
+  foreach(entry ${entries})
+    if(IS_DIRECTORY ${entry} AND NOT EXISTS ${entry}/CMakeLists.txt)
+      list(APPEND folders ${entry})
+    endif()
+  endforeach()
+  set(${result} ${folders} PARENT_SCOPE)
+endfunction()
+
+# Sources of these folders that belong to the system being built for: a file named *_linux or *_macos is one twin of a
 # service whose other twin lies beside it.
-function(quillon_sources result folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+function(quillon_sources result)
+  foreach(folder ${ARGN})
+    file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    list(APPEND sources ${found})
+    if(APPLE)
+      file(GLOB found CONFIGURE_DEPENDS ${folder}/*.mm)
+      list(APPEND sources ${found})
+    endif()
+  endforeach()
   if(APPLE)
-    file(GLOB objcxx CONFIGURE_DEPENDS ${folder}/*.mm)
-    list(APPEND sources ${objcxx})
     list(FILTER sources EXCLUDE REGEX "_linux\\.(cpp|h)$")
   else()
     list(FILTER sources EXCLUDE REGEX "_macos\\.(cpp|h)$")
@@ -32,13 +49,14 @@ function(quillon_sources result folder)
   set(${result} ${sources} PARENT_SCOPE)
 endfunction()
 
-# quillon_layer(NAME LINK...): a static library of all sources in the current folder; it exposes only that folder.
+# quillon_layer(NAME LINK...): a static library of all sources in the target's folders; it exposes only those.
 function(quillon_layer name)
-  quillon_sources(sources ${CMAKE_CURRENT_SOURCE_DIR})
+  quillon_folders(folders)
+  quillon_sources(sources ${folders})
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON
     AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/resources/interface)
-  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_include_directories(${name} PUBLIC ${folders})
   target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE quillon_options)
 endfunction()
 

@@ -14,7 +14,7 @@ FORBIDDEN_HEADERS = {"quillonctl": {"DataManager.h"}}
 QT_MODULES = {"QtGui": "Qt6::Widgets", "QtWidgets": "Qt6::Widgets", "QtNetwork": "Qt6::Network", "QtDBus": "Qt6::DBus",
               "QtSvg": "Qt6::Svg"}
 # Who may ask a clock: what the run loop stands on, and programs that have none.
-WITH_CLOCK = {"platform/core", "platform/session", "platform/ui", "quillon", "quillonctl", "helper", "timemachine"}
+WITH_CLOCK = {"platform/core", "platform/session", "platform/ui", "quillon", "quillonctl", "helper", "tmutil"}
 CLOCK = re.compile(r"\b(QDateTime::current\w*|QDate::currentDate|QTime::currentTime|(?:system|steady)_clock::now"
                    r"|QTimer|QElapsedTimer|QDeadlineTimer)\b")
 SYSTEM_SWITCH = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(Q_OS_\w+|__APPLE__|__linux__)\b")
