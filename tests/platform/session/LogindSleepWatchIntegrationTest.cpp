@@ -1,7 +1,6 @@
 #include "EventLoop.h"
 #include "LogindSleepWatch_linux.h"
 #include "PlayedLogind.h"
-#include "SessionTestSupport.h"
 
 #include <QSignalSpy>
 
@@ -43,7 +42,7 @@ protected:
     PrivateBus bus;
     std::optional<PlayedLogind> logind;
     /// The program's own connection: it must not share one with the side that plays.
-    QDBusConnection client = QDBusConnection::connectToBus(bus.address(), u"client"_s);
+    QDBusConnection client = bus.connect(u"client"_s);
 
     void TearDown() override { QDBusConnection::disconnectFromBus(u"client"_s); }
 };

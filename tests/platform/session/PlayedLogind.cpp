@@ -1,7 +1,6 @@
 #include "PlayedLogind.h"
 
 #include "EventLoop.h"
-#include "SessionTestSupport.h"
 
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
@@ -22,46 +21,19 @@ constexpr auto manager = "org.freedesktop.login1.Manager"_L1;
 
 } // namespace
 
-PrivateBus::PrivateBus()
-{
-    tieToThisProcess(daemon_);
-    daemon_.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s,
-                                     u"--address=unix:path="_s + folder_.filePath(u"bus"_s)});
-    EXPECT_TRUE(runUntil([this] { return daemon_.canReadLine(); })) << "no dbus-daemon";
-    address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
-    EXPECT_TRUE(QDBusConnection::connectToBus(address_, address_).isConnected());
-}
-
-PrivateBus::~PrivateBus()
-{
-    QDBusConnection::disconnectFromBus(address_);
-    crash();
-}
-
-void PrivateBus::crash()
-{
-    daemon_.kill();
-    daemon_.waitForFinished(-1);
-}
-
 PlayedLogind::PlayedLogind(const PrivateBus& bus)
-    : bus_(bus.connection())
+    : bus_(bus.connect(u"logind"_s))
+    , mock_(u"/usr/bin/python3"_s, {u"-m"_s, u"dbusmock"_s, u"--template"_s, u"logind"_s},
+            {bus.variable().replace(u"SESSION"_s, u"SYSTEM"_s)})
 {
-    tieToThisProcess(mock_);
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, bus.address());
-    mock_.setProcessEnvironment(environment);
-    mock_.setStandardOutputFile(QProcess::nullDevice());
-    mock_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    mock_.start(u"/usr/bin/python3"_s, {u"-m"_s, u"dbusmock"_s, u"--template"_s, u"logind"_s});
     EXPECT_TRUE(runUntil([this] { return hasOwner(); })) << "no python3-dbusmock";
 }
 
 PlayedLogind::~PlayedLogind()
 {
-    mock_.kill();
-    mock_.waitForFinished(-1);
+    mock_.crash();
     EXPECT_TRUE(runUntil([this] { return !hasOwner(); }));
+    QDBusConnection::disconnectFromBus(u"logind"_s);
 }
 
 bool PlayedLogind::hasOwner() const
@@ -100,12 +72,12 @@ QStringList PlayedLogind::locks()
 
 void PlayedLogind::stop()
 {
-    ::kill(static_cast<pid_t>(mock_.processId()), SIGSTOP);
+    ::kill(static_cast<pid_t>(mock_.process().processId()), SIGSTOP);
 }
 
 void PlayedLogind::resume()
 {
-    ::kill(static_cast<pid_t>(mock_.processId()), SIGCONT);
+    ::kill(static_cast<pid_t>(mock_.process().processId()), SIGCONT);
 }
 
 } // namespace quillon

@@ -1,31 +1,8 @@
 #pragma once
 
-#include <QDBusConnection>
-#include <QProcess>
-#include <QString>
-#include <QTemporaryDir>
+#include "PrivateBus.h"
 
 namespace quillon {
-
-/// A D-Bus daemon of the test's own.
-class PrivateBus {
-public:
-    PrivateBus();
-    PrivateBus(const PrivateBus&) = delete;
-    PrivateBus& operator=(const PrivateBus&) = delete;
-    ~PrivateBus();
-
-    const QString& address() const { return address_; }
-    /// The daemon crashes.
-    void crash();
-
-    QDBusConnection connection() const { return QDBusConnection(address_); }
-
-private:
-    QTemporaryDir folder_;
-    QProcess daemon_;
-    QString address_;
-};
 
 /// logind as python-dbusmock plays it: the locks that it hands out are real file descriptors.
 class PlayedLogind {
@@ -49,7 +26,7 @@ private:
     bool hasOwner() const;
 
     QDBusConnection bus_;
-    QProcess mock_;
+    ChildProgram mock_;
 };
 
 } // namespace quillon

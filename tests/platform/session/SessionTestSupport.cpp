@@ -3,9 +3,7 @@
 #include <QFile>
 #include <QProcess>
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/prctl.h>
 
 namespace quillon {
 
@@ -30,11 +28,6 @@ QString contentOf(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-void tieToThisProcess(QProcess& process)
-{
-    process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
 
 Finished run(const QString& program, const QStringList& arguments)

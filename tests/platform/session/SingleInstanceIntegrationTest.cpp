@@ -1,3 +1,4 @@
+#include "ChildProgram.h"
 #include "EventLoop.h"
 #include "ScopedEnvironment.h"
 #include "SessionTestSupport.h"
@@ -6,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -27,35 +27,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The program, started for real.
-class Instance {
+class Instance : public ChildProgram {
 public:
     explicit Instance(const QString& folder, const QStringList& options = {})
+        : ChildProgram(QStringLiteral(INSTANCE_PROGRAM), QStringList{folder} + options)
     {
-        tieToThisProcess(process_);
-        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process_.start(QStringLiteral(INSTANCE_PROGRAM), QStringList{folder} + options);
     }
-    Instance(const Instance&) = delete;
-    Instance& operator=(const Instance&) = delete;
     ~Instance() { crash(); }
-
-    /// The next line that it says.
-    QString says()
-    {
-        EXPECT_TRUE(runUntil([this] { return process_.canReadLine(); }));
-        return QString::fromUtf8(process_.readLine()).trimmed();
-    }
-
-    void signal(int number) { ::kill(static_cast<pid_t>(process_.processId()), number); }
-
-    void crash()
-    {
-        process_.kill();
-        process_.waitForFinished(-1);
-    }
-
-private:
-    QProcess process_;
 };
 
 class SingleInstanceIntegrationTest : public testing::Test {
@@ -76,28 +54,28 @@ protected:
 TEST_F(SingleInstanceIntegrationTest, ASecondStartBringsTheFirstToTheFront)
 {
     Instance first(folder);
-    ASSERT_EQ(first.says(), u"first"_s);
+    ASSERT_EQ(first.readLine(), u"first"_s);
     for (int start = 0; start < 2; ++start) {
         Instance second(folder);
-        EXPECT_EQ(second.says(), u"presented"_s);
-        EXPECT_EQ(first.says(), u"present"_s);
+        EXPECT_EQ(second.readLine(), u"presented"_s);
+        EXPECT_EQ(first.readLine(), u"present"_s);
     }
 
     // A start from elsewhere (cron, another login) has another environment and means the same folder.
     const ScopedEnvironment elsewhere("XDG_RUNTIME_DIR", QFile::encodeName(settings.path()));
     Instance third(folder);
-    EXPECT_EQ(third.says(), u"presented"_s);
+    EXPECT_EQ(third.readLine(), u"presented"_s);
 }
 
 TEST_F(SingleInstanceIntegrationTest, ASecondStartPassesOnWhatItIsForAndNothingUnknown)
 {
     Instance first(folder);
-    ASSERT_EQ(first.says(), u"first"_s);
+    ASSERT_EQ(first.readLine(), u"first"_s);
     Instance wanted(folder, {u"back-up-now"_s});
-    EXPECT_EQ(wanted.says(), u"presented"_s);
-    EXPECT_EQ(first.says(), u"back-up-now"_s);
+    EXPECT_EQ(wanted.readLine(), u"presented"_s);
+    EXPECT_EQ(first.readLine(), u"back-up-now"_s);
     Instance unknown(folder, {u"erase-everything"_s});
-    EXPECT_EQ(unknown.says(), u"refused: another instance runs on the folder "_s + folder);
+    EXPECT_EQ(unknown.readLine(), u"refused: another instance runs on the folder "_s + folder);
 }
 
 TEST_F(SingleInstanceIntegrationTest, ASecondStartGivesItsActivationTokenAwayOnce)
@@ -118,15 +96,15 @@ TEST_F(SingleInstanceIntegrationTest, ASecondStartGivesItsActivationTokenAwayOnc
 TEST_F(SingleInstanceIntegrationTest, ACrashLeavesNothingInTheWay)
 {
     Instance first(folder, {u"--leave-child"_s});
-    const pid_t child = first.says().toInt();
-    ASSERT_EQ(first.says(), u"first"_s);
+    const pid_t child = first.readLine().toInt();
+    ASSERT_EQ(first.readLine(), u"first"_s);
     first.crash();
     ASSERT_EQ(kill(child, 0), 0); // a child that lives on must not hold the claim
 
     Instance next(folder);
-    EXPECT_EQ(next.says(), u"first"_s);
+    EXPECT_EQ(next.readLine(), u"first"_s);
     Instance second(folder);
-    EXPECT_EQ(second.says(), u"presented"_s);
+    EXPECT_EQ(second.readLine(), u"presented"_s);
     kill(child, SIGKILL);
 }
 
@@ -135,12 +113,12 @@ TEST_F(SingleInstanceIntegrationTest, FoldersDoNotShareAnInstance)
     // Paths beyond what the address of a socket holds, alike for longer than that.
     const QString stem = settings.filePath(QString(150, u'x'));
     Instance one(stem + u'1');
-    EXPECT_EQ(one.says(), u"first"_s);
+    EXPECT_EQ(one.readLine(), u"first"_s);
     Instance two(stem + u'2');
-    EXPECT_EQ(two.says(), u"first"_s);
+    EXPECT_EQ(two.readLine(), u"first"_s);
     Instance again(stem + u'2');
-    EXPECT_EQ(again.says(), u"presented"_s);
-    EXPECT_EQ(two.says(), u"present"_s);
+    EXPECT_EQ(again.readLine(), u"presented"_s);
+    EXPECT_EQ(two.readLine(), u"present"_s);
 }
 
 TEST_F(SingleInstanceIntegrationTest, OfManyStartsAtOnceOneRuns)
@@ -150,7 +128,7 @@ TEST_F(SingleInstanceIntegrationTest, OfManyStartsAtOnceOneRuns)
         starts.emplace_back(folder);
     QStringList said;
     for (auto& start : starts)
-        said << start.says();
+        said << start.readLine();
     EXPECT_EQ(said.count(u"first"_s), 1) << said.join(u", "_s).toStdString();
     EXPECT_EQ(said.count(u"presented"_s), 7) << said.join(u", "_s).toStdString();
 }
@@ -158,10 +136,10 @@ TEST_F(SingleInstanceIntegrationTest, OfManyStartsAtOnceOneRuns)
 TEST_F(SingleInstanceIntegrationTest, AFirstInstanceThatHangsKeepsItsClaim)
 {
     Instance first(folder);
-    ASSERT_EQ(first.says(), u"first"_s);
-    first.signal(SIGSTOP);
+    ASSERT_EQ(first.readLine(), u"first"_s);
+    ::kill(static_cast<pid_t>(first.process().processId()), SIGSTOP);
     Instance second(folder);
-    EXPECT_EQ(second.says(), u"refused: another instance runs on the folder "_s + folder);
+    EXPECT_EQ(second.readLine(), u"refused: another instance runs on the folder "_s + folder);
 }
 
 TEST_F(SingleInstanceIntegrationTest, TheSocketIsTheUsersAloneAndTakesNoOtherWord)
@@ -182,7 +160,7 @@ TEST_F(SingleInstanceIntegrationTest, TheSocketIsTheUsersAloneAndTakesNoOtherWor
     EXPECT_EQ(presents, 0);
 
     Instance second(folder);
-    EXPECT_EQ(second.says(), u"presented"_s);
+    EXPECT_EQ(second.readLine(), u"presented"_s);
     EXPECT_EQ(presents, 1);
 }
 
@@ -191,9 +169,9 @@ TEST_F(SingleInstanceIntegrationTest, WithoutASessionNobodyElseCanTakeTheSockets
     const ScopedEnvironment noRuntimeFolder("XDG_RUNTIME_DIR", {});
     const ScopedEnvironment temporary("TMPDIR", QFile::encodeName(runtime.path()));
     Instance first(folder);
-    ASSERT_EQ(first.says(), u"first"_s);
+    ASSERT_EQ(first.readLine(), u"first"_s);
     Instance second(folder);
-    EXPECT_EQ(second.says(), u"presented"_s);
+    EXPECT_EQ(second.readLine(), u"presented"_s);
     const auto made = QDir(runtime.path()).entryInfoList({u"instance_program-*"_s}, QDir::Dirs);
     ASSERT_EQ(made.size(), 1);
     EXPECT_EQ(made.first().permissions() & (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),

@@ -143,7 +143,7 @@ TEST_F(WorkspaceIntegrationTest, TheSessionTellsOfSleepAndWake)
 {
     const PrivateBus bus;
     PlayedLogind logind(bus);
-    workspace = std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection::connectToBus(bus.address(), u"session"_s));
+    workspace = std::make_unique<LinuxWorkspace>(runLoop, bus.connect(u"session"_s));
     const QSignalSpy slept(workspace.get(), &Workspace::willSleep);
     const QSignalSpy woke(workspace.get(), &Workspace::didWake);
     logind.prepareForSleep(true);

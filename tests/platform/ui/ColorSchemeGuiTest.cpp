@@ -1,16 +1,13 @@
 #include "ColorScheme_linux.h"
+#include "PrivateBus.h"
 #include "ScopedEnvironment.h"
 #include "SystemColor.h"
+#include "Waiting.h"
 #include "host/FakeSettingsPortal.h"
-#include "host/PrivateBus.h"
-#include "host/Waiting.h"
 
-#include <QCheckBox>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPushButton>
-#include <QStyle>
-#include <QStyleOptionButton>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -98,20 +95,6 @@ TEST(ApplicationPalette, TakesThePreferredSchemeAndGoesBackToTheDesktopsOwn)
         const bool isSelection = one == QPalette::Highlight || one == QPalette::HighlightedText;
         EXPECT_TRUE(isSelection || QGuiApplication::palette().color(one) == own.color(one)) << role;
     }
-}
-
-TEST(ApplicationPalette, LeavesAnEmptyCheckBoxVisibleInTheDark)
-{
-    applyColorScheme(Dark);
-    QCheckBox box;
-    box.resize(box.sizeHint());
-    QStyleOptionButton option;
-    option.initFrom(&box);
-    const QRect indicator = box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
-    const QImage picture = box.grab().toImage();
-    const int outline = picture.pixelColor(indicator.left(), indicator.center().y()).lightness();
-    EXPECT_GT(outline, box.palette().color(QPalette::Window).lightness() + 60);
-    applyColorScheme(None);
 }
 
 TEST(ApplicationStyle, KeepsTheTextOfAButtonOffItsBorders)

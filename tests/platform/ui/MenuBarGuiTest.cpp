@@ -95,16 +95,6 @@ TEST_F(MenuBarTest, DrawsTwoSeparateLinesInsideTheGroundThatMarksItAndAlignedToT
     }
 }
 
-TEST_F(MenuBarTest, DrawsTheImageToTheRightOfTheTitle)
-{
-    bar_.setContent(content(u"i"_s));
-    const auto columns = runs(picture(), Qt::Horizontal);
-    ASSERT_GE(columns.size(), 2);
-    constexpr int letterWidth = 8;
-    EXPECT_LT(columns.first().second - columns.first().first, letterWidth);
-    EXPECT_GT(columns.last().second - columns[1].first, letterWidth);
-}
-
 TEST_F(MenuBarTest, ShortensATitleThatIsLongerThanTheScreenAndKeepsTheImage)
 {
     bar_.setContent(content(QString(2000, u'W') + u"\n5h"_s));

@@ -1,5 +1,5 @@
 #include "ModalAlertPresenter.h"
-#include "host/Waiting.h"
+#include "Waiting.h"
 
 #include <QApplication>
 #include <QPushButton>

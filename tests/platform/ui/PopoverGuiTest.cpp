@@ -1,11 +1,10 @@
 #include "Popover.h"
-#include "host/Waiting.h"
+#include "Waiting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -43,12 +42,12 @@ protected:
         layout->addWidget(box);
         popover.setContentView(content.release());
     }
-    void show(PopoverBehavior behavior = PopoverBehavior::Transient, RectEdge edge = RectEdge::MinY)
+    void show()
     {
         if (!popover_.isShown())
             window_.activateWindow(); // there is no window manager here to do it
-        popover_.setBehavior(behavior);
-        popover_.showRelativeTo({.view = button_}, edge);
+        popover_.setBehavior(PopoverBehavior::Transient);
+        popover_.showRelativeTo({.view = button_}, RectEdge::MinY);
         ASSERT_TRUE(becomesActive(popover_));
     }
     static bool becomesActive(const Popover& popover)
@@ -91,16 +90,6 @@ TEST_F(PopoverTest, FollowsItsContentAndItsAnchor)
     const QRect large = content();
     window_.move(window_.pos() + QPoint(30, 20));
     EXPECT_TRUE(eventually([&] { return content() == large.translated(30, 20); }));
-}
-
-TEST_F(PopoverTest, KeepsOnTheScreenAtEveryBorder)
-{
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    for (const QPoint corner : {screen.topLeft(), screen.topRight(), screen.bottomLeft(), screen.bottomRight()})
-        for (const RectEdge edge : {RectEdge::MinX, RectEdge::MinY, RectEdge::MaxX, RectEdge::MaxY}) {
-            popover_.showRelativeTo({.screenRect = QRect(corner - QPoint(2, 2), QSize(4, 4))}, edge);
-            EXPECT_TRUE(screen.contains(content())) << static_cast<int>(edge);
-        }
 }
 
 TEST_F(PopoverTest, HangsAtThePointerWhenThereIsNothingToPointAt)
@@ -223,40 +212,6 @@ TEST_F(PopoverTest, AChildHasTheKeyboardBeforeIt)
     EXPECT_TRUE(becomesActive(child)) << "as when the user clicks on it";
     child.close();
     EXPECT_TRUE(becomesActive(popover_));
-}
-
-TEST_F(PopoverTest, OtherOneClosesByCodeOnly)
-{
-    show(PopoverBehavior::ApplicationDefined);
-    clickOutside();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    leaveApplication();
-    EXPECT_TRUE(popover_.isShown());
-    popover_.close();
-    EXPECT_FALSE(popover_.isShown());
-}
-
-TEST_F(PopoverTest, IsDrawnInThePaletteOfTheApplicationWithASoftShadow)
-{
-    const QPalette before = QApplication::palette();
-    for (const QColor& ground : {QColor(250, 250, 250), QColor(30, 30, 30)}) {
-        QPalette palette = before;
-        palette.setColor(QPalette::Window, ground);
-        QApplication::setPalette(palette);
-        show();
-        ASSERT_TRUE(eventually([&] { return popover_.palette().color(QPalette::Window) == ground; }));
-        QImage image(popover_.size(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        popover_.render(&image, {}, {}, QWidget::DrawChildren);
-        const QPoint inside = popover_.contentView()->geometry().topLeft() + QPoint(10, 2);
-        EXPECT_EQ(image.pixelColor(inside), ground);
-        EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
-        const int shadow = image.pixelColor(8, image.height() / 2).alpha();
-        EXPECT_GT(shadow, 0);
-        EXPECT_LT(shadow, 128);
-        popover_.close();
-    }
-    QApplication::setPalette(before);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "PopoverFrame.h"
+#include "Waiting.h"
 #include "host/VirtualDisplay.h"
-#include "host/Waiting.h"
 #include "host/WaylandCompositor.h"
 
 #include <QJsonDocument>

@@ -1,12 +1,12 @@
 #include "ColorScheme_linux.h"
 #include "Symbol_linux.h"
+#include "SystemColor.h"
 
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 #include <set>
 #include <vector>
@@ -18,21 +18,6 @@ using namespace Qt::StringLiterals;
 
 const QStringList symbolNames{u"clock.arrow.circlepath"_s, u"clock.arrow.2.circlepath"_s,
                               u"exclamationmark.arrow.circlepath"_s, u"exclamationmark.arrow.triangle.2.circlepath"_s};
-
-// Relative luminance and contrast ratio: WCAG 2.1.
-double luminance(const QColor& color)
-{
-    const auto linear = [](float part) {
-        return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b)
-{
-    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 template<typename Wanted>
 int countPixels(const QImage& image, const QImage& other, const Wanted& wanted)
@@ -54,47 +39,11 @@ QPalette paletteFor(ColorSchemePreference preference)
 
 class SymbolTest : public testing::TestWithParam<ColorSchemePreference> {};
 
-TEST(Symbol, EveryIconStateHasADrawingOfItsOwnAtEverySize)
+TEST(Symbol, FillsItsSideAtEveryPixelRatio)
 {
-    for (const auto& [side, ratio] : {std::pair{16, 1.0}, {22, 1.0}, {22, 1.5}, {22, 2.0}, {64, 1.0}}) {
-        std::set<QByteArray> drawings;
-        for (const QString& name : symbolNames) {
-            const QImage image = symbolPixmap(name, side, ratio, Qt::black).toImage();
-            EXPECT_EQ(image.width(), qRound(side * ratio));
-            EXPECT_EQ(image.deviceIndependentSize(), QSizeF(side, side));
-            drawings.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
-        }
-        EXPECT_EQ(drawings.size(), symbolNames.size()) << side << " at " << ratio;
-    }
-}
-
-TEST(Symbol, AnUnknownNameDrawsNothing)
-{
-    const QImage image = symbolPixmap(u"no.such.symbol"_s, 22, 1, Qt::black).toImage();
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            ASSERT_EQ(image.pixelColor(x, y).alpha(), 0);
-}
-
-TEST_P(SymbolTest, IsDrawnInItsColourAlone)
-{
-    const QPalette palette = paletteFor(GetParam());
-    for (const auto& color : {std::optional<SymbolColor>(), {SymbolColor::SystemGreen}, {SymbolColor::SystemOrange}}) {
-        const SymbolImage symbol{.name = symbolNames[2], .paletteColor = color, .isTemplate = true};
-        const QColor wanted = symbolColor(symbol, palette);
-        const QImage image = symbolPixmap(symbol.name, 64, 1, wanted).toImage();
-        int inked = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor pixel = image.pixelColor(x, y);
-                if (pixel.alpha() < 255)
-                    continue;
-                ++inked;
-                ASSERT_EQ(pixel.rgb(), wanted.rgb());
-            }
-        }
-        EXPECT_GT(inked, 200);
-    }
+    const QPixmap pixmap = symbolPixmap(symbolNames[0], 22, 1.5, Qt::black);
+    EXPECT_EQ(pixmap.width(), 33);
+    EXPECT_EQ(pixmap.deviceIndependentSize(), QSizeF(22, 22));
 }
 
 TEST(Symbol, EveryStateIsSeenAndToldApartInATrayOfEitherLightness)

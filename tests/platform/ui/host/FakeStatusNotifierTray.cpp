@@ -21,19 +21,6 @@ constexpr auto path = "/StatusNotifierWatcher"_L1;
 constexpr auto itemPath = "/StatusNotifierItem"_L1;
 constexpr auto itemInterface = "org.kde.StatusNotifierItem"_L1;
 
-/// Two underscores are displayed as one, a single one is not displayed (com.canonical.dbusmenu, property "label").
-QString displayed(const QString& label)
-{
-    QString text;
-    bool marked = false;
-    for (const QChar c : label) {
-        marked = c == u'_' && !marked;
-        if (!marked)
-            text += c;
-    }
-    return text;
-}
-
 /// The name of the error that an answer is, if it is one.
 QString refusal(const QDBusMessage& answer)
 {
@@ -147,7 +134,7 @@ QStringList FakeStatusNotifierTray::menuLabels(const QString& item)
     QStringList labels;
     const auto items = menu(item).children;
     for (const MenuLayout& shown : items)
-        labels.append(displayed(shown.properties.value(u"label"_s).toString()));
+        labels.append(shown.properties.value(u"label"_s).toString());
     return labels;
 }
 

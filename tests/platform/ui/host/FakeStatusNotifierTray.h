@@ -42,7 +42,7 @@ public:
     QStringList takeSignals() { return std::exchange(signals_, {}); }
 
     MenuLayout menu(const QString& item);
-    /// The labels of the item's menu, top level, as the host shows them.
+    /// The labels of the item's menu, top level, as they are told.
     QStringList menuLabels(const QString& item);
     /// Tells of what has happened to an item of the menu; the error's name when it is refused.
     QString menuEvent(const QString& item, int id, const QString& event);

@@ -14,6 +14,7 @@ public:
     ~ChildProgram();
 
     QProcess& process() { return process_; }
+    void crash();
     /// The next line of its standard output, waited for; throws when there is none.
     QString readLine();
 

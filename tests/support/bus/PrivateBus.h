@@ -16,6 +16,7 @@ public:
     QString variable() const;
     /// A new connection to it, of that name inside this process.
     QDBusConnection connect(const QString& name) const;
+    void crash() { daemon_.crash(); }
 
 private:
     QTemporaryDir folder_;

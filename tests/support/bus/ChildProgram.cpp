@@ -2,7 +2,9 @@
 
 #include "Waiting.h"
 
+#include <csignal>
 #include <stdexcept>
+#include <sys/prctl.h>
 
 namespace quillon {
 
@@ -17,6 +19,7 @@ void start(QProcess& process, const QString& program, const QStringList& argumen
         environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); }); // also when this process crashes
     process.start(program, arguments);
     if (!process.waitForStarted(-1))
         throw std::runtime_error("cannot start " + program.toStdString());
@@ -33,10 +36,14 @@ ChildProgram::~ChildProgram()
 {
     process_.terminate();
     constexpr int graceMs = 60'000;
-    if (!process_.waitForFinished(graceMs)) {
-        process_.kill();
-        process_.waitForFinished(-1);
-    }
+    if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(graceMs))
+        crash();
+}
+
+void ChildProgram::crash()
+{
+    process_.kill();
+    process_.waitForFinished(-1);
 }
 
 QString ChildProgram::readLine()
