@@ -1,13 +1,11 @@
 #include "AboutViewController.h"
 #include "ClippedTexts.h"
 #include "DataHelper.h"
-#include "EventLoop.h"
 #include "FakeServices.h"
 #include "LocalDates.h"
 #include "LocalizedString.h"
 #include "MakerSite.h"
 #include "Popover.h"
-#include "ScopedEnvironment.h"
 #include "VirtualRunLoop.h"
 
 #include <QAccessible>
@@ -99,19 +97,6 @@ TEST_F(AboutPanel, ThePrivacyPolicyIsToldHereAndReadInFullOnTheWebSite)
     EXPECT_TRUE(workspace_.opened.isEmpty());
     answer(alertSecondButtonReturn);
     EXPECT_EQ(workspace_.opened, QList<QUrl>{makersite::page(u"/quillon/privacy/"_s)});
-}
-
-TEST_F(AboutPanel, FollowsTheThemeWhileItIsOpen)
-{
-    const QPalette before = QApplication::palette();
-    for (const QColor& ground : {QColor(0x2b, 0x2b, 0x2d), QColor(0xf4, 0xf4, 0xf5)}) {
-        QApplication::setPalette(QPalette(ground));
-        ASSERT_TRUE(runUntil([&] { return panel_->palette().color(QPalette::Window) == ground; }));
-        EXPECT_EQ(popover_.grab().toImage().pixelColor(panel_->geometry().topLeft() + QPoint(12, 12)), ground);
-        const QColor text = panel_->findChild<QLabel*>(u"creditsLabel"_s)->palette().color(QPalette::WindowText);
-        EXPECT_GT(std::abs(text.lightness() - ground.lightness()), 150);
-    }
-    QApplication::setPalette(before);
 }
 
 TEST_F(AboutPanel, ShowsAllOfItsTextsInEveryLanguageAndSize)

@@ -1,7 +1,5 @@
 #include "MakerService.h"
 
-#include "Obfuscated.h"
-
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -23,15 +21,6 @@ TEST(MakerService, ItsValuesReadAsTheBuildGaveThemAndStandNowhereAsPlainText)
         }
     }
     EXPECT_TRUE(object.contains(QByteArray(QUILLON_SERVICE_ADDRESS).toBase64()));
-}
-
-TEST(Base64, EndsAsTheLengthWants)
-{
-    const auto bytes = [](const auto& encoded) { return QByteArray(encoded.data(), encoded.size()); };
-    EXPECT_EQ(bytes(base64("")), "");
-    EXPECT_EQ(bytes(base64("f")), "Zg==");
-    EXPECT_EQ(bytes(base64("fo")), "Zm8=");
-    EXPECT_EQ(bytes(base64("foo\xFF/")), "Zm9v/y8=");
 }
 
 } // namespace quillon

@@ -26,11 +26,6 @@ ReferenceServer::~ReferenceServer()
         process_.kill();
 }
 
-void ReferenceServer::setParameter(const QString& name, const QJsonValue& result)
-{
-    command({{u"parameter"_s, name}, {u"result"_s, result}});
-}
-
 void ReferenceServer::play(const QString& fault, const QString& detail)
 {
     command({{u"fault"_s, fault}, {u"detail"_s, detail}});

@@ -2,7 +2,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QJsonValue>
 #include <QProcess>
 #include <QString>
 #include <QUrl>
@@ -22,7 +21,6 @@ public:
     const QString& address() const { return address_; }
     QUrl url(const QString& path) const { return QUrl(address_ + path); }
 
-    void setParameter(const QString& name, const QJsonValue& result);
     /// Treats every request from now on like this; an empty name ends it.
     void play(const QString& fault, const QString& detail = {});
     void setStatus(int status);

@@ -115,12 +115,6 @@ class Handler(BaseHTTPRequestHandler):
     def _notUtf8(self):
         self._send(b'{"result": {"type": "String", "value": "\xff"}}')
 
-    def _notJson(self):
-        self._send(b"<html>moved</html>")
-
-    def _wrongType(self):
-        self._send(b'{"result": ["String", "text"]}')
-
     def _compressed(self):
         body = gzip.compress(b'{"result": true}')
         self.send_response(200)
