@@ -15,15 +15,6 @@ protected:
     void TearDown() override { installStringTable(u"en"_s); }
 };
 
-TEST_F(StringTableTest, FormatsTakeTheirArgumentsInOrder)
-{
-    EXPECT_EQ(localizedString("quitApplicationTitle").arg(u"Quillon"_s), u"Quit Quillon"_s);
-    const QString message =
-        localizedString("timeMachinePermissionRequiredAlertMessage").arg(u"<button>"_s, u"<application>"_s);
-    EXPECT_TRUE(message.contains(u"click “<button>”"_s));
-    EXPECT_TRUE(message.contains(u"allow <application> to"_s));
-}
-
 TEST_F(StringTableTest, WhatATableLacksIsEnglishAndWhatThatLacksIsTheKey)
 {
     installStringTable(u"eo"_s);

@@ -120,15 +120,6 @@ TEST_F(AlertPopoverTest, ClosesByItsButtonsOnlyWhichReturnAndEscapePress)
     EXPECT_TRUE(shown().empty());
 }
 
-TEST_F(AlertPopoverTest, ClosesSilentlyWithoutABlock)
-{
-    AlertPopover::create({.messageText = {}, .informativeText = u"Help"_s, .buttons = {u"Close"_s}})
-        ->runAsPopoverForView({.view = views_[0]}, RectEdge::MinY);
-    EXPECT_GT(place().top(), onScreen(views_[0]).bottom());
-    click(u"Close"_s);
-    EXPECT_TRUE(shown().empty());
-}
-
 TEST_F(AlertPopoverTest, BringsBackWhatWasPushedAsideTheLatestFirstAboveItsOwnView)
 {
     const auto first = run(u"A"_s, views_[0], RectEdge::MaxX);
@@ -177,19 +168,6 @@ TEST_F(AlertPopoverTest, ABlockMayShowItsOwnAlertAgain)
     click(u"First"_s);
     EXPECT_TRUE(shown().empty());
     EXPECT_EQ(answers, 2);
-}
-
-TEST_F(AlertPopoverTest, IsShownWithoutAView)
-{
-    const QPoint spot = onScreen(window_.get()).center();
-    QCursor::setPos(spot);
-    run(u"A"_s, nullptr);
-    EXPECT_LT(place().bottom(), spot.y());
-    run(u"B"_s, nullptr);
-    click(u"First"_s);
-    EXPECT_EQ(visible(), u"A"_s);
-    click(u"Second"_s);
-    EXPECT_EQ(answers_[u"A"_s], (std::vector{1001}));
 }
 
 TEST_F(AlertPopoverTest, AWaitingOneComesBackToWhereItsViewWasWhenThatIsGone)
