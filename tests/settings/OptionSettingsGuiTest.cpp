@@ -143,7 +143,7 @@ TEST_F(OptionSettings, AlertsSayWhatTheirButtonIsAboutInTheWordsOfTheSystem)
     }
 }
 
-TEST_F(OptionSettings, EveryControlHasItsOwnText)
+TEST_F(OptionSettings, EverySwitchHasItsOwnText)
 {
     open();
     const std::pair<const char*, const char*> boxes[] = {
@@ -154,67 +154,9 @@ TEST_F(OptionSettings, EveryControlHasItsOwnText)
         {"showMenuBarIconOnlyCheckmark", "settingsShowMenuBarIconOnly"},
         {"enableMenuBarColorsCheckmark", "settingsDisableIconColors"},
         {"rotateBackupDisksCheckmark", "settingsRotateBackupDisks"},
-        {"enableAppAtSystemStartCheckmark", "settingsStartOnSystemStart"},
-        {"addCalendarIntervalButton", "addRuleTitle"}};
+        {"enableAppAtSystemStartCheckmark", "settingsStartOnSystemStart"}};
     for (const auto& [name, key] : boxes)
         EXPECT_EQ(control<QAbstractButton>(name).text().remove(u'&'), localizedString(key)) << name;
-    const std::pair<const char*, QString> labels[] = {
-        {"scheduleGroupLabel", localizedString("settingsGroupSchedule")},
-        {"retryGroupLabel", localizedString("settingsGroupRetry")},
-        {"menuBarGroupLabel", localizedString("settingsGroupMenuBar")},
-        {"diskGroupLabel", localizedString("settingsGroupDisks")},
-        {"scheduleLabel", localizedString("scheduleTitle")},
-        {"intervalLabel", localizedString("settingsIntervalEvery")},
-        {"intervalUnit", localizedString("settingsIntervalHours")},
-        {"intervalNote", localizedString("settingsIntervalNotYetUsed")},
-        {"nextBackupTitle", localizedString("nextBackupTitle") + u':'},
-        {"showRemainingMinutesDetails", localizedString("settingsShowDetailedTimeInMenuBarDetails")}};
-    for (const auto& [name, text] : labels)
-        EXPECT_EQ(control<QLabel>(name).text(), text) << name;
-    const auto& popup = control<QComboBox>("schedulePopup");
-    EXPECT_EQ(popup.itemText(0), localizedString("settingsOptionCalendarInterval"));
-    EXPECT_EQ(popup.itemText(1), localizedString("settingsOptionInterval"));
-}
-
-TEST_F(OptionSettings, WhatHasTheKeyboardShowsIt)
-{
-    open();
-    QTest::keyClick(panel_, Qt::Key_Tab); // before the first Tab many styles show the focus of no button
-    for (const char* name : {"deleteButton", "retryAtFailureHelpButton", "warningButton", "schedulePopup",
-                             "enableScheduleCheckmark", "addCalendarIntervalButton"}) {
-        auto& widget = control<QWidget>(name);
-        widget.clearFocus();
-        const QImage without = widget.grab().toImage();
-        widget.setFocus(Qt::TabFocusReason);
-        const QImage with = widget.grab().toImage();
-        EXPECT_NE(with, without) << name;
-        if (&widget != &control<QWidget>("warningButton")) // the others are the style's, or have rings of their own
-            continue;
-        int changed = 0;
-        for (int y = 0; y < with.height(); ++y)
-            for (int x = 0; x < with.width(); ++x)
-                changed += std::abs(with.pixelColor(x, y).lightness() - without.pixelColor(x, y).lightness()) > 60;
-        EXPECT_GT(changed, 4 * widget.width()) << "a ring that nobody overlooks";
-    }
-}
-
-TEST_F(OptionSettings, HelpButtonsExplainTheirOwnSwitchAndBlockThePanelMeanwhile)
-{
-    open();
-    for (const auto& [button, title] : {std::pair{"retryAtMissedScheduleHelpButton", u"Retry After a Missed Backup"_s},
-                                        {"retryAtFailureHelpButton", u"Retry After a Failed Backup"_s}}) {
-        click(button);
-        ASSERT_TRUE(runUntil([] { return alertButton(u"Close"_s); }));
-        EXPECT_EQ(alertButton(u"Close"_s)->parentWidget()->accessibleName(), title);
-        EXPECT_TRUE(isBlocked());
-        EXPECT_TRUE(panel_->shouldDisableUserControls());
-        QTest::mouseClick(&control("rotateBackupDisksCheckmark"), Qt::LeftButton);
-        EXPECT_TRUE(control("rotateBackupDisksCheckmark").isChecked());
-        EXPECT_TRUE(popover_->isShown()) << "a click on the panel is no click elsewhere";
-        answerAlert(u"Close"_s);
-        EXPECT_FALSE(isBlocked());
-        EXPECT_TRUE(control("rotateBackupDisksCheckmark").isEnabled());
-    }
 }
 
 TEST_F(OptionSettings, AnAlertThatOutlivesThePanelIsAnsweredWithoutIt)

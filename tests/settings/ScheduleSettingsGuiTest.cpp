@@ -1,11 +1,9 @@
-#include "FileUserDefaults.h"
 #include "SettingsFixture.h"
 
 #include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 
 namespace quillon {
@@ -47,41 +45,6 @@ TEST_F(ScheduleSettings, EditsAreStoredAsIntegersAndPlannedAtOnce)
     EXPECT_EQ(manager_->nextScheduledBackupDate(), local(2026, 11, 23, 7, 45));
     EXPECT_TRUE(manager_->startBackupTimer().isValid());
     EXPECT_EQ(nextBackup(), u"Monday, November 23, 2026, 7:45\u202fAM"_s);
-}
-
-TEST_F(ScheduleSettings, EditsReachTheFileOfTheDefaultsAsIntegers)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"defaults.plist"_s);
-    FileUserDefaults file(path, DefaultsAccess::ReadWrite, runLoop_);
-    file.setObject(settingskeys::calendarIntervals, CalendarIntervalRule::listToArray({{}}));
-    DataManager manager({runLoop_, file, notifications_, loginItem_});
-    SettingsViewController panel(
-        {runLoop_, file, notifications_, manager, loginItem_, queue_, machine_, workspace_, alerts_});
-    panel_ = &panel;
-    panel.show();
-    choose(dayMenu(0), u"Monday to Friday"_s);
-    type(picker(0), u"645PM"_s);
-    click("enableScheduleCheckmark");
-    QFile written(path);
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(written.readAll()).simplified().remove(u' ');
-    EXPECT_TRUE(
-        text.contains(u"<dict><key>day</key><integer>8</integer><key>time</key><integer>67500</integer></dict>"_s))
-        << text.toStdString();
-    EXPECT_TRUE(text.contains(settingskeys::enableSchedule + u"</key><integer>0</integer>"_s));
-}
-
-TEST_F(ScheduleSettings, TheTimeIsPickedOnTheUsersClock)
-{
-    const ScopedEnvironment german("LC_ALL", "de_DE.UTF-8");
-    open();
-    EXPECT_EQ(picker(0).text(), u"12:00"_s);
-    type(picker(0), u"1930"_s);
-    EXPECT_EQ(storedRules(), QVariantList{rule(0, 70200)});
-    QTest::keyClick(&picker(0), Qt::Key_Up);
-    EXPECT_EQ(picker(0).text(), u"19:31"_s);
-    EXPECT_EQ(storedRules(), QVariantList{rule(0, 70260)});
 }
 
 TEST_F(ScheduleSettings, HalvesOfTheDayAreChangedByArrowsAndLettersWhereverTheyStand)

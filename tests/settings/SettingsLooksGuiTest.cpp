@@ -1,8 +1,6 @@
 #include "ClippedTexts.h"
 #include "ColorScheme_linux.h"
-#include "FakeSettingsPortal.h"
 #include "LocalizedString.h"
-#include "PrivateBus.h"
 #include "SettingsFixture.h"
 #include "SystemColor.h"
 
@@ -158,41 +156,26 @@ TEST_F(SettingsLooks, WhatTheScreenHasNoRoomForIsScrolledToByKeyboard)
     EXPECT_FALSE(last.visibleRegion().isEmpty());
 }
 
-TEST_F(SettingsLooks, ThePanelFollowsTheDesktopsColourSchemeWhileItIsOpen)
+TEST_F(SettingsLooks, ThePanelFollowsTheColourSchemeWhileItIsOpen)
 {
-    const PrivateBus bus;
-    constexpr uint dark = 1;
-    constexpr uint light = 2;
-    FakeSettingsPortal portal(bus.connect(u"portal"_s), light);
-    ColorScheme scheme(bus.connect(u"reader"_s));
-    QObject::connect(&scheme, &ColorScheme::changed, &applyColorScheme);
+    using enum ColorSchemePreference;
+    applyColorScheme(Light);
     open({{}, {}});
     const auto colorAt = [](QWidget& widget, QPoint place) { return widget.grab().toImage().pixelColor(place); };
     auto& table = control<QScrollArea>("calendarIntervalTable");
     auto& row = *rows().at(0);
-    for (const uint wanted : {dark, light, dark}) {
-        portal.setColorScheme(wanted);
-        ASSERT_TRUE(runUntil([&] { return isDark(panel_->palette()) == (wanted == dark); }));
+    for (const auto wanted : {Dark, Light, Dark}) {
+        applyColorScheme(wanted);
+        ASSERT_TRUE(runUntil([&] { return isDark(panel_->palette()) == (wanted == Dark); }));
         const QColor ground = colorAt(*popover_, panel_->geometry().topLeft() + QPoint(12, 12));
-        EXPECT_EQ(ground.lightness() < 128, wanted == dark);
+        EXPECT_EQ(ground.lightness() < 128, wanted == Dark);
         const QColor text = control<QLabel>("nextBackupLabel").palette().color(QPalette::WindowText);
         EXPECT_GT(std::abs(text.lightness() - ground.lightness()), 150);
         const QColor rowGround = colorAt(table, row.geometry().bottomRight() - QPoint(row.width() / 4, 1));
-        EXPECT_EQ(rowGround.lightness() < 128, wanted == dark);
+        EXPECT_EQ(rowGround.lightness() < 128, wanted == Dark);
         EXPECT_NE(rowGround, ground) << "rows stand out";
     }
-    for (const auto& connection : {u"portal"_s, u"reader"_s})
-        QDBusConnection::disconnectFromBus(connection);
-}
-
-TEST_F(SettingsLooks, MnemonicsPressTheirControls)
-{
-    open();
-    const QString title = control("rotateBackupDisksCheckmark").text();
-    const auto letter = title[title.indexOf(u'&') + 1].toUpper();
-    ASSERT_TRUE(title.contains(u'&'));
-    QTest::keyClick(popover_.get(), static_cast<Qt::Key>(letter.unicode()), Qt::AltModifier);
-    EXPECT_TRUE(runUntil([&] { return stored(settingskeys::rotateBackupDisks) == QVariant(0LL); }, 5));
+    applyColorScheme(None);
 }
 
 } // namespace quillon
