@@ -2,7 +2,6 @@
 #include "HttpClient.h"
 #include "ReferenceServer.h"
 #include "ScopedEnvironment.h"
-#include "TestCertificate.h"
 #include "VirtualRunLoop.h"
 
 #include <QNetworkReply>
@@ -193,10 +192,10 @@ TEST_F(HttpClientIntegrationTest, WhatIsNotEncryptedGoesToThisMachineOnly)
 
 TEST_F(HttpClientIntegrationTest, OnlyAServerWithATrustedCertificateOfItsNameIsToldAnything)
 {
-    const TestCertificate certificate(u"localhost"_s);
-    ReferenceServer server(certificate.file(), u"localhost"_s);
+    const TestCertificate certificate;
+    ReferenceServer server(certificate.option(), u"localhost"_s);
     EXPECT_EQ(code(ask(server.url(u"/v1/Event/"_s))), QNetworkReply::SslHandshakeFailedError) << "self-signed";
-    const ScopedTrust trust(certificate);
+    certificate.trust();
     QUrl otherName = server.url(u"/v1/Event/"_s);
     otherName.setHost(u"127.0.0.1"_s);
     EXPECT_EQ(code(ask(otherName)), QNetworkReply::SslHandshakeFailedError) << "of another host";
@@ -221,9 +220,9 @@ TEST_F(HttpClientIntegrationTest, TheProxyOfTheEnvironmentIsAskedForTheHost)
 
 TEST_F(HttpClientIntegrationTest, RedirectsStayWithTheHostAndItsEncryption)
 {
-    const TestCertificate certificate(u"localhost"_s);
-    const ScopedTrust trust(certificate);
-    ReferenceServer server(certificate.file(), u"localhost"_s);
+    const TestCertificate certificate;
+    certificate.trust();
+    ReferenceServer server(certificate.option(), u"localhost"_s);
     ReferenceServer plain({}, u"localhost"_s);
     ReferenceServer other;
 
