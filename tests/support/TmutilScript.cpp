@@ -1,6 +1,5 @@
 #include "TmutilScript.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -26,16 +25,6 @@ TmutilScript::Fault readFault(const QString& name)
     return faults.value(name);
 }
 
-QByteArray readOutput(const QJsonObject& call, const QString& folder)
-{
-    if (!call.contains("outputFile"_L1))
-        return call.value("output"_L1).toString().toUtf8();
-    QFile file(folder + u'/' + call.value("outputFile"_L1).toString());
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("an answer of a tmutil script is missing");
-    return file.readAll();
-}
-
 } // namespace
 
 QByteArray TmutilScript::Call::faultyOutput() const
@@ -56,7 +45,7 @@ QByteArray TmutilScript::Call::faultyOutput() const
     return output;
 }
 
-TmutilScript TmutilScript::fromJson(const QByteArray& json, const QString& folder)
+TmutilScript TmutilScript::fromJson(const QByteArray& json)
 {
     const auto document = QJsonDocument::fromJson(json);
     if (!document.isArray())
@@ -66,12 +55,11 @@ TmutilScript TmutilScript::fromJson(const QByteArray& json, const QString& folde
         const QJsonObject object = entry.toObject();
         Call call;
         call.expected = object.value("expect"_L1).toVariant().toStringList();
-        call.output = readOutput(object, folder);
+        call.output = object.value("output"_L1).toString().toUtf8();
         call.status = object.value("status"_L1).toInt();
         call.delay = object.value("delay"_L1).toDouble();
         call.fault = readFault(object.value("fault"_L1).toString());
-        for (int times = object.value("times"_L1).toInt(1); times > 0; --times)
-            script.calls.append(call);
+        script.calls.append(call);
     }
     return script;
 }

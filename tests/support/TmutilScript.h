@@ -10,8 +10,8 @@ namespace quillon {
 /// What a scripted tmutil expects and answers, read from data, so that the same scenario is played inside a test and by
 /// a real process.
 ///
-/// JSON: an array of calls { "expect": [words], "output" or "outputFile": text, "status": exit status, "delay":
-/// seconds, "fault": one of Fault's names, "times": how often }.
+/// JSON: an array of calls { "expect": [words], "output": text, "status": exit status, "delay": seconds, "fault": one of
+/// Fault's names }.
 struct TmutilScript {
     enum class Fault {
         None,
@@ -36,8 +36,8 @@ struct TmutilScript {
 
     QList<Call> calls;
 
-    /// Throws std::runtime_error when the text is not such a script. "outputFile" is looked for in `folder`.
-    static TmutilScript fromJson(const QByteArray& json, const QString& folder = {});
+    /// Throws std::runtime_error when the text is not such a script.
+    static TmutilScript fromJson(const QByteArray& json);
 };
 
 } // namespace quillon

@@ -83,7 +83,7 @@ int main(int argc, char** argv)
 {
     const QString folder = QFileInfo(QString::fromLocal8Bit(argv[0])).path();
     try {
-        const auto script = TmutilScript::fromJson(read(folder + u"/script.json"_s), folder);
+        const auto script = TmutilScript::fromJson(read(folder + u"/script.json"_s));
         QStringList words;
         for (int i = 1; i < argc; ++i)
             words.append(QString::fromLocal8Bit(argv[i]));
