@@ -1,5 +1,4 @@
 #include "Calendar.h"
-#include "DecimalCommaLocale.h"
 #include "EventLoop.h"
 #include "FileUserDefaults.h"
 #include "PracticeTmutil.h"
@@ -10,10 +9,10 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -166,17 +165,6 @@ TEST_F(Application, AStartDoesWhatItIsForAndHasTheRunningOneDoIt)
     EXPECT_TRUE(runUntil([&] { return settings().integer(settingskeys::pauseUntilTag) == 3600; }));
 }
 
-TEST_F(Application, DamagedSettingsAreSetAsideWithAWarningAndAToolThatIsMissingIsSurvived)
-{
-    practice.write(u"settings/com.Orvane.Quillon.plist"_s, "<plist><dict><key>half");
-    environment.insert(u"QUILLON_TMUTIL"_s, u"/nonexistent"_s);
-    start(application);
-    ASSERT_TRUE(hasPrinted("Unknown"));
-    EXPECT_TRUE(application.readAllStandardError().contains("com.Orvane.Quillon.plist"));
-    EXPECT_EQ(QDir(practice.path(u"settings"_s)).entryList({u"*damaged*"_s}).size(), 1);
-    EXPECT_EQ(application.state(), QProcess::Running);
-}
-
 TEST_F(Application, EndsInOrderWhenItIsToldToAndTakesAReadingChildAlong)
 {
     useTool("echo $$ > \"$0.pid\"\nexec sleep 1000\n");
@@ -193,21 +181,13 @@ TEST_F(Application, EndsInOrderWhenItIsToldToAndTakesAReadingChildAlong)
     EXPECT_TRUE(runUntil([&] { return !QFile::exists(child); }));
 }
 
-TEST_F(Application, AFirstLaunchsAlertThatNobodyHasAnsweredComesAgain)
-{
-    start(application);
-    ASSERT_TRUE(hasPrinted("Not Running"));
-    application.terminate();
-    ASSERT_TRUE(application.waitForFinished(-1));
-    EXPECT_FALSE(settings().boolean(settingskeys::firstLaunch)) << "it did launch";
-    EXPECT_FALSE(settings().object(settingskeys::didShowAlertAtFirstLaunch).isValid());
-}
-
 TEST_F(Application, NumbersKeepTheirPointWhereTheLocaleHasAComma)
 {
-    const DecimalCommaLocale comma;
-    environment.insert(u"LOCPATH"_s, comma.folder());
-    environment.insert(u"LC_ALL"_s, QString::fromLatin1(DecimalCommaLocale::name));
+    const QTemporaryDir locales; // need not be installed
+    const QString german = locales.filePath(u"de_DE.UTF-8"_s);
+    ASSERT_EQ(QProcess::execute(u"localedef"_s, {u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s, german}), 0);
+    environment.insert(u"LOCPATH"_s, locales.path());
+    environment.insert(u"LC_ALL"_s, u"de_DE.UTF-8"_s);
     useTool("echo '{ Running = 1; BackupPhase = Copying; DestinationID = A;"
             " Progress = { Percent = \"0.125\"; TimeRemaining = \"60.5\"; bytes = 4; }; }'\n");
     start(application);
@@ -231,25 +211,6 @@ TEST_F(Application, UnknownOptionsEndWithOneClearLine)
         EXPECT_TRUE(error.startsWith("quillon: ")) << error.toStdString();
         EXPECT_EQ(error.count('\n'), 1);
     }
-}
-
-TEST_F(Application, QuillonctlReadsTheSameAnswersAndWritesNothing)
-{
-    const QString disk = practice.addDisk(u"50%1 & Disk"_s);
-    environment.insert(u"TZ"_s, u"America/New_York"_s);
-    const auto status = quillonctl({u"status"_s, u"--json"_s});
-    EXPECT_EQ(status.status, 0);
-    const auto record = QJsonDocument::fromJson(status.output).object();
-    EXPECT_EQ(record.value(u"phase"_s).toString(), u"Not Running"_s);
-    EXPECT_EQ(record.size(), 7);
-    const auto disks = QJsonDocument::fromJson(quillonctl({u"destinations"_s, u"--json"_s}).output).array();
-    ASSERT_EQ(disks.size(), 1);
-    EXPECT_EQ(disks[0].toObject().value(u"id"_s).toString(), disk);
-    EXPECT_EQ(disks[0].toObject().value(u"name"_s).toString(), u"50%1 & Disk"_s);
-    EXPECT_EQ(quillonctl({u"next"_s, u"--count"_s, u"2"_s, u"--from"_s, u"2026-10-31T12:00"_s}).output,
-              "2026-10-31T12:00:00-04:00\n2026-11-01T12:00:00-05:00\n");
-    EXPECT_EQ(quillonctl({u"next"_s, u"--count"_s}).status, 2);
-    EXPECT_TRUE(QDir(practice.path(u"settings"_s)).isEmpty());
 }
 
 } // namespace quillon

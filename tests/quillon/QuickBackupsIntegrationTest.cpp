@@ -11,16 +11,8 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int backupsEach = 5;
-
-} // namespace
-
-class TwentyBackups : public testing::TestWithParam<int> {};
-
-// However quick a backup is, its end must be told from a failure: four programs make five of them each.
-TEST_P(TwentyBackups, OfOneSmallFileAreNeverTakenForFailures)
+// However quick a backup is, its end must be told from a failure.
+TEST(QuickBackups, OfOneSmallFileAreNeverTakenForFailures)
 {
     PracticeTmutil practice(QStringLiteral(TMUTIL_EXECUTABLE));
     practice.write(u"source/file"_s, "contents");
@@ -35,7 +27,7 @@ TEST_P(TwentyBackups, OfOneSmallFileAreNeverTakenForFailures)
                      [&] { icons.append(controller.menuBarIconState()); });
     ASSERT_TRUE(runUntil([&] { return controller.tmState() == TMState::NotRunning; }));
 
-    for (int i = 0; i < backupsEach; ++i) {
+    for (int i = 0; i < 5; ++i) {
         icons.clear();
         practice.write(u"source/file"_s, "contents " + QByteArray::number(i));
         program.notifications.post(notifications::scheduledBackupShouldStart);
@@ -47,7 +39,5 @@ TEST_P(TwentyBackups, OfOneSmallFileAreNeverTakenForFailures)
     EXPECT_EQ(program.manager->latestBackupInfo().size(), 1);
     program.queue.shutDown();
 }
-
-INSTANTIATE_TEST_SUITE_P(InFourPrograms, TwentyBackups, testing::Range(0, 4));
 
 } // namespace quillon
