@@ -143,7 +143,7 @@ TEST_F(OptionSettings, AlertsSayWhatTheirButtonIsAboutInTheWordsOfTheSystem)
     }
 }
 
-TEST_F(OptionSettings, EverySwitchHasItsOwnText)
+TEST_F(OptionSettings, EverySwitchHasItsOwnTextAndALetterThatPressesIt)
 {
     open();
     const std::pair<const char*, const char*> boxes[] = {
@@ -155,8 +155,10 @@ TEST_F(OptionSettings, EverySwitchHasItsOwnText)
         {"enableMenuBarColorsCheckmark", "settingsDisableIconColors"},
         {"rotateBackupDisksCheckmark", "settingsRotateBackupDisks"},
         {"enableAppAtSystemStartCheckmark", "settingsStartOnSystemStart"}};
-    for (const auto& [name, key] : boxes)
+    for (const auto& [name, key] : boxes) {
         EXPECT_EQ(control<QAbstractButton>(name).text().remove(u'&'), localizedString(key)) << name;
+        EXPECT_TRUE(control<QAbstractButton>(name).text().contains(u'&')) << name;
+    }
 }
 
 TEST_F(OptionSettings, AnAlertThatOutlivesThePanelIsAnsweredWithoutIt)
