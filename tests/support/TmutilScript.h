@@ -10,8 +10,8 @@ namespace quillon {
 /// What a scripted tmutil expects and answers, read from data, so that the same scenario is played inside a test and by
 /// a real process.
 ///
-/// JSON: an array of calls { "expect": [words], "output": text, "status": exit status, "delay": seconds, "fault": one of
-/// Fault's names }.
+/// JSON: an array of calls { "expect": [words], "output": text, "status": exit status, "delay": seconds, "fault": one
+/// of Fault's names }.
 struct TmutilScript {
     enum class Fault {
         None,

@@ -270,7 +270,7 @@ TEST_F(FileUserDefaultsTest, WhatCannotBeWrittenOrReadIsAWarningAndIsNeverReplac
     for (const bool canBeRead : {true, false}) {
         write("{ a = 1; }");
         ASSERT_EQ(chmod(QFile::encodeName(folder()).constData(), canBeRead ? 0555 : 0777), 0);
-        ASSERT_EQ(chmod(QFile::encodeName(path()).constData(), canBeRead ? 0644 : 0), 0);
+        ASSERT_EQ(chmod(QFile::encodeName(path()).constData(), canBeRead ? 0644 : 0222), 0);
         const QString warning = asNobody([&] {
             FileUserDefaults defaults(path(), DefaultsAccess::ReadWrite, runLoop_);
             defaults.setObject(u"b"_s, 2);
