@@ -70,15 +70,15 @@ TEST_F(SingleInstanceIntegrationTest, LaterStartsHaveTheFirstDoWhatTheyAreForAnd
 TEST_F(SingleInstanceIntegrationTest, ASecondStartGivesItsActivationTokenAwayOnce)
 {
     Instance first(folder);
-    ASSERT_EQ(first.says(), u"first"_s);
+    ASSERT_EQ(first.readLine(), u"first"_s);
     for (const char* variable : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
         {
             const ScopedEnvironment launched(variable, "shell-1_TIME42");
-            EXPECT_EQ(Instance(folder).says(), u"presented"_s);
+            EXPECT_EQ(Instance(folder).readLine(), u"presented"_s);
         }
-        EXPECT_EQ(first.says(), u"present shell-1_TIME42"_s) << variable;
-        EXPECT_EQ(Instance(folder).says(), u"presented"_s);
-        EXPECT_EQ(first.says(), u"present"_s) << variable;
+        EXPECT_EQ(first.readLine(), u"present shell-1_TIME42"_s) << variable;
+        EXPECT_EQ(Instance(folder).readLine(), u"presented"_s);
+        EXPECT_EQ(first.readLine(), u"present"_s) << variable;
     }
 }
 
