@@ -32,7 +32,7 @@ class PropertyListsTest(unittest.TestCase):
             self.assertRegex(bundle["LSMinimumSystemVersion"], r"^\d+\.\d+$")
 
     def test_the_code_knows_the_bundles_by_their_identifiers(self):
-        for name, source in (("Info.plist", "platform/core/UserDefaultsStore_macos.cpp"),
+        for name, source in (("Info.plist", "platform/core/defaults/UserDefaultsStore_macos.cpp"),
                              ("HelperInfo.plist", "platform/session/LoginItem_macos.cpp")):
             self.assertIn(f'CFSTR("{read(name)["CFBundleIdentifier"]}")', (ROOT / "src" / source).read_text())
 
