@@ -153,9 +153,9 @@ void ColorScheme::readGnomeSetting()
 
 void ColorScheme::takeGnomeSetting()
 {
-    QProcess* read = std::exchange(gnomeSetting_, nullptr);
-    read->deleteLater();
-    const QByteArray value = read->readAllStandardOutput();
+    QProcess* process = std::exchange(gnomeSetting_, nullptr);
+    process->deleteLater();
+    const QByteArray value = process->readAllStandardOutput();
     if (!answered_)
         set(value.contains("prefer-dark")    ? ColorSchemePreference::Dark
             : value.contains("prefer-light") ? ColorSchemePreference::Light
