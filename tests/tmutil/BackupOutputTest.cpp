@@ -1,5 +1,7 @@
 #include "BackupOutput.h"
 
+#include "Standstill.h"
+
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -107,6 +109,21 @@ TEST(BackupOutput, WhatIsStoredAnewAfterARepairWasRead)
     }
     output.readLine(R"({"message_type":"verbose_status","action":"unchanged","item":"/a/lost"})");
     EXPECT_EQ(output.unreadPaths(), QStringList(u"/a/unreadable"_s));
+}
+
+TEST(Standstill, IsAMinuteOfTheSameProgress)
+{
+    using namespace std::chrono_literals;
+    const std::chrono::steady_clock::time_point start{1h};
+    const BackupProgress some{.bytes = 5};
+    const BackupProgress more{.bytes = 6};
+    Standstill standstill;
+    EXPECT_FALSE(standstill.isSince({}, start));
+    EXPECT_FALSE(standstill.isSince({}, start + 5min)) << "nothing has been told yet";
+    EXPECT_FALSE(standstill.isSince(some, start + 6min));
+    EXPECT_FALSE(standstill.isSince(some, start + 7min - 1ms));
+    EXPECT_FALSE(standstill.isSince(more, start + 7min));
+    EXPECT_TRUE(standstill.isSince(more, start + 8min));
 }
 
 } // namespace quillon

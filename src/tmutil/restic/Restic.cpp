@@ -106,8 +106,9 @@ void interrupt(QProcess& process, std::chrono::milliseconds limit)
 
 ResticDiagnosis ResticOutcome::diagnosis() const
 {
-    return diskGone ? ResticDiagnosis::of(ResticProblem::DiskGone)
-                    : ResticDiagnosis::of(errorText, exitStatus, workFolder);
+    if (diskGone || stuck)
+        return ResticDiagnosis::of(diskGone ? ResticProblem::DiskGone : ResticProblem::NoSpace);
+    return ResticDiagnosis::of(errorText, exitStatus, workFolder);
 }
 
 Failure ResticOutcome::failure() const
@@ -171,9 +172,10 @@ ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOut
         QObject::connect(stop_, &StopRequest::made, &process, [&process] { interrupt(process, patience); });
     QTimer diskWatch;
     QObject::connect(&diskWatch, &QTimer::timeout, &process, [&] {
-        if (repository_.isStillThere())
+        outcome.diskGone = !repository_.isStillThere();
+        outcome.stuck = !outcome.diskGone && isStuck_ && isStuck_();
+        if (!outcome.diskGone && !outcome.stuck)
             return;
-        outcome.diskGone = true;
         diskWatch.stop();
         interrupt(process, patienceWithoutDisk);
     });
@@ -225,6 +227,13 @@ void Restic::pause() const
         QObject::connect(stop_, &StopRequest::made, &loop, &QEventLoop::quit);
     if (!isStopped())
         loop.exec();
+}
+
+Restic Restic::endedWhen(const std::function<bool()>& isStuck) const
+{
+    Restic other = *this;
+    other.isStuck_ = isStuck;
+    return other;
 }
 
 Restic Restic::withFeature(const QString& name) const

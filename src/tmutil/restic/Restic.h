@@ -21,6 +21,7 @@ struct ResticOutcome {
     QString errorText;     ///< standard error without its JSON messages, up to a bound
     QString workFolder;    ///< where it had its temporary files
     bool diskGone = false; ///< the repository's folder was no longer where it had been; restic was ended for it
+    bool stuck = false;    ///< it waited for room on a full disk; it was ended for it
 
     ResticDiagnosis diagnosis() const;
 
@@ -60,6 +61,9 @@ public:
     /// The same restic with a feature that it does not have by default.
     Restic withFeature(const QString& name) const;
 
+    /// The same restic, ended where it is found to wait for room that does not come. It is looked twice a second.
+    Restic endedWhen(const std::function<bool()>& isStuck) const;
+
     /// A path as a pattern that matches it and, unless it has bytes that are no UTF-8, nothing else.
     static QString literalPattern(const QString& path);
 
@@ -74,6 +78,7 @@ private:
     QStringList environment_;
     QString workFolder_;
     const StopRequest* stop_;
+    std::function<bool()> isStuck_;
 };
 
 } // namespace quillon

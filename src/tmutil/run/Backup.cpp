@@ -10,6 +10,7 @@
 #include "Retention.h"
 #include "Room.h"
 #include "RunState.h"
+#include "Standstill.h"
 #include "StopRequest.h"
 #include "Verification.h"
 
@@ -242,9 +243,13 @@ void Backup::copy()
         history_.setUncheckedSince(destination_.id, QDateTime::currentDateTimeUtc());
         history_.save();
     }
-    const Restic program = restic();
     for (;;) {
         BackupOutput output(sources_.folders, repaired_);
+        Standstill standstill;
+        const Restic program = restic().endedWhen([&] {
+            return standstill.isSince(output.progress(), std::chrono::steady_clock::now()) &&
+                   isNearlyFull(*repository_);
+        });
         const QStringList arguments = QStringList{u"backup"_s} + output.options() +
                                       QStringList{u"--tag"_s, Snapshot::tag(remark_.lostSources.isEmpty())} +
                                       sources_.arguments();

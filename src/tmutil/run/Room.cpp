@@ -43,6 +43,13 @@ bool isFull(const RepositoryFolder& repository)
     return room.f_blocks > 0 && room.f_bavail * room.f_frsize < leastRoom;
 }
 
+bool isNearlyFull(const RepositoryFolder& repository)
+{
+    constexpr unsigned long long largestPack = 128ULL * 1024 * 1024; // restic-backup(1), "--pack-size"
+    const auto room = roomOf(repository);
+    return room.f_blocks > 0 && room.f_bavail * room.f_frsize < largestPack;
+}
+
 void keepReserve(const RepositoryFolder& repository)
 {
     const auto room = roomOf(repository);

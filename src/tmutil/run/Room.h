@@ -14,6 +14,9 @@ class Restic;
 /// Whether less room is left than restic's lock and index files need.
 bool isFull(const RepositoryFolder& repository);
 
+/// Whether what restic has in hand may not fit any more.
+bool isNearlyFull(const RepositoryFolder& repository);
+
 /// A file that a full disk can do without: nothing can be removed from a repository, and nothing be said to be removed,
 /// while not even a lock can be written. Made where there is plenty of room and none yet.
 void keepReserve(const RepositoryFolder& repository);
