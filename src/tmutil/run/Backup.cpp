@@ -347,13 +347,14 @@ void Backup::thin()
             log_.backup = snapshot.name();
     }
     const auto leaving = dispensable(snapshots, configuration_.keepRules(), snapshotId_, now);
-    forget(leaving, program);
-    endIfStopped();
     auto staying = snapshots;
     std::erase_if(staying, [&leaving](const Snapshot& one) {
         return std::ranges::find(leaving, one.id, &Snapshot::id) != leaving.end();
     });
     history_.setBackups(destination_.id, staying, log_.backup, log_.bytesAdded);
+    history_.save(); // ahead of it, or what a kill keeps from being noted would look as if it had been lost
+    forget(leaving, program);
+    endIfStopped();
     if (isWeekOver(history_.lastPrune(destination_.id), now)) {
         program.runUnlocking({u"prune"_s}).require();
         history_.setLastPrune(destination_.id, now);
