@@ -5,9 +5,7 @@
 #include <QFile>
 
 #include <algorithm>
-#include <functional>
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace quillon {
 
@@ -15,44 +13,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A tmutil under test, on ground of its own that goes with it.
-class ContractSubject {
-public:
-    ContractSubject() = default;
-    ContractSubject(const ContractSubject&) = delete;
-    ContractSubject& operator=(const ContractSubject&) = delete;
-    virtual ~ContractSubject() = default;
-
-    virtual Answer call(const QStringList& arguments) = 0;
-
-    /// Adds a backup disk of that name; gives its identifier.
-    virtual QString addDisk(const QString& name) = 0;
-
-    /// The next backup copies for seconds.
-    virtual void makeBackupLong() = 0;
-
-    /// The next backup on that disk fails as soon as it has begun.
-    virtual void makeBackupFail(const QString& id) = 0;
-};
-
 /// Our tmutil over a real restic.
-class OverRestic final : public ContractSubject {
+class OverRestic {
 public:
-    Answer call(const QStringList& arguments) override { return practice_.run(arguments); }
-    QString addDisk(const QString& name) override { return practice_.addDisk(name); }
-    void makeBackupLong() override { practice_.writeLargeFile(); }
-    void makeBackupFail(const QString& id) override { QFile::remove(practice_.keyFile(id)); }
+    Answer call(const QStringList& arguments) { return practice_.run(arguments); }
+    QString addDisk(const QString& name) { return practice_.addDisk(name); }
+    void makeBackupLong() { practice_.writeLargeFile(); }
+    void makeBackupFail(const QString& id) { QFile::remove(practice_.keyFile(id)); }
 
 private:
     PracticeTmutil practice_{QStringLiteral(TMUTIL_EXECUTABLE)};
 };
 
 /// What most other tests of the application have in place of a tmutil. Time passes with each call, and only then.
-class OverSimulation final : public ContractSubject {
+class OverSimulation {
 public:
     OverSimulation() { machine_.destinations.clear(); }
 
-    Answer call(const QStringList& arguments) override
+    Answer call(const QStringList& arguments)
     {
         Answer answer;
         const auto child = machine_.launch(
@@ -64,28 +42,18 @@ public:
         runLoop_.advance(betweenCalls);
         return answer;
     }
-
-    QString addDisk(const QString& name) override
+    QString addDisk(const QString& name)
     {
         machine_.destinations.append({u"id of "_s + name, name});
         return machine_.destinations.last().id;
     }
-
-    void makeBackupLong() override { machine_.phases = {{u"FindingChanges"_s, 6}, {u"Copying"_s, 3600, true}}; }
-    void makeBackupFail(const QString&) override { machine_.phases = {{u"FindingChanges"_s, 6}}; }
+    void makeBackupLong() { machine_.phases = {{u"FindingChanges"_s, 6}, {u"Copying"_s, 3600, true}}; }
+    void makeBackupFail(const QString&) { machine_.phases = {{u"FindingChanges"_s, 6}}; }
 
 private:
     VirtualRunLoop runLoop_{Date()};
     SimulatedTimeMachine machine_{runLoop_};
 };
-
-using MakeSubject = std::unique_ptr<ContractSubject> (*)();
-
-template<typename Subject>
-std::unique_ptr<ContractSubject> make()
-{
-    return std::make_unique<Subject>();
-}
 
 // In the order in which a run goes through them; it may pass one by unseen.
 const QStringList phases{
@@ -94,27 +62,37 @@ const QStringList phases{
 
 } // namespace
 
-/// What the application relies on.
-class TmutilContract : public testing::TestWithParam<MakeSubject> {
+/// What the application relies on in a tmutil, each on ground of its own that goes with it.
+template<typename Tool>
+class TmutilContract : public testing::Test {
 protected:
     /// Exit status of a call.
-    int call(const QStringList& arguments) const { return subject_->call(arguments).status; }
-    QVariantMap status() const
+    int call(const QStringList& arguments) { return tool_.call(arguments).status; }
+    QVariantMap status()
     {
-        const Answer answer = subject_->call({u"status"_s});
+        const Answer answer = tool_.call({u"status"_s});
         EXPECT_EQ(answer.status, 0) << answer.error.toStdString();
         const auto dictionary = parseStatus(answer.output);
         EXPECT_TRUE(dictionary) << answer.output.toStdString();
         return dictionary.value_or(QVariantMap());
     }
-    bool isRunning() const { return propertylist::toBoolean(status().value(u"Running"_s)); }
+    static bool isSet(const QVariantMap& dictionary, const QString& key)
+    {
+        return propertylist::toBoolean(dictionary.value(key));
+    }
+    void expectRunTo(const QString& id)
+    {
+        const QVariantMap now = status();
+        EXPECT_TRUE(isSet(now, u"Running"_s));
+        EXPECT_EQ(now.value(u"DestinationID"_s).toString(), id);
+    }
     /// Follows a run to its end; gives the phases seen, each once in a row.
-    QStringList phasesUntilEnd() const
+    QStringList phasesUntilEnd()
     {
         QStringList seen;
         EXPECT_TRUE(eventually([&] {
             const QVariantMap now = status();
-            if (!propertylist::toBoolean(now.value(u"Running"_s)))
+            if (!isSet(now, u"Running"_s))
                 return true;
             const QString phase = now.value(u"BackupPhase"_s).toString();
             if (seen.isEmpty() || seen.last() != phase)
@@ -124,102 +102,89 @@ protected:
         }));
         return seen;
     }
-    QVariantList destinations() const
+    QVariantList destinations()
     {
-        const Answer answer = subject_->call({u"destinationinfo"_s, u"-X"_s});
+        const Answer answer = tool_.call({u"destinationinfo"_s, u"-X"_s});
         EXPECT_EQ(answer.status, 0);
         const QVariantMap dictionary = propertylist::parse(answer.output).value_or(QVariant()).toMap();
         EXPECT_TRUE(dictionary.contains(u"Destinations"_s));
         return dictionary.value(u"Destinations"_s).toList();
     }
 
-    std::unique_ptr<ContractSubject> subject_ = GetParam()();
+    Tool tool_;
 };
 
-TEST_P(TmutilContract, WithoutDisksNothingStarts)
+struct ToolNames {
+    template<typename Tool>
+    static std::string GetName(int index)
+    {
+        return index == 0 ? "Restic" : "Simulation";
+    }
+};
+using Tools = testing::Types<OverRestic, OverSimulation>;
+TYPED_TEST_SUITE(TmutilContract, Tools, ToolNames);
+
+TYPED_TEST(TmutilContract, WithoutTheDiskNothingStarts)
 {
-    EXPECT_TRUE(destinations().isEmpty());
-    EXPECT_GT(call({u"startbackup"_s}), 0);
-    EXPECT_FALSE(isRunning());
-    EXPECT_EQ(call({u"stopbackup"_s}), 0);
+    EXPECT_TRUE(this->destinations().isEmpty());
+    EXPECT_GT(this->call({u"startbackup"_s}), 0);
+    this->tool_.addDisk(u"disk"_s);
+    EXPECT_GT(this->call({u"startbackup"_s, u"-d"_s, u"00000000-0000-0000-0000-000000000000"_s}), 0);
+    EXPECT_FALSE(this->isSet(this->status(), u"Running"_s));
+    EXPECT_EQ(this->call({u"stopbackup"_s}), 0);
 }
 
-TEST_P(TmutilContract, AnUnknownDiskIsRefused)
+TYPED_TEST(TmutilContract, ARunToTheDiskAskedForIsShownFromTheStartUntilItsEndHasBeenSeen)
 {
-    subject_->addDisk(u"disk"_s);
-    EXPECT_GT(call({u"startbackup"_s, u"-d"_s, u"00000000-0000-0000-0000-000000000000"_s}), 0);
-    EXPECT_FALSE(isRunning());
-}
-
-TEST_P(TmutilContract, ARunIsShownFromTheStartUntilItsEndHasBeenSeen)
-{
-    const QString id = subject_->addDisk(u"disk"_s);
-    ASSERT_EQ(call({u"startbackup"_s}), 0);
-    const QVariantMap first = status();
-    EXPECT_TRUE(propertylist::toBoolean(first.value(u"Running"_s)));
-    EXPECT_EQ(first.value(u"DestinationID"_s).toString(), id);
-
-    const QStringList seen = phasesUntilEnd();
+    const QString first = this->tool_.addDisk(u"first"_s);
+    const QString second = this->tool_.addDisk(u"second"_s);
+    ASSERT_EQ(this->call({u"startbackup"_s, u"-d"_s, second}), 0);
+    this->expectRunTo(second);
+    const QStringList seen = this->phasesUntilEnd();
     ASSERT_FALSE(seen.isEmpty());
     EXPECT_EQ(seen.last(), u"Finishing"_s);
     EXPECT_TRUE(std::ranges::all_of(seen, [](const QString& phase) { return phases.contains(phase); }));
     EXPECT_TRUE(std::ranges::is_sorted(seen, {}, [](const QString& phase) { return phases.indexOf(phase); }))
         << seen.join(u' ').toStdString();
-    EXPECT_FALSE(status().contains(u"LastFailure"_s));
-}
+    EXPECT_FALSE(this->status().contains(u"LastFailure"_s));
 
-TEST_P(TmutilContract, TheDiskAskedForIsUsedAndRemembered)
-{
-    subject_->addDisk(u"first"_s);
-    const QString second = subject_->addDisk(u"second"_s);
-    ASSERT_EQ(call({u"startbackup"_s, u"-d"_s, second}), 0);
-    EXPECT_EQ(status().value(u"DestinationID"_s).toString(), second);
-    phasesUntilEnd();
-
-    for (const QVariant& entry : destinations()) {
+    for (const QVariant& entry : this->destinations()) {
         const QVariantMap destination = entry.toMap();
         const bool isSecond = destination.value(u"ID"_s) == second;
         EXPECT_EQ(destination.value(u"Name"_s).toString(), isSecond ? u"second"_s : u"first"_s);
-        EXPECT_EQ(propertylist::toInteger(destination.value(u"LastDestination"_s)), isSecond ? 1 : 0);
+        EXPECT_EQ(this->isSet(destination, u"LastDestination"_s), isSecond);
     }
     // Rotation takes the other one, which has no backup yet.
-    ASSERT_EQ(call({u"startbackup"_s, u"-r"_s}), 0);
-    EXPECT_NE(status().value(u"DestinationID"_s).toString(), second);
-    EXPECT_EQ(call({u"stopbackup"_s}), 0);
+    ASSERT_EQ(this->call({u"startbackup"_s, u"-r"_s}), 0);
+    this->expectRunTo(first);
+    EXPECT_EQ(this->call({u"stopbackup"_s}), 0);
 }
 
-TEST_P(TmutilContract, AStoppedRunEndsWithoutFinishing)
+TYPED_TEST(TmutilContract, AStoppedRunEndsWithoutFinishing)
 {
-    subject_->addDisk(u"disk"_s);
-    subject_->makeBackupLong();
-    ASSERT_EQ(call({u"startbackup"_s}), 0);
-    EXPECT_GT(call({u"startbackup"_s}), 0) << "a second one beside it";
-    ASSERT_TRUE(eventually([this] { return status().value(u"BackupPhase"_s).toString() == "Copying"_L1; }));
-    EXPECT_EQ(call({u"stopbackup"_s}), 0);
-    const QVariantMap after = status();
-    EXPECT_TRUE(!propertylist::toBoolean(after.value(u"Running"_s)) ||
-                propertylist::toBoolean(after.value(u"Stopping"_s)));
-    const QStringList seen = phasesUntilEnd();
+    this->tool_.addDisk(u"disk"_s);
+    this->tool_.makeBackupLong();
+    ASSERT_EQ(this->call({u"startbackup"_s}), 0);
+    EXPECT_GT(this->call({u"startbackup"_s}), 0) << "a second one beside it";
+    ASSERT_TRUE(eventually([this] { return this->status().value(u"BackupPhase"_s).toString() == "Copying"_L1; }));
+    EXPECT_EQ(this->call({u"stopbackup"_s}), 0);
+    const QVariantMap after = this->status();
+    EXPECT_TRUE(!this->isSet(after, u"Running"_s) || this->isSet(after, u"Stopping"_s));
+    const QStringList seen = this->phasesUntilEnd();
     EXPECT_FALSE(seen.contains(u"ThinningPostBackup"_s) || seen.contains(u"Finishing"_s));
 }
 
-TEST_P(TmutilContract, ARunThatFailsAtOnceIsSeenRunningFirst)
+TYPED_TEST(TmutilContract, ARunThatFailsAtOnceIsSeenRunningFirst)
 {
-    const QString id = subject_->addDisk(u"disk"_s);
-    subject_->makeBackupFail(id);
-    ASSERT_EQ(call({u"startbackup"_s}), 0);
-    const QVariantMap first = status();
-    EXPECT_TRUE(propertylist::toBoolean(first.value(u"Running"_s)));
-    EXPECT_EQ(first.value(u"DestinationID"_s).toString(), id);
-
-    const QStringList seen = phasesUntilEnd();
+    const QString id = this->tool_.addDisk(u"disk"_s);
+    this->tool_.makeBackupFail(id);
+    ASSERT_EQ(this->call({u"startbackup"_s}), 0);
+    this->expectRunTo(id);
+    const QStringList seen = this->phasesUntilEnd();
     EXPECT_FALSE(seen.contains(u"ThinningPostBackup"_s) || seen.contains(u"Finishing"_s));
-    const QVariantMap failure = status().value(u"LastFailure"_s).toMap();
+    const QVariantMap failure = this->status().value(u"LastFailure"_s).toMap();
     EXPECT_EQ(failure.value(u"DestinationID"_s).toString(), id);
     EXPECT_FALSE(failure.value(u"Description"_s).toString().isEmpty());
 }
-
-INSTANTIATE_TEST_SUITE_P(Tools, TmutilContract, testing::Values(&make<OverRestic>, &make<OverSimulation>),
-                         [](const auto& tool) { return tool.index == 0 ? "Restic" : "Simulation"; });
 
 } // namespace quillon
