@@ -1,95 +1,97 @@
 #pragma once
 
 #include "PracticeTmutil.h"
-#include "ProcessLock.h"
-
-#include <QDir>
-#include <QFile>
 
 #include <gtest/gtest.h>
 #include <iostream>
-#include <optional>
 #include <unistd.h>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-/// Real backups of real files by our tmutil over a real restic.
+/// Real backups of real files by our tmutil over a real restic. Most are scripts of a shell that knows a few words
+/// more, because people call tmutil from one, too: each call that fails is told in the output, with its exit status.
 class BackupIntegration : public testing::Test {
 protected:
-    int call(const QStringList& arguments) const { return practice_.run(arguments).status; }
-
-    /// Starts a backup that lasts, and waits until it copies.
-    void startLongBackup()
+    /// While a script runs, somebody looks at the status, so that no completed backup waits for that.
+    void expect(const QByteArray& script, const QByteArray& output) const
     {
-        practice_.writeLargeFile();
-        ASSERT_EQ(call({u"startbackup"_s}), 0);
-        ASSERT_TRUE(eventually([this] { return practice_.phase() == "Copying"_L1; }));
+        expectOutput(practice_.watch(u"/bin/sh"_s, {u"-c"_s, words() + QString::fromUtf8(script)}), output);
     }
 
-    bool isRunning() const { return practice_.status().value(u"Running"_s).toString() == "1"_L1; }
-
-    /// A folder's owner is a user without special rights from now on, who calls tmutil by commandOf(): root can do what
-    /// others cannot.
-    void giveToOrdinaryUser(const PracticeTmutil& practice) const
+    /// The worker does all that comes after a backup: nobody ends it.
+    void expectUnwatched(const QByteArray& script, const QByteArray& output) const
     {
-        if (geteuid() == 0) {
-            ASSERT_EQ(
-                runProgram(u"/usr/bin/chown"_s, {u"-R"_s, u"-h"_s, u"65534:65534"_s, practice.path(u"."_s)}).status, 0);
-        }
-    }
-    static QStringList commandOf(const PracticeTmutil& practice, const QStringList& arguments)
-    {
-        QStringList command;
-        if (geteuid() == 0)
-            command = {u"/usr/bin/setpriv"_s, u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s};
-        return command << practice.executable() << arguments;
-    }
-    static Answer callAsOrdinaryUser(const PracticeTmutil& practice, const QStringList& arguments)
-    {
-        const QStringList command = commandOf(practice, arguments);
-        return practice.watch(command.first(), command.mid(1));
+        expectOutput(runProgram(u"/bin/sh"_s, {u"-c"_s, words() + QString::fromUtf8(script)}), output);
     }
 
-    /// Runs a script that may mount what it likes; users who are not root become it in a name space of their own. Says
-    /// so where this machine allows no mounts: nothing is returned then.
-    std::optional<Answer> runWhereMountsAreAllowed(const QString& script) const
+    /// In a name space of its own, where the script may mount what it likes; says so where this machine allows none.
+    void expectWithMounts(const QByteArray& script, const QByteArray& output) const
     {
         QStringList arguments{u"--mount"_s};
         if (geteuid() != 0)
             arguments << u"--map-root-user"_s;
-        if (runProgram(u"/usr/bin/unshare"_s,
-                       arguments + QStringList{u"/bin/mount"_s, u"-t"_s, u"tmpfs"_s, u"none"_s, practice_.source()})
-                .status != 0) {
+        const auto mount = arguments + QStringList{u"/bin/mount"_s, u"-t"_s, u"tmpfs"_s, u"none"_s, practice_.source()};
+        if (runProgram(u"/usr/bin/unshare"_s, mount).status != 0) {
             std::cout << "NOT TESTED with a mounted file system: this machine allows no mounts\n";
-            return std::nullopt;
+            return;
         }
-        return practice_.watch(
-            u"/usr/bin/unshare"_s,
-            arguments + QStringList{u"/bin/sh"_s, u"-c"_s, u"PATH=/usr/bin:/bin:/usr/sbin:/sbin\n"_s + script});
+        arguments << u"/bin/sh"_s << u"-c"_s << words() + QString::fromUtf8(script);
+        expectOutput(practice_.watch(u"/usr/bin/unshare"_s, arguments), output);
     }
 
-    /// What a restore would leave beside its target.
-    QStringList hiddenFolders() const
+    static void expectOutput(const Answer& answer, const QByteArray& output)
     {
-        return QDir(practice_.path(u"."_s)).entryList({u".tmutil-*"_s}, QDir::Dirs | QDir::Hidden);
+        EXPECT_EQ(answer.output.toStdString(), output.toStdString()) << answer.error.toStdString();
     }
 
-    QString failureCause() const
+    QString words() const
     {
-        return practice_.status().value(u"LastFailure"_s).toMap().value(u"Cause"_s).toString();
+        return u"cd '%1'\n"_s.arg(practice_.path(u"."_s)) + QString::fromUtf8(R"sh(
+PATH=$PWD:/usr/bin:/bin:/usr/sbin:/sbin
+state=state/quillon-timemachine
+told() { "$@" || echo "$2: $?"; }
+tmutil() { told ./tmutil "$@"; }
+back_up() { tmutil startbackup -b; }
+restore() { tmutil restore "$(tmutil latestbackup)$PWD/$1" "$2"; }
+use() { mkdir -p "$1" && tmutil setdestination -a "$1" >said; }
+id_of() { ls "$1/Quillon.backups"; }
+repository() { echo "$1/Quillon.backups/$(id_of "$1")"; }
+by_hand() {
+    key=config/quillon-timemachine/keys/$(id_of "$1").key repository=$(repository "$1"); shift
+    restic -q -r "$repository" --no-cache --password-file "$key" "$@" >/dev/null
+}
+wait_for() {
+    for turn in $(seq 1200); do eval "$1" >/dev/null 2>&1 && return; sleep 0.05; done
+    echo "waited in vain for $1"; exit 1
+}
+runs() { tmutil status | grep -q 'Running = 1'; }
+is_at() { tmutil status | grep -q "BackupPhase = $1"; }
+verifies() { tmutil status | grep -q Verifying; }
+cause() { tmutil status | sed -n 's/.* Cause = \(.*\);/\1/p'; }
+start_long() { truncate -s 2G source/large && tmutil startbackup && wait_for 'is_at Copying'; }
+worker() { sed -n '/<key>Worker/{n;s/[^0-9]//g;p}' ${1-.}/$state/run.plist; }
+child_of() { echo $(cat /proc/$1/task/$1/children); }
+list() { (cd "$1" && find . -mindepth 1 -printf '%P %m %T@ %l\n' | sort); }
+same() { diff -r --no-dereference "$1" "$2" && [ "$(list "$1")" = "$(list "$2")" ] && echo same; }
+# Root can do what others cannot: "user" calls for somebody without special rights, who owns what "give" gives.
+give() { [ $(id -u) != 0 ] || chown -R -h 65534:65534 "$@"; }
+user() { $([ $(id -u) != 0 ] || echo setpriv --reuid=65534 --regid=65534 --clear-groups) "$@" || echo "user: $?"; }
+# Another computer, or another user's account. Its backups do not wait for somebody to look at the status, either.
+computer() {
+    mkdir -p $1/source && sed "s,$PWD/,$PWD/$1/,g" tmutil >$1/tmutil && chmod 755 $1/tmutil
+    $1/tmutil addsource $1/source
+}
+back_up_on() {
+    name=$1; shift
+    "$@" $name/tmutil startbackup; wait_for "$name/tmutil status | grep -q Finishing"
+    kill $(worker $name); wait_for "$name/tmutil status | grep -q 'Running = 0'"
+}
+)sh");
     }
-
-    pid_t worker() const { return ProcessLock::holder(practice_.stateFolder() + "/worker.lock"_L1).value_or(0); }
 
     PracticeTmutil practice_{QStringLiteral(TMUTIL_EXECUTABLE)};
 };
-
-inline pid_t childOf(pid_t process)
-{
-    QFile children(u"/proc/%1/task/%1/children"_s.arg(process));
-    return children.open(QIODevice::ReadOnly) ? children.readAll().trimmed().toInt() : 0;
-}
 
 } // namespace quillon

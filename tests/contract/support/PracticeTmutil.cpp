@@ -79,6 +79,8 @@ PracticeTmutil::~PracticeTmutil()
 {
     run({u"stopbackup"_s});
     eventually([this] { return status().value(u"Running"_s).toString() != "1"_L1; });
+    // Folders that nobody may write to, and names that Qt cannot read.
+    runProgram(u"/bin/sh"_s, {u"-c"_s, u"/bin/chmod -R u+rwX '%1'; /bin/rm -r '%1'"_s.arg(folder_.path())});
 }
 
 QVariantMap PracticeTmutil::status() const
@@ -86,21 +88,15 @@ QVariantMap PracticeTmutil::status() const
     return parseStatus(run({u"status"_s}).output).value_or(QVariantMap());
 }
 
-QString PracticeTmutil::phase() const
-{
-    return status().value(u"BackupPhase"_s).toString();
-}
-
 Answer PracticeTmutil::watch(const QString& program, const QStringList& arguments) const
 {
     QProcess process;
     start(process, program, arguments);
-    eventually([&] {
-        // Whoever completes a backup waits for those who watch it; a request to end is all that shortens that.
-        if (phase() == "Finishing"_L1)
+    // Whoever completes a backup waits for those who watch it; a request to end is all that shortens that.
+    while (!process.waitForFinished(100) && process.state() != QProcess::NotRunning) {
+        if (status().value(u"BackupPhase"_s).toString() == "Finishing"_L1)
             endWorker();
-        return process.waitForFinished(100) || process.state() == QProcess::NotRunning;
-    });
+    }
     return answerOf(process);
 }
 
@@ -124,18 +120,6 @@ QString PracticeTmutil::addDisk(const QString& name) const
 QString PracticeTmutil::keyFile(const QString& id) const
 {
     return configurationFolder() + "/keys/"_L1 + id + ".key"_L1;
-}
-
-QString PracticeTmutil::repository(const QString& disk, const QString& id) const
-{
-    return path(disk) + "/Quillon.backups/"_L1 + id;
-}
-
-Answer PracticeTmutil::restic(const QString& disk, const QString& id, const QStringList& arguments) const
-{
-    return runProgram(
-        u"/usr/bin/restic"_s,
-        QStringList{u"--repo"_s, repository(disk, id), u"--password-file"_s, keyFile(id), u"--no-cache"_s} + arguments);
 }
 
 void PracticeTmutil::write(const QString& name, const QByteArray& contents) const

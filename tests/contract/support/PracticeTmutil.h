@@ -46,18 +46,14 @@ public:
 
     Answer run(const QStringList& arguments) const { return runProgram(executable(), arguments); }
     QVariantMap status() const;
-    QString phase() const;
 
-    /// `startbackup -b`, by that program, while somebody asks for the status as the application does. A completed one
-    /// is not made to wait for more of them.
-    Answer backUp() const { return watch(executable(), {QStringLiteral("startbackup"), QStringLiteral("-b")}); }
+    /// Runs a program while somebody asks for the status as the application does. A backup that it completes is not
+    /// made to wait for more of them.
     Answer watch(const QString& program, const QStringList& arguments) const;
 
     /// Makes a folder that stands for a disk and sets it; gives the destination's identifier.
     QString addDisk(const QString& name) const;
     QString keyFile(const QString& id) const;
-    QString repository(const QString& disk, const QString& id) const;
-    Answer restic(const QString& disk, const QString& id, const QStringList& arguments) const;
 
     void write(const QString& name, const QByteArray& contents) const;
     /// A file of the source that keeps restic busy for seconds and takes no room.
