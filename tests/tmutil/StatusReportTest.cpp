@@ -1,28 +1,20 @@
 #include "StatusReport.h"
 
-#include "Failure.h"
-#include "Folders.h"
+#include "ConfigurationFixture.h"
 #include "History.h"
+#include "ParentDeath.h"
 #include "PracticeTmutil.h"
 #include "ProcessLock.h"
 #include "PropertyListFile.h"
 #include "ReportMarks.h"
+#include "RunLog.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <atomic>
-#include <gtest/gtest.h>
+#include <fcntl.h>
 #include <signal.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 namespace quillon {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,71 +22,68 @@ namespace {
 class LockHolder {
 public:
     explicit LockHolder(const QString& path)
+        : process_(fork())
     {
-        int ready[2] = {-1, -1};
-        EXPECT_EQ(pipe(ready), 0);
-        process_ = fork();
         if (process_ == 0) {
             ProcessLock lock(path);
-            [[maybe_unused]] const auto written = write(ready[1], lock.tryLock() ? "y" : "n", 1);
-            pause();
-            _exit(0);
+            if (lock.tryLock())
+                pause();
+            _exit(1);
         }
-        char byte = 0;
-        EXPECT_EQ(read(ready[0], &byte, 1), 1);
-        EXPECT_EQ(byte, 'y');
-        close(ready[0]);
-        close(ready[1]);
+        EXPECT_TRUE(eventually([&] { return ProcessLock::holder(path) == process_; }));
     }
     LockHolder(const LockHolder&) = delete;
     LockHolder& operator=(const LockHolder&) = delete;
-    ~LockHolder() { end(); }
-
-    pid_t process() const { return process_; }
-    void end()
+    ~LockHolder()
     {
-        if (process_ <= 0)
-            return;
         kill(process_, SIGKILL);
         waitpid(process_, nullptr, 0);
-        process_ = 0;
     }
 
+    pid_t process() const { return process_; }
+
 private:
-    pid_t process_ = 0;
+    pid_t process_;
 };
 
-class StatusReportTest : public testing::Test {
+/// What past runs, and one that is under way, have left in the state folder.
+class StatusReportTest : public ConfigurationFixture {
 protected:
+    StatusReportTest() { folder(u"state"_s); }
+
     QVariantMap report() const { return parseStatus(StatusReport(folders_).text()).value_or(QVariantMap()); }
-    QString state() const { return root_.path(); }
+    QString running() const { return report().value(u"Running"_s).toString(); }
+    QVariantMap failure() const { return report().value(u"LastFailure"_s).toMap(); }
+    QString cause() const { return failure().value(u"Cause"_s).toString(); }
+    QString state() const { return folders_.state; }
+    QString lock() const { return RunState::lockPath(state()); }
 
     void setDisks(const QStringList& ids) const
     {
         QVariantList disks;
         for (const QString& id : ids)
             disks.append(QVariantMap{{u"ID"_s, id}, {u"Path"_s, u"/disk"_s}});
-        QDir().mkpath(folders_.configuration);
         ASSERT_TRUE(
-            writeKeptPropertyList(folders_.configuration + "/configuration.plist"_L1, {{u"Destinations"_s, disks}}));
+            writeKeptPropertyList(folder(u"config"_s) + "/configuration.plist"_L1, {{u"Destinations"_s, disks}}));
     }
-
-    RunState run(pid_t worker) const
+    void setFailure(const QString& id, const std::optional<QString>& date) const
     {
-        RunState run;
-        run.runId = u"run"_s;
-        run.worker = worker;
-        run.destinationId = u"ID"_s;
-        run.mountPoint = u"/media/Grüne \"Platte\""_s;
-        run.phase = phase::copying;
-        run.stateChange = u"2026-11-21 07:22:58 +0000"_s;
-        run.progress = BackupProgress{
-            .fraction = 0.25, .secondsRemaining = 90, .bytes = 1, .totalBytes = 4, .files = 2, .totalFiles = 8};
-        return run;
+        History history(state());
+        history.setLastFailure(id, date ? std::optional(failureOn(id, *date)) : std::nullopt);
+        ASSERT_TRUE(history.save());
+    }
+    static LastFailure failureOn(const QString& id, const QString& date)
+    {
+        return {date, id, u"NoSpace"_s, u"Full."_s};
     }
 
-    QTemporaryDir root_;
-    Folders folders_{root_.path(), root_.filePath(u"config"_s), root_.path(), root_.filePath(u"cache"_s)};
+    static RunState run(pid_t worker)
+    {
+        return {u"run"_s,       worker,
+                u"ID"_s,        u"/media/\"Disk\""_s,
+                phase::copying, u"2026-11-21 07:22:58 +0000"_s,
+                false,          BackupProgress{0.25, 90, 1, 4, 2, 8}};
+    }
 };
 
 } // namespace
@@ -104,138 +93,123 @@ TEST_F(StatusReportTest, ReadsBackAsItWasWritten)
     EXPECT_TRUE(StatusReport(folders_).text().startsWith("Backup session status:\n{\n"));
     EXPECT_EQ(report(), (QVariantMap{{u"ClientID"_s, u"com.apple.backupd"_s}, {u"Running"_s, u"0"_s}}));
 
-    const LockHolder worker(RunState::lockPath(state()));
+    const LockHolder worker(lock());
     RunState copying = run(worker.process());
     ASSERT_TRUE(copying.write(state()));
-    QVariantMap dictionary = report();
-    EXPECT_EQ(dictionary.value(u"Running"_s), u"1"_s);
-    EXPECT_EQ(dictionary.value(u"Stopping"_s), u"0"_s);
-    EXPECT_EQ(dictionary.value(u"BackupPhase"_s), u"Copying"_s);
-    EXPECT_EQ(dictionary.value(u"DestinationMountPoint"_s), u"/media/Grüne \"Platte\""_s);
-    EXPECT_EQ(dictionary.value(u"Progress"_s).toMap(), (QVariantMap{{u"Percent"_s, u"0.25"_s},
-                                                                    {u"TimeRemaining"_s, u"90"_s},
-                                                                    {u"bytes"_s, u"1"_s},
-                                                                    {u"totalBytes"_s, u"4"_s},
-                                                                    {u"files"_s, u"2"_s},
-                                                                    {u"totalFiles"_s, u"8"_s}}));
+    const QString told = uR"({BackupPhase = Copying; ClientID = "com.apple.backupd"; DestinationID = ID; Running = 1;
+        DateOfStateChange = "2026-11-21 07:22:58 +0000"; DestinationMountPoint = "/media/\"Disk\""; Stopping = %1;
+        Progress = {%2 bytes = 1; totalBytes = 4; files = 2; totalFiles = 8;};})"_s;
+    EXPECT_EQ(report(), fields(told.arg(u"0"_s, u"Percent = \"0.25\"; TimeRemaining = 90;"_s)));
 
     copying.progress->fraction.reset();
     copying.progress->secondsRemaining.reset();
     copying.stopping = true;
     ASSERT_TRUE(copying.write(state()));
-    dictionary = report();
-    EXPECT_EQ(dictionary.value(u"Stopping"_s), u"1"_s);
-    EXPECT_EQ(dictionary.value(u"Progress"_s).toMap().value(u"Percent"_s), u"-1"_s);
-    EXPECT_FALSE(dictionary.contains(u"LastFailure"_s));
+    EXPECT_EQ(report(), fields(told.arg(u"1"_s, u"Percent = \"-1\";"_s)));
 }
 
 TEST_F(StatusReportTest, ARunWhoseWorkerDiedIsOver)
 {
-    LockHolder worker(RunState::lockPath(state()));
-    ASSERT_TRUE(run(worker.process()).write(state()));
-    EXPECT_EQ(report().value(u"Running"_s), u"1"_s);
-    worker.end();
-    EXPECT_EQ(report().value(u"Running"_s), u"0"_s);
-    EXPECT_EQ(report().value(u"LastFailure"_s).toMap().value(u"Cause"_s), u"Interrupted"_s);
+    {
+        const LockHolder worker(lock());
+        ASSERT_TRUE(run(worker.process()).write(state()));
+        EXPECT_EQ(running(), u"1"_s);
+        EXPECT_EQ(cause(), QString());
+    }
+    EXPECT_EQ(running(), u"0"_s);
+    EXPECT_EQ(cause(), u"Interrupted"_s);
 
     // The next worker holds the lock, but what is there is not its own state.
-    const LockHolder next(RunState::lockPath(state()));
-    EXPECT_EQ(report().value(u"Running"_s), u"0"_s);
+    const LockHolder next(lock());
+    EXPECT_EQ(running(), u"0"_s);
     RunState complete = run(getpid());
     for (const auto& step : {phase::thinningPostBackup, phase::finishing}) {
         complete.phase = step;
         ASSERT_TRUE(complete.write(state()));
-        EXPECT_FALSE(report().contains(u"LastFailure"_s)) << "its snapshot was whole when its worker died";
+        EXPECT_EQ(cause(), QString()) << "its snapshot was whole when its worker died";
     }
+}
+
+// Whoever stops a run signals that number.
+TEST_F(StatusReportTest, NoWorkerIsToldOfWhoseNumberStandsForMany)
+{
+    ASSERT_TRUE(run(-1).write(state()));
+    // The kernel tells -1 of the holder of such a lock.
+    const int file = open(QFile::encodeName(lock()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    struct flock whole {};
+    whole.l_type = F_WRLCK;
+    ASSERT_EQ(fcntl(file, F_OFD_SETLK, &whole), 0);
+    EXPECT_FALSE(RunState::current(state()));
+    close(file);
 }
 
 TEST_F(StatusReportTest, WhatCannotBeReadIsNeverToldAsAnEmptyAnswer)
 {
-    const auto damage = [this](const QString& name) {
-        QFile file(state() + u'/' + name);
-        return file.open(QIODevice::WriteOnly) && file.write("<plist><dict>") > 0;
-    };
-    ASSERT_TRUE(damage(u"run.plist"_s));
-    EXPECT_EQ(report().value(u"Running"_s), u"0"_s) << "left behind by a power failure: nobody holds the lock";
+    const QByteArray half = "<plist><dict>";
+    file(u"state/run.plist"_s, half);
+    EXPECT_EQ(running(), u"0"_s) << "left behind by a power failure: nobody holds the lock";
     {
-        const LockHolder worker(RunState::lockPath(state()));
+        const LockHolder worker(lock());
         EXPECT_THROW(StatusReport{folders_}, Failure) << "a backup may be running";
     }
-    ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
-    ASSERT_TRUE(QFile::link(u"worker.lock"_s, state() + "/worker.lock"_L1));
+    ASSERT_TRUE(QFile::remove(lock()) && QFile::link(u"worker.lock"_s, lock()));
     EXPECT_THROW(StatusReport{folders_}, Failure) << "a link to itself cannot be opened";
-    ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
-    ASSERT_EQ(mkfifo(QFile::encodeName(state() + "/worker.lock"_L1).constData(), 0600), 0);
-    EXPECT_EQ(report().value(u"Running"_s), u"0"_s) << "nobody writes to a pipe in the lock's place";
-    ASSERT_TRUE(QDir(state()).remove(u"worker.lock"_s));
+    ASSERT_TRUE(QFile::remove(lock()));
+    ASSERT_EQ(mkfifo(QFile::encodeName(lock()).constData(), 0600), 0);
+    EXPECT_EQ(running(), u"0"_s) << "nobody writes to a pipe in the lock's place";
+    ASSERT_TRUE(QFile::remove(lock()));
 
     // What is forgotten of past backups keeps neither the state from being told nor the next backup from being made.
-    ASSERT_TRUE(damage(u"history.plist"_s));
-    EXPECT_EQ(report().value(u"Running"_s), u"0"_s);
-    EXPECT_EQ(report().value(u"LastFailure"_s).toMap().value(u"Cause"_s), u"HistoryUnreadable"_s);
+    file(u"state/history.plist"_s, half);
+    EXPECT_EQ(running(), u"0"_s);
+    EXPECT_EQ(cause(), u"HistoryUnreadable"_s);
     History history(state());
     history.setLastDestination(u"ID"_s);
     ASSERT_TRUE(history.save());
-    EXPECT_FALSE(report().contains(u"LastFailure"_s));
+    EXPECT_EQ(cause(), QString());
     EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
     EXPECT_TRUE(QFile::exists(state() + "/history-damaged.plist"_L1)) << "set aside, not overwritten";
 
     // The version before is what counts then; a pipe that nobody writes to is no reason to wait.
     history.setLastBackup(u"ID"_s, QDateTime::currentDateTimeUtc());
     ASSERT_TRUE(history.save());
-    ASSERT_TRUE(damage(u"history.plist"_s));
+    const QString written = file(u"state/history.plist"_s, half);
     EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
-    ASSERT_TRUE(QDir(state()).remove(u"history.plist"_s));
-    ASSERT_EQ(mkfifo(QFile::encodeName(state() + "/history.plist"_L1).constData(), 0600), 0);
+    ASSERT_TRUE(QFile::remove(written));
+    ASSERT_EQ(mkfifo(QFile::encodeName(written).constData(), 0600), 0);
     EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
-}
-
-TEST_F(StatusReportTest, ADamagedConfigurationIsToldAndAFailureOfAForgottenDiskIsNot)
-{
-    const QString file = folders_.configuration + "/configuration.plist"_L1;
-    const auto cause = [this] { return report().value(u"LastFailure"_s).toMap().value(u"Cause"_s).toString(); };
-    History history(state());
-    history.setLastFailure(u"A"_s, LastFailure{u"2026-11-21 07:22:58 +0000"_s, u"A"_s, u"NoSpace"_s, u"Full."_s});
-    ASSERT_TRUE(history.save());
-    setDisks({u"A"_s});
-    EXPECT_EQ(cause(), u"NoSpace"_s);
-    setDisks({u"B"_s});
-    EXPECT_EQ(cause(), QString());
-    QFile::resize(file, 50);
-    EXPECT_EQ(cause(), u"ConfigurationDamaged"_s);
-    QFile::remove(folders_.configuration + "/configuration-previous.plist"_L1);
-    EXPECT_EQ(cause(), u"ConfigurationDamaged"_s);
 }
 
 TEST_F(StatusReportTest, AFailureStandsUntilTheNextSuccessOnTheSameDisk)
 {
-    const auto failure = [](const QString& date, const QString& id) {
-        return LastFailure{date, id, u"NoSpace"_s, u"The disk is full."_s};
-    };
     setDisks({u"A"_s, u"B"_s, u"C"_s});
-    History history(state());
-    history.setLastFailure(u"A"_s, failure(u"2026-11-21 07:22:58 +0000"_s, u"A"_s));
-    history.setLastFailure(u"B"_s, failure(u"2026-11-20 07:22:58 +0000"_s, u"B"_s));
-    ASSERT_TRUE(history.save());
-    EXPECT_EQ(report().value(u"LastFailure"_s).toMap(), (QVariantMap{{u"Date"_s, u"2026-11-21 07:22:58 +0000"_s},
-                                                                     {u"DestinationID"_s, u"A"_s},
-                                                                     {u"Cause"_s, u"NoSpace"_s},
-                                                                     {u"Description"_s, u"The disk is full."_s}}));
-    history.setLastFailure(u"A"_s, std::nullopt);
-    ASSERT_TRUE(history.save());
-    EXPECT_EQ(report().value(u"LastFailure"_s).toMap().value(u"DestinationID"_s), u"B"_s);
-    history.setLastFailure(u"B"_s, std::nullopt);
-    ASSERT_TRUE(history.save());
+    const QString latest = u"2026-11-21 07:22:58 +0000"_s;
+    setFailure(u"A"_s, latest);
+    setFailure(u"B"_s, u"2026-11-20 07:22:58 +0000"_s);
+    EXPECT_EQ(failure(), (QVariantMap{{u"Date"_s, latest},
+                                      {u"DestinationID"_s, u"A"_s},
+                                      {u"Cause"_s, u"NoSpace"_s},
+                                      {u"Description"_s, u"Full."_s}}));
+    setDisks({u"B"_s, u"C"_s});
+    EXPECT_EQ(failure().value(u"DestinationID"_s), u"B"_s) << "the other one is no backup disk any more";
+    setFailure(u"B"_s, std::nullopt);
     EXPECT_FALSE(report().contains(u"LastFailure"_s));
+    setDisks({u"A"_s, u"B"_s, u"C"_s});
+    EXPECT_EQ(failure().value(u"DestinationID"_s), u"A"_s);
 
-    const QVariantMap old = failure(u"2026-11-19 07:22:58 +0000"_s, u"C"_s).toDictionary();
+    const QVariantMap old = failureOn(u"C"_s, latest).toDictionary();
     ASSERT_TRUE(writePropertyListFile(state() + "/history.plist"_L1, {{u"LastFailure"_s, old}}));
-    EXPECT_EQ(report().value(u"LastFailure"_s).toMap(), old) << "as earlier versions wrote it";
+    EXPECT_EQ(failure(), old) << "as earlier versions wrote it";
+
+    QFile::resize(path(u"config/configuration.plist"_s), 50);
+    EXPECT_EQ(cause(), u"ConfigurationDamaged"_s);
+    QFile::remove(path(u"config/configuration-previous.plist"_s));
+    EXPECT_EQ(cause(), u"ConfigurationDamaged"_s);
 }
 
 TEST_F(StatusReportTest, ReportsAreMarkedForTheirOwnRunAndKind)
 {
-    const LockHolder worker(RunState::lockPath(state()));
+    const LockHolder worker(lock());
     const ReportMarks marks(state());
     marks.clear();
     RunState running = run(worker.process());
@@ -251,31 +225,70 @@ TEST_F(StatusReportTest, ReportsAreMarkedForTheirOwnRunAndKind)
     EXPECT_TRUE(marks.isFinishingReported(u"run"_s));
     EXPECT_FALSE(marks.isReported(u"another"_s));
 
-    const QString folder = state() + "/reported"_L1;
-    const QString elsewhere = state() + "/elsewhere"_L1;
-    ASSERT_TRUE(QDir(folder).removeRecursively() && QDir().mkpath(elsewhere + "/precious"_L1));
-    ASSERT_TRUE(QFile::link(elsewhere, folder));
+    const QString marked = state() + "/reported"_L1;
+    const QString precious = folder(u"elsewhere/precious"_s);
+    ASSERT_TRUE(QDir(marked).removeRecursively() && QFile::link(path(u"elsewhere"_s), marked));
     marks.clear();
-    EXPECT_TRUE(QFileInfo::exists(elsewhere + "/precious"_L1)) << "what a link in their place leads to";
+    EXPECT_TRUE(QFileInfo::exists(precious)) << "what a link in their place leads to";
 }
 
 TEST_F(StatusReportTest, AReaderNeverSeesHalfAFile)
 {
-    const QString file = state() + "/run.plist"_L1;
-    const QVariantMap small{{u"a"_s, QString(10, u'a')}};
-    const QVariantMap large{{u"a"_s, QString(100'000, u'a')}};
-    ASSERT_TRUE(writePropertyListFile(file, small));
-    std::atomic<bool> done = false;
-    std::thread writer([&] {
-        for (int round = 0; round < 100; ++round)
-            (round < 50 ? writePropertyListFile : replacePropertyListFile)(file, round % 2 == 0 ? large : small);
-        done = true;
-    });
-    while (!done) {
-        const auto read = readPropertyListFile(file);
-        ASSERT_TRUE(read == small || read == large);
+    const QVariantMap before{{u"a"_s, u"before"_s}};
+    const QVariantMap after{{u"a"_s, u"after"_s}};
+    const QString list = path(u"state/run.plist"_s);
+    for (const auto write : {writePropertyListFile, replacePropertyListFile}) {
+        ASSERT_TRUE(write(list, before));
+        QFile reader(list);
+        ASSERT_TRUE(reader.open(QIODevice::ReadOnly));
+        ASSERT_TRUE(write(list, after));
+        EXPECT_EQ(propertylist::parse(reader.readAll()), before) << "it has begun to read";
+        EXPECT_EQ(readPropertyListFile(list), after);
+        EXPECT_EQ(mode(list), 0600U);
     }
-    writer.join();
+}
+
+TEST_F(StatusReportTest, NothingIsRememberedOfAnEarlierRepositoryWhereANewOneIs)
+{
+    History history(state());
+    history.setDamage(u"id"_s, Damage{.date = {}});
+    history.setUncheckedSince(u"id"_s, QDateTime::currentDateTimeUtc());
+    history.setVerificationUnfinished(u"id"_s, true);
+    history.setCaches(u"id"_s, {{u"/cache"_s, 1LL}});
+    history.setOtherFileSystems(u"id"_s, {{u"/mount"_s, 1LL}});
+    history.setBackups(u"id"_s, std::vector<Snapshot>(1), {}, 0);
+    history.noteNewRepository(u"id"_s);
+    EXPECT_FALSE(history.damage(u"id"_s) || history.uncheckedSince(u"id"_s).isValid() ||
+                 history.isVerificationUnfinished(u"id"_s));
+    EXPECT_TRUE(history.caches(u"id"_s).isEmpty() && history.otherFileSystems(u"id"_s).isEmpty() &&
+                history.backups(u"id"_s).isEmpty());
+}
+
+TEST_F(StatusReportTest, TheLatestRunsAreKeptWithEveryPathThatWasNotRead)
+{
+    const QStringList unread{u"/a"_s, u"/line\nbreak"_s, u"/bell\u0007"_s};
+    RunLog log{{}, u"08:00:00"_s, u"ID"_s,    u"Disk"_s, u"Completed"_s, u"Remark."_s, {}, 9, 4, 2,
+               7,  unread,        u"1\n2\n"_s};
+    for (int run = 0; run < 203; ++run) {
+        log.begun = u"2026-11-21 07:%1:%2 +0000"_s.arg(run / 60, 2, 10, QChar(u'0')).arg(run % 60, 2, 10, QChar(u'0'));
+        log.backup = QString::number(run);
+        ASSERT_TRUE(log.write(state()));
+    }
+    const auto kept = RunLog::all(state());
+    ASSERT_EQ(kept.size(), 200U);
+    EXPECT_EQ(kept.front().backup, u"3"_s);
+    EXPECT_EQ(kept.back().line(), log.begun + u"  Completed   \"Disk\"  4 new, 2 changed, 3 not read  202"_s);
+    EXPECT_EQ(kept.back().text().join(u'|'),
+              u"Begun:         2026-11-21 07:03:22 +0000|Ended:         08:00:00|Disk:          Disk (ID)|"
+              "Result:        Completed|Backup:        202|Files:         9, of which 4 new and 2 changed|"
+              "Bytes added:   7|Remark:        Remark.|Not read:      /a|Not read:      /line\nbreak|"
+              "Not read:      /bell\uFFFD|restic:        1|restic:        2"_s);
+}
+
+TEST(ParentDeath, IsNoticedAlsoWhereItCameFirst)
+{
+    EXPECT_TRUE(endWithParent(0, getppid()));
+    EXPECT_FALSE(endWithParent(0, getpid())) << "whoever forked it is its parent no more";
 }
 
 } // namespace quillon
