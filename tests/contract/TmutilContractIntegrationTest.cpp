@@ -18,8 +18,15 @@ class OverRestic {
 public:
     Answer call(const QStringList& arguments) { return practice_.run(arguments); }
     QString addDisk(const QString& name) { return practice_.addDisk(name); }
-    void makeBackupLong() { practice_.writeLargeFile(); }
-    void makeBackupFail(const QString& id) { QFile::remove(practice_.keyFile(id)); }
+    void makeBackupLong()
+    {
+        practice_.write(u"source/large"_s, {});
+        QFile::resize(practice_.path(u"source/large"_s), qint64{2} << 30); // takes time and no room
+    }
+    void makeBackupFail(const QString& id)
+    {
+        QFile::remove(practice_.configurationFolder() + "/keys/"_L1 + id + ".key"_L1);
+    }
 
 private:
     PracticeTmutil practice_{QStringLiteral(TMUTIL_EXECUTABLE)};
@@ -114,15 +121,8 @@ protected:
     Tool tool_;
 };
 
-struct ToolNames {
-    template<typename Tool>
-    static std::string GetName(int index)
-    {
-        return index == 0 ? "Restic" : "Simulation";
-    }
-};
 using Tools = testing::Types<OverRestic, OverSimulation>;
-TYPED_TEST_SUITE(TmutilContract, Tools, ToolNames);
+TYPED_TEST_SUITE(TmutilContract, Tools, );
 
 TYPED_TEST(TmutilContract, WithoutTheDiskNothingStarts)
 {

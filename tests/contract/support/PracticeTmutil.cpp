@@ -117,23 +117,12 @@ QString PracticeTmutil::addDisk(const QString& name) const
     return QDir(path(name) + "/Quillon.backups"_L1).entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0);
 }
 
-QString PracticeTmutil::keyFile(const QString& id) const
-{
-    return configurationFolder() + "/keys/"_L1 + id + ".key"_L1;
-}
-
 void PracticeTmutil::write(const QString& name, const QByteArray& contents) const
 {
     QDir().mkpath(QFileInfo(path(name)).path());
     QFile file(path(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         qFatal("%s cannot be written", qPrintable(path(name)));
-}
-
-void PracticeTmutil::writeLargeFile() const
-{
-    write(u"source/large"_s, {});
-    QFile::resize(source() + "/large"_L1, qint64{2} * 1024 * 1024 * 1024);
 }
 
 } // namespace quillon

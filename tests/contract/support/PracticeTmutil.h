@@ -6,7 +6,6 @@
 #include <QVariantMap>
 
 #include <functional>
-#include <memory>
 #include <optional>
 
 namespace quillon {
@@ -53,11 +52,8 @@ public:
 
     /// Makes a folder that stands for a disk and sets it; gives the destination's identifier.
     QString addDisk(const QString& name) const;
-    QString keyFile(const QString& id) const;
 
     void write(const QString& name, const QByteArray& contents) const;
-    /// A file of the source that keeps restic busy for seconds and takes no room.
-    void writeLargeFile() const;
 
 private:
     void endWorker() const;
