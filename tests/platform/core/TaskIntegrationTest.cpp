@@ -1,7 +1,6 @@
 #include "EventLoop.h"
 #include "ScopedEnvironment.h"
 #include "Task.h"
-#include "UtilityPriority.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -16,19 +15,21 @@
 namespace quillon {
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
-TaskRequest shell(const QString& script)
+TaskRequest program(const QString& path)
 {
-    return {.executable = u"/bin/sh"_s, .arguments = {u"-c"_s, script, u"sh"_s}, .environment = {u"command=status"_s}};
+    return {.executable = path, .arguments = {}, .environment = {u"command=status"_s}};
 }
 
-QString contents(const QString& path)
+TaskRequest shell(const QString& script, bool captureOutput = true, bool captureErrors = false)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    auto request = program(u"/bin/sh"_s);
+    request.arguments = QStringList{u"-c"_s, script, u"sh"_s, u"-d"_s, u""_s, u"a b\"$x'"_s, u"Größe %1"_s};
+    request.captureOutput = captureOutput;
+    request.captureErrors = captureErrors;
+    return request;
 }
 
 // True for one that has ended and waits to be reaped, too.
@@ -40,146 +41,88 @@ bool hasChildren()
 
 class TaskIntegrationTest : public testing::Test {
 protected:
-    std::unique_ptr<RunningTask> launch(const TaskRequest& request)
-    {
-        return task.launch(request, [this](const TaskResult& result) { results.push_back(result); });
-    }
-
-    TaskResult run(const TaskRequest& request)
-    {
-        const auto handle = launch(request);
-        EXPECT_TRUE(results.empty()) << "reported before launch returned";
-        EXPECT_TRUE(runUntil([this] { return !results.empty(); }));
-        QCoreApplication::processEvents();
-        EXPECT_EQ(results.size(), 1u) << "reported more than once";
-        return results.empty() ? TaskResult{} : results.front();
-    }
-
     void TearDown() override
     {
         EXPECT_TRUE(runUntil([] { return !hasChildren(); })) << "a child was left behind";
     }
 
-    QTemporaryDir folder;
-    Task task;
-    std::vector<TaskResult> results;
+    QString makeFile(const QString& name, QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner) const
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.setPermissions(permissions));
+        return file.fileName();
+    }
+
+    const QTemporaryDir folder;
 };
 
-TEST_F(TaskIntegrationTest, TheChildSeesExactlyOneVariableWhateverTheParentHas)
+TEST_F(TaskIntegrationTest, TheEndOfTheChildItselfIsReportedOnceWithWhatItSaid)
 {
-    const ScopedEnvironment path("LD_LIBRARY_PATH", "/usr/lib");
-    const ScopedEnvironment dyld("DYLD_LIBRARY_PATH", "/usr/lib");
-    const auto result =
-        run({.executable = u"/usr/bin/env"_s, .arguments = {}, .environment = {u"command=destinationinfo"_s}});
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.output, "command=destinationinfo\n");
-}
-
-TEST_F(TaskIntegrationTest, ArgumentsArriveUnchanged)
-{
-    auto request = shell(u"printf '[%s]' \"$@\""_s);
-    request.arguments += {u"-d"_s, u""_s, u"a b\"$x'"_s, u"Größe %1"_s};
-    EXPECT_EQ(run(request).output, "[-d][][a b\"$x'][Größe %1]");
-}
-
-TEST_F(TaskIntegrationTest, TheEndOfTheChildItselfIsReportedWhicheverItIs)
-{
+    const ScopedEnvironment libraries("LD_LIBRARY_PATH", "/usr/lib"); // QProcess would hand it down
+    const auto bound = QString::number(Task::outputBound);
     const auto streams = u"[ /proc/$$/fd/0 -ef /proc/%1/fd/0 ] && [ /proc/$$/fd/2 -ef /proc/%1/fd/2 ]"_s;
+    const auto grandchild = u"while [ -d '%1' ]; do /usr/bin/sleep 0.1; done & echo on"_s.arg(folder.path());
+    const QByteArray priority = QByteArray::number(std::max(getpriority(PRIO_PROCESS, 0), 10));
     const struct {
-        QString script;
+        QString what;
+        TaskRequest request;
         int status;
-        QByteArray output;
+        std::optional<QByteArray> output = "";
+        QByteArray errors = {};
     } rows[] = {
-        {u"printf half; exit 3"_s, 3, "half"},
-        {u"kill -TERM $$"_s, SIGTERM, ""},
-        {u"/usr/bin/sleep 600 & echo $!"_s, 0, "grandchild"}, // keeps the output open
-        {streams.arg(QString::number(getpid())), 0, ""},      // input and error are those of the parent
+        {u"one variable"_s, program(u"/usr/bin/env"_s), 0, "command=status\n"},
+        {u"arguments"_s, shell(u"printf '[%s]' \"$@\""_s), 0, "[-d][][a b\"$x'][Größe %1]"},
+        {u"a failure"_s, shell(u"printf half; exit 3"_s), 3, "half"},
+        {u"a signal"_s, shell(u"kill -TERM $$"_s), SIGTERM},
+        {u"input and errors are the parent's"_s, shell(streams.arg(getpid())), 0},
+        {u"a grandchild keeps the output open"_s, shell(grandchild), 0, "on\n"},
+        {u"low priority"_s, shell(u"/usr/bin/nice; /usr/bin/ionice -p $$"_s), 0, priority + "\nbest-effort: prio 7\n"},
+        {u"output unwanted"_s, shell(u"[ /proc/$$/fd/1 -ef /dev/null ]"_s, false), 0},
+        {u"errors"_s, shell(u"echo a; echo b >&2; exit 3"_s, true, true), 3, "a\n", "b\n"},
+        {u"errors are dropped, not blocked on"_s, shell(u"/usr/bin/head -c 1000000 /dev/zero >&2"_s, true, true), 0, "",
+         QByteArray(Task::errorBound, '\0')},
+        {u"all that may be"_s, shell(u"/usr/bin/head -c %1 /dev/zero"_s.arg(bound)), 0,
+         QByteArray(Task::outputBound, '\0')},
+        {u"endless"_s, shell(u"exec /usr/bin/yes"_s), SIGKILL, {}},
+        {u"no file"_s, program(folder.filePath(u"missing"_s)), TaskResult::launchRefused},
+        {u"no program"_s, program(makeFile(u"plain"_s)), TaskResult::launchRefused},
+        {u"an empty one"_s, program(makeFile(u"empty"_s, QFile::ExeOwner)), TaskResult::launchRefused},
+        {u"a folder"_s, program(folder.path()), TaskResult::launchRefused},
+        {u"nothing"_s, program({}), TaskResult::launchRefused},
     };
-    for (const auto& [script, status, output] : rows) {
-        results.clear();
-        const auto result = run(shell(script));
-        EXPECT_EQ(result.status, status) << script.toStdString();
-        if (output == "grandchild") {
-            ::kill(result.output->trimmed().toInt(), SIGKILL);
-            continue;
+    for (const bool destroys : {false, true}) { // handle and launcher, inside the completion
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.what.toStdString());
+            auto launcher = std::make_unique<Task>();
+            std::unique_ptr<RunningTask> handle;
+            std::vector<TaskResult> results;
+            handle = launcher->launch(row.request, [&](const TaskResult& result) {
+                results.push_back(result);
+                handle.reset();
+                if (destroys)
+                    launcher.reset();
+            });
+            EXPECT_TRUE(results.empty()) << "reported before launch returned";
+            ASSERT_TRUE(runUntil([&] { return !results.empty(); }));
+            QCoreApplication::processEvents();
+            EXPECT_EQ(results.size(), 1u);
+            EXPECT_EQ(results.front().status, row.status);
+            EXPECT_TRUE(results.front().output == row.output) << results.front().output->left(200).toStdString();
+            EXPECT_TRUE(results.front().errors == row.errors) << results.front().errors.left(200).toStdString();
         }
-        EXPECT_EQ(result.output, output) << script.toStdString();
     }
-}
-
-TEST_F(TaskIntegrationTest, ComplaintsAreCollectedUpToABoundWhereAskedFor)
-{
-    auto request = shell(u"echo answer; echo complaint >&2; exit 3"_s);
-    request.captureErrors = true;
-    const auto result = run(request);
-    EXPECT_EQ(result.errors, "complaint\n");
-    EXPECT_EQ(result.output, "answer\n") << "kept apart";
-    EXPECT_EQ(result.status, 3);
-    results.clear();
-    request = shell(u"head -c 1000000 /dev/zero >&2"_s);
-    request.captureErrors = true;
-    EXPECT_EQ(run(request).errors.size(), Task::errorBound);
-    EXPECT_EQ(results.front().status, 0) << "dropped, not blocked on";
-}
-
-TEST_F(TaskIntegrationTest, ARefusedLaunchEndsWithStatus127)
-{
-    const QString plainFile = folder.filePath(u"plain"_s);
-    ASSERT_TRUE(QFile(plainFile).open(QIODevice::WriteOnly));
-    const QString emptyProgram = folder.filePath(u"empty"_s);
-    ASSERT_TRUE(QFile(emptyProgram).open(QIODevice::WriteOnly));
-    QFile::setPermissions(emptyProgram, QFile::ReadOwner | QFile::ExeOwner);
-    for (const QString& path : {folder.filePath(u"missing"_s), plainFile, emptyProgram, folder.path(), QString()}) {
-        SCOPED_TRACE(path.toStdString());
-        results.clear();
-        EXPECT_EQ(run({.executable = path, .arguments = {}, .environment = {u"command=x"_s}}).status,
-                  TaskResult::launchRefused);
-    }
-}
-
-TEST_F(TaskIntegrationTest, OutputUpToTheBoundArrivesWholeAndBeyondItEndsTheChild)
-{
-    auto whole = run(shell(u"/usr/bin/head -c %1 /dev/zero"_s.arg(QString::number(Task::outputBound))));
-    EXPECT_EQ(whole.status, 0);
-    ASSERT_TRUE(whole.output);
-    EXPECT_EQ(whole.output->size(), Task::outputBound);
-    results.clear();
-    const auto endless = run(shell(u"exec /usr/bin/yes"_s));
-    EXPECT_EQ(endless.status, SIGKILL);
-    EXPECT_FALSE(endless.output);
-}
-
-TEST_F(TaskIntegrationTest, OutputThatIsNotToBeCapturedGoesNowhere)
-{
-    auto request = shell(u"[ /proc/$$/fd/1 -ef /dev/null ]"_s);
-    request.captureOutput = false;
-    EXPECT_EQ(run(request).status, 0);
-}
-
-TEST_F(TaskIntegrationTest, TheChildRunsAtUtilityPriority)
-{
-    const int own = getpriority(PRIO_PROCESS, 0);
-    const auto result = run(shell(u"/usr/bin/nice; /usr/bin/ionice -p $$"_s));
-    ASSERT_TRUE(result.output);
-    EXPECT_EQ(*result.output, QByteArray::number(std::max(own, 10)) + "\nbest-effort: prio 7\n");
-    const pid_t child = fork();
-    if (child == 0) {
-        lowerToUtilityPriority();
-        lowerToUtilityPriority(); // as a child of such a process does
-        _exit(getpriority(PRIO_PROCESS, 0));
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(WEXITSTATUS(status), std::max(own, 10));
 }
 
 TEST_F(TaskIntegrationTest, KillEndsTheChildAndReportsItsEnd)
 {
-    const auto handle = launch(shell(u"echo begun; exec /usr/bin/sleep 600"_s));
-    handle->kill();
-    ASSERT_TRUE(runUntil([this] { return !results.empty(); }));
-    EXPECT_EQ(results.front().status, SIGKILL);
-    handle->kill();
+    Task task;
+    int status = 0;
+    const auto running = task.launch(shell(u"exec /usr/bin/sleep 600"_s),
+                                     [&status](const TaskResult& result) { status = result.status; });
+    running->kill();
+    EXPECT_TRUE(runUntil([&status] { return status != 0; }));
+    EXPECT_EQ(status, SIGKILL);
+    running->kill();
 }
 
 TEST_F(TaskIntegrationTest, AChildRunsToItsEndUnreportedWithoutItsHandleOrItsLauncher)
@@ -188,37 +131,21 @@ TEST_F(TaskIntegrationTest, AChildRunsToItsEndUnreportedWithoutItsHandleOrItsLau
         const QString mark = folder.filePath(u"mark %1"_s.arg(hasLauncher));
         const QString gate = folder.filePath(u"gate %1"_s.arg(hasLauncher));
         auto launcher = std::make_unique<Task>();
-        auto handle = launcher->launch(
-            shell(u"until [ -e '%1' ]; do /usr/bin/sleep 0.02; done; echo finished > '%2'"_s.arg(gate, mark)),
-            [](const TaskResult&) { FAIL() << "reported to nobody"; });
+        auto handle =
+            launcher->launch(shell(u"until [ -e '%1' ]; do /usr/bin/sleep 0.02; done; : > '%2'"_s.arg(gate, mark)),
+                             [](const TaskResult&) { FAIL() << "reported to nobody"; });
         if (hasLauncher) {
             handle.reset();
         } else {
             launcher.reset();
             handle->kill(); // no longer anybody's child to end
         }
-        ASSERT_TRUE(QFile(gate).open(QIODevice::WriteOnly));
-        EXPECT_TRUE(runUntil([&] { return contents(mark) == u"finished\n"_s; })) << hasLauncher;
+        makeFile(u"gate %1"_s.arg(hasLauncher));
+        EXPECT_TRUE(runUntil([&] { return QFile::exists(mark); })) << hasLauncher;
         if (!hasLauncher) {
             EXPECT_GT(wait(nullptr), 0); // at quit, the system's first process does this
         }
         EXPECT_TRUE(runUntil([] { return !hasChildren(); })) << hasLauncher;
-    }
-}
-
-TEST_F(TaskIntegrationTest, TheCompletionMayDestroyHandleAndLauncher)
-{
-    for (const QString& executable : {u"/bin/true"_s, folder.filePath(u"missing"_s), QString()}) {
-        auto launcher = std::make_unique<Task>();
-        std::unique_ptr<RunningTask> handle;
-        bool reported = false;
-        handle = launcher->launch({.executable = executable, .arguments = {}, .environment = {u"command=x"_s}},
-                                  [&](const TaskResult&) {
-                                      handle.reset();
-                                      launcher.reset();
-                                      reported = true;
-                                  });
-        EXPECT_TRUE(runUntil([&] { return reported; })) << executable.toStdString();
     }
 }
 

@@ -1,0 +1,224 @@
+#include "Calendar.h"
+#include "DateComponentsFormatter.h"
+#include "DateFormatter.h"
+#include "ScopedEnvironment.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <ostream>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono;
+
+static void PrintTo(const OffsetChange& change, std::ostream* out)
+{
+    *out << change.at.time_since_epoch().count() << ' ' << change.before << ' ' << change.after;
+}
+
+namespace {
+
+Date utc(int y, unsigned m, unsigned d, int hour = 0, int minute = 0, int second = 0)
+{
+    return sys_days(year(y) / month(m) / day(d)) + hours(hour) + minutes(minute) + seconds(second);
+}
+
+/// What the clock on the wall shows, with the number of the weekday.
+QString shown(Date date)
+{
+    const LocalTime time = Calendar().localTime(date);
+    return QString::asprintf("%d-%02d-%02d %02d:%02d:%02d, %d", time.year, time.month, time.day, time.hour, time.minute,
+                             time.second, time.weekday);
+}
+
+TEST(CalendarTest, RepeatedTimesAreTheFirstOneSkippedTimesShiftByTheGapAndFieldsCarryOver)
+{
+    const struct {
+        const char* zone;
+        LocalTime asked;
+        Date instant;
+        QString shown;
+    } rows[] = {
+        {"Europe/Berlin", {2026, 3, 29, 2, 30}, utc(2026, 3, 29, 1, 30), u"2026-03-29 03:30:00, 1"_s},
+        {"Europe/Berlin", {2026, 10, 25, 2, 30}, utc(2026, 10, 25, 0, 30), u"2026-10-25 02:30:00, 1"_s},
+        {"America/New_York", {2026, 3, 8, 2}, utc(2026, 3, 8, 7), u"2026-03-08 03:00:00, 1"_s},
+        {"America/Sao_Paulo", {2018, 11, 4}, utc(2018, 11, 4, 3), u"2018-11-04 01:00:00, 1"_s},
+        {"Australia/Lord_Howe", {2026, 10, 4, 2, 10}, utc(2026, 10, 3, 15, 40), u"2026-10-04 02:40:00, 1"_s},
+        {"Pacific/Apia", {2011, 12, 30, 12}, utc(2011, 12, 30, 22), u"2011-12-31 12:00:00, 7"_s},
+        {"Europe/Berlin", {2060, 3, 28, 2, 30}, utc(2060, 3, 28, 1, 30), u"2060-03-28 03:30:00, 1"_s},
+        {"UTC", {2026, 1, 32}, utc(2026, 2, 1), u"2026-02-01 00:00:00, 1"_s},
+        {"UTC", {2026, 14, -6, 25, -1, 61}, utc(2027, 1, 26, 1, 0, 1), u"2027-01-26 01:00:01, 3"_s},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.shown.toStdString() + " in " + row.zone);
+        const ScopedEnvironment zone("TZ", row.zone);
+        EXPECT_EQ(Calendar().date(row.asked), row.instant);
+        EXPECT_EQ(shown(row.instant), row.shown);
+    }
+    const ScopedEnvironment zone("TZ", "Europe/Berlin");
+    const QList<OffsetChange> summerTime{{utc(2026, 3, 29, 1), 3600, 7200}, {utc(2026, 10, 25, 1), 7200, 3600}};
+    EXPECT_EQ(Calendar().offsetChanges(utc(2026, 3, 29, 0, 59, 59), utc(2026, 10, 25, 1)), summerTime);
+    EXPECT_EQ(Calendar().offsetChanges(utc(2026, 3, 29, 1), utc(2026, 10, 25, 0, 59, 59)), QList<OffsetChange>());
+    // Days before 1582 count by the Gregorian rules too; the zone had its local mean time then.
+    EXPECT_EQ(shown(utc(1500, 2, 28, 12)), u"1500-02-28 12:53:28, 4"_s);
+    EXPECT_EQ(shown(Date(milliseconds(-1))), u"1970-01-01 00:59:59, 5"_s);
+    EXPECT_EQ(shown(Date::max()), u"32767-12-30 01:00:00, 7"_s) << "the end of the calendar";
+    EXPECT_EQ(shown(Date::min()), u"-32767-01-02 00:53:28, 1"_s);
+    EXPECT_EQ(shown(Calendar().date({1'000'000, 1, 1})), u"32767-12-01 00:00:00, 6"_s);
+}
+
+TEST(CalendarTest, TheZoneHasTheNameThatPeopleGiveItAndFollowsTheSystemsWhereItNamesThat)
+{
+    const std::pair<const char*, QString> names[] = {{"Europe/Berlin", u"Europe/Berlin"_s},
+                                                     {":Asia/Tokyo", u"Asia/Tokyo"_s},
+                                                     {"/usr/share/zoneinfo/Asia/Almaty", u"Asia/Almaty"_s},
+                                                     {":/nowhere/private", u"UTC"_s},
+                                                     {"CET-1CEST,M3.5.0,M10.5.0/3", u"CET-1CEST,M3.5.0,M10.5.0/3"_s},
+                                                     {"", u"UTC"_s}};
+    for (const auto& [value, name] : names) {
+        const ScopedEnvironment zone("TZ", value);
+        EXPECT_EQ(Calendar::hostTimeZone(utc(2026, 7, 1)), name) << value;
+        Calendar::followSystemTimeZone();
+        EXPECT_TRUE(qEnvironmentVariableIsSet("TZ")) << value;
+    }
+    for (const char* value : {":/etc/localtime", "/etc/localtime"}) {
+        const ScopedEnvironment zone("TZ", value);
+        Calendar::followSystemTimeZone();
+        EXPECT_FALSE(qEnvironmentVariableIsSet("TZ")) << value;
+    }
+}
+
+TEST(DateComponentsFormatterTest, LengthsAreCutOffInTheUnitsAndTheStyleAskedFor)
+{
+    using F = DateComponentsFormatter;
+    constexpr auto abbreviated = F::UnitsStyle::Abbreviated;
+    constexpr auto positional = F::UnitsStyle::Positional;
+    constexpr auto none = F::ZeroFormatting::None;
+    constexpr auto drop = F::ZeroFormatting::DropLeading;
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const F::Units clock = F::Hours | F::Minutes | F::SecondsUnit;
+    const struct {
+        double seconds;
+        F::Units units;
+        F::UnitsStyle style;
+        F::ZeroFormatting zeros;
+        QString text;
+        const char* locale = "en_US.UTF-8";
+    } rows[] = {
+        {5400, F::Hours | F::Minutes, abbreviated, drop, u"1h 30m"_s},
+        {3600, F::Hours | F::Minutes, abbreviated, drop, u"1h 0m"_s},
+        {3599.9, F::Minutes | F::SecondsUnit, abbreviated, drop, u"59m 59s"_s},
+        {90000, F::Hours, abbreviated, drop, u"25h"_s},
+        {59, F::Hours | F::Minutes, abbreviated, drop, u"0m"_s},
+        {59, F::Hours | F::Minutes, abbreviated, none, u"0h 0m"_s},
+        {59, {}, abbreviated, none, u""_s},
+        {3909, clock, positional, none, u"1:05:09"_s},
+        {65, clock, positional, none, u"0:01:05"_s},
+        {65, clock, positional, drop, u"1:05"_s},
+        {93600, F::Days | F::Hours, positional, none, u"1d 2"_s},
+        {36'000'000, F::Hours | F::Minutes, positional, none, u"10000:00"_s},
+        {std::nan(""), F::SecondsUnit, abbreviated, drop, u"0s"_s},
+        {-1, F::SecondsUnit, abbreviated, drop, u"-1s"_s},
+        {-5400, F::Hours | F::Minutes, abbreviated, drop, u"-1h 30m"_s},
+        {infinity, F::SecondsUnit, positional, drop, u"1000000000000000"_s},
+        {-infinity, F::SecondsUnit, positional, drop, u"-1000000000000000"_s},
+        {5400, F::Hours | F::Minutes, abbreviated, drop, u"1小时30分钟"_s, "zh_CN.UTF-8"},
+        {3909, F::Minutes | F::SecondsUnit, positional, drop, u"٦٥:٠٩"_s, "ar_EG.UTF-8"},
+    };
+    for (const auto& row : rows) {
+        const ScopedEnvironment locale("LC_ALL", row.locale);
+        F formatter;
+        formatter.allowedUnits = row.units;
+        formatter.unitsStyle = row.style;
+        formatter.zeroFormatting = row.zeros;
+        EXPECT_EQ(formatter.string(row.seconds), row.text) << row.seconds;
+    }
+}
+
+constexpr Date afternoon = sys_days(2026y / September / 21) + hours(14) + minutes(13) + seconds(20);
+
+TEST(DateFormatterTest, StylesGiveTheLocalesOwnTextsAndPatterns)
+{
+    using enum DateFormatterStyle;
+    const struct {
+        const char* locale;
+        DateFormatterStyle date;
+        DateFormatterStyle time;
+        QString text;
+    } rows[] = {
+        {"en_US.UTF-8", None, Short, u"2:13\u202fPM"_s},
+        {"en_US.UTF-8", Short, None, u"9/21/26"_s},
+        {"en_US.UTF-8", Full, None, u"Monday, September 21, 2026"_s},
+        {"en_US.UTF-8", None, None, u""_s},
+        {"de_DE.UTF-8", Full, Short, u"Montag, 21. September 2026 um 14:13"_s},
+        {"de_DE@hours=h12", None, Short, u"2:13\u202fPM"_s},
+        {"en_US@hours=h23", None, Short, u"14:13"_s},
+        {"en_US@hours=h23", Medium, Short, u"Sep 21, 2026, 14:13"_s},
+        {"en_US@hours=h23", Long, None, u"September 21, 2026"_s},
+        {"C", Medium, Short, u"Sep 21, 2026, 2:13\u202fPM"_s},
+        {"POSIX", None, Short, u"2:13\u202fPM"_s},
+    };
+    const ScopedEnvironment zone("TZ", "UTC");
+    for (const auto& row : rows) {
+        const ScopedEnvironment locale("LC_ALL", row.locale);
+        EXPECT_EQ(DateFormatter::string(afternoon, row.date, row.time), row.text) << row.locale;
+    }
+    const ScopedEnvironment english("LC_ALL", "en_US.UTF-8");
+    EXPECT_EQ(DateFormatter::pattern(None, Short), u"h:mm\u202fa"_s);
+    EXPECT_EQ(DateFormatter::pattern(None, None), QString());
+    const ScopedEnvironment german("LC_ALL", "de_DE.UTF-8");
+    EXPECT_EQ(DateFormatter::pattern(None, Short), u"HH:mm"_s);
+}
+
+TEST(DateFormatterTest, TheLocaleIsThatOfTheEnvironmentByPrecedence)
+{
+    const auto days = [] {
+        return QStringList{DateFormatter::weekdayName(1), DateFormatter::weekdayName(7), DateFormatter::weekdayName(8)};
+    };
+    const ScopedEnvironment first("LC_ALL", "en_US.UTF-8");
+    const ScopedEnvironment language("LANG", "fr_FR.UTF-8");
+    const ScopedEnvironment time("LC_TIME", "de_DE@euro");
+    EXPECT_EQ(days(), (QStringList{u"Sunday"_s, u"Saturday"_s, {}}));
+    const ScopedEnvironment all("LC_ALL", "");
+    EXPECT_EQ(days(), (QStringList{u"Sonntag"_s, u"Samstag"_s, {}}));
+    const ScopedEnvironment noTime("LC_TIME", std::nullopt);
+    EXPECT_EQ(days(), (QStringList{u"dimanche"_s, u"samedi"_s, {}}));
+    const ScopedEnvironment latin("LANG", "sr_RS@latin");
+    EXPECT_EQ(days(), (QStringList{u"nedelja"_s, u"subota"_s, {}}));
+}
+
+TEST(DateFormatterTest, TextsAreReadAndWrittenInTheHostsZoneOfTheMomentAndOnlyAsAWhole)
+{
+    const auto minute = u"yyyy-MM-dd HH:mm"_s;
+    const auto second = u"yyyy-MM-dd HH:mm:ss"_s;
+    const struct {
+        const char* zone;
+        QString text;
+        QString pattern;
+        std::optional<Date> date;
+    } rows[] = {
+        {"UTC", u"2026-09-21 14:13"_s, minute, floor<minutes>(afternoon)},
+        {"Asia/Tokyo", u"2026-09-21 23:13:20"_s, second, afternoon},
+        {"Asia/Almaty", u"2026-09-21 19:13:20"_s, second, afternoon}, // moved by an hour in 2024, after ICU's data
+        {"Asia/Tokyo", u"2026-09-21 16:13:20 +0200"_s, second + u" Z"_s, afternoon},
+        {"Europe/Berlin", u"2026-10-25 02:30"_s, minute, utc(2026, 10, 25, 0, 30)},
+        {"Europe/Berlin", u"2026-03-29 02:30"_s, minute, {}},
+        {"UTC", u""_s, minute, {}},
+        {"UTC", u"2026-09-21 14:13x"_s, minute, {}},
+        {"UTC", u"2026-02-30 10:00"_s, minute, {}},
+        {"UTC", u"2026-09-21 25:00"_s, minute, {}},
+        {"UTC", u"2026/09/21 14:13"_s, minute, {}},
+    };
+    for (const auto& row : rows) {
+        const ScopedEnvironment zone("TZ", row.zone);
+        EXPECT_EQ(DateFormatter::date(row.text, row.pattern), row.date) << row.zone << row.text.toStdString();
+        if (row.date && row.pattern != second + u" Z"_s) {
+            EXPECT_EQ(DateFormatter::string(*row.date, row.pattern), row.text) << row.zone;
+        }
+    }
+}
+
+} // namespace
+} // namespace quillon
