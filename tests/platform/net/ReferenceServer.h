@@ -32,29 +32,22 @@ public:
         process_.waitForFinished(-1);
     }
 
-    /// Scheme, host and port.
-    const QString& address() const { return address_; }
-    QUrl url(const QString& path) const { return QUrl(address_ + path); }
+    QUrl url(const QString& path = QStringLiteral("/v1/Event/")) const { return QUrl(address_ + path); }
 
     /// Treats every request from now on like this; an empty name ends it.
     void play(const QString& fault, const QString& detail = {})
     {
         command({{QStringLiteral("fault"), fault}, {QStringLiteral("detail"), detail}});
     }
-    void setStatus(int status) { command({{QStringLiteral("status"), status}}); }
-    /// What has been asked: "path", "body", "form", "headers" of each request.
-    QJsonArray requests() { return command({})[QStringLiteral("requests")].toArray(); }
-    /// Bytes that the fault "drip" has sent.
-    int dripped() { return command({})[QStringLiteral("dripped")].toInt(); }
-    /// How many clients have gone while the faults "drip" and "hang" kept them.
-    int left() { return command({})[QStringLiteral("left")].toInt(); }
-
-private:
+    /// Obeys a command and tells "requests", each with "path", "body", "form" and "headers", and what else there is.
     QJsonObject command(const QJsonObject& command)
     {
         process_.write(QJsonDocument(command).toJson(QJsonDocument::Compact) + '\n');
         return QJsonDocument::fromJson(line()).object();
     }
+    QJsonArray requests() { return command({})[QStringLiteral("requests")].toArray(); }
+
+private:
     QByteArray line()
     {
         while (!process_.canReadLine() && process_.waitForReadyRead(-1)) {
@@ -75,10 +68,7 @@ public:
         const QString command =
             QStringLiteral("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -days 2 "
                            "-subj /CN=localhost -addext subjectAltName=DNS:localhost -keyout %1 -out %1");
-        QProcess openssl;
-        openssl.start(QStringLiteral("openssl"), command.arg(file()).split(u' '));
-        EXPECT_TRUE(openssl.waitForFinished(-1) && openssl.exitCode() == 0)
-            << openssl.readAllStandardError().toStdString();
+        EXPECT_EQ(QProcess::execute(QStringLiteral("openssl"), command.arg(file()).split(u' ')), 0);
     }
     ~TestCertificate() { QSslConfiguration::setDefaultConfiguration(before_); }
     TestCertificate(const TestCertificate&) = delete;
