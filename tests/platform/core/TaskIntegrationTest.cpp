@@ -107,7 +107,8 @@ TEST_F(TaskIntegrationTest, TheEndOfTheChildItselfIsReportedOnceWithWhatItSaid)
             QCoreApplication::processEvents();
             EXPECT_EQ(results.size(), 1u);
             EXPECT_EQ(results.front().status, row.status);
-            EXPECT_TRUE(results.front().output == row.output) << results.front().output->left(200).toStdString();
+            EXPECT_TRUE(results.front().output == row.output)
+                << results.front().output.value_or("none").left(200).toStdString();
             EXPECT_TRUE(results.front().errors == row.errors) << results.front().errors.left(200).toStdString();
         }
     }

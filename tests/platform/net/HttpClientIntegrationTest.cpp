@@ -1,13 +1,19 @@
 #include "EventLoop.h"
 #include "HttpClient.h"
-#include "ReferenceServer.h"
 #include "ScopedEnvironment.h"
 #include "VirtualRunLoop.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMetaEnum>
 #include <QNetworkReply>
+#include <QProcess>
+#include <QSslCertificate>
+#include <QSslConfiguration>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTemporaryDir>
 
 #include <deque>
 #include <gtest/gtest.h>
@@ -20,6 +26,84 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
+
+/// The maker's configuration service, as a process of its own on loopback; reference_server.py says what it can do.
+class ReferenceServer {
+public:
+    /// Speaks HTTPS when there is a certificate; `name` is the host in its address and must mean this machine.
+    explicit ReferenceServer(const QStringList& certificate = {}, const QString& name = u"127.0.0.1"_s)
+    {
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process_.start(u"/usr/bin/python3"_s,
+                       QStringList{QStringLiteral(REFERENCE_SERVER), u"--name"_s, name} + certificate);
+        address_ = QString::fromUtf8(line()).trimmed();
+    }
+    ReferenceServer(const ReferenceServer&) = delete;
+    ReferenceServer& operator=(const ReferenceServer&) = delete;
+    ~ReferenceServer()
+    {
+        process_.closeWriteChannel(); // also a test that crashes ends the server this way
+        process_.waitForFinished(-1);
+    }
+
+    QUrl url(const QString& path = u"/v1/Event/"_s) const { return QUrl(address_ + path); }
+
+    /// Treats every request from now on like this; an empty name ends it.
+    void play(const QString& fault, const QString& detail = {})
+    {
+        command({{u"fault"_s, fault}, {u"detail"_s, detail}});
+    }
+    /// Obeys a command and tells "requests", each with "path", "body", "form" and "headers", and what else there is.
+    QJsonObject command(const QJsonObject& command)
+    {
+        process_.write(QJsonDocument(command).toJson(QJsonDocument::Compact) + '\n');
+        return QJsonDocument::fromJson(line()).object();
+    }
+    QJsonArray requests() { return command({})[u"requests"_s].toArray(); }
+
+private:
+    QByteArray line()
+    {
+        while (!process_.canReadLine() && process_.waitForReadyRead(-1)) {
+        }
+        EXPECT_TRUE(process_.canReadLine()) << "the reference server is silent";
+        return process_.readLine();
+    }
+
+    QProcess process_;
+    QString address_;
+};
+
+/// A certificate for "localhost" made for the moment, which nobody trusts unless told to.
+class TestCertificate {
+public:
+    TestCertificate()
+    {
+        const QString command =
+            QStringLiteral("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -days 2 "
+                           "-subj /CN=localhost -addext subjectAltName=DNS:localhost -keyout %1 -out %1");
+        EXPECT_EQ(QProcess::execute(u"openssl"_s, command.arg(file()).split(u' ')), 0);
+    }
+    ~TestCertificate() { QSslConfiguration::setDefaultConfiguration(before_); }
+    TestCertificate(const TestCertificate&) = delete;
+    TestCertificate& operator=(const TestCertificate&) = delete;
+
+    /// What the server has to be told: the certificate and its key, PEM.
+    QStringList option() const { return {u"--certificate"_s, file()}; }
+    /// From now on connections trust this certificate and no other.
+    void trust() const
+    {
+        auto configuration = before_;
+        configuration.setCaCertificates(QSslCertificate::fromPath(file()));
+        QSslConfiguration::setDefaultConfiguration(configuration);
+    }
+
+private:
+    QString file() const { return folder_.filePath(u"certificate.pem"_s); }
+
+    const QSslConfiguration before_ = QSslConfiguration::defaultConfiguration();
+    QTemporaryDir folder_;
+};
 
 /// The client in front of a real server; only the clock of its time-outs is the test's.
 class HttpClientIntegrationTest : public testing::Test {
@@ -181,11 +265,7 @@ TEST_F(HttpClientIntegrationTest, OnlyATrustedServerOfThatNameIsToldAnythingAlso
 
     ReferenceServer plain({}, u"localhost"_s);
     ReferenceServer other;
-    const struct {
-        ReferenceServer& asked;
-        QString target;
-        QString answer;
-    } rows[] = {
+    const std::tuple<ReferenceServer&, QString, QString> rows[] = {
         {server, u"/v1/Event/"_s, eventAnswer},
         {plain, server.url().toString(), eventAnswer},
         {plain, u"/v1/Event/"_s, u"InsecureRedirectError"_s},
