@@ -1,9 +1,20 @@
+#include "AlertIcon.h"
 #include "LocalizedString.h"
 #include "SettingsFixture.h"
+#include "SignButton.h"
 
 namespace quillon {
 
-class OptionSettings : public SettingsFixture {};
+class OptionSettings : public SettingsFixture {
+protected:
+    static QImage pictureOf(QWidget& sign)
+    {
+        QImage picture(sign.size(), QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        sign.render(&picture, {}, {}, {});
+        return picture;
+    }
+};
 
 TEST_F(OptionSettings, EverySwitchIsStoredAsAnIntegerAtOnceAndTheMenuBarIsToldOfItsOwn)
 {
@@ -32,18 +43,11 @@ TEST_F(OptionSettings, EverySwitchIsStoredAsAnIntegerAtOnceAndTheMenuBarIsToldOf
             EXPECT_EQ(stored(item.key).metaType(), QMetaType::fromType<qlonglong>()) << item.box;
         }
         EXPECT_EQ(menuBarUpdates_, item.inMenuBar ? 2 : 0) << item.box;
+        close();
+        defaults_.stored[item.key] = item.atFirst ? 0LL : 1LL;
+        show();
+        EXPECT_EQ(control(item.box).isChecked(), !item.atFirst) << item.box << ": changed while the panel was away";
     }
-}
-
-TEST_F(OptionSettings, ThePanelShowsWhatIsStoredEachTimeItOpens)
-{
-    defaults_.stored[settingskeys::rotateBackupDisks] = 0LL;
-    open();
-    EXPECT_FALSE(control("rotateBackupDisksCheckmark").isChecked());
-    close();
-    defaults_.stored[settingskeys::rotateBackupDisks] = 1LL;
-    show();
-    EXPECT_TRUE(control("rotateBackupDisksCheckmark").isChecked());
 }
 
 TEST_F(OptionSettings, SwitchingARetryOffCancelsThePendingOne)
@@ -54,7 +58,6 @@ TEST_F(OptionSettings, SwitchingARetryOffCancelsThePendingOne)
         menuBarUpdates_ = 0;
         click(box);
         EXPECT_FALSE(manager_->retryBackupDate()) << box;
-        EXPECT_EQ(manager_->nextScheduledBackupDate(), local(2026, 11, 21, 12)) << box;
         EXPECT_EQ(nextBackup(), u"Today, 12:00\u202fPM"_s);
         EXPECT_EQ(menuBarUpdates_, 1);
         manager_->setRetryBackupDate(local(2026, 11, 21, 10, 6));
@@ -67,16 +70,17 @@ TEST_F(OptionSettings, SwitchingARetryOffCancelsThePendingOne)
 
 TEST_F(OptionSettings, IconOnlyLeavesNothingToSayAboutDetailedTimes)
 {
+    defaults_.stored[settingskeys::showMenuBarIconOnly] = 1LL;
     open();
-    click("showMenuBarIconOnlyCheckmark");
-    EXPECT_FALSE(control("showRemainingMinutesCheckmark").isEnabled());
-    EXPECT_FALSE(control<QLabel>("showRemainingMinutesDetails").isEnabled());
+    for (const bool iconOnly : {true, false, true}) {
+        if (control("showMenuBarIconOnlyCheckmark").isChecked() != iconOnly)
+            click("showMenuBarIconOnlyCheckmark");
+        EXPECT_EQ(control("showRemainingMinutesCheckmark").isEnabled(), !iconOnly);
+        EXPECT_EQ(control<QLabel>("showRemainingMinutesDetails").isEnabled(), !iconOnly);
+    }
     click("retryAtFailureHelpButton");
     answerAlert(u"Close"_s);
     EXPECT_FALSE(control("showRemainingMinutesCheckmark").isEnabled()) << "also when an alert has been up";
-    click("showMenuBarIconOnlyCheckmark");
-    EXPECT_TRUE(control("showRemainingMinutesCheckmark").isEnabled());
-    EXPECT_TRUE(control<QLabel>("showRemainingMinutesDetails").isEnabled());
 }
 
 TEST_F(OptionSettings, ColorsAreOffWhereTheSystemHasNone)
@@ -100,65 +104,84 @@ TEST_F(OptionSettings, LogInRegistrationFollowsTheBoxAndTheBoxFollowsTheSystem)
     click("enableAppAtSystemStartCheckmark");
     EXPECT_TRUE(control("enableAppAtSystemStartCheckmark").isChecked()) << "it is still registered";
     EXPECT_EQ(stored(settingskeys::launchAtSystemStart), QVariant(1LL));
-    EXPECT_EQ(shownAlertText(), localizedString("loginItemRefusedMessage"));
     answerAlert(u"Close"_s);
 }
 
-TEST_F(OptionSettings, AlertsSayWhatTheirButtonIsAboutInTheWordsOfTheSystem)
+TEST_F(OptionSettings, EveryAlertBlocksThePanelSaysItsWordsAndIsLeftByEscapeWithNothingDone)
 {
     machine_.destinations.clear();
-    for (const auto& [version, settings] :
-         {std::pair{"12.6.9", "openSystemPreferencesTitle"}, {"13.0.0", "openSystemPreferencesTitleVentura"}}) {
-        const ScopedEnvironment system("QUILLON_SYSTEM_VERSION", version);
-        open({{}, {}, {}, {}, {}});
-        const struct {
-            const char* button;
-            QString title, text, firstButton, lastButton;
-        } alerts[] = {
-            {"warningButton", localizedString("disksDisksTitle"), localizedString("setupNoDiskMessage"),
-             localizedString(settings) + u"..."_s, u"Close"_s},
-            {"addCalendarIntervalButton", localizedString("maximumRulesReachedTitle"),
-             localizedString("maximumRulesReachedMessage").arg(5), u"OK"_s, u"OK"_s},
-            {"deleteButton", localizedString("confirmDeleteRuleTitle"), localizedString("confirmDeleteRuleMessage"),
-             u"Cancel"_s, u"Delete"_s},
-            {"retryAtMissedScheduleHelpButton", localizedString("retryAfterMissedBackupTitle"),
-             localizedString("retryAfterMissedBackupMessage"), u"Close"_s, u"Close"_s},
-            {"retryAtFailureHelpButton", localizedString("retryAfterFailedBackupTitle"),
-             localizedString("retryAfterFailedBackupMessage"), u"Close"_s, u"Close"_s},
-        };
-        for (const auto& alert : alerts) {
-            click(alert.button);
-            runLoop_.advance(Seconds(1));
-            ASSERT_TRUE(runUntil([&] { return alertButton(alert.firstButton); })) << alert.button << version;
-            const QWidget& shown = *alertButton(alert.firstButton)->parentWidget();
-            EXPECT_EQ(shown.accessibleName(), alert.title) << alert.button;
-            EXPECT_EQ(shownAlertText(), alert.text) << alert.button;
-            const QPushButton* last = alertButton(alert.lastButton);
-            ASSERT_TRUE(last) << alert.button;
-            QTest::keyClick(alertButton(alert.firstButton), Qt::Key_Escape);
-            EXPECT_TRUE(runUntil([&] { return !alertButton(alert.firstButton); })) << alert.button << version;
-        }
-        EXPECT_EQ(stored(settingskeys::calendarIntervals).toList().size(), 5);
-        EXPECT_TRUE(workspace_.opened.isEmpty());
+    loginItem_.accepts = false;
+    open({{}, {}, {}, {}, {}});
+    const QString settings = localizedString(manager_->openSystemPreferencesTitleLocaleKey());
+    using enum AlertStyle;
+    const struct {
+        const char* opener;
+        AlertStyle style;
+        const char *title, *text;
+        QStringList buttons;
+    } alerts[] = {
+        {"warningButton", Informational, "disksDisksTitle", "setupNoDiskMessage", {settings + u"..."_s, u"Close"_s}},
+        {"addCalendarIntervalButton", Warning, "maximumRulesReachedTitle", "maximumRulesReachedMessage", {u"OK"_s}},
+        {"deleteButton", Critical, "confirmDeleteRuleTitle", "confirmDeleteRuleMessage", {u"Cancel"_s, u"Delete"_s}},
+        {"retryAtMissedScheduleHelpButton",
+         Informational,
+         "retryAfterMissedBackupTitle",
+         "retryAfterMissedBackupMessage",
+         {u"Close"_s}},
+        {"retryAtFailureHelpButton",
+         Informational,
+         "retryAfterFailedBackupTitle",
+         "retryAfterFailedBackupMessage",
+         {u"Close"_s}},
+        {"enableAppAtSystemStartCheckmark", Warning, "AlertTitleWarning", "loginItemRefusedMessage", {u"Close"_s}},
+    };
+    for (const auto& alert : alerts) {
+        SCOPED_TRACE(alert.opener);
+        auto& opener = control<QAbstractButton>(alert.opener);
+        opener.setFocus();
+        click(opener);
+        runLoop_.advance(Seconds(1)); // the tool is asked for the disks before the first says anything
+        ASSERT_TRUE(runUntil([&] { return alertButton(alert.buttons.first()); }));
+        const QWidget& shown = *alertButton(alert.buttons.first())->parentWidget();
+        QStringList buttons;
+        for (const auto* button : shown.findChildren<QPushButton*>())
+            buttons.append(button->accessibleName());
+        EXPECT_EQ(buttons, alert.buttons);
+        EXPECT_EQ(shown.accessibleName(), localizedString(alert.title));
+        EXPECT_EQ(shownAlertText(), localizedString(alert.text).replace(u"%1"_s, u"5"_s));
+        AlertIcon sign(alert.style, nullptr);
+        EXPECT_EQ(pictureOf(*shown.findChild<AlertIcon*>()), pictureOf(sign));
+        EXPECT_TRUE(isBlocked());
+        EXPECT_TRUE(panel_->shouldDisableUserControls());
+        EXPECT_FALSE(opener.isEnabled());
+        QTest::keyClick(alertButton(alert.buttons.first()), Qt::Key_Escape);
+        EXPECT_TRUE(runUntil([&] { return !alertButton(alert.buttons.first()); }));
+        EXPECT_FALSE(isBlocked());
+        EXPECT_FALSE(panel_->shouldDisableUserControls());
+        EXPECT_TRUE(opener.hasFocus()) << "the keyboard goes on where it was";
     }
+    EXPECT_EQ(stored(settingskeys::calendarIntervals).toList().size(), 5);
+    EXPECT_TRUE(workspace_.opened.isEmpty());
 }
 
-TEST_F(OptionSettings, EverySwitchHasItsOwnTextAndALetterThatPressesIt)
+TEST_F(OptionSettings, TheAdviceSaysWhereBackupsGoAndLeadsToTimeMachinesSettings)
 {
     open();
-    const std::pair<const char*, const char*> boxes[] = {
-        {"enableScheduleCheckmark", "settingsEnableScheduledBackupsVia"},
-        {"enableRetryAtMissedScheduleCheckmark", "settingsEnableAfterMissedBackup"},
-        {"enableRetryAtFailureCheckmark", "settingsEnableAfterFailedBackup"},
-        {"showRemainingMinutesCheckmark", "settingsShowDetailedTimeInMenuBar"},
-        {"showMenuBarIconOnlyCheckmark", "settingsShowMenuBarIconOnly"},
-        {"enableMenuBarColorsCheckmark", "settingsDisableIconColors"},
-        {"rotateBackupDisksCheckmark", "settingsRotateBackupDisks"},
-        {"enableAppAtSystemStartCheckmark", "settingsStartOnSystemStart"}};
-    for (const auto& [name, key] : boxes) {
-        EXPECT_EQ(control<QAbstractButton>(name).text().remove(u'&'), localizedString(key)) << name;
-        EXPECT_TRUE(control<QAbstractButton>(name).text().contains(u'&')) << name;
-    }
+    SignButton sign;
+    sign.setAlertStyle(AlertStyle::Informational);
+    sign.resize(control<SignButton>("warningButton").size());
+    EXPECT_EQ(pictureOf(control<SignButton>("warningButton")), pictureOf(sign));
+    click("warningButton");
+    clickSetupAdvice(); // an impatient user asks once
+    EXPECT_TRUE(shownAlertText().contains(u"First Disk"_s)) << shownAlertText().toStdString();
+    answerAlert(u"Open Time Machine Settings..."_s);
+    EXPECT_EQ(workspace_.opened, QList<QUrl>{TMUtil::settingsAddress()});
+    EXPECT_FALSE(isBlocked());
+    click("warningButton");
+    click("retryAtFailureHelpButton");
+    runLoop_.advance(Seconds(1));
+    EXPECT_EQ(shownAlertText(), localizedString("retryAfterFailedBackupMessage")) << "the user has turned to it";
+    answerAlert(u"Close"_s);
 }
 
 TEST_F(OptionSettings, AnAlertThatOutlivesThePanelIsAnsweredWithoutIt)

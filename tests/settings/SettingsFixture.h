@@ -115,12 +115,6 @@ protected:
             QTest::keyClick(&menu, Qt::Key_Down);
         ASSERT_EQ(menu.currentText(), item);
     }
-    static void type(QTimeEdit& picker, const QString& keys)
-    {
-        picker.setFocus();
-        picker.setSelectedSection(picker.sectionAt(0)); // as the Tab key does
-        QTest::keyClicks(&picker, keys);
-    }
     QString nextBackup() const { return control<QLabel>("nextBackupLabel").text(); }
     QVariant stored(const QString& key) const { return defaults_.stored.value(key); }
     static QVariantMap rule(qlonglong day, qlonglong time) { return {{u"day"_s, day}, {u"time"_s, time}}; }
