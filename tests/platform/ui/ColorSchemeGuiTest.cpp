@@ -1,13 +1,10 @@
 #include "ColorScheme_linux.h"
 #include "PrivateBus.h"
 #include "ScopedEnvironment.h"
-#include "SystemColor.h"
 #include "Waiting.h"
 #include "host/FakeSettingsPortal.h"
 
 #include <QFile>
-#include <QGuiApplication>
-#include <QPushButton>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -36,13 +33,13 @@ private:
 TEST_P(ColorSchemeTest, IsReadFromAndFollowsThePortal)
 {
     std::optional<FakeSettingsPortal> portal;
-    portal.emplace(connection(u"portal"_s), 1, GetParam());
+    portal.emplace(connection(u"portal"_s), FakeSettingsPortal::dark, GetParam());
     ColorScheme scheme(connection(u"reader"_s));
     EXPECT_TRUE(eventually([&] { return scheme.preference() == Dark; }));
 
     portal->announce(u"org.freedesktop.appearance"_s, u"contrast"_s, 0);
     portal->announce(u"org.gnome.desktop.interface"_s, u"color-scheme"_s, 2);
-    portal->setColorScheme(2);
+    portal->setColorScheme(FakeSettingsPortal::light);
     EXPECT_TRUE(eventually([&] { return scheme.preference() != Dark; }));
     EXPECT_EQ(scheme.preference(), Light);
 
@@ -51,7 +48,7 @@ TEST_P(ColorSchemeTest, IsReadFromAndFollowsThePortal)
     EXPECT_TRUE(eventually([&] { return scheme.preference() == None; }));
 
     portal.reset();
-    portal.emplace(connection(u"portal"_s), 1, GetParam());
+    portal.emplace(connection(u"portal"_s), FakeSettingsPortal::dark, GetParam());
     EXPECT_TRUE(eventually([&] { return scheme.preference() == Dark; })) << "a portal that comes later is asked";
 }
 
@@ -74,41 +71,12 @@ TEST_P(ColorSchemeTest, IsGnomesSettingUntilAPortalSpeaks)
     EXPECT_FALSE(scheme.isKnown());
     EXPECT_TRUE(eventually([&] { return scheme.isKnown(); }));
     EXPECT_EQ(scheme.preference(), Dark);
-    const FakeSettingsPortal portal(connection(u"portal"_s), 2, GetParam());
+    const FakeSettingsPortal portal(connection(u"portal"_s), FakeSettingsPortal::light, GetParam());
     EXPECT_TRUE(eventually([&] { return scheme.preference() == Light; }));
 }
 
 INSTANTIATE_TEST_SUITE_P(Portals, ColorSchemeTest, testing::Values(Version::Current, Version::Old),
                          [](const auto& test) { return test.param == Version::Old ? "Old" : "Current"; });
-
-TEST(ApplicationPalette, TakesThePreferredSchemeAndGoesBackToTheDesktopsOwn)
-{
-    const QPalette own = QGuiApplication::palette();
-    for (const auto preference : {Dark, Light, Dark}) {
-        applyColorScheme(preference);
-        EXPECT_EQ(isDark(QGuiApplication::palette()), preference == Dark);
-    }
-    applyColorScheme(None);
-    for (int role = 0; role < QPalette::NColorRoles; ++role) {
-        const auto one = static_cast<QPalette::ColorRole>(role);
-        // The desktop's selection may be too faint to be read.
-        const bool isSelection = one == QPalette::Highlight || one == QPalette::HighlightedText;
-        EXPECT_TRUE(isSelection || QGuiApplication::palette().color(one) == own.color(one)) << role;
-    }
-}
-
-TEST(ApplicationStyle, KeepsTheTextOfAButtonOffItsBorders)
-{
-    applyColorScheme(None);
-    QFont font = QGuiApplication::font();
-    for (const int points : {9, 24}) {
-        font.setPointSize(points);
-        QPushButton button(u"Datenschutzrichtlinie"_s);
-        button.setFont(font);
-        EXPECT_GE(button.sizeHint().width() - button.fontMetrics().horizontalAdvance(button.text()),
-                  button.fontMetrics().height());
-    }
-}
 
 } // namespace
 } // namespace quillon

@@ -12,6 +12,7 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -56,6 +57,11 @@ protected:
     }
     static QRect onScreen(const QWidget* widget) { return {widget->mapToGlobal(QPoint()), widget->size()}; }
     QRect content() const { return onScreen(popover_.contentView()); }
+    void grow(int width)
+    {
+        popover_.findChild<QLineEdit*>()->setMinimumWidth(width);
+        ASSERT_TRUE(eventually([&] { return content().width() >= width; }));
+    }
     void clickOutside() { QTest::mouseClick(&window_, Qt::LeftButton, {}, QPoint(5, 5)); }
     static void leaveApplication() { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); }
 
@@ -78,18 +84,20 @@ TEST_F(PopoverTest, LiesBesideItsAnchorAndTakesTheKeyboard)
     EXPECT_GT(content().left(), anchor.right()) << "one that is shown moves";
 }
 
-TEST_F(PopoverTest, FollowsItsContentAndItsAnchor)
+TEST_F(PopoverTest, FollowsItsContentAndItsAnchorAndStaysWhereThatGoesAway)
 {
     show();
     const QRect before = content();
-    popover_.findChild<QLineEdit*>()->setMinimumSize(250, 90);
-    ASSERT_TRUE(eventually([&] { return content().width() >= 250; }));
+    grow(250);
     EXPECT_EQ(content().top(), before.top());
     EXPECT_NEAR(content().center().x(), onScreen(button_).center().x(), 1);
-
     const QRect large = content();
     window_.move(window_.pos() + QPoint(30, 20));
     EXPECT_TRUE(eventually([&] { return content() == large.translated(30, 20); }));
+    delete button_;
+    grow(300);
+    EXPECT_EQ(content().top(), large.top() + 20);
+    EXPECT_TRUE(popover_.isShown());
 }
 
 TEST_F(PopoverTest, HangsAtThePointerWhenThereIsNothingToPointAt)
@@ -98,54 +106,38 @@ TEST_F(PopoverTest, HangsAtThePointerWhenThereIsNothingToPointAt)
     QCursor::setPos(spot);
     popover_.showRelativeTo({}, RectEdge::MinY);
     QCursor::setPos(spot + QPoint(100, 100));
-    popover_.findChild<QLineEdit*>()->setMinimumWidth(220);
-    ASSERT_TRUE(eventually([&] { return content().width() >= 220; }));
+    grow(220);
     EXPECT_NEAR(content().center().x(), spot.x(), 1) << "follows the pointer";
     EXPECT_GT(content().top(), spot.y());
-}
-
-TEST_F(PopoverTest, StaysInPlaceWhenItsAnchorGoesAway)
-{
-    show();
-    const QRect before = content();
-    delete button_;
-    popover_.findChild<QLineEdit*>()->setMinimumWidth(before.width() + 40);
-    ASSERT_TRUE(eventually([&] { return content().width() >= before.width() + 40; }));
-    EXPECT_EQ(content().top(), before.top());
-    EXPECT_TRUE(popover_.isShown());
 }
 
 TEST_F(PopoverTest, TellsOnceThatItCameAndWentAndCanComeBack)
 {
     const QSignalSpy came(&popover_, &Popover::didShow);
     const QSignalSpy gone(&popover_, &Popover::didClose);
-    show();
-    show();
-    EXPECT_EQ(came.size(), 1);
-    popover_.close();
-    popover_.close();
-    EXPECT_FALSE(popover_.isShown());
-    EXPECT_TRUE(eventually([&] { return !popover_.isVisible(); }));
-    EXPECT_EQ(gone.size(), 1);
-    show();
-    EXPECT_TRUE(popover_.isVisible());
-    EXPECT_EQ(came.size(), 2);
+    for (int turn = 1; turn < 3; ++turn) {
+        show();
+        show();
+        EXPECT_EQ(came.size(), turn);
+        popover_.close();
+        popover_.close();
+        EXPECT_FALSE(popover_.isShown());
+        EXPECT_TRUE(eventually([&] { return !popover_.isVisible(); }));
+        EXPECT_EQ(gone.size(), turn);
+    }
 }
 
 TEST_F(PopoverTest, TransientOneClosesWhenTheUserTurnsToSomethingElse)
 {
-    show();
-    clickOutside();
-    EXPECT_FALSE(popover_.isShown());
-    show();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    EXPECT_FALSE(popover_.isShown());
-    show();
-    leaveApplication();
-    EXPECT_FALSE(popover_.isShown());
-    show();
-    QTest::mouseClick(&popover_, Qt::LeftButton, {}, QPoint(1, 1));
-    EXPECT_FALSE(popover_.isShown()) << "the shadow is outside";
+    const std::function<void()> turns[] = {
+        [this] { clickOutside(); }, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); },
+        [] { leaveApplication(); },
+        [this] { QTest::mouseClick(&popover_, Qt::LeftButton, {}, QPoint(1, 1)); }}; // the shadow is outside
+    for (const auto& turnAway : turns) {
+        show();
+        turnAway();
+        EXPECT_FALSE(popover_.isShown()) << &turnAway - turns;
+    }
 }
 
 TEST_F(PopoverTest, TransientOneStaysWhileTheUserIsInsideOfIt)
@@ -161,13 +153,11 @@ TEST_F(PopoverTest, TransientOneStaysWhileTheUserIsInsideOfIt)
     QTest::mouseClick(box->view()->viewport(), Qt::LeftButton);
     EXPECT_TRUE(popover_.isShown()) << "a combo box's list";
     box->hidePopup();
-
     QMenu menu(popover_.contentView());
     menu.popup(QPoint());
     leaveApplication();
     EXPECT_TRUE(popover_.isShown()) << "a menu of its own";
     menu.close();
-
     QDialog dialog;
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.show();
@@ -176,16 +166,18 @@ TEST_F(PopoverTest, TransientOneStaysWhileTheUserIsInsideOfIt)
     EXPECT_TRUE(popover_.isShown()) << "a modal window";
 }
 
-TEST_F(PopoverTest, TransientOneStaysAsLongAsItsChildrenDo)
+TEST_F(PopoverTest, TransientOneStaysAsLongAsItsChildrenDoWhichHaveTheKeyboardBeforeIt)
 {
     show();
     Popover child;
     Popover grandchild;
-    for (Popover* popover : {&child, &grandchild})
+    Popover* parent = &popover_;
+    for (Popover* popover : {&child, &grandchild}) {
         fill(*popover);
-    child.showRelativeTo({.view = popover_.findChild<QComboBox*>()}, RectEdge::MaxX);
-    grandchild.showRelativeTo({.view = child.findChild<QComboBox*>()}, RectEdge::MaxX);
-    ASSERT_TRUE(becomesActive(grandchild));
+        popover->showRelativeTo({.view = parent->findChild<QComboBox*>()}, RectEdge::MaxX);
+        ASSERT_TRUE(becomesActive(*popover));
+        parent = popover;
+    }
     QTest::mouseClick(child.contentView(), Qt::LeftButton);
     clickOutside();
     leaveApplication();
@@ -194,24 +186,14 @@ TEST_F(PopoverTest, TransientOneStaysAsLongAsItsChildrenDo)
     clickOutside();
     EXPECT_TRUE(popover_.isShown());
     EXPECT_TRUE(becomesActive(child)) << "the keyboard goes back to where it was";
-    child.close();
-    clickOutside();
-    EXPECT_FALSE(popover_.isShown());
-}
-
-TEST_F(PopoverTest, AChildHasTheKeyboardBeforeIt)
-{
-    show();
-    Popover child;
-    fill(child);
-    child.showRelativeTo({.view = popover_.findChild<QComboBox*>()}, RectEdge::MaxX);
-    ASSERT_TRUE(becomesActive(child));
     popover_.showRelativeTo({.view = button_}, RectEdge::MinY);
     EXPECT_TRUE(becomesActive(child)) << "as when the same command shows it again";
     popover_.activateWindow();
     EXPECT_TRUE(becomesActive(child)) << "as when the user clicks on it";
     child.close();
     EXPECT_TRUE(becomesActive(popover_));
+    clickOutside();
+    EXPECT_FALSE(popover_.isShown());
 }
 
 } // namespace

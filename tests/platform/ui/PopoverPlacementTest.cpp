@@ -60,17 +60,12 @@ TEST(PopoverPlacementTest, KeepsThePopoverOnTheScreenAndItsArrowOnTheAnchor)
         EXPECT_EQ(popoverPlacement(example.anchor, size, screen, example.preferred), example.expected) << example.name;
 }
 
-TEST(PopoverPlacementTest, StaysOnAScreenLeftOfAndAboveThePrimaryOne)
+TEST(PopoverPlacementTest, KnowsOtherScreensAndContentsThatAreVerySmallOrLargerThanTheScreen)
 {
-    constexpr QRect other(-1280, -200, 1280, 1024);
+    constexpr QRect leftOfAndAbovePrimary(-1280, -200, 1280, 1024);
     constexpr PopoverPlacement expected{{-306, -163, 300, 200}, {MinY, 276}};
-    EXPECT_EQ(popoverPlacement({-40, -192, 20, 20}, size, other, MinY), expected);
-}
-
-TEST(PopoverPlacementTest, ShowsTheUpperLeftCornerOfOneThatIsLargerThanTheScreen)
-{
-    const auto placement = popoverPlacement(amid, {1200, 900}, screen, MaxX);
-    EXPECT_EQ(placement.body, QRect(6, 34, 1200, 900));
+    EXPECT_EQ(popoverPlacement({-40, -192, 20, 20}, size, leftOfAndAbovePrimary, MinY), expected);
+    EXPECT_EQ(popoverPlacement(amid, {1200, 900}, screen, MaxX).body, QRect(6, 34, 1200, 900));
     EXPECT_EQ(popoverPlacement(amid, {20, 12}, screen, MinY).arrow.tip, 10) << "no room for the arrow between corners";
 }
 

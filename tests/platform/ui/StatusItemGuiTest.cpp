@@ -1,12 +1,14 @@
-#include "Waiting.h"
+#include "NotifierStatusItem_linux.h"
+#include "PrivateBus.h"
 #include "host/FakeSettingsPortal.h"
 #include "host/FakeStatusNotifierTray.h"
 #include "host/Probe.h"
 #include "host/VirtualDisplay.h"
 #include "host/WaylandCompositor.h"
 
-#include <QRegularExpression>
+#include <QGuiApplication>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -34,56 +36,45 @@ protected:
     {
         return std::make_unique<FakeStatusNotifierTray>(connection(), withHost);
     }
-    std::unique_ptr<XEmbedTray> xembedTray() { return std::make_unique<XEmbedTray>(display_); }
     void start(const QString& placement, const QStringList& environment = {})
     {
-        probe_ = std::make_unique<Probe>(bus_, placement, display_.variables() + environment);
+        probe_ = std::make_unique<Probe>(placement, display_.variables() + environment + QStringList{bus_.variable()});
     }
 
-    bool barComes()
+    bool barIsUp(bool up)
     {
-        return eventually([this] { return probe_->bar().has_value(); });
+        return eventually([&] { return probe_->place(u"bar"_s).has_value() == up; });
     }
-    bool barGoes()
-    {
-        return eventually([this] { return !probe_->bar(); });
-    }
-    bool menuOpens()
-    {
-        return eventually([this] { return probe_->isMenuOpen(); });
-    }
-    bool menuCloses()
-    {
-        return eventually([this] { return !probe_->isMenuOpen(); });
-    }
+    bool menuIsOpen(bool open) { return probe_->becomes(u"menuOpen"_s, open); }
     static bool itemComes(const FakeStatusNotifierTray& tray)
     {
         return eventually([&tray] { return tray.items().size() == 1; });
     }
     static bool itemComes(const XEmbedTray& tray)
     {
-        return eventually([&tray] { return tray.holds(Probe::windowName()); });
+        return eventually([&tray] { return tray.holds(u"desktop_probe"_s); });
     }
     /// Whether a minimised alert comes back by what `click` does, and the menu stays closed.
     template<typename Click>
     bool alertComesBack(Click click)
     {
         probe_->tell(u"alert"_s);
-        const auto isMinimizedAfter = [this](const QString& command) {
-            return probe_->tell(command)[u"alertMinimized"_s].toBool();
-        };
         // A window manager forgets of a window that it does not know yet.
-        EXPECT_TRUE(eventually([&] { return isMinimizedAfter(u"minimize"_s) && isMinimizedAfter(u"state"_s); }));
+        EXPECT_TRUE(eventually([&] {
+            return probe_->tell(u"minimize"_s)[u"alertMinimized"_s].toBool() &&
+                   probe_->state(u"alertMinimized"_s).toBool();
+        }));
         click();
-        return eventually([&] { return !isMinimizedAfter(u"state"_s); }) && !probe_->isMenuOpen();
+        return probe_->becomes(u"alertMinimized"_s, false) && !probe_->state(u"menuOpen"_s).toBool();
     }
-    /// The middle of the item's image, in pixels of the display.
-    QPoint imageInBar(int scale = 1)
+    /// On the middle of the item's image.
+    void clickInBar(int scale = 1)
     {
-        const QRect bar = probe_->bar().value_or(QRect());
+        const QRect bar = probe_->place(u"bar"_s).value_or(QRect());
         constexpr int fromRight = 18;
-        return {(bar.right() - fromRight) * scale, bar.center().y() * scale};
+        display_.click(QPoint(bar.right() - fromRight, bar.center().y()) * scale);
     }
+    void clickIcon() { display_.click(probe_->place(u"icon"_s).value_or(QRect()).center()); }
 
     VirtualDisplay display_;
     PrivateBus bus_;
@@ -98,283 +89,251 @@ TEST_F(StatusItemTest, GoesIntoAStatusNotifierTrayAndTellsOfItself)
     const auto tray = statusNotifierTray();
     start(u"auto"_s);
     ASSERT_TRUE(itemComes(*tray));
-    EXPECT_FALSE(probe_->bar());
-
-    const QString item = tray->items().constFirst();
-    EXPECT_EQ(tray->text(item, u"Id"_s), u"status_item_probe"_s);
-    EXPECT_EQ(tray->text(item, u"Category"_s), u"SystemServices"_s);
-    EXPECT_TRUE(tray->property(item, u"ItemIsMenu"_s, u"b"_s).toBool());
-    EXPECT_EQ(tray->text(item, u"Title"_s), u"Quillon"_s);
-    EXPECT_EQ(tray->text(item, u"Status"_s), u"Active"_s);
-    EXPECT_EQ(tray->text(item, u"XAyatanaLabel"_s), u"Next: 5h 12m"_s);
-    EXPECT_EQ(tray->text(item, u"IconName"_s), QString()) << "no theme has the icon";
-    EXPECT_EQ(tray->toolTip(item).title, u"Quillon"_s);
-    EXPECT_EQ(tray->toolTip(item).text, u"Next:\n5h 12m"_s);
-    const auto idle = tray->pixmaps(item, u"IconPixmap"_s);
-    EXPECT_EQ(idle.value(0).pixels.size(), 16 * 16 * 4);
-    EXPECT_TRUE(tray->pixmaps(item, u"AttentionIconPixmap"_s).isEmpty());
+    EXPECT_FALSE(probe_->place(u"bar"_s));
+    const auto told = [&tray](const QStringList& properties) {
+        QStringList texts{tray->toolTip().text};
+        for (const QString& property : properties)
+            texts.append(tray->text(property));
+        return texts.join(u" | "_s).toStdString();
+    };
+    const QStringList texts{u"Title"_s, u"Status"_s, u"XAyatanaLabel"_s, u"IconName"_s, u"IconAccessibleDesc"_s};
+    EXPECT_EQ(told(texts), "Next:\n5h 12m | Quillon | Active | Next: 5h 12m |  | ") << "no theme has the icon";
+    EXPECT_EQ(told({u"Id"_s, u"Category"_s}), "Next:\n5h 12m | desktop_probe | SystemServices");
+    EXPECT_TRUE(tray->property(u"ItemIsMenu"_s, u"b"_s).toBool());
+    EXPECT_EQ(tray->toolTip().title, u"Quillon"_s);
+    const auto idle = tray->pixmaps(u"IconPixmap"_s);
+    EXPECT_FALSE(idle.isEmpty());
+    EXPECT_TRUE(tray->pixmaps(u"AttentionIconPixmap"_s).isEmpty());
 
     tray->takeSignals();
     probe_->tell(u"title 45.3%|2m"_s);
-    EXPECT_EQ(tray->text(item, u"XAyatanaLabel"_s), u"45.3% – 2m"_s);
+    EXPECT_EQ(told({u"XAyatanaLabel"_s}), "45.3%\n2m | 45.3% – 2m");
     EXPECT_EQ(tray->takeSignals(), (QStringList{u"NewToolTip"_s, u"XAyatanaNewLabel"_s}));
     probe_->tell(u"title"_s);
     probe_->tell(u"failure clock.arrow.2.circlepath"_s);
-    EXPECT_EQ(tray->text(item, u"Status"_s), u"NeedsAttention"_s);
-    EXPECT_EQ(tray->text(item, u"Title"_s), u"Quillon: It <failed>."_s);
-    EXPECT_EQ(tray->text(item, u"IconAccessibleDesc"_s), u"It <failed>."_s);
-    EXPECT_EQ(tray->toolTip(item).text, u"It &lt;failed&gt;."_s);
-    const auto failed = tray->pixmaps(item, u"AttentionIconPixmap"_s);
+    EXPECT_EQ(told(texts), "It &lt;failed&gt;. | Quillon: It <failed>. | NeedsAttention |  |  | It <failed>.");
+    const auto failed = tray->pixmaps(u"AttentionIconPixmap"_s);
     EXPECT_NE(failed, idle);
-    EXPECT_EQ(failed, tray->pixmaps(item, u"IconPixmap"_s));
-    const QStringList told = tray->takeSignals();
+    EXPECT_EQ(failed, tray->pixmaps(u"IconPixmap"_s));
+    const QStringList signalsOfTheFailure = tray->takeSignals();
     for (const auto& signal : {u"NewTitle"_s, u"NewIcon"_s, u"NewAttentionIcon"_s, u"NewStatus"_s, u"NewToolTip"_s})
-        EXPECT_TRUE(told.contains(signal)) << signal.toStdString();
+        EXPECT_TRUE(signalsOfTheFailure.contains(signal)) << signal.toStdString();
 }
 
-TEST_F(StatusItemTest, AHostDrawsTheMenuAndClicksInIt)
+TEST(NotifierContent, NamesAnIconThatIsInstalledAndHasNeitherColourNorProgress)
+{
+    const QString before = QGuiApplication::desktopFileName();
+    QGuiApplication::setDesktopFileName(u"org.example.Program"_s);
+    const QTemporaryDir folder;
+    const QDir share(folder.path());
+    ASSERT_TRUE(share.mkpath(u"icons/hicolor/symbolic/apps"_s));
+    QFile icon(share.filePath(u"icons/hicolor/symbolic/apps/org.example.Program.clock-symbolic.svg"_s));
+    ASSERT_TRUE(icon.open(QIODevice::WriteOnly));
+
+    const auto name = [&share](const SymbolImage& image) {
+        return notifierContent({.title = {}, .image = image}, share).iconName;
+    };
+    SymbolImage image{.name = u"clock"_s, .paletteColor = {}};
+    EXPECT_EQ(name(image), u"org.example.Program.clock-symbolic"_s);
+    image.percent = 5;
+    EXPECT_EQ(name(image), QString());
+    EXPECT_EQ(name({.name = u"clock"_s, .paletteColor = SymbolColor::SystemOrange}), QString());
+    EXPECT_EQ(name({.name = u"other"_s, .paletteColor = {}}), QString());
+    QGuiApplication::setDesktopFileName(before);
+}
+
+TEST_F(StatusItemTest, AHostDrawsTheMenuOrHasTheItemOpenItsOwn)
 {
     const auto tray = statusNotifierTray();
     start(u"auto"_s);
     ASSERT_TRUE(itemComes(*tray));
-    const QString item = tray->items().constFirst();
-    EXPECT_EQ(tray->menuLabels(item),
-              (QStringList{u"Back up now"_s, u"Pause"_s, u"Browse A__B & C & ____D"_s, u"Quit"_s}));
-    const auto items = tray->menu(item).children;
-    EXPECT_TRUE(tray->aboutToShowMenu(item, items[1].id)) << "the submenu is filled as it opens";
-    EXPECT_TRUE(tray->takeSignals().contains(u"LayoutUpdated"_s));
-
-    EXPECT_EQ(tray->menuEvent(item, 77, u"clicked"_s), u"org.freedesktop.DBus.Error.InvalidArgs"_s);
-    const auto chosen = [this] { return probe_->tell(u"state"_s)[u"chosen"_s].toString(); };
-    EXPECT_EQ(tray->menuEvent(item, items[0].id, u"clicked"_s), QString());
-    EXPECT_TRUE(eventually([&] { return chosen() == u"Back up now"_s; }));
-    EXPECT_TRUE(alertComesBack([&] { tray->menuEvent(item, 0, u"opened"_s); }));
-}
-
-TEST_F(StatusItemTest, OpensItsOwnMenuForAHostThatDrawsNone)
-{
-    const auto tray = statusNotifierTray();
-    start(u"auto"_s);
-    ASSERT_TRUE(itemComes(*tray));
-    const QString item = tray->items().constFirst();
+    ASSERT_EQ(tray->menu().size(), 3);
+    tray->menuEvent(tray->menu()[0].id, u"clicked"_s);
+    EXPECT_TRUE(probe_->becomes(u"chosen"_s, u"Back up now"_s));
     for (const auto& method : {u"Activate"_s, u"ContextMenu"_s}) {
-        EXPECT_EQ(tray->callAtPlace(item, method), QString());
-        EXPECT_TRUE(menuOpens());
+        EXPECT_EQ(tray->callAtPlace(method), QString());
+        EXPECT_TRUE(menuIsOpen(true));
         display_.pressKey(u"Escape"_s);
-        ASSERT_TRUE(menuCloses());
+        ASSERT_TRUE(menuIsOpen(false));
     }
-    EXPECT_TRUE(alertComesBack([&] { tray->callAtPlace(item, u"Activate"_s); }));
+    EXPECT_TRUE(alertComesBack([&] { tray->menuEvent(0, u"opened"_s); }));
+    EXPECT_TRUE(alertComesBack([&] { tray->callAtPlace(u"Activate"_s); }));
 }
 
 TEST_F(StatusItemTest, GoesIntoAnXEmbedTray)
 {
-    const auto tray = xembedTray();
+    const XEmbedTray tray(display_);
     start(u"auto"_s);
-    ASSERT_TRUE(itemComes(*tray));
-    EXPECT_FALSE(probe_->bar());
-    ASSERT_TRUE(probe_->icon());
-    display_.click(probe_->icon()->center());
-    EXPECT_TRUE(menuOpens());
-    display_.click(probe_->icon()->center());
-    EXPECT_TRUE(menuCloses()) << "nothing of the menu lies over the icon";
-    EXPECT_TRUE(probe_->tell(u"state"_s)[u"chosen"_s].toString().isEmpty());
-    EXPECT_TRUE(alertComesBack([this] { display_.click(probe_->icon()->center()); }));
+    ASSERT_TRUE(itemComes(tray));
+    EXPECT_FALSE(probe_->place(u"bar"_s));
+    clickIcon();
+    EXPECT_TRUE(menuIsOpen(true));
+    clickIcon();
+    EXPECT_TRUE(menuIsOpen(false)) << "nothing of the menu lies over the icon";
+    EXPECT_EQ(probe_->state(u"chosen"_s), u""_s);
+    EXPECT_TRUE(alertComesBack([this] { clickIcon(); }));
 }
 
-TEST_F(StatusItemTest, TheBarGivesWayToAStatusNotifierTrayAndComesBack)
+TEST_F(StatusItemTest, TheBarGivesWayToATrayOfEitherKindAndComesBack)
 {
     start(u"auto"_s);
-    ASSERT_TRUE(barComes());
-
+    ASSERT_TRUE(barIsUp(true));
     auto tray = statusNotifierTray(false);
     tray->setHost(true);
     ASSERT_TRUE(itemComes(*tray));
-    EXPECT_TRUE(barGoes());
-
-    tray.reset();
-    ASSERT_TRUE(barComes());
-    display_.click(imageInBar());
-    EXPECT_TRUE(menuOpens()) << "the menu that the tray showed works in the bar";
-    display_.pressKey(u"Escape"_s);
-    ASSERT_TRUE(menuCloses());
-
-    tray = statusNotifierTray();
-    ASSERT_TRUE(itemComes(*tray));
-    EXPECT_TRUE(barGoes());
-    EXPECT_EQ(tray->menuLabels(tray->items().constFirst()).size(), 4);
-
+    EXPECT_TRUE(barIsUp(false));
     tray->setHost(false);
-    EXPECT_TRUE(barComes()) << "a tray without a host shows nothing";
-}
-
-TEST_F(StatusItemTest, TheBarGivesWayToAnXEmbedTrayAndComesBack)
-{
-    start(u"auto"_s);
-    ASSERT_TRUE(barComes());
+    EXPECT_TRUE(barIsUp(true)) << "a tray without a host shows nothing";
+    tray.reset();
+    clickInBar();
+    EXPECT_TRUE(menuIsOpen(true)) << "the menu that the tray showed works in the bar";
+    display_.pressKey(u"Escape"_s);
+    ASSERT_TRUE(menuIsOpen(false));
     for (int turn = 0; turn < 2; ++turn) {
-        const auto tray = xembedTray();
-        ASSERT_TRUE(itemComes(*tray));
-        EXPECT_TRUE(barGoes());
-        tray->takeDown();
-        EXPECT_TRUE(barComes());
+        XEmbedTray panel(display_);
+        ASSERT_TRUE(itemComes(panel));
+        EXPECT_TRUE(barIsUp(false));
+        panel.takeDown();
+        EXPECT_TRUE(barIsUp(true));
     }
 }
 
-TEST_F(StatusItemTest, MovesBetweenTraysOfBothKinds)
+TEST_F(StatusItemTest, MovesBetweenTraysOfBothKindsAndIsNowhereTwice)
 {
     auto host = statusNotifierTray();
     start(u"auto"_s);
     ASSERT_TRUE(itemComes(*host));
-    const auto panel = xembedTray();
-    ASSERT_TRUE(eventually([&] { return panel->isUp(); }));
+    XEmbedTray panel(display_);
+    ASSERT_TRUE(eventually([&] { return panel.isUp(); }));
     host.reset();
-    ASSERT_TRUE(itemComes(*panel));
-    EXPECT_FALSE(probe_->bar());
-
+    ASSERT_TRUE(itemComes(panel));
+    EXPECT_FALSE(probe_->place(u"bar"_s));
     host = statusNotifierTray();
     ASSERT_TRUE(itemComes(*host));
-    EXPECT_TRUE(eventually([&] { return !panel->holds(Probe::windowName()); }));
-    EXPECT_EQ(host->items().size(), 1) << "there is no second item of Qt's";
-}
+    EXPECT_TRUE(eventually([&] { return !panel.holds(u"desktop_probe"_s); }));
+    EXPECT_EQ(host->items().size(), 1);
 
-TEST_F(StatusItemTest, RegistersWithAWatcherThatTakesTheOldOnesPlaceWithoutAGap)
-{
-    auto first = statusNotifierTray();
-    start(u"auto"_s);
-    ASSERT_TRUE(itemComes(*first));
-    const auto second = statusNotifierTray(false);
-    first.reset();
-    ASSERT_TRUE(itemComes(*second));
-    EXPECT_TRUE(barComes()) << "nobody shows its items yet";
-    second->setHost(true);
-    EXPECT_TRUE(barGoes());
+    const auto next = statusNotifierTray(false);
+    panel.takeDown();
+    host.reset();
+    ASSERT_TRUE(itemComes(*next)) << "a watcher that takes the old one's place without a gap";
+    EXPECT_TRUE(barIsUp(true)) << "nobody shows its items yet";
+    next->setHost(true);
+    EXPECT_TRUE(barIsUp(false));
 }
 
 TEST_F(StatusItemTest, NoItemOfQtsStaysWhereAHostComesAtTheSameMomentAsAnXEmbedTray)
 {
     const auto host = statusNotifierTray(false);
     start(u"auto"_s);
-    ASSERT_TRUE(barComes());
+    ASSERT_TRUE(barIsUp(true));
     host->setHostSilently();
     const QSignalSpy registered(host.get(), &FakeStatusNotifierTray::StatusNotifierItemRegistered);
-    const auto panel = xembedTray();
+    const XEmbedTray panel(display_);
     EXPECT_TRUE(eventually([&] { return !registered.isEmpty() && host->items().isEmpty(); }));
-    EXPECT_TRUE(probe_->bar());
+    EXPECT_TRUE(probe_->place(u"bar"_s));
     host->setHost(true);
     EXPECT_TRUE(itemComes(*host));
-    EXPECT_TRUE(barGoes());
+    EXPECT_TRUE(barIsUp(false));
 }
 
 TEST_F(StatusItemTest, StaysWhereItIsToldOrWaitsForATrayWhereTheBarIsUnwanted)
 {
     start(u"tray"_s);
-    EXPECT_FALSE(probe_->bar());
+    EXPECT_FALSE(probe_->place(u"bar"_s));
     const auto tray = statusNotifierTray();
     EXPECT_TRUE(itemComes(*tray));
-    EXPECT_FALSE(probe_->bar());
+    EXPECT_FALSE(probe_->place(u"bar"_s));
     start(u"bar"_s);
-    EXPECT_TRUE(barComes());
+    EXPECT_TRUE(barIsUp(true));
     EXPECT_TRUE(eventually([&] { return tray->items().isEmpty(); }));
 }
 
-TEST_F(StatusItemTest, ClicksOpenAndCloseTheMenuUnderTheBar)
+TEST_F(StatusItemTest, ClicksOpenAndCloseTheMenuUnderTheBarWhichFollowsTheColourScheme)
 {
+    FakeSettingsPortal portal(connection(), FakeSettingsPortal::dark);
     start(u"bar"_s);
-    ASSERT_TRUE(barComes());
-    display_.click(imageInBar());
-    ASSERT_TRUE(menuOpens());
-    display_.click(imageInBar());
-    EXPECT_TRUE(menuCloses()) << "the click that closes the menu does not open it again";
-
-    display_.click(imageInBar());
-    ASSERT_TRUE(menuOpens());
-    display_.pressKey(u"Down"_s);
-    display_.pressKey(u"Return"_s);
-    EXPECT_TRUE(menuCloses());
-    EXPECT_EQ(probe_->tell(u"state"_s)[u"chosen"_s].toString(), u"Back up now"_s);
+    ASSERT_TRUE(barIsUp(true));
+    for (int turn = 0; turn < 2; ++turn) {
+        clickInBar();
+        ASSERT_TRUE(menuIsOpen(true));
+        if (turn == 0)
+            clickInBar();
+        else
+            for (const auto& key : {u"Down"_s, u"Return"_s})
+                display_.pressKey(key);
+        EXPECT_TRUE(menuIsOpen(false)) << "the click that closes the menu does not open it again";
+    }
+    EXPECT_EQ(probe_->state(u"chosen"_s), u"Back up now"_s);
+    const auto ground = [this] {
+        return display_.screenshot().pixelColor(probe_->place(u"bar"_s)->center()).lightness();
+    };
+    EXPECT_TRUE(eventually([&] { return ground() > 20 && ground() < 60; }));
+    portal.setColorScheme(FakeSettingsPortal::light);
+    EXPECT_TRUE(eventually([&] { return ground() > 230; }));
 }
 
 TEST_F(StatusItemTest, TheBarKeepsOtherWindowsOffItsStrip)
 {
-    const auto panel = xembedTray();
+    const XEmbedTray panel(display_);
     const auto workAreaBegins = [this](int top) {
         const QString area = u"_NET_WORKAREA(CARDINAL) = 0, %1, 1280, "_s.arg(top);
-        return display_.ask(u"xprop"_s, {u"-root"_s, u"_NET_WORKAREA"_s}).startsWith(area);
+        return eventually([&] { return display_.ask(u"xprop"_s, {u"-root"_s, u"_NET_WORKAREA"_s}).startsWith(area); });
     };
     for (const int scale : {1, 2}) {
-        ASSERT_TRUE(eventually([&] { return workAreaBegins(0); })) << "nobody's strip";
+        ASSERT_TRUE(workAreaBegins(0)) << "nobody's strip";
         start(u"bar"_s, {u"QT_SCALE_FACTOR=%1"_s.arg(scale)});
-        ASSERT_TRUE(barComes());
-        EXPECT_TRUE(eventually([&] { return workAreaBegins((probe_->bar()->bottom() + 1) * scale); })) << scale;
-        EXPECT_EQ(probe_->bar()->top(), 0) << "its own strip does not push the bar down";
+        ASSERT_TRUE(barIsUp(true));
+        EXPECT_TRUE(workAreaBegins((probe_->place(u"bar"_s)->bottom() + 1) * scale)) << scale;
+        EXPECT_EQ(probe_->place(u"bar"_s)->top(), 0) << "its own strip does not push the bar down";
         const QString hints =
             display_.ask(u"xprop"_s, {u"-name"_s, u"Quillon"_s, u"_NET_WM_WINDOW_TYPE"_s, u"_NET_WM_DESKTOP"_s});
         EXPECT_EQ(hints, u"_NET_WM_WINDOW_TYPE(ATOM) = _NET_WM_WINDOW_TYPE_DOCK\n"
                          "_NET_WM_DESKTOP(CARDINAL) = 4294967295\n"_s);
-        EXPECT_TRUE(alertComesBack([&] { display_.click(imageInBar(scale)); }));
+        EXPECT_TRUE(alertComesBack([&] { clickInBar(scale); }));
         probe_.reset();
     }
-}
-
-TEST_F(StatusItemTest, TheBarFollowsTheDesktopsColourScheme)
-{
-    constexpr uint dark = 1;
-    constexpr uint light = 2;
-    FakeSettingsPortal portal(connection(), dark);
-    start(u"bar"_s);
-    ASSERT_TRUE(barComes());
-    const auto ground = [this] { return display_.screenshot().pixelColor(probe_->bar()->center()).lightness(); };
-    EXPECT_TRUE(eventually([&] { return ground() > 20 && ground() < 60; }));
-    portal.setColorScheme(light);
-    EXPECT_TRUE(eventually([&] { return ground() > 230; }));
 }
 
 TEST(StatusItemOnWayland, IsASmallWindowWithATitleUntilThereIsATray)
 {
     const PrivateBus bus;
     const WaylandCompositor compositor;
-    Probe probe(bus, u"auto"_s, compositor.variables());
-    ASSERT_TRUE(eventually([&] { return probe.bar().has_value(); }));
+    Probe probe(u"auto"_s, compositor.variables() + QStringList{bus.variable()});
+    const auto width = [&] { return probe.place(u"bar"_s).value_or(QRect()).width(); };
+    const auto seen = [&](const QString& message) { return compositor.said(message); };
+    ASSERT_TRUE(eventually([&] { return width() > 0; }));
     constexpr int smallWidth = 200;
-    const QRect window = *probe.bar();
-    EXPECT_LT(window.width(), smallWidth);
-    EXPECT_TRUE(eventually([&] { return compositor.messages().contains(R"(set_title("Quillon"))"); }));
+    const int first = width();
+    EXPECT_LT(first, smallWidth);
+    EXPECT_TRUE(eventually([&] { return seen(u"set_title\\(\"Quillon\"\\)"_s) && seen(u"set_window_geometry"_s); }));
     // A window that draws its own frame counts it in.
-    const QByteArray bare = "set_window_geometry(0, 0, " + QByteArray::number(window.width()) + ", " +
-                            QByteArray::number(window.height()) + ')';
-    EXPECT_TRUE(eventually([&] { return compositor.messages().contains("set_window_geometry"); }));
-    EXPECT_FALSE(compositor.messages().contains(bare));
-
+    EXPECT_FALSE(seen(u"set_window_geometry\\(0, 0, %1, %2\\)"_s.arg(first).arg(probe.place(u"bar"_s)->height())));
     probe.tell(u"title Next: 1 day, 2 hours and 3 minutes|2"_s);
-    EXPECT_TRUE(eventually([&] { return probe.bar() && probe.bar()->width() > window.width(); }));
+    EXPECT_TRUE(eventually([&] { return width() > first; }));
     probe.tell(u"title"_s);
-    EXPECT_TRUE(eventually([&] { return probe.bar() && probe.bar()->width() < smallWidth; })) << "no empty ground";
-    constexpr int frame = 120;
-    EXPECT_GE(probe.bar()->width(), frame) << "the title and the buttons of the frame have room";
+    constexpr int frame = 120; // has room for the title and the buttons
+    EXPECT_TRUE(eventually([&] { return width() >= frame && width() < smallWidth; })) << "no empty ground";
     probe.tell(u"press"_s);
-    EXPECT_TRUE(eventually([&] { return probe.isMenuOpen(); }));
+    EXPECT_TRUE(probe.becomes(u"menuOpen"_s, true));
     probe.tell(u"press"_s);
 
     // No program can raise a window there: one that waits for an answer is opened anew.
-    const auto opened = [&] { return compositor.messages().count("get_toplevel"); };
-    const auto before = opened();
+    const auto opened = seen(u"get_toplevel"_s);
     probe.tell(u"alert"_s);
-    ASSERT_TRUE(eventually([&] { return opened() == before + 1; }));
+    ASSERT_TRUE(eventually([&] { return seen(u"get_toplevel"_s) == opened + 1; }));
     probe.tell(u"press"_s);
-    EXPECT_TRUE(eventually([&] { return opened() == before + 2; }));
-    const auto closed = [&] {
-        return QString::fromUtf8(compositor.messages()).count(QRegularExpression(u"xdg_toplevel@\\d+\\.destroy"_s));
-    };
-    const auto closedBefore = closed();
+    EXPECT_TRUE(eventually([&] { return seen(u"get_toplevel"_s) == opened + 2; }));
+    const auto closed = seen(u"xdg_toplevel@\\d+\\.destroy"_s);
     probe.tell(u"answer"_s);
-    EXPECT_TRUE(eventually([&] { return closed() == closedBefore + 1; }));
+    EXPECT_TRUE(eventually([&] { return seen(u"xdg_toplevel@\\d+\\.destroy"_s) == closed + 1; }));
     probe.tell(u"title Next:|1 hour"_s); // what the window does about the alert's end, it has done by now
-    EXPECT_TRUE(eventually([&] { return probe.bar().has_value(); }));
-    EXPECT_FALSE(compositor.messages().contains("set_minimized")) << "the alert's end takes nothing along";
+    EXPECT_TRUE(eventually([&] { return width() > 0; }));
+    EXPECT_FALSE(seen(u"set_minimized"_s)) << "the alert's end takes nothing along";
 
     FakeStatusNotifierTray tray(bus.connect(u"desktop"_s));
-    EXPECT_TRUE(eventually([&] { return tray.items().size() == 1 && !probe.bar(); }));
-    EXPECT_EQ(tray.callAtPlace(tray.items().constFirst(), u"Activate"_s), u"org.freedesktop.DBus.Error.UnknownMethod"_s)
+    EXPECT_TRUE(eventually([&] { return tray.items().size() == 1 && width() == 0; }));
+    EXPECT_EQ(tray.callAtPlace(u"Activate"_s), u"org.freedesktop.DBus.Error.UnknownMethod"_s)
         << "hosts that are refused open their own menu";
     QDBusConnection::disconnectFromBus(u"desktop"_s);
 }

@@ -4,7 +4,6 @@
 #include "NotifierTypes_linux.h"
 
 #include <QDBusConnection>
-#include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
 #include <QObject>
@@ -13,8 +12,8 @@
 namespace quillon {
 
 /// A tray of the StatusNotifier kind: the watcher that items register with, and the host that shows them and draws
-/// their menus.
-class FakeStatusNotifierTray final : public QObject, protected QDBusContext {
+/// their menus. What is asked about an item is asked about the one that came first.
+class FakeStatusNotifierTray final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
     Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost)
@@ -34,21 +33,19 @@ public:
     /// Bus names of the items in the tray.
     QStringList items() const { return items_; }
     /// A property of the item, of that D-Bus type.
-    QVariant property(const QString& item, const QString& name, const QString& signature = QStringLiteral("s"));
-    QString text(const QString& item, const QString& name) { return property(item, name).toString(); }
-    NotifierToolTip toolTip(const QString& item);
-    NotifierPixmaps pixmaps(const QString& item, const QString& name);
-    /// Names of the signals of items and their menus since the last call.
+    QVariant property(const QString& name, const QString& signature);
+    QString text(const QString& name) { return property(name, QStringLiteral("s")).toString(); }
+    NotifierToolTip toolTip();
+    NotifierPixmaps pixmaps(const QString& name);
+    /// Names of the signals of items since the last call.
     QStringList takeSignals() { return std::exchange(signals_, {}); }
 
-    MenuLayout menu(const QString& item);
-    /// The labels of the item's menu, top level, as they are told.
-    QStringList menuLabels(const QString& item);
-    /// Tells of what has happened to an item of the menu; the error's name when it is refused.
-    QString menuEvent(const QString& item, int id, const QString& event);
-    bool aboutToShowMenu(const QString& item, int id);
+    /// The items of the menu, top level.
+    QList<MenuLayout> menu();
+    /// Tells of what has happened to an item of the menu.
+    void menuEvent(int id, const QString& event);
     /// Calls a method of the item that takes a place on the screen; the error's name when it is refused.
-    QString callAtPlace(const QString& item, const QString& method);
+    QString callAtPlace(const QString& method);
 
 public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString& service); // NOLINT: names of the protocol
@@ -66,9 +63,9 @@ private Q_SLOTS:
 private:
     bool hasHost() const { return host_; }
     int protocolVersion() const { return 0; }
-    QDBusMessage call(const QString& item, const QString& path, const QString& interface, const QString& method,
+    QDBusMessage call(const QString& path, const QString& interface, const QString& method,
                       const QVariantList& arguments);
-    QDBusMessage callMenu(const QString& item, const QString& method, const QVariantList& arguments);
+    QDBusMessage callMenu(const QString& method, const QVariantList& arguments);
 
     QDBusConnection bus_;
     QDBusServiceWatcher itemWatcher_;
