@@ -1,52 +1,105 @@
 #include "Arguments.h"
+#include "BackupInfo.h"
+#include "Bundle.h"
 #include "CalendarIntervalRule.h"
 #include "ComingStarts.h"
 #include "DefaultSettings.h"
-#include "Diagnosis.h"
+#include "Doctor.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
 #include "Report.h"
 #include "ScopedEnvironment.h"
 #include "SettingsKeys.h"
+#include "VirtualLauncher.h"
 
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
+#include <QLocale>
+#include <QSysInfo>
+#include <QTimer>
 
 #include <gtest/gtest.h>
+
+#define main quillonctlMain // the tests have one of their own
+#include "main.cpp"         // NOLINT(bugprone-suspicious-include): what it does is in no header
+#undef main
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
-TEST(QuillonctlArguments, AreReadOrRefusedWithOneLine)
+namespace {
+
+QByteArray page(const char* name)
+{
+    QFile file(QStringLiteral(PAGES) + QLatin1StringView(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return file.readAll();
+}
+
+} // namespace
+
+TEST(QuillonctlArguments, AreRead)
 {
     const ScopedEnvironment zone("TZ", "America/New_York");
+    using Command = Arguments::Command;
+    const struct {
+        QString words;
+        Command command;
+        bool json = false;
+        int count = 5;
+        std::optional<Date> from = std::nullopt;
+    } rows[] = {
+        {u"--help"_s, Command::Help},
+        {u"-h"_s, Command::Help},
+        {u"--version"_s, Command::Version},
+        {u"status"_s, Command::Status},
+        {u"destinations --json"_s, Command::Destinations, true},
+        {u"doctor --json"_s, Command::Doctor, true},
+        {u"next --count 1 --json"_s, Command::Next, true, 1},
+        {u"next --from 2026-11-21T08:30 --count 1000"_s, Command::Next, false, 1000, local(2026, 11, 21, 8, 30)},
+        {u"next --from 2026-11-21T08:30:59"_s, Command::Next, false, 5, local(2026, 11, 21, 8, 30, 59)},
+    };
+    for (const auto& [words, command, json, count, from] : rows) {
+        SCOPED_TRACE(words.toStdString());
+        QString error;
+        const auto read = Arguments::parse(words.split(u' '), &error);
+        ASSERT_TRUE(read) << error.toStdString();
+        EXPECT_EQ(read->command, command);
+        EXPECT_EQ(read->json, json);
+        EXPECT_EQ(read->count, count);
+        EXPECT_EQ(read->from, from);
+    }
     QString error;
-    const auto next =
-        Arguments::parse({u"next"_s, u"--count"_s, u"3"_s, u"--json"_s, u"--from"_s, u"2026-11-21 08:30"_s}, &error);
-    ASSERT_TRUE(next) << error.toStdString();
-    EXPECT_TRUE(next->json);
-    EXPECT_EQ(next->count, 3);
-    EXPECT_EQ(next->from, local(2026, 11, 21, 8, 30));
-    const QList<QStringList> wrong = {{},
-                                      {u"nonsense"_s},
-                                      {u"status"_s, u"--count"_s, u"3"_s},
-                                      {u"status"_s, u"extra"_s},
-                                      {u"doctor"_s, u"--count"_s, u"3"_s},
-                                      {u"--version"_s, u"--json"_s},
-                                      {u"next"_s, u"--count"_s},
-                                      {u"next"_s, u"--count"_s, u"0"_s},
-                                      {u"next"_s, u"--count"_s, u"ten"_s},
-                                      {u"next"_s, u"--from"_s, u"2026-02-30T10:00"_s},
-                                      {u"next"_s, u"--from"_s, u"2026-11-21T10:00Z"_s},
-                                      {u"next"_s, u"--from"_s, u"noon"_s}};
-    for (const auto& words : wrong) {
-        error.clear();
+    EXPECT_EQ(Arguments::parse({u"next"_s, u"--from"_s, u"2026-11-21 08:30"_s}, &error)->from,
+              local(2026, 11, 21, 8, 30));
+}
+
+TEST(QuillonctlArguments, AreRefusedWithOneClearLine)
+{
+    const QString form = u"--from takes a local date and time such as 2026-11-21T12:00, not \"%1\""_s;
+    const QString range = u"--count takes a number from 1 to 1000, not \"%1\""_s;
+    const std::pair<QStringList, QString> rows[] = {
+        {{}, u"a command is missing: status, destinations, next or doctor"_s},
+        {{u"sta"_s}, u"unknown command \"sta\": it is status, destinations, next or doctor"_s},
+        {{u"status"_s, u"--count"_s, u"3"_s}, u"unexpected argument \"--count\""_s},
+        {{u"doctor"_s, u"--from"_s, u"noon"_s}, u"unexpected argument \"--from\""_s},
+        {{u"next"_s, u"extra"_s}, u"unexpected argument \"extra\""_s},
+        {{u"--version"_s, u"--json"_s}, u"unexpected argument \"--json\""_s},
+        {{u"--help"_s, u"--json"_s}, u"unexpected argument \"--json\""_s},
+        {{u"next"_s, u"--json"_s, u"--count"_s}, u"--count needs a value"_s},
+        {{u"next"_s, u"--count"_s, u"0"_s}, range.arg(u"0"_s)},
+        {{u"next"_s, u"--count"_s, u"1001"_s}, range.arg(u"1001"_s)},
+        {{u"next"_s, u"--count"_s, u"5x"_s}, range.arg(u"5x"_s)},
+        {{u"next"_s, u"--from"_s, u"2026-02-30T10:00"_s}, form.arg(u"2026-02-30T10:00"_s)},
+        {{u"next"_s, u"--from"_s, u"2026-11-21T25:00"_s}, form.arg(u"2026-11-21T25:00"_s)},
+        {{u"next"_s, u"--from"_s, u"2026-11-21T10:00Z"_s}, form.arg(u"2026-11-21T10:00Z"_s)},
+    };
+    for (const auto& [words, expected] : rows) {
+        QString error;
         EXPECT_FALSE(Arguments::parse(words, &error)) << words.join(u' ').toStdString();
-        EXPECT_FALSE(error.isEmpty());
-        EXPECT_FALSE(error.contains(u'\n'));
+        EXPECT_EQ(error, expected);
     }
 }
 
@@ -73,93 +126,257 @@ TEST(ComingStarts, FollowTheRulesEachLaterThanTheOneBefore)
 TEST(QuillonctlReports, CarryTheRecordsOwnNames)
 {
     const ScopedEnvironment zone("TZ", "America/St_Johns");
+    const auto compact = [](const QByteArray& json) {
+        return QJsonDocument::fromJson(json).toJson(QJsonDocument::Compact).toStdString();
+    };
     const TMStatus status{false, TMState::Stopping, u"Copying"_s, 0.25, 60.5, 1234567890123, u"ID"_s};
-    const auto object = QJsonDocument::fromJson(report::status(status, true)).object();
-    EXPECT_EQ(object, (QJsonObject{{u"failed"_s, false},
-                                   {u"state"_s, 2},
-                                   {u"phase"_s, u"Copying"_s},
-                                   {u"percent"_s, 0.25},
-                                   {u"timeRemaining"_s, 60.5},
-                                   {u"bytesCopied"_s, qint64{1234567890123}},
-                                   {u"destinationID"_s, u"ID"_s}}));
+    EXPECT_EQ(compact(report::status(status, true)),
+              R"({"bytesCopied":1234567890123,"destinationID":"ID","failed":false,"percent":0.25,"phase":"Copying",)"
+              R"("state":2,"timeRemaining":60.5})");
+    EXPECT_EQ(report::status(status, false).toStdString(), page("status.txt").toStdString());
     EXPECT_TRUE(report::status(TMStatus::failure(), false).startsWith("failed:         yes\nstate:          -1\n"));
-    const auto disks = QJsonDocument::fromJson(report::destinations({{u"1"_s, u"50%1 & more"_s, true}}, true)).array();
-    EXPECT_EQ(disks, (QJsonArray{QJsonObject{{u"id"_s, u"1"_s}, {u"name"_s, u"50%1 & more"_s}, {u"isLast"_s, true}}}));
-    EXPECT_EQ(report::starts({local(2026, 11, 21, 12)}, false), "2026-11-21T12:00:00-03:30\n");
-    EXPECT_EQ(QJsonDocument::fromJson(report::starts({}, true)).array(), QJsonArray());
+    const QList<BackupDestination> disks{{u"1"_s, u"50%1 & more"_s, true}, {u"2"_s, u"B"_s, false}};
+    EXPECT_EQ(compact(report::destinations(disks, true)),
+              R"([{"id":"1","isLast":true,"name":"50%1 & more"},{"id":"2","isLast":false,"name":"B"}])");
+    EXPECT_EQ(report::destinations(disks, false), "1  50%1 & more  (last used)\n2  B\n");
+    const QList<Date> starts{local(2026, 11, 21, 12), local(2027, 7, 1, 9, 5, 7)};
+    EXPECT_EQ(report::starts(starts, false), "2026-11-21T12:00:00-03:30\n2027-07-01T09:05:07-02:30\n");
+    EXPECT_EQ(compact(report::starts(starts, true)),
+              R"([{"date":"2026-11-21T12:00:00-03:30"},{"date":"2027-07-01T09:05:07-02:30"}])");
+    QStringList weekdays;
+    for (int day = 1; day <= 7; ++day)
+        weekdays.append(report::readableDate(local(2026, 11, day, 9)).left(3));
+    EXPECT_EQ(weekdays.join(u' '), u"Sun Mon Tue Wed Thu Fri Sat"_s);
+}
+
+TEST(QuillonctlProgram, AnswersAsFarAsItCanWithoutATool)
+{
+    const ScopedEnvironment zone("TZ", "Europe/Berlin");
+    const ScopedEnvironment tool("QUILLON_TMUTIL", "/nonexistent/tmutil");
+    const ScopedEnvironment settings("XDG_CONFIG_HOME", "/nonexistent");
+    const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    const ScopedEnvironment platform("QT_QPA_PLATFORM", "offscreen");
+    const std::string missing = "quillonctl: /nonexistent/tmutil: the tool is not there\n";
+    const struct {
+        QString words;
+        int status;
+        QByteArray output; ///< its beginning
+        std::string errors;
+    } rows[] = {
+        {u"--help"_s, 0, page("help.txt"), ""},
+        {u"--version"_s, 0, "quillonctl " + bundleShortVersion().toUtf8() + "\n", ""},
+        {u"status --json"_s, 1, report::status(TMStatus::failure(), true), missing},
+        {u"status"_s, 1, report::status(TMStatus::failure(), false), missing},
+        {u"destinations"_s, 1, "", missing},
+        {u"destinations --json"_s, 1, "[\n]\n", missing},
+        {u"next --count 2 --from 2026-10-24T12:00"_s, 0, "2026-10-24T12:00:00+02:00\n2026-10-25T12:00:00+01:00\n", ""},
+        {u"doctor"_s, 1, "Quillon " + bundleShortVersion().toUtf8(), ""},
+        {u"doctor --json"_s, 1, "{", ""},
+    };
+    for (const auto& [words, status, output, errors] : rows) {
+        SCOPED_TRACE(words.toStdString());
+        QString error;
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(::run(*Arguments::parse(words.split(u' '), &error)), status);
+        const std::string printed = testing::internal::GetCapturedStdout();
+        EXPECT_TRUE(words.startsWith(u"doctor"_s) ? printed.starts_with(output.toStdString())
+                                                  : printed == output.toStdString())
+            << printed;
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), errors);
+    }
 }
 
 namespace {
 
-QByteArray page(const char* name)
-{
-    QFile file(QStringLiteral(PAGES) + QLatin1StringView(name));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
-    return file.readAll();
-}
+/// The doctor in virtual time, in front of a played tool.
+class DoctorTest : public testing::Test {
+protected:
+    DoctorTest()
+    {
+        defaults_.registerDefaults(registeredDefaults());
+        // The doctor waits in an event loop: time goes on in it.
+        time_.callOnTimeout([this] { runLoop_.advance(10ms); });
+        time_.start(0);
+    }
 
-Diagnosis everything()
+    Diagnosis examine(const QByteArray& script)
+    {
+        ScriptedLauncher launcher(runLoop_, TmutilScript::fromJson(script));
+        return Doctor(runLoop_, launcher, defaults_, u"/home/me/bin/tmutil"_s).examine();
+    }
+
+    /// A recorded page, with what differs between computers filled in.
+    static QByteArray pageHere(const char* name)
+    {
+        QString text = QString::fromUtf8(page(name));
+        for (const auto& [word, value] : {std::pair{u"@version"_s, bundleShortVersion()},
+                                          {u"@build"_s, bundleVersion()},
+                                          {u"@qt"_s, QString::fromLatin1(qVersion())},
+                                          {u"@system"_s, QSysInfo::prettyProductName()},
+                                          {u"@kernel"_s, QSysInfo::kernelType() + u' ' + QSysInfo::kernelVersion()},
+                                          {u"@architecture"_s, QSysInfo::currentCpuArchitecture()},
+                                          {u"@language"_s, QLocale::system().uiLanguages().value(0)}})
+            text.replace(word, value);
+        return text.toUtf8();
+    }
+
+    ScopedEnvironment zone_{"TZ", "Europe/Berlin"};
+    ScopedEnvironment home_{"HOME", "/home/me"};
+    ScopedEnvironment desktop_{"XDG_CURRENT_DESKTOP", "XFCE"};
+    ScopedEnvironment session_{"XDG_SESSION_TYPE", "x11"};
+    ScopedEnvironment platform_{"QT_QPA_PLATFORM", "offscreen"};
+    ScopedEnvironment bus_{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"};
+    VirtualRunLoop runLoop_{local(2026, 11, 21, 12)};
+    QTimer time_;
+    MemoryDefaults defaults_;
+};
+
+BackupInfo record(const QString& id, const QString& name, Date date)
 {
-    Diagnosis found;
-    found.now = local(2026, 11, 21, 12);
-    found.version = u"1.2.3"_s;
-    found.build = u"45"_s;
-    found.qtVersion = u"6.4.2"_s;
-    found.system = u"Debian 12"_s;
-    found.kernel = u"linux 6.1"_s;
-    found.architecture = u"x86_64"_s;
-    found.desktop = u"XFCE"_s;
-    found.language = u"de_DE"_s;
-    found.itemPlace = u"bar"_s;
-    found.itemReason = u"there is no tray"_s;
-    found.toolPath = u"~/bin/tmutil"_s;
-    found.status = {u"status"_s, std::chrono::milliseconds(12), {}};
-    found.destinations = {u"destinationinfo"_s, std::chrono::milliseconds(20000), u"the tool gave no answer"_s};
-    found.activity = u"no backup runs"_s;
-    found.disks = {{u"50%1 & more"_s, true, true, true, local(2026, 11, 20, 12)},
-                   {u"Old"_s, false, std::nullopt, false, std::nullopt}};
-    found.scheduleIsOn = true;
-    found.rules = {u"every day, 12:00"_s, u"Sunday, 02:30"_s};
-    found.comingStarts = {local(2026, 11, 22, 2, 30), local(2026, 11, 22, 12)};
-    found.pausedUntil = local(2026, 11, 21, 13);
-    found.retriesMissed = true;
-    found.timeZone = u"Europe/Berlin"_s;
-    found.offset = 3600;
-    found.zoneChange = OffsetChange{local(2027, 3, 28, 3), 3600, 7200};
-    found.iconState = u"failed"_s;
-    found.lastRunFailed = true;
-    found.lastFailure = Diagnosis::Failure{u"2026-11-19 07:22:58 +0000"_s, u"Old"_s, u"UnreadFiles"_s, 3};
-    return found;
+    BackupInfo info(id, date);
+    info.setDiskName(name);
+    return info;
 }
 
 } // namespace
 
-TEST(DoctorsReport, IsOneAlignedPage)
+// The keys of the JSON page never change their meaning, and no page names a file of the user.
+TEST_F(DoctorTest, TellsWhatGoesOnAndWhatHasGoneWrong)
 {
-    const ScopedEnvironment zone("TZ", "Europe/Berlin");
-    EXPECT_EQ(report::doctorText(everything()).toStdString(), page("doctor.txt").toStdString());
+    defaults_.setObject(settingskeys::latestBackupInfo,
+                        QVariantList{*record(u"A"_s, u"Renamed"_s, local(2026, 11, 20, 12)).archivedData(),
+                                     *record(u"B"_s, u"B"_s, local(2026, 11, 20, 12)).archivedData(),
+                                     *record(u"C"_s, u"Former"_s, local(2026, 11, 20, 12)).archivedData()});
+    defaults_.setObject(settingskeys::lastMenuBarIconState, 5LL);
+    QList<CalendarIntervalRule> rules;
+    for (qlonglong day = -1; day <= 9; ++day)
+        rules.append({day, 9000});
+    defaults_.setObject(settingskeys::calendarIntervals, CalendarIntervalRule::listToArray(rules));
+    defaults_.setDate(settingskeys::pauseUntilDate, local(2026, 11, 21, 13));
+    defaults_.setObject(settingskeys::enableRetryAtFailure, 0LL);
+    const auto found = examine(R"([
+        {"expect":["status"],"delay":0.02,"output":"{ Running = 1; BackupPhase = MountingDiskImage;
+          Progress = { Percent = 0.256; }; LastFailure = { Date = \"2026-11-19 07:22:58 +0000\"; DestinationID = A;
+          Cause = UnreadFiles; Description = \"/home/me/secret\"; UnreadFiles = 3; }; }"},
+        {"expect":["destinationinfo","-X"],"output":"<plist><dict><key>Destinations</key><array>
+          <dict><key>ID</key><string>A</string><key>Name</key><string>50%1 &amp; more</string>
+            <key>LastBackup</key><date>2026-11-21T07:00:00Z</date></dict>
+          <dict><key>ID</key><string>B</string><key>Name</key><string>Studio%20Disk</string>
+            <key>LastDestination</key><integer>1</integer><key>MountPoint</key><string>/media/me/secret</string>
+            <key>LastBackup</key><date>2026-11-19T07:00:00Z</date></dict></array></dict></plist>"}])");
+    EXPECT_EQ(report::doctorText(found).toStdString(), pageHere("troubled.txt").toStdString());
+    EXPECT_EQ(QJsonDocument::fromJson(report::doctorJson(found)), QJsonDocument::fromJson(pageHere("troubled.json")))
+        << report::doctorJson(found).toStdString();
 }
 
-TEST(DoctorsReport, HasTheSameKeysForEver)
+TEST_F(DoctorTest, FindsNothingWrongWhereNothingIs)
 {
-    const ScopedEnvironment zone("TZ", "Europe/Berlin");
-    const auto expected = QJsonDocument::fromJson(page("doctor.json"));
-    EXPECT_EQ(QJsonDocument::fromJson(report::doctorJson(everything())), expected)
-        << report::doctorJson(everything()).toStdString();
+    const ScopedEnvironment zone("TZ", "UTC");
+    const ScopedEnvironment session("XDG_SESSION_TYPE", std::nullopt);
+    defaults_.setObject(settingskeys::enableSchedule, 0LL);
+    defaults_.setDate(settingskeys::pauseUntilDate, runLoop_.now() - 1s); // is over
+    const auto found = examine(R"([{"expect":["status"],"output":"{ Running = 0; }"},
+        {"expect":["destinationinfo","-X"],"output":"{ Destinations = ( { ID = A; Name = Disk; } ); }"}])");
+    EXPECT_EQ(report::doctorText(found).toStdString(), pageHere("well.txt").toStdString());
+    EXPECT_EQ(QJsonDocument::fromJson(report::doctorJson(found)), QJsonDocument::fromJson(pageHere("well.json")))
+        << report::doctorJson(found).toStdString();
 }
 
-TEST(DoctorsReport, NamesWhatIsWrongAndNothingElse)
+TEST_F(DoctorTest, SaysWhatItCannotTellWithoutAnAnswerOfTheTool)
 {
-    Diagnosis found;
-    found.disks = {{u"Disk"_s, true, false, false, std::nullopt}};
-    EXPECT_EQ(problems(found), QStringList()) << "a disk on the shelf is no problem, and neither is a schedule off";
-    found.disks.first().isSetUp = false;
-    EXPECT_EQ(problems(found), QStringList{u"No backup disk is set up."_s});
-    found.destinations.trouble = found.status.trouble = u"the tool is not there"_s;
-    found.scheduleIsOn = true;
-    EXPECT_EQ(problems(found), (QStringList{u"What Time Machine does cannot be told: the tool is not there."_s,
-                                            u"The backup disks cannot be told: the tool is not there."_s,
-                                            u"The schedule is on but has no rules."_s}));
+    defaults_.setObject(settingskeys::calendarIntervals, QVariantList());
+    defaults_.setObject(settingskeys::latestBackupInfo,
+                        QVariantList{*record(u"A"_s, u"Disk"_s, local(2026, 11, 20, 12)).archivedData()});
+    const auto hangs = examine(R"([{"expect":["status"],"fault":"refused"},
+                                   {"expect":["destinationinfo","-X"],"status":3}])");
+    EXPECT_EQ(report::doctorText(hangs).toStdString(), pageHere("silent.txt").toStdString());
+    const auto babbles = examine(R"([{"expect":["status"],"output":"Hello"},
+                                     {"expect":["destinationinfo","-X"],"output":"Hello"}])");
+    EXPECT_EQ(problems(babbles),
+              (QStringList{
+                  u"What Time Machine does cannot be told: what the tool printed cannot be understood."_s,
+                  u"The backup disks cannot be told: what the tool printed cannot be understood."_s,
+                  u"The schedule is on but has no rules."_s,
+              }));
+}
+
+TEST_F(DoctorTest, NamesAStopThatWasAskedForAndTheLastIcon)
+{
+    const QStringList icons{u"none"_s,    u"none"_s,           u"idle"_s,
+                            u"running"_s, u"completed"_s,      u"update available"_s,
+                            u"failed"_s,  u"missed schedule"_s};
+    for (qlonglong state = -1; state <= 6; ++state) {
+        defaults_.setObject(settingskeys::lastMenuBarIconState, state);
+        const auto found = examine(
+            R"([{"expect":["status"],"output":"{ Running = 1; Stopping = 1; BackupPhase = Copying; }"},
+                {"expect":["destinationinfo","-X"],"output":"{}"}])");
+        EXPECT_EQ(found.iconState, icons[state + 1]);
+        EXPECT_EQ(found.activity, u"a backup is being stopped, Copying, 0 %"_s);
+        EXPECT_EQ(problems(found).first(), u"No backup disk is set up."_s);
+    }
+}
+
+TEST_F(DoctorTest, AsksTheToolAsTheApplicationDoes)
+{
+    const struct {
+        QString tool;
+        QByteArray behaviour;
+        QString trouble;
+        QByteArray output;
+    } rows[] = {
+        {u"/"_s, R"("output":"answer")", {}, "answer"},
+        {u"/"_s, R"("output":"answer", "status":3)", u"the tool ended with status 3"_s, "answer"},
+        {u"/"_s, R"("fault":"notUtf8")", u"the tool printed what is no text"_s, {}},
+        {u"/"_s, R"("fault":"endless")", u"the tool ended with status 9"_s, {}},
+        {u"/"_s, R"("fault":"refused")", u"the tool cannot be run"_s, {}},
+        {u"/nonexistent"_s, R"("fault":"refused")", u"the tool is not there"_s, {}},
+        {u"/"_s, R"("delay":59)", {}, {}},
+    };
+    for (const auto& [tool, behaviour, trouble, output] : rows) {
+        ScriptedLauncher launcher(runLoop_,
+                                  TmutilScript::fromJson(R"([{"expect":["status","-X"],)" + behaviour + "}]"));
+        const auto answer = askTool(runLoop_, launcher, tool, {u"status"_s, u"-X"_s}, 60s);
+        EXPECT_EQ(answer.trouble, trouble) << behaviour.toStdString();
+        EXPECT_EQ(answer.output, output) << behaviour.toStdString();
+        EXPECT_EQ(launcher.liveChildren(), 0) << behaviour.toStdString();
+        const TaskRequest& request = launcher.launched().first();
+        EXPECT_EQ(request.executable, tool);
+        EXPECT_EQ(request.environment, QStringList{u"command=status"_s});
+        EXPECT_TRUE(request.captureErrors);
+    }
+}
+
+/// A process that waits for a dead disk, which outlives its end.
+class DeadTask final : public RunningTask {
+public:
+    explicit DeadTask(int& kills)
+        : kills_(kills)
+    {
+    }
+    void kill() override { ++kills_; }
+
+private:
+    int& kills_;
+};
+
+class DeadLauncher final : public TaskLauncher {
+public:
+    int kills = 0;
+
+    std::unique_ptr<RunningTask> launch(const TaskRequest&, Completion) override
+    {
+        return std::make_unique<DeadTask>(kills);
+    }
+};
+
+TEST_F(DoctorTest, WaitsNoLongerForAToolThatHangsWhetherOrNotItEnds)
+{
+    DeadLauncher launcher;
+    const auto found = Doctor(runLoop_, launcher, defaults_, u"/tmutil"_s).examine();
+    EXPECT_EQ(found.status.trouble, u"the tool gave no answer within 20 s"_s);
+    EXPECT_EQ(found.destinations.time, 20s);
+    EXPECT_EQ(launcher.kills, 2);
 }
 
 } // namespace quillon
