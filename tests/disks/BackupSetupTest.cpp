@@ -2,6 +2,7 @@
 
 #include "Entries.h"
 #include "LocalizedString.h"
+#include "ScopedEnvironment.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +22,7 @@ QByteArray xml(const QByteArray& contents)
 
 } // namespace
 
-TEST(BackupSetup, ADiskThatIsNotThereHasAPathButNoMountPoint)
+TEST(BackupSetup, ADiskIsShownWithAllThatIsKnownOfIt)
 {
     const auto disks = readBackupDisks(xml(R"(<dict><key>Destinations</key><array>
 <dict><key>ID</key><string>A</string><key>Name</key><string>One &amp; two</string><key>Path</key><string>/m/1</string>
@@ -30,39 +31,32 @@ TEST(BackupSetup, ADiskThatIsNotThereHasAPathButNoMountPoint)
 <key>LastFailure</key><dict><key>Date</key><string>2026-11-21 07:22:58 +0000</string>
 <key>Description</key><string>The disk "1" is full.</string></dict></dict>
 <dict><key>ID</key><string>B</string><key>Name</key><string>Away</string><key>Path</key><string>/m/2</string>
-<key>RecoveryKeyMissing</key><integer>1</integer></dict>
-</array></dict>)"));
-    ASSERT_TRUE(disks);
-    ASSERT_EQ(disks->size(), 2U);
-    EXPECT_EQ(disks->front().name, u"One & two"_s);
-    EXPECT_TRUE(disks->front().present);
-    EXPECT_EQ(disks->front().lastBackup, Date(std::chrono::seconds(1'795'245'778)));
-    EXPECT_EQ(disks->front().problem->date, disks->front().lastBackup);
-    EXPECT_FALSE(disks->back().present);
-    EXPECT_EQ(disks->back().path, u"/m/2"_s);
-    EXPECT_FALSE(disks->back().lastBackup);
-
-    const ListEntry here = diskEntry(disks->front(), 1'500'000);
-    EXPECT_TRUE(here.details.last().contains(localizedString("disksRoom").arg(u"2.5 GB"_s, u"2.0 TB"_s)) &&
-                here.details.last().contains(localizedString("disksTaken").arg(u"1.5 MB"_s)))
-        << here.details.last().toStdString();
-    ASSERT_EQ(here.remarks.size(), 2);
-    EXPECT_EQ(here.remarks.last(), localizedString("disksSourceOnDisk").arg(u"you"_s));
-    EXPECT_TRUE(here.remarks.first().endsWith(u"The disk \"1\" is full."_s));
-    EXPECT_EQ(diskEntry(disks->back(), std::nullopt).remarks, QStringList(localizedString("disksKeyNotKept")));
-}
-
-TEST(BackupSetup, AnExclusionIsRemovedTheWayItWasMade)
-{
-    const auto exclusions = readExclusions(
-        xml("<dict><key>Paths</key><array><string>/home/you/a&amp;b</string></array><key>Names</key>"
-            "<array><string>-*.iso</string></array><key>LargestFile</key><integer>2000000</integer></dict>"));
-    ASSERT_TRUE(exclusions);
-    QStringList removals;
-    for (const ListEntry& entry : exclusionEntries(*exclusions))
-        removals.append(exclusionRemoval(entry.id).join(u' '));
-    EXPECT_EQ(removals,
-              (QStringList{u"removeexclusion -- /home/you/a&b"_s, u"includename -- -*.iso"_s, u"excludelarger 0"_s}));
+<key>BytesFree</key><integer>1</integer><key>BytesTotal</key><integer>2</integer>
+<key>LastFailure</key><dict><key>Description</key><string>Once.</string></dict>
+<key>RecoveryKeyMissing</key><integer>1</integer></dict></array></dict>)"));
+    ASSERT_TRUE(disks && disks->size() == 2);
+    EXPECT_EQ(disks->front().problem->date, Date(std::chrono::seconds(1'795'245'778)));
+    const ScopedEnvironment zone("TZ", "UTC");
+    const ScopedEnvironment locale("LC_ALL", "en_US.UTF-8");
+    const QString moment = u"Nov 21, 2026, 7:22\u202fAM"_s;
+    const auto text = [](const char* key) { return localizedString(key); };
+    const ListEntry here{
+        .id = u"A"_s,
+        .title = u"One & two"_s,
+        .details = {u"/m/1"_s, text("disksConnected") + u" – "_s + text("disksLastBackup").arg(moment),
+                    text("disksRoom").arg(u"2.5 GB"_s, u"2.0 TB"_s) + u" – "_s + text("disksTaken").arg(u"1.5 MB"_s)},
+        .remarks = {text("disksProblem").arg(moment, u"The disk \"1\" is full."_s),
+                    text("disksSourceOnDisk").arg(u"you"_s)},
+        .symbol = u"externaldrive"_s};
+    EXPECT_EQ(diskEntry(disks->front(), 1'500'000), here)
+        << diskEntry(disks->front(), 1'500'000).details.join(u'\n').toStdString();
+    const ListEntry away{.id = u"B"_s,
+                         .title = u"Away"_s,
+                         .details = {u"/m/2"_s, text("disksNotConnected") + u" – "_s + text("disksNoBackupYet")},
+                         .remarks = {u"Once."_s, text("disksKeyNotKept")},
+                         .symbol = u"externaldrive"_s,
+                         .dimmed = true};
+    EXPECT_EQ(diskEntry(disks->back(), std::nullopt), away);
 }
 
 TEST(BackupSetup, AnAnswerThatIsNotWholeIsNotTakenForAnEmptyOne)

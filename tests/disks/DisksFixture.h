@@ -1,67 +1,96 @@
 #pragma once
 
-#include "Alert.h"
 #include "DisksWindow.h"
 #include "EntryDelegate.h"
-#include "EventLoop.h"
+#include "FakeServices.h"
 #include "ListPage.h"
 #include "LocalizedString.h"
-#include "ModalAlertPresenter.h"
-#include "PracticeTmutil.h"
-#include "QtRunLoop.h"
-#include "Task.h"
+#include "PropertyList.h"
+#include "VirtualLauncher.h"
 
-#include <QApplication>
-#include <QDialogButtonBox>
+#include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPointer>
 #include <QPushButton>
-#include <QTabBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
-#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
-/// The real window over the real tmutil, or over a script in its place.
+/// Plays tmutil and lsblk, which a test tells how to answer: by the first word, or "--try" for a trial.
+class PlayedTools final : public VirtualLauncher {
+public:
+    using VirtualLauncher::VirtualLauncher;
+
+    QMap<QString, TmutilScript::Call> answers;
+    QStringList changes; ///< the calls that do not only read
+
+    void answer(const QString& word, const QVariant& list) { answers[word].output = propertylist::toXml(list).value(); }
+
+protected:
+    TmutilScript::Call behaviour(const TaskRequest& request) override
+    {
+        static const QStringList reading{u"destinationinfo"_s, u"diskusage"_s, u"listsources"_s,
+                                         u"listexclusions"_s,  u"--json"_s,    u"--try"_s};
+        const QString word = request.arguments.contains(u"--try"_s) ? u"--try"_s : request.arguments.first();
+        if (!reading.contains(word))
+            changes.append(request.arguments.join(u' '));
+        return answers.value(word);
+    }
+};
+
+/// The real window in virtual time.
 class DisksWindowFixture : public testing::Test {
 protected:
     enum Page { Disks, Sources, Exclusions };
 
-    void open() { open(practice_.executable()); }
-    void open(const QString& tmutil)
+    DisksWindowFixture()
     {
-        window_ = std::make_unique<DisksWindow>(Setup::Services{launcher_, runLoop_, alerts_, tmutil},
-                                                practice_.path(u"lsblk"_s));
+        QFile(path(u"file"_s)).open(QIODevice::WriteOnly);
+        tell({disk(u"A"_s)});
+        tools_.answer(u"listsources"_s, QVariantList{u"/home/you"_s, u"/srv/photos"_s});
+        tools_.answer(u"listexclusions"_s, QVariantMap{{u"Paths"_s, QVariantList{u"/srv/-out"_s}},
+                                                       {u"Names"_s, QVariantList{u"*.iso"_s}},
+                                                       {u"LargestFile"_s, 2'000'000LL}});
+        tools_.answer(u"--try"_s, QVariantMap{{u"Files"_s, 1LL}, {u"Bytes"_s, 1500LL}});
+        tools_.answer(u"recoverykey"_s, QVariantMap{{u"RecoveryKey"_s, u"8K2VT-QX4MN"_s}, {u"KeyID"_s, u"6c2a"_s}});
+    }
+
+    void open()
+    {
+        window_ = std::make_unique<DisksWindow>(Setup::Services{tools_, runLoop_, alerts_, u"tmutil"_s}, u"lsblk"_s);
         window_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        runLoop_.advance(1s);
     }
 
-    /// A tool that does as the shell script says.
-    QString scripted(const QString& name, const QByteArray& script) const
+    QString path(const QString& name) const { return QDir(folder_.path()).canonicalPath() + u'/' + name; }
+    static QVariantMap disk(const QString& name, const QVariantMap& more = {{u"MountPoint"_s, u"/"_s}})
     {
-        practice_.write(name, "#!/bin/sh\nPATH=/usr/bin:/bin\n" + script);
-        QFile::setPermissions(practice_.path(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        return practice_.path(name);
+        QVariantMap entry{{u"ID"_s, name}, {u"Name"_s, name}, {u"Path"_s, u"/media/"_s + name}};
+        entry.insert(more);
+        return entry;
     }
-
+    void tell(const QVariantList& disks)
+    {
+        tools_.answer(u"destinationinfo"_s, QVariantMap{{u"Destinations"_s, disks}});
+    }
     ListPage* page(Page which) const
     {
-        auto* tabs = window_->findChild<QTabBar*>();
+        auto* tabs = window_->findChild<QTabWidget*>();
         tabs->setCurrentIndex(which);
-        for (ListPage* page : window_->findChildren<ListPage*>()) {
-            if (page->isVisible())
-                return page;
-        }
-        return nullptr;
+        return qobject_cast<ListPage*>(tabs->currentWidget());
     }
     QListWidget* list(Page which) const { return page(which)->findChild<QListWidget*>(); }
     QStringList titles(Page which) const
@@ -72,125 +101,57 @@ protected:
             titles.append(entries->item(row)->text());
         return titles;
     }
-    bool eventuallyShows(Page which, const QStringList& expected) const
-    {
-        return runUntil([&] { return titles(which) == expected; });
-    }
-    static QStringList details(const QListWidgetItem* item)
-    {
-        return item->data(EntryDelegate::detailsRole).toStringList();
-    }
 
-    QPushButton* button(Page which, const QString& title) const
+    /// What is on the screen with that object name or text.
+    template<typename Widget>
+    Widget* shown(const QString& name) const
     {
-        for (QPushButton* button : page(which)->findChildren<QPushButton*>()) {
-            if (button->text() == title)
-                return button;
+        for (Widget* widget : window_->findChildren<Widget*>()) {
+            if (widget->isVisible() && (widget->objectName() == name || widget->property("text") == name))
+                return widget;
         }
         return nullptr;
     }
-    void click(Page which, const QString& title) const
+    bool isReady(const QString& name) const
     {
-        QPushButton* const wanted = button(which, title);
-        ASSERT_TRUE(wanted != nullptr) << title.toStdString();
-        ASSERT_TRUE(runUntil([wanted] { return wanted->isEnabled(); }));
-        QTest::mouseClick(wanted, Qt::LeftButton);
+        const auto* button = shown<QPushButton>(name);
+        return button && button->isEnabled();
     }
-    void clickEntry(Page which, int row) const
+    void click(const QString& name)
     {
-        QListWidget* entries = list(which);
-        QTest::mouseClick(entries->viewport(), Qt::LeftButton, {},
-                          entries->visualItemRect(entries->item(row)).center());
-        ASSERT_EQ(entries->currentRow(), row);
+        ASSERT_TRUE(isReady(name)) << name.toStdString();
+        QTest::mouseClick(shown<QPushButton>(name), Qt::LeftButton);
+        runLoop_.advance(1s);
     }
-
-    /// Of the menu of a button; its actions are named after their keys.
-    void chooseToAdd(const char* key) const
+    void choose(const QString& file)
     {
-        QPushButton* const add = button(Exclusions, localizedString("disksAddTitle"));
-        ASSERT_TRUE(runUntil([add] { return add->isEnabled(); }));
-        add->menu()->findChild<QAction*>(QLatin1StringView(key))->trigger();
-    }
-
-    /// The dialog of that object name, once it is there.
-    QDialog* panel(const QString& objectName) const
-    {
-        QDialog* found = nullptr;
-        runUntil([&] {
-            found = window_->findChild<QDialog*>(objectName);
-            return found && found->isVisible();
-        });
-        return found;
-    }
-    bool eventuallyCloses(const QString& objectName) const
-    {
-        return runUntil([&] { return !window_->findChild<QDialog*>(objectName); });
-    }
-    static void press(const QWidget* in, const QString& objectName)
-    {
-        auto* const wanted = in->findChild<QPushButton*>(objectName);
-        ASSERT_TRUE(wanted && runUntil([wanted] { return wanted->isVisible() && wanted->isEnabled(); }))
-            << objectName.toStdString();
-        QTest::mouseClick(wanted, Qt::LeftButton);
-    }
-
-    /// Puts a path into the open file dialog, as if pasted: completion would offer a folder's contents instead.
-    void chooseInDialog(const QString& path) const
-    {
-        auto* dialog = window_->findChild<QFileDialog*>();
-        ASSERT_TRUE(dialog && runUntil([dialog] { return dialog->isVisible(); }));
-        dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(path);
-        auto* buttons = dialog->findChild<QDialogButtonBox*>();
-        for (QAbstractButton* button : buttons->buttons()) {
-            if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
-                QTest::mouseClick(button, Qt::LeftButton);
+        for (QFileDialog* dialog : window_->findChildren<QFileDialog*>()) {
+            if (!dialog->isVisible())
+                continue;
+            dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(file);
+            static_cast<QDialog*>(dialog)->accept();
         }
-        ASSERT_TRUE(runUntil([this] { return !window_->findChild<QFileDialog*>(); }));
+        runLoop_.advance(1s);
+    }
+    /// Chooses that item of the menu of the exclusions' button.
+    void chooseToAdd(const QString& key) { page(Exclusions)->findChild<QAction*>(key)->trigger(); }
+    /// The texts of the latest alert, which is answered with that button.
+    QStringList answer(int response)
+    {
+        if (alerts_.presented.empty())
+            return {};
+        const auto [request, block] = alerts_.presented.back();
+        alerts_.presented.pop_back();
+        if (block)
+            block(response);
+        runLoop_.advance(1s);
+        return {request.messageText, request.informativeText};
     }
 
-    static Alert* alert()
-    {
-        Alert* shown = nullptr;
-        runUntil([&] {
-            const QWidget* window = QApplication::activeModalWidget();
-            shown = window ? window->findChild<Alert*>() : nullptr;
-            return shown != nullptr;
-        });
-        return shown;
-    }
-    static QString textOfAlert(const QString& objectName)
-    {
-        const Alert* shown = alert();
-        return shown ? shown->findChild<QTextEdit*>(objectName)->toPlainText() : QString();
-    }
-    static void answerAlert(const char* buttonKey)
-    {
-        const QPointer<Alert> shown = alert();
-        ASSERT_TRUE(shown);
-        for (QPushButton* button : shown->buttons()) {
-            if (button->text() == localizedString(buttonKey)) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                runUntil([&shown] { return !shown || !shown->isVisible(); });
-                return;
-            }
-        }
-        FAIL() << "no button " << buttonKey;
-    }
-
-    QString visibleText() const
-    {
-        QStringList texts;
-        for (const QLabel* label : window_->findChildren<QLabel*>()) {
-            if (label->isVisible())
-                texts.append(label->text());
-        }
-        return texts.join(u'\n');
-    }
-
-    PracticeTmutil practice_{QStringLiteral(TMUTIL_EXECUTABLE)};
-    QtRunLoop runLoop_;
-    Task launcher_;
-    ModalAlertPresenter alerts_;
+    QTemporaryDir folder_;
+    VirtualRunLoop runLoop_{Date(1'795'245'778s)};
+    PlayedTools tools_{runLoop_};
+    FakeAlerts alerts_;
     std::unique_ptr<DisksWindow> window_;
 };
 

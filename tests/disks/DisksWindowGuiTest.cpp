@@ -1,233 +1,267 @@
 #include "DisksFixture.h"
 
-#include <QDir>
 #include <QScreen>
+#include <QSpinBox>
+
+#include <functional>
 
 namespace quillon {
 
 using DisksWindowTest = DisksWindowFixture;
 
-TEST_F(DisksWindowTest, AFolderIsAddedAsADiskAndRemovedOnceThatIsConfirmed)
+TEST_F(DisksWindowTest, EveryChangeIsOneCallOfTheToolWhoseRefusalIsTold)
 {
-    QDir().mkpath(practice_.path(u"Disk & <b>1"_s));
-    open();
-    ASSERT_TRUE(runUntil([this] { return visibleText().contains(localizedString("disksNoDisks")); }));
-    click(Disks, localizedString("disksAddFolderTitle") + u'…');
-    chooseInDialog(practice_.path(u"Disk & <b>1"_s));
-    ASSERT_TRUE(eventuallyShows(Disks, {u"Disk & <b>1"_s}));
-    press(panel(u"recoveryKey"_s), u"later"_s);
-    ASSERT_TRUE(eventuallyCloses(u"recoveryKey"_s));
-    const QString path = QDir(practice_.path(u"Disk & <b>1"_s)).canonicalPath();
-    EXPECT_EQ(details(list(Disks)->item(0)).first(), path);
-    EXPECT_FALSE(visibleText().contains(localizedString("disksNoDisks")));
-
-    EXPECT_FALSE(button(Disks, localizedString("disksRemoveTitle"))->isEnabled()) << "nothing is selected";
-    clickEntry(Disks, 0);
-    click(Disks, localizedString("disksRemoveTitle"));
-    EXPECT_TRUE(textOfAlert(u"informativeText"_s).contains(u"are kept"_s));
-    answerAlert("disksCancelTitle");
-    EXPECT_TRUE(practice_.run({u"destinationinfo"_s}).output.contains("Disk & <b>1"));
-    QTest::keyClick(list(Disks), Qt::Key_Delete);
-    answerAlert("disksRemoveTitle");
-    EXPECT_TRUE(eventuallyShows(Disks, {}));
-    EXPECT_EQ(practice_.run({u"destinationinfo"_s}).output, "No destinations configured.\n");
-    EXPECT_FALSE(QDir(path + "/Quillon.backups"_L1).isEmpty()) << "a repository is never removed";
+    using Act = std::function<void()>;
+    const QString added = path(u"Disk & <b>1"_s);
+    QDir().mkpath(added);
+    const auto adding = [&](Page which) -> Act {
+        return [=, this] {
+            page(which);
+            click(panelTitle("disksAddFolderTitle"));
+            choose(added);
+        };
+    };
+    const auto leavingOut = [this](const QString& key, const QString& file) -> Act {
+        return [=, this] {
+            chooseToAdd(key);
+            choose(file);
+        };
+    };
+    const auto leavingOutBy = [this](const QString& key, const std::function<void(QDialog*)>& fill) -> Act {
+        return [=, this] {
+            chooseToAdd(key);
+            fill(shown<QDialog>(u"exclusion"_s));
+            runLoop_.advance(1s);
+            click(u"leaveOut"_s);
+        };
+    };
+    const auto removing = [this](Page which, int row) -> Act {
+        return [=, this] {
+            list(which)->setCurrentRow(row);
+            click(localizedString("disksRemoveTitle"));
+            if (which == Disks)
+                answer(alertSecondButtonReturn);
+        };
+    };
+    const QString no = localizedString("disksAddFailed");
+    const QString stays = localizedString("disksRemoveFailed");
+    const QString name = u"Disk & <b>1"_s;
+    const auto type = [](QDialog* in) { in->findChild<QLineEdit*>()->setText(u"-*.tmp"_s); };
+    const auto turn = [](QDialog* in) { in->findChild<QSpinBox*>()->setValue(2); };
+    const struct {
+        Act act;
+        QString call;
+        QString headline; ///< of a refusal
+    } rows[] = {
+        {adding(Disks), u"setdestination -a -- "_s + added, no.arg(name)},
+        {adding(Sources), u"addsource -- "_s + added, no.arg(name)},
+        {leavingOut(u"disksAddFolderTitle"_s, added), u"addexclusion -- "_s + added, no.arg(name)},
+        {leavingOut(u"disksAddFileTitle"_s, path(u"file"_s)), u"addexclusion -- "_s + path(u"file"_s),
+         no.arg(u"file"_s)},
+        {leavingOutBy(u"disksAddNameTitle"_s, type), u"excludename -- -*.tmp"_s, no.arg(u"-*.tmp"_s)},
+        {leavingOutBy(u"disksAddSizeTitle"_s, turn), u"excludelarger -- 2"_s, no.arg(u"2"_s)},
+        {removing(Disks, 0), u"removedestination -- A"_s, stays.arg(u"A"_s)},
+        {removing(Sources, 1), u"removesource -- /srv/photos"_s, stays.arg(u"photos"_s)},
+        {removing(Exclusions, 0), u"removeexclusion -- /srv/-out"_s, stays.arg(u"-out"_s)},
+        {removing(Exclusions, 1), u"includename -- *.iso"_s, stays.arg(u"*.iso"_s)},
+        {removing(Exclusions, 2), u"excludelarger 0"_s, stays.arg(localizedString("disksLargerThan").arg(u"2.0 MB"_s))},
+    };
+    for (const auto& [act, call, headline] : rows) {
+        for (const bool refused : {false, true}) {
+            SCOPED_TRACE(call.toStdString() + (refused ? ", refused" : ""));
+            open();
+            tools_.answers[call.section(u' ', 0, 0)].status = refused ? 1 : 0;
+            tools_.changes.clear();
+            act();
+            EXPECT_EQ(tools_.changes, QStringList(call));
+            EXPECT_EQ(answer(0).value(0), refused ? headline : QString());
+            window_.reset();
+        }
+    }
 }
 
-TEST_F(DisksWindowTest, TellsWhichDiskIsThereAndWhenItWasUsed)
+TEST_F(DisksWindowTest, ShowsWhatTheToolTellsAndADiskThatComesWithoutAnybodysDoing)
 {
-    const QString id = practice_.addDisk(u"Here"_s);
-    practice_.addDisk(u"Away"_s);
-    QDir().rename(practice_.path(u"Away"_s), practice_.path(u"unplugged"_s));
-    practice_.write(u"state/quillon-timemachine/history.plist"_s,
-                    R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict><key>Destinations</key><dict>)"
-                    "<key>" +
-                        id.toUtf8() +
-                        "</key><dict><key>LastBackup</key><date>2026-11-21T07:22:58Z</date></dict></dict></dict>"
-                        "</plist>");
+    tools_.answer(u"diskusage"_s, QVariantList{QVariantMap{{u"ID"_s, u"A"_s}, {u"Bytes"_s, 1'500'000LL}}});
+    tell({disk(u"A"_s), disk(u"Away"_s, {})});
     open();
-    ASSERT_TRUE(eventuallyShows(Disks, {u"Here"_s, u"Away"_s}));
-    const QString here = details(list(Disks)->item(0)).value(1);
-    EXPECT_TRUE(here.startsWith(localizedString("disksConnected")) && here.contains(u"2026"_s)) << here.toStdString();
-    const QString away = details(list(Disks)->item(1)).last();
-    EXPECT_TRUE(away.startsWith(localizedString("disksNotConnected")) &&
-                away.endsWith(localizedString("disksNoBackupYet")))
-        << away.toStdString();
-    EXPECT_TRUE(list(Disks)->item(1)->data(Qt::AccessibleTextRole).toString().contains(away));
+    EXPECT_EQ(titles(Sources), (QStringList{u"you"_s, u"photos"_s}));
+    EXPECT_EQ(titles(Exclusions).first(), u"-out"_s);
+    EXPECT_EQ(titles(Disks), (QStringList{u"A"_s, u"Away"_s}));
+    const auto spoken = [this](int row) { return list(Disks)->item(row)->data(Qt::AccessibleTextRole).toString(); };
+    EXPECT_TRUE(spoken(0).contains(localizedString("disksTaken").arg(u"1.5 MB"_s)));
+    EXPECT_TRUE(spoken(1).startsWith(u"Away, /media/Away, "_s + localizedString("disksNotConnected")));
+    list(Disks)->setCurrentRow(1);
+    tell({disk(u"Away"_s)});
+    runLoop_.advance(6s);
+    EXPECT_EQ(titles(Disks), QStringList(u"Away"_s));
+    EXPECT_TRUE(spoken(0).contains(localizedString("disksConnected")));
+    EXPECT_EQ(list(Disks)->currentRow(), 0) << "what was selected stays so";
+    EXPECT_FALSE(shown<QLabel>(localizedString("disksNoDisks")));
+    tell({});
+    QEvent activated(QEvent::ActivationChange);
+    QApplication::sendEvent(window_.get(), &activated);
+    runLoop_.advance(1s);
+    EXPECT_TRUE(shown<QLabel>(localizedString("disksNoDisks")));
+}
 
-    // A disk that is plugged in shows without anybody's doing.
-    QDir().rename(practice_.path(u"unplugged"_s), practice_.path(u"Away"_s));
-    EXPECT_TRUE(runUntil(
-        [this] { return details(list(Disks)->item(1)).value(1).startsWith(localizedString("disksConnected")); }));
+TEST_F(DisksWindowTest, OneChangeIsMadeAtATimeAndADiskGoesOnlyWhenThatIsConfirmed)
+{
+    open();
+    const QString title = localizedString("disksRemoveTitle");
+    page(Disks);
+    EXPECT_FALSE(isReady(title)) << "nothing is selected";
+    list(Disks)->setCurrentRow(0);
+    QTest::keyClick(list(Disks), Qt::Key_Delete);
+    EXPECT_EQ(answer(alertFirstButtonReturn).first(), localizedString("disksRemoveAlertMessage").arg(u"A"_s));
+    EXPECT_TRUE(tools_.changes.isEmpty());
+
+    tools_.answers[u"removedestination"_s].delay = 50;
+    click(title);
+    answer(alertSecondButtonReturn);
+    for (const QString& button : {title, localizedString("disksAddDiskTitle"), panelTitle("disksAddFolderTitle")})
+        EXPECT_FALSE(isReady(button)) << button.toStdString();
+    QTest::keyClick(list(Disks), Qt::Key_Delete);
+    EXPECT_TRUE(alerts_.presented.empty());
+    runLoop_.advance(51s);
+    EXPECT_TRUE(isReady(title));
+}
+
+TEST_F(DisksWindowTest, TheHomeFolderIsNeitherLostNorBackedUpUnawares)
+{
+    const auto removeFirst = [this] {
+        list(Sources)->setCurrentRow(0);
+        click(localizedString("disksRemoveTitle"));
+    };
+    tools_.answer(u"listsources"_s, QVariantList{u"/srv/photos"_s});
+    open();
+    removeFirst();
+    EXPECT_TRUE(tools_.changes.isEmpty());
+    EXPECT_EQ(answer(alertSecondButtonReturn).first(), localizedString("disksHomeAlertMessage"));
+    EXPECT_EQ(tools_.changes, QStringList(u"removesource -- /srv/photos"_s));
+
+    tools_.answer(u"listsources"_s, QVariantList{QDir::homePath()});
+    runLoop_.advance(6s);
+    window_.reset();
+    open();
+    tools_.changes.clear();
+    page(Sources);
+    click(panelTitle("disksAddFolderTitle"));
+    choose(folder_.path());
+    EXPECT_EQ(tools_.changes,
+              (QStringList{u"addsource -- "_s + QDir::homePath(), u"addsource -- "_s + folder_.path()}));
+    removeFirst();
+    EXPECT_EQ(tools_.changes.last(), u"removesource -- "_s + QDir::homePath()) << "nothing else takes its place";
 }
 
 TEST_F(DisksWindowTest, AMountedDiskIsOfferedUnlessItIsOneAlready)
 {
-    const QString used = practice_.path(u"Used"_s);
-    const QString fresh = practice_.path(u"Fresh"_s);
-    QDir().mkpath(fresh);
-    practice_.addDisk(u"Used"_s);
-    scripted(u"lsblk"_s, "cat <<'END'\n{\"blockdevices\":[{\"label\":\"A & B\",\"mountpoints\":[\"" + fresh.toUtf8() +
-                             "\"],\"fsavail\":2000000000,\"ro\":false},{\"label\":null,\"mountpoints\":[\"" +
-                             used.toUtf8() + "\"],\"fsavail\":1,\"ro\":false}]}\nEND\n");
-    open();
-    ASSERT_TRUE(eventuallyShows(Disks, {u"Used"_s}));
-    QMenu* const menu = button(Disks, localizedString("disksAddDiskTitle"))->menu();
-    ASSERT_TRUE(runUntil([menu] {
+    tools_.answers[u"--json"_s].output = R"({"blockdevices":[
+        {"label":"B & C","mountpoints":["/media/B"],"fsavail":2000000000,"ro":false},
+        {"label":null,"mountpoints":["/media/A"],"fsavail":1,"ro":false}]})";
+    const auto offered = [this] {
+        QMenu* const menu = shown<QPushButton>(localizedString("disksAddDiskTitle"))->menu();
         Q_EMIT menu->aboutToShow();
-        return menu->actions().size() == 1 && menu->actions().first()->isEnabled();
-    }));
-    EXPECT_TRUE(menu->actions().first()->text().startsWith(u"A && B"_s));
-    menu->actions().first()->trigger();
-    EXPECT_TRUE(eventuallyShows(Disks, {u"Used"_s, u"Fresh"_s}));
-    Q_EMIT menu->aboutToShow();
-    EXPECT_EQ(menu->actions().first()->text(), localizedString("disksNoOtherDisk"));
-    EXPECT_FALSE(menu->actions().first()->isEnabled());
-    window_.reset();
-    scripted(u"lsblk"_s, "exit 1\n");
-    open();
-    EXPECT_TRUE(runUntil([this] {
-        QMenu* const disks = button(Disks, localizedString("disksAddDiskTitle"))->menu();
-        Q_EMIT disks->aboutToShow();
-        return disks->actions().first()->text() == localizedString("disksListFailed");
-    }));
-}
-
-TEST_F(DisksWindowTest, FoldersAndExclusionsAreAddedAndRemoved)
-{
-    practice_.write(u"other/file"_s, {});
-    practice_.write(u"source/-left out/file"_s, {});
-    open();
-    ASSERT_TRUE(eventuallyShows(Sources, {u"source"_s}));
-    click(Sources, localizedString("disksAddFolderTitle") + u'…');
-    chooseInDialog(practice_.path(u"other"_s));
-    ASSERT_TRUE(eventuallyShows(Sources, {u"source"_s, u"other"_s}));
-    clickEntry(Sources, 1);
-    click(Sources, localizedString("disksRemoveTitle"));
-    EXPECT_TRUE(eventuallyShows(Sources, {u"source"_s}));
-
-    EXPECT_EQ(titles(Exclusions), QStringList());
-    chooseToAdd("disksAddFolderTitle");
-    chooseInDialog(practice_.path(u"source/-left out"_s));
-    ASSERT_TRUE(eventuallyShows(Exclusions, {u"-left out"_s}));
-    chooseToAdd("disksAddFileTitle");
-    chooseInDialog(practice_.path(u"other/file"_s));
-    ASSERT_TRUE(eventuallyShows(Exclusions, {u"-left out"_s, u"file"_s}));
-    clickEntry(Exclusions, 0);
-    QTest::keyClick(list(Exclusions), Qt::Key_Delete);
-    EXPECT_TRUE(eventuallyShows(Exclusions, {u"file"_s}));
-}
-
-TEST_F(DisksWindowTest, TheHomeFolderThatIsBackedUpByDefaultStaysWhenAFolderIsAdded)
-{
-    practice_.write(u"other/file"_s, {});
-    ASSERT_EQ(practice_.run({u"removesource"_s, practice_.source()}).status, 0);
-    const QString home = QString::fromUtf8(practice_.run({u"listsources"_s}).output).trimmed();
-    open();
-    const QString name = QFileInfo(home).fileName();
-    ASSERT_TRUE(eventuallyShows(Sources, {name}));
-    click(Sources, localizedString("disksAddFolderTitle") + u'…');
-    chooseInDialog(practice_.path(u"other"_s));
-    EXPECT_TRUE(eventuallyShows(Sources, {name, u"other"_s}));
-}
-
-TEST_F(DisksWindowTest, TheHomeFolderTakesThePlaceOfTheLastFolderOnlyWhenTheUserWantsThat)
-{
-    open();
-    ASSERT_TRUE(eventuallyShows(Sources, {u"source"_s}));
-    const auto ask = [this] {
-        clickEntry(Sources, 0);
-        click(Sources, localizedString("disksRemoveTitle"));
-        EXPECT_EQ(textOfAlert(u"messageText"_s), localizedString("disksHomeAlertMessage"));
+        EXPECT_EQ(menu->actions().size(), 1);
+        return menu->actions().first();
     };
-    ask();
-    answerAlert("disksCancelTitle");
-    EXPECT_EQ(practice_.run({u"listsources"_s}).output.trimmed(), practice_.source().toUtf8());
-    ask();
-    answerAlert("disksRemoveTitle");
-    const auto home = [this] { return QString::fromUtf8(practice_.run({u"listsources"_s}).output.trimmed()); };
-    EXPECT_TRUE(runUntil([&] { return home() != practice_.source(); }));
-    EXPECT_TRUE(eventuallyShows(Sources, {QFileInfo(home()).fileName()}));
+    open();
+    EXPECT_EQ(offered()->text(), localizedString("disksFree").arg(u"B && C"_s, u"2.0 GB"_s));
+    offered()->trigger();
+    EXPECT_EQ(tools_.changes, QStringList(u"setdestination -a -- /media/B"_s));
+    tell({disk(u"A"_s), disk(u"B"_s)});
+    runLoop_.advance(6s);
+    EXPECT_EQ(offered()->text(), localizedString("disksNoOtherDisk"));
+    EXPECT_FALSE(offered()->isEnabled());
+    tools_.answers[u"--json"_s].status = 1;
+    runLoop_.advance(6s);
+    EXPECT_EQ(offered()->text(), localizedString("disksListFailed"));
 }
 
-TEST_F(DisksWindowTest, ARefusalIsShownInTheToolsOwnWords)
+TEST_F(DisksWindowTest, WhatIsLeftOutIsShownFirst)
 {
     open();
-    ASSERT_TRUE(eventuallyShows(Sources, {u"source"_s}));
-    chooseToAdd("disksAddFolderTitle");
-    chooseInDialog(practice_.source());
-    EXPECT_EQ(textOfAlert(u"messageText"_s), localizedString("disksAddFailed").arg(u"source"_s));
-    EXPECT_EQ(textOfAlert(u"informativeText"_s) + u'\n',
-              QString::fromUtf8(practice_.run({u"addexclusion"_s, practice_.source()}).error).mid(8))
-        << "without the tool's name";
-    answerAlert("disksOkTitle");
-    EXPECT_TRUE(runUntil([this] { return button(Exclusions, localizedString("disksAddTitle"))->isEnabled(); }));
-
-    practice_.write(u"config/quillon-timemachine/configuration.plist"_s, "<plist><dict>");
-    window_.reset();
-    open();
-    ASSERT_TRUE(runUntil([this] { return visibleText().contains(u"is damaged"_s); }));
-    EXPECT_FALSE(visibleText().contains(localizedString("disksNoDisks"))) << "what is not known is not told";
-    QFile::remove(practice_.configurationFolder() + "/configuration.plist"_L1);
-    for (QPushButton* again : window_->findChildren<QPushButton*>()) {
-        if (again->text() == localizedString("disksTryAgainTitle"))
-            QTest::mouseClick(again, Qt::LeftButton);
-    }
-    EXPECT_TRUE(runUntil([this] {
-        return visibleText().contains(localizedString("disksNoDisks")) && !visibleText().contains(u"is damaged"_s);
-    }));
-}
-
-TEST_F(DisksWindowTest, StaysAliveOverAToolThatHangsAndEndsItWhenClosed)
-{
-    open(scripted(u"hanging"_s, "echo $$ >'" + practice_.path(u"pid"_s).toUtf8() + "'\nexec sleep 1000\n"));
-    const auto process = [this] {
-        QFile file(practice_.path(u"pid"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+    chooseToAdd(u"disksAddNameTitle"_s);
+    const auto type = [this](const QString& name) {
+        shown<QDialog>(u"exclusion"_s)->findChild<QLineEdit*>()->setText(name);
     };
-    ASSERT_TRUE(runUntil([&] { return !process().isEmpty(); }));
-    EXPECT_TRUE(visibleText().contains(localizedString("disksReading")));
-    QTest::keyClick(window_->findChild<QTabBar*>(), Qt::Key_Right);
-    EXPECT_EQ(window_->findChild<QTabBar*>()->currentIndex(), 1);
-    click(Sources, localizedString("disksAddFolderTitle") + u'…');
-    chooseInDialog(practice_.source());
-    EXPECT_FALSE(button(Sources, localizedString("disksAddFolderTitle") + u'…')->isEnabled()) << "one change at a time";
+    const auto preview = [this] { return shown<QLabel>(u"preview"_s)->text(); };
+    EXPECT_FALSE(isReady(u"leaveOut"_s));
+    type(u"*.iso"_s);
+    EXPECT_EQ(preview(), localizedString("disksCounting"));
+    runLoop_.advance(300ms);
+    type(u"*.tmp"_s);
+    runLoop_.advance(300ms);
+    EXPECT_FALSE(isReady(u"leaveOut"_s)) << "somebody still types";
+    runLoop_.advance(200ms);
+    EXPECT_EQ(preview(), localizedString("disksPreview").arg(u"1"_s, u"1.5 kB"_s));
+    EXPECT_EQ(tools_.launched().last().arguments.join(u' '), u"excludename --try -X -- *.tmp"_s);
+    EXPECT_TRUE(isReady(u"leaveOut"_s));
+    type(u"none"_s);
+    EXPECT_FALSE(isReady(u"leaveOut"_s)) << "what was shown is another pattern's";
+    tools_.answer(u"--try"_s, QVariantMap{{u"Files"_s, 0LL}, {u"Bytes"_s, 0LL}});
+    runLoop_.advance(1s);
+    EXPECT_EQ(preview(), localizedString("disksPreviewNothing"));
+    tools_.answers[u"--try"_s].status = 2;
+    type(u"deep/name"_s);
+    runLoop_.advance(1s);
+    EXPECT_EQ(preview(), localizedString("disksToolFailed").arg(2));
+    EXPECT_FALSE(isReady(u"leaveOut"_s));
+    type(u" "_s);
+    EXPECT_EQ(preview(), QString());
+}
+
+TEST_F(DisksWindowTest, SaysWhatCannotBeReadUntilItCan)
+{
+    tools_.answers[u"listsources"_s].status = 4;
+    open();
+    const auto trouble = [](const QString& line) { return localizedString("disksReadFailed").arg(line); };
+    EXPECT_TRUE(shown<QLabel>(trouble(localizedString("disksToolFailed").arg(4))));
+    tools_.answers[u"listsources"_s] = tools_.answers[u"destinationinfo"_s];
+    click(localizedString("disksTryAgainTitle"));
+    EXPECT_TRUE(shown<QLabel>(trouble(localizedString("disksToolUnreadable"))));
+    tools_.answer(u"listsources"_s, QVariantList{u"/home/you"_s});
+    click(localizedString("disksTryAgainTitle"));
+    EXPECT_FALSE(isReady(localizedString("disksTryAgainTitle")));
+    EXPECT_EQ(titles(Sources), QStringList(u"you"_s));
+
+    window_.reset();
+    tools_.answers[u"destinationinfo"_s].fault = TmutilScript::Fault::Hang;
+    open();
+    page(Disks);
+    EXPECT_TRUE(shown<QLabel>(localizedString("disksReading")));
     EXPECT_TRUE(window_->close());
     window_.reset();
-    EXPECT_TRUE(runUntil([&] { return !QFile::exists(u"/proc/"_s + QString::fromLatin1(process())); }));
-}
-
-TEST_F(DisksWindowTest, SaysSoWhenThereIsNoTool)
-{
-    open(practice_.path(u"missing"_s));
-    EXPECT_TRUE(runUntil([this] {
-        return visibleText().contains(localizedString("disksToolMissing").arg(practice_.path(u"missing"_s)));
-    }));
+    EXPECT_EQ(tools_.liveChildren(), 0);
 }
 
 TEST_F(DisksWindowTest, TheKeyboardReachesEverythingAndNothingIsCutOffAtLargeFonts)
 {
-    practice_.addDisk(u"Disk"_s);
     const QFont before = QApplication::font();
     QFont large = before;
     large.setPointSize(22);
     QApplication::setFont(large);
     open();
-    ASSERT_TRUE(eventuallyShows(Disks, {u"Disk"_s}));
-    EXPECT_TRUE(window_->screen()->availableGeometry().contains(QRect({}, window_->size())))
-        << window_->width() << 'x' << window_->height();
-    clickEntry(Disks, 0);
+    EXPECT_TRUE(window_->screen()->availableGeometry().contains(QRect({}, window_->size())));
     for (const Page which : {Disks, Sources, Exclusions}) {
-        EXPECT_FALSE(list(which)->accessibleName().isEmpty());
-        list(which)->setFocus();
+        QListWidget* const entries = list(which);
+        const auto selected = [entries] { return entries->selectedItems().isEmpty() ? -1 : entries->currentRow(); };
+        entries->setFocus();
+        EXPECT_EQ(selected(), -1);
+        QTest::keyClick(entries, Qt::Key_Down);
+        EXPECT_EQ(selected(), 0) << "be it a single entry";
+        EXPECT_TRUE(isReady(localizedString("disksRemoveTitle")));
         for (const QPushButton* reached : page(which)->findChildren<QPushButton*>()) {
             EXPECT_GE(reached->width(), reached->sizeHint().width()) << reached->text().toStdString();
-            if (!reached->isEnabled())
-                continue;
-            for (int presses = 0; presses < 10 && !reached->hasFocus(); ++presses)
+            for (int presses = 0; presses < 10 && reached->isVisible() && !reached->hasFocus(); ++presses)
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            EXPECT_TRUE(reached->hasFocus()) << reached->text().toStdString();
+            EXPECT_EQ(reached->hasFocus(), reached->isVisible()) << reached->text().toStdString();
         }
+        entries->clearSelection();
+        entries->setCurrentItem(nullptr);
+        for (int presses = 0; presses < 10 && !entries->hasFocus(); ++presses)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        EXPECT_EQ(selected(), 0) << "reached by Tab";
     }
     EXPECT_GE(list(Disks)->visualItemRect(list(Disks)->item(0)).height(), 3 * QFontMetrics(large).height());
     QApplication::setFont(before);

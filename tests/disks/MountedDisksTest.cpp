@@ -9,31 +9,6 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace {
-
-/// Plays lsblk, a call after the other.
-class PlayedLsblk final : public VirtualLauncher {
-public:
-    using VirtualLauncher::VirtualLauncher;
-
-    QList<TmutilScript::Call> calls;
-
-protected:
-    TmutilScript::Call behaviour(const TaskRequest&) override { return calls.takeFirst(); }
-};
-
-TmutilScript::Call played(const QByteArray& output, TmutilScript::Fault fault = TmutilScript::Fault::None)
-{
-    TmutilScript::Call call;
-    call.output = output;
-    call.fault = fault;
-    return call;
-}
-
-constexpr auto oneDisk = R"({"blockdevices":[{"label":"A","mountpoints":["/media/a"],"fsavail":1,"ro":false}]})";
-
-} // namespace
-
 // As lsblk of util-linux 2.38 prints it.
 TEST(MountedDisks, OffersWritableDisksThatAreNotTheSystems)
 {
@@ -53,23 +28,25 @@ TEST(MountedDisks, OffersWritableDisksThatAreNotTheSystems)
 TEST(MountedDisks, AListThatHangsIsGivenUpAndWhatWasKnownWithIt)
 {
     VirtualRunLoop runLoop(Date(1'000'000s));
-    PlayedLsblk lsblk(runLoop);
-    lsblk.calls = {played(oneDisk), played({}, TmutilScript::Fault::Hang), played(oneDisk)};
+    const QStringList words{u"--json"_s, u"--list"_s, u"--bytes"_s, u"--output"_s, u"LABEL,MOUNTPOINTS,FSAVAIL,RO"_s};
+    const TmutilScript::Call answers{
+        words, R"({"blockdevices":[{"label":"A","mountpoints":["/media/a"],"fsavail":1,"ro":false}]})"};
+    const TmutilScript::Call hangs{.expected = words, .output = {}, .fault = TmutilScript::Fault::Hang};
+    ScriptedLauncher lsblk(runLoop, {{answers, hangs, answers}});
     MountedDisks disks(lsblk, runLoop, u"/usr/bin/lsblk"_s);
-    EXPECT_EQ(disks.state(), MountedDisks::State::Asked);
-    const auto ask = [&](Seconds seconds) {
+    using State = MountedDisks::State;
+    EXPECT_EQ(disks.state(), State::Asked);
+    const auto refresh = [&](Seconds wait) {
         disks.refresh();
         disks.refresh(); // asks for no second answer beside the first
-        runLoop.advance(seconds);
+        runLoop.advance(wait);
         return std::pair(disks.state(), disks.list().size());
     };
-    EXPECT_EQ(ask(1s), std::pair(MountedDisks::State::Known, size_t{1}));
-    EXPECT_EQ(ask(9s), std::pair(MountedDisks::State::Known, size_t{1}));
-    runLoop.advance(2s);
-    EXPECT_EQ(disks.state(), MountedDisks::State::Failed);
-    EXPECT_TRUE(disks.list().empty()) << "what is not known is not offered";
+    EXPECT_EQ(refresh(1s), std::pair(State::Known, size_t{1}));
+    EXPECT_EQ(refresh(9s), std::pair(State::Known, size_t{1}));
+    EXPECT_EQ(refresh(2s), std::pair(State::Failed, size_t{0})) << "what is not known is not offered";
     EXPECT_EQ(lsblk.liveChildren(), 0);
-    EXPECT_EQ(ask(1s), std::pair(MountedDisks::State::Known, size_t{1}));
+    EXPECT_EQ(refresh(1s), std::pair(State::Known, size_t{1}));
 }
 
 } // namespace quillon

@@ -1,94 +1,82 @@
 #include "DisksFixture.h"
 
-#include <QDir>
-
 namespace quillon {
 
 /// How the window sees to it that a recovery key is kept.
 class RecoveryKeyTest : public DisksWindowFixture {
 protected:
-    bool isMissing() const
-    {
-        return practice_.run({u"destinationinfo"_s, u"-X"_s}).output.contains("RecoveryKeyMissing");
-    }
-    bool isRemarkedOn() const
-    {
-        const QVariant remarks = list(Disks)->item(0)->data(EntryDelegate::remarksRole);
-        return remarks.toStringList().contains(localizedString("disksKeyNotKept"));
-    }
-    bool isAsked() const { return window_->findChild<QPushButton*>(u"showKey"_s)->isVisible(); }
-    QString shownKey() const
-    {
-        const QDialog* dialog = panel(u"recoveryKey"_s);
-        return dialog ? dialog->findChild<QLineEdit*>(u"key"_s)->text() : QString();
-    }
+    RecoveryKeyTest() { tell({keyless_}); }
+
+    bool isAsked() const { return shown<QPushButton>(u"showKey"_s); }
     QByteArray contents(const QString& name) const
     {
-        QFile file(practice_.path(name));
+        QFile file(path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// Presses the button that saves, and gives that path to the dialog.
-    void savePage(const QString& name) const
-    {
-        press(panel(u"recoveryKey"_s), u"savePage"_s);
-        chooseInDialog(practice_.path(name));
-    }
+    const QVariantMap keyless_ =
+        disk(u"K"_s, {{u"MountPoint"_s, u"/"_s}, {u"Path"_s, path(u"disk"_s)}, {u"RecoveryKeyMissing"_s, 1LL}});
 };
 
 TEST_F(RecoveryKeyTest, ComesUpForANewDiskAndIsAskedForUntilItIsKept)
 {
-    QDir().mkpath(practice_.path(u"Disk"_s));
+    tell({disk(u"A"_s)});
     open();
-    click(Disks, localizedString("disksAddFolderTitle") + u'…');
-    chooseInDialog(practice_.path(u"Disk"_s));
-    const QString first = shownKey();
-    ASSERT_EQ(first.size(), 35);
-    QTest::keyClick(panel(u"recoveryKey"_s), Qt::Key_Return);
+    EXPECT_FALSE(isAsked());
+    page(Disks);
+    click(panelTitle("disksAddFolderTitle"));
+    tell({disk(u"A"_s), keyless_});
+    choose(folder_.path());
+    ASSERT_TRUE(shown<QDialog>(u"recoveryKey"_s));
+    EXPECT_EQ(shown<QLineEdit>(u"key"_s)->text(), u"8K2VT-QX4MN"_s);
+    QTest::keyClick(shown<QDialog>(u"recoveryKey"_s), Qt::Key_Return);
     auto* const saving = window_->findChild<QFileDialog*>();
     ASSERT_TRUE(saving) << "Return settles nothing";
     saving->reject();
-    QTest::keyClick(panel(u"recoveryKey"_s), Qt::Key_Escape);
-    ASSERT_TRUE(eventuallyCloses(u"recoveryKey"_s));
-    EXPECT_TRUE(isMissing());
+    click(u"later"_s);
+    EXPECT_FALSE(shown<QDialog>(u"recoveryKey"_s));
+    EXPECT_TRUE(shown<QLabel>(localizedString("disksKeyBar").arg(u"K"_s)));
 
-    window_.reset();
+    tools_.changes.clear();
+    click(u"showKey"_s);
+    EXPECT_EQ(tools_.changes, QStringList(u"recoverykey -X -d K"_s));
+    tell({disk(u"A"_s), disk(u"K"_s)});
+    click(u"kept"_s);
+    EXPECT_EQ(tools_.changes.last(), u"recoverykey --kept 6c2a -d K"_s);
+    EXPECT_FALSE(shown<QDialog>(u"recoveryKey"_s));
+    EXPECT_FALSE(isAsked());
+}
+
+TEST_F(RecoveryKeyTest, ThePageIsSavedAsItsNameSaysAndOnTheDiskItselfOnlyWhenThatIsWanted)
+{
+    QDir().mkpath(path(u"disk"_s));
     open();
-    ASSERT_TRUE(eventuallyShows(Disks, {u"Disk"_s}));
-    EXPECT_TRUE(isRemarkedOn());
-    ASSERT_TRUE(isAsked());
-    press(window_.get(), u"showKey"_s);
-    const QString second = shownKey();
-    EXPECT_NE(second, first);
-
-    // This disk is a folder beside the page's.
-    savePage(u"page.txt"_s);
-    EXPECT_EQ(textOfAlert(u"messageText"_s), localizedString("disksPageOnDiskMessage"));
-    answerAlert("disksCancelTitle");
-    EXPECT_FALSE(QFile::exists(practice_.path(u"page.txt"_s)));
-    savePage(u"page.txt"_s);
-    answerAlert("disksSaveTitle");
-    ASSERT_TRUE(runUntil([&] { return contents(u"page.txt"_s).contains(second.toUtf8()); }));
-    savePage(u"page"_s);
-    answerAlert("disksSaveTitle");
-    EXPECT_TRUE(runUntil([&] { return contents(u"page.pdf"_s).startsWith("%PDF"); }));
-
-    press(panel(u"recoveryKey"_s), u"kept"_s);
-    ASSERT_TRUE(eventuallyCloses(u"recoveryKey"_s));
-    EXPECT_TRUE(runUntil([this] { return !isRemarkedOn() && !isAsked(); }));
-    EXPECT_FALSE(isMissing());
+    page(Disks);
+    click(u"showKey"_s);
+    const auto save = [this](const QString& name) {
+        click(u"savePage"_s);
+        choose(path(name));
+    };
+    save(u"page.txt"_s);
+    EXPECT_EQ(answer(alertFirstButtonReturn).value(0), localizedString("disksPageOnDiskMessage"));
+    EXPECT_FALSE(QFile::exists(path(u"page.txt"_s)));
+    save(u"page.txt"_s);
+    answer(alertSecondButtonReturn);
+    EXPECT_TRUE(contents(u"page.txt"_s).contains("8K2VT-QX4MN"));
+    save(u"page"_s);
+    answer(alertSecondButtonReturn);
+    EXPECT_TRUE(contents(u"page.pdf"_s).startsWith("%PDF"));
 }
 
 TEST_F(RecoveryKeyTest, ARefusalToMakeOneIsTold)
 {
-    practice_.addDisk(u"Disk"_s);
-    open(scripted(u"refusing"_s, "case $1 in recoverykey) echo 'tmutil: no key' >&2; exit 1;; esac\nexec '" +
-                                     practice_.executable().toUtf8() + "' \"$@\"\n"));
-    press(window_.get(), u"showKey"_s);
-    EXPECT_EQ(textOfAlert(u"messageText"_s), localizedString("disksKeyFailed").arg(u"Disk"_s));
-    EXPECT_EQ(textOfAlert(u"informativeText"_s), u"no key"_s);
-    answerAlert("disksOkTitle");
-    EXPECT_TRUE(runUntil([this] { return isAsked(); }));
+    tools_.answers[u"recoverykey"_s].status = 1;
+    open();
+    page(Disks);
+    click(u"showKey"_s);
+    EXPECT_EQ(answer(0),
+              (QStringList{localizedString("disksKeyFailed").arg(u"K"_s), localizedString("disksToolFailed").arg(1)}));
+    EXPECT_TRUE(isAsked());
 }
 
 } // namespace quillon

@@ -40,11 +40,9 @@ TEST(RecoveryPage, IsSavedWholeAndForTheUserAlone)
     const QTemporaryDir folder;
     const auto page = pageOf(folder.path());
     const QString file = folder.filePath(u"page.txt"_s);
-    {
-        QFile open(file);
-        ASSERT_TRUE(open.open(QIODevice::WriteOnly) &&
-                    open.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::ReadGroup));
-    }
+    const auto everybodys = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::ReadGroup;
+    QFile open(file);
+    ASSERT_TRUE(open.open(QIODevice::WriteOnly) && open.setPermissions(everybodys));
     for (const bool pdf : {false, true}) {
         EXPECT_EQ(page.save(file, pdf), QString());
         const auto permissions = QFileInfo(file).permissions();

@@ -1,5 +1,6 @@
 #include "TmutilClient.h"
 
+#include "LocalizedString.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>
@@ -10,88 +11,36 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace {
-
-class TmutilClientTest : public testing::Test {
-protected:
-    /// Calls tmutil; the answer stands in `answers_` once it is there.
-    void call(const QString& command)
-    {
-        client_->call({command}, [this](const TmutilAnswer& answer) { answers_.push_back(answer); });
-    }
-
-    TmutilScript script_;
-    VirtualRunLoop runLoop_{Date(1'000'000s)};
-    std::optional<ScriptedLauncher> launcher_;
-    std::optional<TmutilClient> client_;
-    std::vector<TmutilAnswer> answers_;
-
-    void play(const QList<TmutilScript::Call>& calls)
-    {
-        script_.calls = calls;
-        launcher_.emplace(runLoop_, script_);
-        client_.emplace(*launcher_, runLoop_, u"/libexec/tmutil"_s);
-    }
-};
-
-TmutilScript::Call scripted(const QString& command, TmutilScript::Fault fault, int status = 0)
+// How the queue treats a tool that fails is the queue's matter; here it is told in a line for people.
+TEST(TmutilClient, EveryFaultIsAFailureWithALineOfItsOwn)
 {
-    TmutilScript::Call call;
-    call.expected = QStringList(command);
-    call.fault = fault;
-    call.status = status;
-    call.output = "answer";
-    return call;
-}
-
-} // namespace
-
-TEST_F(TmutilClientTest, ACallThatHangsIsEndedAndTheNextOneMade)
-{
-    play({scripted(u"a"_s, TmutilScript::Fault::Hang), scripted(u"b"_s, TmutilScript::Fault::None)});
-    call(u"a"_s);
-    call(u"b"_s);
-    runLoop_.advance(59s);
-    EXPECT_EQ(launcher_->launched().size(), 1) << "one after the other";
-    EXPECT_TRUE(answers_.empty());
-    runLoop_.advance(2s);
-    ASSERT_EQ(answers_.size(), 2U);
-    EXPECT_FALSE(answers_[0].success);
-    EXPECT_FALSE(answers_[0].complaint.isEmpty());
-    EXPECT_TRUE(answers_[1].success);
-    EXPECT_EQ(answers_[1].output, "answer");
-    EXPECT_EQ(launcher_->liveChildren(), 0);
-}
-
-TEST_F(TmutilClientTest, EveryFaultIsAFailureWithALineOfItsOwn)
-{
-    using Fault = TmutilScript::Fault;
-    play({scripted(u"a"_s, Fault::Refused), scripted(u"b"_s, Fault::Crash), scripted(u"c"_s, Fault::Endless),
-          scripted(u"d"_s, Fault::None, 5)});
-    for (const QString& command : {u"a"_s, u"b"_s, u"c"_s, u"d"_s})
-        call(command);
-    runLoop_.advance(10s);
-    ASSERT_EQ(answers_.size(), 4U);
-    for (const TmutilAnswer& answer : answers_) {
-        EXPECT_FALSE(answer.success);
-        EXPECT_FALSE(answer.complaint.isEmpty());
-    }
-}
-
-TEST_F(TmutilClientTest, GoneItAnswersNothingAndLeavesNoChild)
-{
-    play({scripted(u"a"_s, TmutilScript::Fault::Hang)});
-    call(u"a"_s);
-    call(u"never made"_s);
-    client_.reset();
-    runLoop_.advance(100s);
-    EXPECT_TRUE(answers_.empty());
-    EXPECT_EQ(launcher_->liveChildren(), 0);
-
-    play({scripted(u"a"_s, TmutilScript::Fault::None)});
-    client_->call({u"a"_s}, [this](const TmutilAnswer&) { client_.reset(); });
-    runLoop_.advance(1s);
-    EXPECT_FALSE(client_) << "from inside an answer, too";
+    VirtualRunLoop runLoop(Date(1'000'000s));
+    ScriptedLauncher launcher(runLoop, TmutilScript::fromJson(R"([
+        {"expect":["a","-X"],"output":"answer"}, {"expect":["b"],"fault":"hang"}, {"expect":["c"],"fault":"refused"},
+        {"expect":["d"],"fault":"crash"}, {"expect":["e"],"fault":"endless"}, {"expect":["f"],"status":5},
+        {"expect":["g"],"fault":"hang"}])"));
+    std::optional<TmutilClient> client(std::in_place, launcher, runLoop, u"/libexec/tmutil"_s);
+    QStringList told;
+    const auto call = [&](const QStringList& words) {
+        client->call(words, [&told](const TmutilAnswer& answer) {
+            told.append(answer.success ? QString::fromUtf8(answer.output) : answer.complaint);
+            EXPECT_EQ(answer.success, answer.complaint.isEmpty());
+        });
+    };
+    call({u"a"_s, u"-X"_s});
+    for (const QString& word : {u"b"_s, u"c"_s, u"d"_s, u"e"_s, u"f"_s, u"g"_s, u"never made"_s})
+        call({word});
+    runLoop.advance(59s);
+    EXPECT_EQ(told, QStringList(u"answer"_s));
+    runLoop.advance(2s);
+    const auto failed = [](int status) { return localizedString("disksToolFailed").arg(status); };
+    EXPECT_EQ(told, (QStringList{u"answer"_s, localizedString("disksToolHangs"),
+                                 localizedString("disksToolMissing").arg(u"/libexec/tmutil"_s), failed(11), failed(9),
+                                 failed(5)}));
+    client.reset();
+    runLoop.advance(100s);
+    EXPECT_EQ(told.size(), 6) << "it answers nothing once it has gone";
+    EXPECT_EQ(launcher.liveChildren(), 0);
 }
 
 } // namespace quillon
