@@ -1,7 +1,9 @@
 #include "DataHelper.h"
 
-#include "Calendar.h"
+#include "LocalDates.h"
+#include "MakerSite.h"
 #include "ScopedEnvironment.h"
+#include "SystemVersion.h"
 
 #include <gtest/gtest.h>
 
@@ -18,11 +20,6 @@ protected:
     ScopedEnvironment locale{"LC_ALL", "en_US.UTF-8"};
 };
 
-Date berlin(int y, int m, int d, int hour = 12, int minute = 0, int second = 0)
-{
-    return Calendar().date({y, m, d, hour, minute, second});
-}
-
 QString day(Date date, Date now)
 {
     return DataHelper::getDayFrom(date, DateFormatterStyle::Full, now);
@@ -30,56 +27,56 @@ QString day(Date date, Date now)
 
 TEST_F(DataHelperTest, DaysAreNamedFromTomorrowToSixDaysAgo)
 {
-    const Date now = berlin(2026, 3, 4, 0, 30); // Wednesday
+    const Date now = local(2026, 3, 4, 0, 30); // Wednesday
     const std::pair<int, QString> names[] = {
         {6, u"Friday, March 6, 2026"_s},
         {5, u"Tomorrow"_s},
         {4, u"Today"_s},
         {3, u"Yesterday"_s},
         {2, u"Monday"_s},
-        {1, u"Sunday"_s},
-        {0, u"Saturday"_s},
-        {-1, u"Friday"_s},
         {-2, u"Thursday"_s},
         {-3, u"Wednesday, February 25, 2026"_s},
     };
     for (const auto& [dayOfMonth, name] : names) {
-        EXPECT_EQ(day(berlin(2026, 3, dayOfMonth, 0, 0, 0), now), name) << dayOfMonth;
-        EXPECT_EQ(day(berlin(2026, 3, dayOfMonth, 23, 59, 59), now), name) << dayOfMonth;
+        EXPECT_EQ(day(local(2026, 3, dayOfMonth, 0), now), name) << dayOfMonth;
+        EXPECT_EQ(day(local(2026, 3, dayOfMonth, 23, 59, 59), now), name) << dayOfMonth;
     }
-    EXPECT_EQ(DataHelper::getDayFrom(berlin(2026, 3, 6), DateFormatterStyle::Long, now), u"March 6, 2026"_s);
+    EXPECT_EQ(DataHelper::dayAndTime(local(2026, 3, 6, 9), DateFormatterStyle::Long, now),
+              u"March 6, 2026, 9:00\u202fAM"_s);
 }
 
 TEST_F(DataHelperTest, DaysAreNamedRightAcrossClockChangesAndTheTurnOfTheYear)
 {
-    EXPECT_EQ(day(berlin(2026, 3, 30, 0, 10), berlin(2026, 3, 29, 0, 10)), u"Tomorrow"_s);
-    EXPECT_EQ(day(berlin(2026, 10, 25, 23, 50), berlin(2026, 10, 26, 0, 10)), u"Yesterday"_s);
-    EXPECT_EQ(day(berlin(2027, 1, 1, 0, 0), berlin(2026, 12, 31, 23, 59)), u"Tomorrow"_s);
-    EXPECT_EQ(day(berlin(2026, 12, 30), berlin(2027, 1, 2)), u"Wednesday"_s);
+    EXPECT_EQ(day(local(2026, 3, 30, 0, 10), local(2026, 3, 29, 0, 10)), u"Tomorrow"_s);
+    EXPECT_EQ(day(local(2026, 10, 25, 23, 50), local(2026, 10, 26, 0, 10)), u"Yesterday"_s);
+    EXPECT_EQ(day(local(2027, 1, 1, 0), local(2026, 12, 31, 23, 59)), u"Tomorrow"_s);
     const ScopedEnvironment gapAtMidnight("TZ", "America/Sao_Paulo");
-    const Calendar saoPaulo;
-    EXPECT_EQ(day(saoPaulo.date({2018, 11, 4, 9, 0, 0}), saoPaulo.date({2018, 11, 3, 9, 0, 0})), u"Tomorrow"_s);
-    EXPECT_EQ(day(saoPaulo.date({2018, 11, 4, 9, 0, 0}), saoPaulo.date({2018, 11, 5, 9, 0, 0})), u"Yesterday"_s);
+    EXPECT_EQ(day(local(2018, 11, 4, 9), local(2018, 11, 3, 9)), u"Tomorrow"_s);
+    EXPECT_EQ(day(local(2018, 11, 4, 9), local(2018, 11, 5, 9)), u"Yesterday"_s);
 }
 
 TEST_F(DataHelperTest, ARetryFallsOnTheNextWholeMinuteAfterTheInterval)
 {
-    const auto retry = [](Date now, double interval) {
-        return DataHelper::dateSinceNowWithCeiledMinutes(Seconds(interval), now);
-    };
-    EXPECT_EQ(retry(berlin(2026, 5, 1, 10, 0, 30), 300), berlin(2026, 5, 1, 10, 6));
-    EXPECT_EQ(retry(berlin(2026, 5, 1, 10, 0, 0), 300), berlin(2026, 5, 1, 10, 6));
-    EXPECT_EQ(retry(berlin(2026, 5, 1, 10, 0, 59) + 999ms, 300), berlin(2026, 5, 1, 10, 6));
-    EXPECT_EQ(retry(berlin(2026, 5, 1, 12, 0, 0), 0), berlin(2026, 5, 1, 12, 1));
-    EXPECT_EQ(retry(berlin(2045, 5, 1, 10, 0, 30), 300), berlin(2045, 5, 1, 10, 6)) << "beyond 32 bits";
+    const auto retry = [](Date now) { return DataHelper::dateSinceNowWithCeiledMinutes(Seconds(300), now); };
+    EXPECT_EQ(retry(local(2026, 5, 1, 10, 0, 0)), local(2026, 5, 1, 10, 6));
+    EXPECT_EQ(retry(local(2026, 5, 1, 10, 0, 59) + 999ms), local(2026, 5, 1, 10, 6));
+    EXPECT_EQ(retry(local(2045, 5, 1, 10, 0, 30)), local(2045, 5, 1, 10, 6)) << "beyond 32 bits";
 }
 
-TEST_F(DataHelperTest, TextsOfTheYearAndOfVersions)
+TEST_F(DataHelperTest, TextsOfTheYearOfVersionsAndOfTheMakersPages)
 {
     const Date newYear = sys_days(2026y / December / 31) + hours(23) + minutes(30);
     EXPECT_EQ(DataHelper::getCurrentYear(newYear), u"2027"_s) << "the year of the host's zone";
-    EXPECT_EQ(DataHelper::stringFromSystemVersion({14, 2, 1}), u"14.2.1"_s);
-    EXPECT_TRUE(DataHelper::bundleVersionString().contains(u" (Build "_s));
+    const ScopedEnvironment system("QUILLON_SYSTEM_VERSION", "14.2.1");
+    EXPECT_EQ(systemVersion(), u"14.2.1"_s);
+    EXPECT_TRUE(DataHelper::bundleVersionString().contains(u" (Build "_s) &&
+                DataHelper::bundleVersionString().endsWith(u')'));
+    EXPECT_EQ(makersite::page(u"/a/"_s).path(), u"/a/"_s);
+    for (const auto& [version, words] :
+         {std::pair{"12.7.6", u"open System Preferences"_s}, {"13.0", u"open System Settings"_s}}) {
+        const ScopedEnvironment named("QUILLON_SYSTEM_VERSION", version);
+        EXPECT_TRUE(disableTimeMachineInstruction().contains(words)) << version;
+    }
 }
 
 } // namespace

@@ -33,36 +33,35 @@ protected:
     ScopedEnvironment home{"HOME", QFile::encodeName(prefix.path())};
 };
 
-TEST_F(QuillonHelper, StartsTheApplicationOfItsOwnPrefixAndLeavesTheClaimToIt)
+TEST_F(QuillonHelper, StartsTheApplicationOfItsOwnPrefixOrSaysThatItCannot)
 {
     const Finished finished = run(helper, {});
     EXPECT_EQ(finished.status, 0);
     EXPECT_EQ(finished.output, QString());
     ASSERT_TRUE(runUntil([this] { return QFile::exists(note); }));
     EXPECT_EQ(contentOf(note), u"0 %1\n"_s.arg(QDir(prefix.path()).canonicalPath()));
-    SingleInstance started(prefix.filePath(u"config"_s));
-    EXPECT_TRUE(started.acquire());
+    {
+        SingleInstance started(prefix.filePath(u"config"_s));
+        EXPECT_TRUE(started.acquire());
+    }
+
+    QFile::remove(application);
+    const Finished missing = run(helper, {});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.output, u"QuillonHelper: cannot start %1\n"_s.arg(application));
 }
 
 TEST_F(QuillonHelper, LeavesARunningApplicationAlone)
 {
     SingleInstance running(prefix.filePath(u"config"_s));
     ASSERT_TRUE(running.acquire());
+    QFile::remove(application); // which would be missed
     int presented = 0;
     QObject::connect(&running, &SingleInstance::presentRequested, [&presented] { ++presented; });
-    QFile::remove(application); // which would be missed
     const Finished finished = run(helper, {});
     EXPECT_EQ(finished.status, 0) << finished.output.toStdString();
     QCoreApplication::processEvents();
     EXPECT_EQ(presented, 0);
-}
-
-TEST_F(QuillonHelper, SaysWhatItCannotStart)
-{
-    QFile::remove(application);
-    const Finished finished = run(helper, {});
-    EXPECT_EQ(finished.status, 1);
-    EXPECT_EQ(finished.output, u"QuillonHelper: cannot start %1\n"_s.arg(application));
 }
 
 } // namespace quillon
