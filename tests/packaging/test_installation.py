@@ -54,10 +54,7 @@ class InstallationTest(unittest.TestCase):
         (path,) = self.share.glob("metainfo/*.xml")
         return ElementTree.parse(path).getroot()
 
-    def test_programs_find_each_other_below_any_prefix(self):
-        self.assertRegex(self.run_program(self.prefix / "bin/quillonctl", "status"), r"^failed: +no\n")
-
-    def test_tmutil_backs_up_when_it_is_called_by_its_name_alone(self):
+    def test_programs_find_each_other_and_tmutil_its_worker_when_it_is_called_by_its_name_alone(self):
         disk, source = self.home / "disk", self.home / "source"
         for folder in (disk, source):
             folder.mkdir()
@@ -66,6 +63,7 @@ class InstallationTest(unittest.TestCase):
             for arguments in (("setdestination", disk), ("addsource", source), ("startbackup", "--block")):
                 self.run_program("tmutil", *arguments)
             self.assertTrue(self.run_program("tmutil", "latestbackup").strip())
+        self.assertRegex(self.run_program(self.prefix / "bin/quillonctl", "status"), r"^failed: +no\n")
 
     def test_every_program_has_a_page_with_exactly_its_options(self):
         pages = {program.name: self.page(program.name) for program in (self.prefix / "bin").iterdir()}
@@ -126,22 +124,19 @@ class InstallationTest(unittest.TestCase):
         self.assertEqual({binary.text for binary in metadata.iter("binary")},
                          {program.name for program in (self.prefix / "bin").iterdir()})
 
-    def test_pictures_of_the_icon_have_the_size_of_their_folder(self):
-        pictures = list((self.share / "icons/hicolor").rglob("*.png"))
-        self.assertIn("48x48", {picture.parts[-3] for picture in pictures})
-        for picture in pictures:
+    def test_icons_have_the_names_and_sizes_by_which_they_are_asked_for(self):
+        icons = self.share / "icons/hicolor"
+        for picture in (pictures := list(icons.rglob("*.png"))):
             header = picture.read_bytes()[:24]  # PNG specification, "IHDR Image header"
             self.assertEqual(f"{int.from_bytes(header[16:20])}x{int.from_bytes(header[20:24])}", picture.parts[-3])
-
-    def test_panels_can_tint_the_states_of_the_item(self):
-        symbols = sorted((self.share / "icons/hicolor/symbolic/apps").iterdir())
-        # By these names the program asks for them.
+        self.assertIn("48x48", {picture.parts[-3] for picture in pictures})
+        symbols = sorted((icons / "symbolic/apps").iterdir())
         self.assertEqual([symbol.name for symbol in symbols],
                          [f"com.Orvane.Quillon.{state}-symbolic.svg" for state in (
                              "clock.arrow.2.circlepath", "clock.arrow.circlepath", "exclamationmark.arrow.circlepath",
                              "exclamationmark.arrow.triangle.2.circlepath")])
         for symbol in symbols:
-            self.assertNotIn("stroke", symbol.read_text(), "GTK fills it instead")
+            self.assertNotIn("stroke", symbol.read_text(), "GTK fills it instead, when a panel tints it")
 
 
 if __name__ == "__main__":
