@@ -160,7 +160,7 @@ TEST(QuillonctlProgram, AnswersAsFarAsItCanWithoutATool)
     const struct {
         QString words;
         int status;
-        QByteArray output; ///< its beginning
+        QByteArray output; ///< of the doctor's page its beginning
         std::string errors;
     } rows[] = {
         {u"--help"_s, 0, page("help.txt"), ""},
@@ -273,6 +273,7 @@ TEST_F(DoctorTest, TellsWhatGoesOnAndWhatHasGoneWrong)
 TEST_F(DoctorTest, FindsNothingWrongWhereNothingIs)
 {
     const ScopedEnvironment zone("TZ", "UTC");
+    const ScopedEnvironment desktop("XDG_CURRENT_DESKTOP", std::nullopt);
     const ScopedEnvironment session("XDG_SESSION_TYPE", std::nullopt);
     defaults_.setObject(settingskeys::enableSchedule, 0LL);
     defaults_.setDate(settingskeys::pauseUntilDate, runLoop_.now() - 1s); // is over
@@ -288,32 +289,27 @@ TEST_F(DoctorTest, SaysWhatItCannotTellWithoutAnAnswerOfTheTool)
     defaults_.setObject(settingskeys::calendarIntervals, QVariantList());
     defaults_.setObject(settingskeys::latestBackupInfo,
                         QVariantList{*record(u"A"_s, u"Disk"_s, local(2026, 11, 20, 12)).archivedData()});
-    const auto hangs = examine(R"([{"expect":["status"],"fault":"refused"},
+    const auto refuses = examine(R"([{"expect":["status"],"fault":"refused"},
                                    {"expect":["destinationinfo","-X"],"status":3}])");
-    EXPECT_EQ(report::doctorText(hangs).toStdString(), pageHere("silent.txt").toStdString());
+    EXPECT_EQ(report::doctorText(refuses).toStdString(), pageHere("silent.txt").toStdString());
     const auto babbles = examine(R"([{"expect":["status"],"output":"Hello"},
                                      {"expect":["destinationinfo","-X"],"output":"Hello"}])");
-    EXPECT_EQ(problems(babbles),
-              (QStringList{
-                  u"What Time Machine does cannot be told: what the tool printed cannot be understood."_s,
-                  u"The backup disks cannot be told: what the tool printed cannot be understood."_s,
-                  u"The schedule is on but has no rules."_s,
-              }));
+    EXPECT_EQ(babbles.status.trouble, u"what the tool printed cannot be understood"_s);
+    EXPECT_EQ(babbles.destinations.trouble, babbles.status.trouble);
 }
 
-TEST_F(DoctorTest, NamesAStopThatWasAskedForAndTheLastIcon)
+TEST_F(DoctorTest, NamesAStopThatWasAskedForAFailureOfNoFileAndTheLastIcon)
 {
-    const QStringList icons{u"none"_s,    u"none"_s,           u"idle"_s,
-                            u"running"_s, u"completed"_s,      u"update available"_s,
-                            u"failed"_s,  u"missed schedule"_s};
+    const QStringList icons = u"none,none,idle,running,completed,update available,failed,missed schedule"_s.split(u',');
     for (qlonglong state = -1; state <= 6; ++state) {
         defaults_.setObject(settingskeys::lastMenuBarIconState, state);
-        const auto found = examine(
-            R"([{"expect":["status"],"output":"{ Running = 1; Stopping = 1; BackupPhase = Copying; }"},
-                {"expect":["destinationinfo","-X"],"output":"{}"}])");
+        const auto found = examine(R"([{"expect":["status"],
+            "output":"{ Running = 1; Stopping = 1; BackupPhase = Copying; LastFailure = { Cause = NoSpace; }; }"},
+            {"expect":["destinationinfo","-X"],"output":"{}"}])");
         EXPECT_EQ(found.iconState, icons[state + 1]);
         EXPECT_EQ(found.activity, u"a backup is being stopped, Copying, 0 %"_s);
         EXPECT_EQ(problems(found).first(), u"No backup disk is set up."_s);
+        EXPECT_TRUE(report::doctorText(found).contains("Last failure      NoSpace\n\nBackup disks\n  none\n"));
     }
 }
 
@@ -347,26 +343,20 @@ TEST_F(DoctorTest, AsksTheToolAsTheApplicationDoes)
     }
 }
 
-/// A process that waits for a dead disk, which outlives its end.
-class DeadTask final : public RunningTask {
-public:
-    explicit DeadTask(int& kills)
-        : kills_(kills)
-    {
-    }
-    void kill() override { ++kills_; }
-
-private:
-    int& kills_;
-};
-
+/// Its processes wait for a dead disk and outlive their end.
 class DeadLauncher final : public TaskLauncher {
 public:
+    struct Child final : RunningTask {
+        int* kills = nullptr;
+        void kill() override { ++*kills; }
+    };
     int kills = 0;
 
     std::unique_ptr<RunningTask> launch(const TaskRequest&, Completion) override
     {
-        return std::make_unique<DeadTask>(kills);
+        auto child = std::make_unique<Child>();
+        child->kills = &kills;
+        return child;
     }
 };
 
@@ -376,6 +366,7 @@ TEST_F(DoctorTest, WaitsNoLongerForAToolThatHangsWhetherOrNotItEnds)
     const auto found = Doctor(runLoop_, launcher, defaults_, u"/tmutil"_s).examine();
     EXPECT_EQ(found.status.trouble, u"the tool gave no answer within 20 s"_s);
     EXPECT_EQ(found.destinations.time, 20s);
+    EXPECT_EQ(found.toolPath, u"/tmutil"_s);
     EXPECT_EQ(launcher.kills, 2);
 }
 
