@@ -1,4 +1,6 @@
+#include "ColorScheme_linux.h"
 #include "DisksFixture.h"
+#include "SystemColor.h"
 
 #include <QScreen>
 #include <QSpinBox>
@@ -233,6 +235,33 @@ TEST_F(DisksWindowTest, SaysWhatCannotBeReadUntilItCan)
     EXPECT_TRUE(window_->close());
     window_.reset();
     EXPECT_EQ(tools_.liveChildren(), 0);
+}
+
+TEST_F(DisksWindowTest, TheTextsOfAnEntryStandOutFromItsGroundSelectedOrNot)
+{
+    const QVariantMap inked{{u"Name"_s, u"██████"_s}, {u"Path"_s, u"██████"_s}}; // has pixels that are all ink
+    QVariantMap present = inked;
+    present.insert(u"MountPoint"_s, u"/"_s);
+    tell({disk(u"A"_s, present), disk(u"Away"_s, inked)});
+    for (const auto scheme : {ColorSchemePreference::Light, ColorSchemePreference::Dark}) {
+        applyColorScheme(scheme);
+        open();
+        for (const int selected : {-1, 0, 1}) {
+            list(Disks)->setCurrentRow(selected);
+            for (int row = 0; row < 2; ++row) {
+                const QRect entry = list(Disks)->visualItemRect(list(Disks)->item(row));
+                const QImage picture = list(Disks)->viewport()->grab(entry).toImage();
+                const QColor ground = picture.pixelColor(picture.width() - 4, picture.height() / 2);
+                for (const int line : {1, 3}) { // of six halves: the name, the path
+                    double best = 1;
+                    for (int x = picture.width() / 8; x < picture.width() / 2; ++x)
+                        best = std::max(best, contrast(picture.pixelColor(x, picture.height() * line / 6), ground));
+                    EXPECT_GE(best, 4.5) << "row " << row << ", line " << line << ", selected " << selected;
+                }
+            }
+        }
+    }
+    applyColorScheme(ColorSchemePreference::None);
 }
 
 TEST_F(DisksWindowTest, TheKeyboardReachesEverythingAndNothingIsCutOffAtLargeFonts)
