@@ -36,9 +36,16 @@ class ReferenceServer:
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self.address = self._process.stdout.readline().strip()
 
+    def announce(self, version):
+        latest = {"type": "String", "value": json.dumps({"os": "13.0", "app": version})}
+        self._tell({"parameter": "LatestAppVersion", "result": latest})
+
     def requests(self):
-        print("{}", file=self._process.stdin, flush=True)
-        return json.loads(self._process.stdout.readline())["requests"]
+        return self._tell({})["requests"]
+
+    def _tell(self, command):
+        print(json.dumps(command), file=self._process.stdin, flush=True)
+        return json.loads(self._process.stdout.readline())
 
 
 class Installation:
@@ -52,6 +59,9 @@ class Installation:
         self.disk.configure_tmutil()
         os.environ.update(self.disk.environment(), QUILLON_TMUTIL=str(self.disk.wrapper), LC_ALL="C.UTF-8")
         os.environ.pop("LANGUAGE", None)
+
+    def settings(self):
+        return self.disk.settings()
 
     def write_settings(self, values):
         (self.disk.config / "com.Orvane.Quillon.plist").write_bytes(plistlib.dumps(values))
@@ -96,6 +106,7 @@ class Application(unittest.TestCase):
             rule = self.change_settings()
             self.see_the_backup_that_falls_due()
             self.quit()
+            self.server.announce("99.0")
             self.second_start(rule)
         except BaseException:
             self.screen.take_picture(Path("failed.png"))
@@ -110,10 +121,10 @@ class Application(unittest.TestCase):
                                   take_picture=None, folder=None)
         self.quillon = self.installation.start()
         alert = self.screen.see("alert", "Welcome to Quillon")
-        self.assertNotIn("appSettingsDidShowAlertAtFirstLaunch", self.installation.disk.settings())
+        self.assertNotIn("appSettingsDidShowAlertAtFirstLaunch", self.installation.settings())
         self.screen.click(next(widgets(alert, "push button", "Close")))
         wait_for("the alert is not noted",
-                 lambda: self.installation.disk.settings().get("appSettingsDidShowAlertAtFirstLaunch"))
+                 lambda: self.installation.settings().get("appSettingsDidShowAlertAtFirstLaunch"))
         wait_for("no question for the latest version", self.server.requests)
 
     def change_settings(self):
@@ -132,34 +143,38 @@ class Application(unittest.TestCase):
             self.screen.press(*due.strftime("%I%M%p").lower())
             rule = {"day": 0, "time": due.hour * 3600 + due.minute * 60}
             wait_for(f"{rule} is not stored", lambda: rule in self.rules())
-        self.assertEqual(self.installation.disk.settings()["userSettingsEnableRetryAtMissedSchedule"], 0)
+        self.assertEqual(self.installation.settings()["userSettingsEnableRetryAtMissedSchedule"], 0)
         self.screen.press("Escape")
         return rule
 
     def rules(self):
-        return self.installation.disk.settings().get("userSettingsCalendarIntervals", [])
+        return self.installation.settings().get("userSettingsCalendarIntervals", [])
 
     def see_the_backup_that_falls_due(self):
-        wait_for("no backup", lambda: "appSettingsLatestBackupInfo" in self.installation.disk.settings(), UNTIL_BACKED_UP)
+        wait_for("no backup", lambda: "appSettingsLatestBackupInfo" in self.installation.settings(), UNTIL_BACKED_UP)
         self.backup.prove()
 
     def quit(self):
         self.screen.choose("Quit Quillon")
         self.assertEqual(self.quillon.wait(PATIENCE), 0)
 
+    def is_update_offered(self):
+        menu = self.screen.open_menu()  # anew each time: the rows of an open one stay as they are
+        self.assertTrue(list(widgets(menu, "menu item", "Latest Backup: Today")))
+        offered = list(widgets(menu, "menu item", "🟢 Update Available"))
+        self.screen.press("Escape")
+        return offered
+
     def second_start(self, rule):
         self.installation.log_in()
         wait_for("Quillon was not started at log-in", self.installation.running)
-        menu = self.screen.open_menu()
-        self.assertTrue(list(widgets(menu, "menu item", "Latest Backup: Today")))
-        self.screen.press("Escape")
+        wait_for("the update was not asked for", lambda: len(self.server.requests()) >= 2)
+        wait_for("no update in the menu", self.is_update_offered)
         self.assertFalse(list(self.screen.all("alert", "Welcome to Quillon")))
 
         self.assertEqual(self.installation.start().wait(PATIENCE), 0)
         retry = self.screen.see("check box", "Retry after a missed backup")
         self.assertFalse(is_checked(retry))
-        icon = subprocess.check_output(["xprop", "-name", "Settings", "-notype", "_NET_WM_ICON"], text=True)
-        self.assertIn("Icon (", icon)
         self.assertEqual(len(list(self.screen.all("spin button", "at"))), 2)
         self.assertIn(rule, self.rules())
         self.assertEqual(len(self.installation.running()), 1)
