@@ -20,10 +20,6 @@
 
 #include <gtest/gtest.h>
 
-#define main quillonctlMain // the tests have one of their own
-#include "main.cpp"         // NOLINT(bugprone-suspicious-include): what it does is in no header
-#undef main
-
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -147,44 +143,6 @@ TEST(QuillonctlReports, CarryTheRecordsOwnNames)
     for (int day = 1; day <= 7; ++day)
         weekdays.append(report::readableDate(local(2026, 11, day, 9)).left(3));
     EXPECT_EQ(weekdays.join(u' '), u"Sun Mon Tue Wed Thu Fri Sat"_s);
-}
-
-TEST(QuillonctlProgram, AnswersAsFarAsItCanWithoutATool)
-{
-    const ScopedEnvironment zone("TZ", "Europe/Berlin");
-    const ScopedEnvironment tool("QUILLON_TMUTIL", "/nonexistent/tmutil");
-    const ScopedEnvironment settings("XDG_CONFIG_HOME", "/nonexistent");
-    const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
-    const ScopedEnvironment platform("QT_QPA_PLATFORM", "offscreen");
-    const std::string missing = "quillonctl: /nonexistent/tmutil: the tool is not there\n";
-    const struct {
-        QString words;
-        int status;
-        QByteArray output; ///< of the doctor's page its beginning
-        std::string errors;
-    } rows[] = {
-        {u"--help"_s, 0, page("help.txt"), ""},
-        {u"--version"_s, 0, "quillonctl " + bundleShortVersion().toUtf8() + "\n", ""},
-        {u"status --json"_s, 1, report::status(TMStatus::failure(), true), missing},
-        {u"status"_s, 1, report::status(TMStatus::failure(), false), missing},
-        {u"destinations"_s, 1, "", missing},
-        {u"destinations --json"_s, 1, "[\n]\n", missing},
-        {u"next --count 2 --from 2026-10-24T12:00"_s, 0, "2026-10-24T12:00:00+02:00\n2026-10-25T12:00:00+01:00\n", ""},
-        {u"doctor"_s, 1, "Quillon " + bundleShortVersion().toUtf8(), ""},
-        {u"doctor --json"_s, 1, "{", ""},
-    };
-    for (const auto& [words, status, output, errors] : rows) {
-        SCOPED_TRACE(words.toStdString());
-        QString error;
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        EXPECT_EQ(::run(*Arguments::parse(words.split(u' '), &error)), status);
-        const std::string printed = testing::internal::GetCapturedStdout();
-        EXPECT_TRUE(words.startsWith(u"doctor"_s) ? printed.starts_with(output.toStdString())
-                                                  : printed == output.toStdString())
-            << printed;
-        EXPECT_EQ(testing::internal::GetCapturedStderr(), errors);
-    }
 }
 
 namespace {

@@ -1,0 +1,98 @@
+#include "Bundle.h"
+#include "Report.h"
+#include "ScopedEnvironment.h"
+#include "Task.h"
+
+#include <QFile>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+/// Stands for the processes that the program starts: every call of the tool gets the one answer.
+class PlayedTask final : public TaskLauncher {
+public:
+    static inline TaskResult answer;
+    static inline QString asked;
+
+    std::unique_ptr<RunningTask> launch(const TaskRequest& request, Completion completion) override
+    {
+        struct Child final : RunningTask {
+            void kill() override {}
+        };
+        asked = request.arguments.join(u' ');
+        QTimer::singleShot(0, [completion = std::move(completion)] { completion(answer); });
+        return std::make_unique<Child>();
+    }
+};
+
+} // namespace quillon
+
+#define main quillonctlMain // the tests have one of their own
+#define Task PlayedTask
+#include "main.cpp" // NOLINT(bugprone-suspicious-include): what it does is in no header
+#undef Task
+#undef main
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
+{
+    const ScopedEnvironment zone("TZ", "Europe/Berlin");
+    const ScopedEnvironment path("QUILLON_TMUTIL", "/nonexistent/tmutil");
+    const ScopedEnvironment settings("XDG_CONFIG_HOME", "/nonexistent");
+    const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    const ScopedEnvironment platform("QT_QPA_PLATFORM", "offscreen");
+    const TaskResult missing{TaskResult::launchRefused, std::nullopt};
+    const TaskResult babble{0, "Hello", "tmutil: a note\n"};
+    const TaskResult none{0, "{}"};
+    const TaskResult healthy{0, "{ Running = 0; Destinations = ( { ID = A; Name = B; } ); }"};
+    const std::string isMissing = "quillonctl: /nonexistent/tmutil: the tool is not there\n";
+    const std::string isBabble =
+        "tmutil: a note\nquillonctl: /nonexistent/tmutil: what it printed cannot be understood\n";
+    QFile help(QStringLiteral(PAGES "help.txt"));
+    ASSERT_TRUE(help.open(QIODevice::ReadOnly));
+    const QByteArray version = bundleShortVersion().toUtf8();
+    const struct {
+        QString words;
+        TaskResult tool;
+        int status;
+        QByteArray output; ///< of the doctor's page its beginning
+        std::string errors = {};
+        QString asked = {};
+    } rows[] = {
+        {u"--help"_s, missing, 0, help.readAll()},
+        {u"--version"_s, missing, 0, "quillonctl " + version + "\n"},
+        {u"next --count 2 --from 2026-10-24T12:00"_s, missing, 0,
+         "2026-10-24T12:00:00+02:00\n2026-10-25T12:00:00+01:00\n"},
+        {u"status"_s, missing, 1, report::status(TMStatus::failure(), false), isMissing, u"status"_s},
+        {u"status --json"_s, babble, 1, report::status(TMStatus::failure(), true), isBabble, u"status"_s},
+        {u"status --json"_s, healthy, 0, report::status(TMStatus::notRunning(), true), "", u"status"_s},
+        {u"destinations --json"_s, missing, 1, "[\n]\n", isMissing, u"destinationinfo -X"_s},
+        {u"destinations"_s, babble, 1, "", isBabble, u"destinationinfo -X"_s},
+        {u"destinations"_s, none, 0, "", "quillonctl: no backup disk is set up\n", u"destinationinfo -X"_s},
+        {u"destinations"_s, healthy, 0, "A  B\n", "", u"destinationinfo -X"_s},
+        {u"doctor"_s, missing, 1, "Quillon " + version, "", u"destinationinfo -X"_s},
+        {u"doctor --json"_s, healthy, 0, "{", "", u"destinationinfo -X"_s},
+    };
+    for (const auto& [words, tool, status, output, errors, asked] : rows) {
+        SCOPED_TRACE(words.toStdString() + ' ' + output.toStdString());
+        QString error;
+        PlayedTask::answer = tool;
+        PlayedTask::asked.clear();
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(::run(*Arguments::parse(words.split(u' '), &error)), status);
+        const std::string printed = testing::internal::GetCapturedStdout();
+        EXPECT_TRUE(words.startsWith(u"doctor"_s) ? printed.starts_with(output.toStdString())
+                                                  : printed == output.toStdString())
+            << printed;
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), errors);
+        EXPECT_EQ(PlayedTask::asked, asked);
+    }
+}
+
+} // namespace quillon
