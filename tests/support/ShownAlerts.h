@@ -11,14 +11,23 @@
 
 namespace quillon {
 
+/// The texts of the alert popovers on the screen, below their titles.
+inline QList<QTextEdit*> shownAlertTexts()
+{
+    QList<QTextEdit*> texts;
+    const auto windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) {
+        if (window->isVisible())
+            texts += window->findChildren<QTextEdit*>(QStringLiteral("informativeText"));
+    }
+    return texts;
+}
+
 /// The alert popover on the screen that has a button of that title; nothing when there is none.
 inline QPushButton* alertButton(const QString& title)
 {
-    const auto windows = QApplication::topLevelWidgets();
-    for (const QWidget* window : windows) {
-        if (!window->isVisible() || !window->findChild<QWidget*>(QStringLiteral("informativeText")))
-            continue;
-        const auto buttons = window->findChildren<QPushButton*>();
+    for (const QTextEdit* text : shownAlertTexts()) {
+        const auto buttons = text->window()->findChildren<QPushButton*>();
         for (QPushButton* button : buttons) {
             if (button->accessibleName() == title)
                 return button;
@@ -30,14 +39,8 @@ inline QPushButton* alertButton(const QString& title)
 /// What the alert popover on the screen says below its title; nothing when there is none.
 inline QString shownAlertText()
 {
-    const auto windows = QApplication::topLevelWidgets();
-    for (const QWidget* window : windows) {
-        const auto* text =
-            window->isVisible() ? window->findChild<QTextEdit*>(QStringLiteral("informativeText")) : nullptr;
-        if (text)
-            return text->toPlainText();
-    }
-    return {};
+    const auto texts = shownAlertTexts();
+    return texts.isEmpty() ? QString() : texts.first()->toPlainText();
 }
 
 /// Waits for an alert with that button and clicks it.

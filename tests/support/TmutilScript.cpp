@@ -3,7 +3,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QMap>
 
 #include <stdexcept>
 
@@ -15,14 +14,10 @@ namespace {
 
 TmutilScript::Fault readFault(const QString& name)
 {
-    using Fault = TmutilScript::Fault;
-    static const QMap<QString, Fault> faults{{u""_s, Fault::None},           {u"hang"_s, Fault::Hang},
-                                             {u"crash"_s, Fault::Crash},     {u"half"_s, Fault::Half},
-                                             {u"endless"_s, Fault::Endless}, {u"notUtf8"_s, Fault::NotUtf8},
-                                             {u"refused"_s, Fault::Refused}};
+    static const QStringList faults{u""_s, u"hang"_s, u"crash"_s, u"half"_s, u"endless"_s, u"notUtf8"_s, u"refused"_s};
     if (!faults.contains(name))
         throw std::runtime_error("unknown fault in a tmutil script");
-    return faults.value(name);
+    return TmutilScript::Fault(faults.indexOf(name));
 }
 
 } // namespace

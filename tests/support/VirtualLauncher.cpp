@@ -8,27 +8,38 @@
 namespace quillon {
 
 struct VirtualLauncher::Child {
+    VirtualRunLoop& runLoop;
     Completion completion;
-    Timer end;
+    Timer timer{};
     bool hasEnded = false;
+
+    static void end(const std::shared_ptr<Child>& child, const TaskResult& result)
+    {
+        child->timer.invalidate();
+        if (std::exchange(child->hasEnded, true))
+            return;
+        child->runLoop.enqueue([child, result] {
+            // Which may do away with the handle.
+            if (const auto completion = std::exchange(child->completion, nullptr))
+                completion(result);
+        });
+    }
 };
 
 class VirtualLauncher::Handle final : public RunningTask {
 public:
-    Handle(VirtualLauncher& launcher, int id)
-        : launcher_(launcher)
-        , id_(id)
+    explicit Handle(std::shared_ptr<Child> child)
+        : child_(std::move(child))
     {
     }
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
-    ~Handle() override { launcher_.children_.at(id_)->completion = nullptr; }
+    ~Handle() override { child_->completion = nullptr; }
 
-    void kill() override { launcher_.end(id_, {SIGKILL, QByteArray()}); }
+    void kill() override { Child::end(child_, {SIGKILL, QByteArray()}); }
 
 private:
-    VirtualLauncher& launcher_;
-    int id_;
+    std::shared_ptr<Child> child_;
 };
 
 VirtualLauncher::VirtualLauncher(VirtualRunLoop& runLoop)
@@ -42,9 +53,7 @@ std::unique_ptr<RunningTask> VirtualLauncher::launch(const TaskRequest& request,
 {
     using Fault = TmutilScript::Fault;
     launched_.append(request);
-    const int id = nextId_++;
-    auto& child = *(children_[id] = std::make_shared<Child>());
-    child.completion = std::move(completion);
+    const auto child = children_.emplace_back(std::make_shared<Child>(runLoop_, std::move(completion)));
     const auto call = behaviour(request);
     TaskResult result{call.status, call.faultyOutput()};
     if (call.fault == Fault::Crash)
@@ -53,32 +62,17 @@ std::unique_ptr<RunningTask> VirtualLauncher::launch(const TaskRequest& request,
         result.status = TaskResult::launchRefused;
     else if (call.fault == Fault::Endless)
         result = {SIGKILL, std::nullopt};
-    if (call.fault != Fault::Hang) {
-        // A repeating timer follows the uptime clock, as a child process does.
-        const Seconds duration{std::max(call.delay, 0.001)};
-        child.end = runLoop_.scheduleRepeating(duration, [this, id, result] { end(id, result); });
-    }
-    return std::make_unique<Handle>(*this, id);
-}
-
-void VirtualLauncher::end(int id, const TaskResult& result)
-{
-    const auto child = children_.at(id);
-    if (child->hasEnded)
-        return;
-    child->hasEnded = true;
-    child->end.invalidate();
-    // Nobody is told once the handle is gone.
-    runLoop_.enqueue([child, result] {
-        if (child->completion)
-            child->completion(result);
-    });
+    // A repeating timer follows the uptime clock, as a child process does.
+    if (call.fault != Fault::Hang)
+        child->timer =
+            runLoop_.scheduleRepeating(Seconds(std::max(call.delay, 0.001)),
+                                       [child = std::weak_ptr(child), result] { Child::end(child.lock(), result); });
+    return std::make_unique<Handle>(child);
 }
 
 int VirtualLauncher::liveChildren() const
 {
-    return static_cast<int>(
-        std::count_if(children_.begin(), children_.end(), [](const auto& child) { return !child.second->hasEnded; }));
+    return int(std::ranges::count_if(children_, [](const auto& child) { return !child->hasEnded; }));
 }
 
 ScriptedLauncher::ScriptedLauncher(VirtualRunLoop& runLoop, const TmutilScript& script)

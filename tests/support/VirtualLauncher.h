@@ -6,8 +6,8 @@
 
 #include <QStringList>
 
-#include <map>
 #include <memory>
+#include <vector>
 
 namespace quillon {
 
@@ -32,12 +32,9 @@ private:
     struct Child;
     class Handle;
 
-    void end(int id, const TaskResult& result);
-
     VirtualRunLoop& runLoop_;
-    std::map<int, std::shared_ptr<Child>> children_;
+    std::vector<std::shared_ptr<Child>> children_;
     QList<TaskRequest> launched_;
-    int nextId_ = 0;
 };
 
 /// Plays a script: every call must come as expected, in order.

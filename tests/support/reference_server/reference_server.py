@@ -1,17 +1,16 @@
-"""The maker's configuration service as tests need it: answers on loopback, and misbehaves when told to.
-
-usage: reference_server.py [--certificate FILE] [--name HOST]
-
-Prints its address as one line. FILE holds a certificate and its key in PEM; with it the server speaks HTTPS. Then it
-obeys commands on standard input, one JSON object a line, answers each with a line of JSON, and ends when standard input
-does:
-
-    {"parameter": NAME, "result": VALUE}   what "v1/Config" answers for that parameter
-    {"fault": NAME, "detail": TEXT}        how every request is treated from now on: a method of Handler
-    {"status": NUMBER}                     the status code of answers from now on
-    {}                                     nothing; the answer of each command lists the requests seen so far, the
-                                           bytes dripped, and how many clients have left before their answer was whole
-"""
+# The maker's configuration service as tests need it: answers on loopback, and misbehaves when told to.
+#
+# usage: reference_server.py [--certificate FILE] [--name HOST]
+#
+# Prints its address as one line. FILE holds a certificate and its key in PEM; with it the server speaks HTTPS. Then it
+# obeys commands on standard input, one JSON object a line, answers each with a line of JSON, and ends when standard input
+# does:
+#
+#     {"parameter": NAME, "result": VALUE}   what "v1/Config" answers for that parameter
+#     {"fault": NAME, "detail": TEXT}        how every request is treated from now on: a method of Handler
+#     {"status": NUMBER}                     the status code of answers from now on
+#     {}                                     nothing; the answer of each command lists the requests seen so far, the
+#                                            bytes dripped, and how many clients have left before their answer was whole
 
 import argparse
 import gzip
