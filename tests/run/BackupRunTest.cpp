@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Asked = BackupRun::Asked;
 using Pace = BackupRun::Pace;
+using enum TMState;
 
 namespace {
 
@@ -22,13 +23,14 @@ TMStatus report(TMState state, const QString& phase, double percent = 0, double 
 }
 
 const TMStatus idle = TMStatus::notRunning();
-const TMStatus copying = report(TMState::Running, u"Copying"_s, 0.8, 100, 1000);
+const TMStatus stopping = report(Stopping, u"Stopping"_s);
+const TMStatus finishing = report(Running, u"Finishing"_s);
 
 /// A run whose beginning has been acted on.
-BackupRun begun()
+BackupRun begun(double percent = 0.8, double remaining = 100)
 {
     BackupRun run;
-    run.take(copying, Asked::ByPoll, start);
+    run.take(report(Running, u"Copying"_s, percent, remaining, 1000), Asked::ByPoll, start);
     EXPECT_EQ(run.step(), BackupRun::Step{.began = true});
     return run;
 }
@@ -38,40 +40,33 @@ BackupRun begun()
 TEST(BackupRun, TakesTheReportedStateAndHoldsAnAcceptedStartUntilItShows)
 {
     const struct {
-        std::optional<TMState> before; ///< nothing for a start that was accepted
+        TMState before; ///< Starting for a start that was accepted
         TMState reported;
         Asked asked;
         TMState after;
     } cases[] = {
-        {TMState::Unknown, TMState::NotRunning, Asked::ByPoll, TMState::NotRunning},
-        {TMState::Running, TMState::NotRunning, Asked::ByPoll, TMState::NotRunning},
-        {TMState::Running, TMState::Unknown, Asked::ByPoll, TMState::Unknown},
-        {TMState::NotRunning, TMState::Stopping, Asked::ByPoll, TMState::Stopping},
-        {{}, TMState::NotRunning, Asked::ByPoll, TMState::Starting},
-        {{}, TMState::NotRunning, Asked::ByCommand, TMState::NotRunning},
-        {{}, TMState::Running, Asked::ByPoll, TMState::Running},
-        {{}, TMState::Stopping, Asked::ByPoll, TMState::Stopping},
-        {{}, TMState::Unknown, Asked::ByPoll, TMState::Unknown},
+        {Unknown, NotRunning, Asked::ByPoll, NotRunning},     {Running, NotRunning, Asked::ByPoll, NotRunning},
+        {Running, Unknown, Asked::ByPoll, Unknown},           {NotRunning, Stopping, Asked::ByPoll, Stopping},
+        {Starting, NotRunning, Asked::ByPoll, Starting},      {Starting, Running, Asked::ByPoll, Running},
+        {Starting, NotRunning, Asked::ByCommand, NotRunning}, {Starting, Stopping, Asked::ByPoll, Stopping},
+        {Starting, Unknown, Asked::ByPoll, Unknown},
     };
     for (const auto& row : cases) {
         BackupRun run;
-        if (row.before)
-            run.take(report(*row.before, u"Before"_s), Asked::ByPoll, start);
-        else
+        run.take(report(row.before, u"Before"_s), Asked::ByPoll, start);
+        if (row.before == Starting)
             run.startAccepted(0ms);
         run.take(report(row.reported, u"Reported"_s), row.asked, start);
         EXPECT_EQ(run.tmState(), row.after) << int(row.reported);
-        EXPECT_EQ(run.tmPhase(), row.after == TMState::Starting ? u"Starting"_s : u"Reported"_s);
+        EXPECT_EQ(run.tmPhase(), row.after == Starting ? u"Starting"_s : u"Reported"_s);
         EXPECT_EQ(run.isActive(), int(row.after) > 0);
-        EXPECT_EQ(run.isReported(), row.after == TMState::Running || row.after == TMState::Stopping);
+        EXPECT_EQ(run.isReported(), row.after == Running || row.after == Stopping);
     }
 }
 
 TEST(BackupRun, BeginsOnceAndEndsAsItsReportsSay)
 {
-    const TMStatus thinning = report(TMState::Running, u"ThinningPostBackup"_s, 0, 0, 2000);
-    const TMStatus finishing = report(TMState::Running, u"Finishing"_s);
-    const TMStatus stopping = report(TMState::Stopping, u"Stopping"_s);
+    const TMStatus thinning = report(Running, u"ThinningPostBackup"_s, 0, 0, 2000);
     const struct {
         QList<TMStatus> reports; ///< one a second
         bool stopAccepted;
@@ -81,7 +76,6 @@ TEST(BackupRun, BeginsOnceAndEndsAsItsReportsSay)
         {{idle}, false, {}, true},
         {{TMStatus::failure()}, false, {}, true},
         {{idle}, true, {}, false},
-        {{thinning, idle}, false, later, false},
         {{thinning, thinning, idle}, false, later, false},
         {{finishing, finishing, idle}, false, later + 1s, false},
         {{thinning, finishing, idle}, true, later + 1s, false},
@@ -100,12 +94,10 @@ TEST(BackupRun, BeginsOnceAndEndsAsItsReportsSay)
             step = run.step();
             now += 1s;
         }
-        ASSERT_TRUE(step.end);
-        EXPECT_EQ(step.end->completed, row.completed);
-        EXPECT_EQ(step.end->failed(), row.failed);
-        EXPECT_EQ(step.end->stoppedByUser, row.stopAccepted);
-        EXPECT_EQ(step.end->disk, u"A"_s);
-        EXPECT_EQ(step.end->bytes, row.reports.first() == thinning ? 2000 : 1000);
+        const BackupRun::End end{row.completed, row.stopAccepted, u"A"_s,
+                                 row.reports.first() == thinning ? 2000 : 1000};
+        EXPECT_EQ(step, (BackupRun::Step{false, end}));
+        EXPECT_EQ(end.failed(), row.failed);
         EXPECT_EQ(run.uiState(), run.tmState());
         EXPECT_EQ(run.backupCompleteDate(), row.completed) << "it stays until the next run";
         EXPECT_FALSE(run.stopBackupConfirmed());
@@ -118,22 +110,19 @@ TEST(BackupRun, BeginsOnceAndEndsAsItsReportsSay)
     }
 }
 
-TEST(BackupRun, AStopThatComesTooLateIsForgotten)
-{
-    BackupRun run;
-    run.take(idle, Asked::ByPoll, start);
-    run.stopAccepted();
-    run.step();
-    EXPECT_FALSE(run.stopBackupConfirmed());
-}
-
 TEST(BackupRun, IsAskedForAtThePaceThatItCallsFor)
 {
     BackupRun run;
     EXPECT_EQ(run.pace(), Pace::Idle);
+    run.take(idle, Asked::ByPoll, start);
+    run.stopAccepted();
+    run.step();
+    EXPECT_FALSE(run.stopBackupConfirmed()) << "a stop that comes too late is forgotten";
     run.startAccepted(10s);
+    EXPECT_EQ(run.tmPhase(), u"Starting"_s);
     run.take(idle, Asked::ByPoll, start);
     run.step();
+    EXPECT_EQ(run.previousTmPhase(), u"Starting"_s);
     run.tick(70s);
     EXPECT_EQ(run.pace(), Pace::Starting);
     run.tick(70s + 1ms);
@@ -142,9 +131,8 @@ TEST(BackupRun, IsAskedForAtThePaceThatItCallsFor)
     run.step();
     EXPECT_EQ(run.pace(), Pace::Idle);
     run = begun();
-    EXPECT_EQ(run.pace(), Pace::Running);
     run.tick(24h);
-    run.take(report(TMState::Stopping, u"Stopping"_s), Asked::ByPoll, start);
+    run.take(stopping, Asked::ByPoll, start);
     run.step();
     EXPECT_EQ(run.pace(), Pace::Running);
     run.take(idle, Asked::ByPoll, start);
@@ -152,36 +140,40 @@ TEST(BackupRun, IsAskedForAtThePaceThatItCallsFor)
     EXPECT_EQ(run.pace(), Pace::Idle);
 }
 
-TEST(BackupRun, ProgressIsCarriedOnAfterCopyingAndFallsBackWhenTheEstimateHasRunOut)
+TEST(BackupRun, ProgressNeverGoesBackAndIsCarriedOnAfterCopyingWhileThereIsAnEstimate)
 {
     const struct {
-        std::chrono::seconds after;
-        double percentage, remaining;
-    } cases[] = {{50s, 0.9, 50}, {100s, 1.0, 0}, {103s, 0.8, 0}};
-    BackupRun run = begun();
-    const TMStatus finishing = report(TMState::Running, u"Finishing"_s);
-    run.take(finishing, Asked::ByPoll, start);
-    for (const auto& row : cases) {
-        run.take(finishing, Asked::ByPoll, start + row.after);
-        EXPECT_DOUBLE_EQ(run.progress().percentage(), row.percentage) << row.after.count();
-        EXPECT_DOUBLE_EQ(run.progress().timeRemaining(), row.remaining) << row.after.count();
+        BackupRun run;
+        struct {
+            std::chrono::seconds after;
+            TMStatus report;
+            double percentage, remaining;
+        } steps[4];
+    } cases[] = {
+        {begun(),
+         {{1s, report(Running, u"Copying"_s, 0.3, 10, 500), 0.8, 10},
+          {2s, {false, Running, u"Copying"_s, 0, 77, 0, {}}, 0.8, 10}, // no estimate leaves the one that was there
+          {3s, report(Running, u"Copying"_s, 0.85, 10), 0.85, 10},
+          {4s, report(Running, u"Copying"_s, 0.8, 20), 0.85, 20}}},
+        {begun(),
+         {{0s, finishing, 0.8, 100},
+          {50s, finishing, 0.9, 50},
+          {100s, finishing, 1.0, 0},
+          {103s, finishing, 0.8, 0}}}, // the estimate has run out
+        {begun(0.5, 0), {{0s, finishing, 0.5, 0}, {50s, finishing, 0.5, 0}, {60s, finishing, 0.5, 0}, {}}},
+        {begun(0, 60), {{0s, finishing, 0, 60}, {50s, finishing, 0, 60}, {70s, finishing, 0, 60}, {}}},
+    };
+    for (auto [run, steps] : cases) {
+        for (const auto& [after, status, percentage, remaining] : steps) {
+            if (status.phase.isEmpty())
+                continue;
+            run.take(status, Asked::ByPoll, start + after);
+            EXPECT_DOUBLE_EQ(run.progress().percentage(), percentage) << after.count();
+            EXPECT_DOUBLE_EQ(run.progress().timeRemaining(), remaining) << after.count();
+            EXPECT_EQ(run.progress().bytesCopied(), 1000);
+            EXPECT_EQ(run.activeBackupDiskIdentifier(), u"A"_s);
+        }
     }
-}
-
-TEST(BackupRun, ALowerReportNeverLowersWhatIsShown)
-{
-    BackupRun run = begun();
-    run.take(report(TMState::Running, u"Copying"_s, 0.3, 10, 500), Asked::ByPoll, later);
-    EXPECT_DOUBLE_EQ(run.progress().percentage(), 0.8);
-    EXPECT_EQ(run.progress().timeRemaining(), 10);
-    EXPECT_EQ(run.progress().bytesCopied(), 1000);
-    run.take({false, TMState::Running, u"Copying"_s, 0, 77, 0, {}}, Asked::ByPoll, later);
-    EXPECT_EQ(run.progress().timeRemaining(), 10) << "an answer without an estimate leaves the one that was there";
-    EXPECT_EQ(run.activeBackupDiskIdentifier(), u"A"_s);
-    BackupRun unestimated;
-    unestimated.take(report(TMState::Running, u"Copying"_s, 0.5, 0), Asked::ByPoll, start);
-    unestimated.take(report(TMState::Running, u"Finishing"_s), Asked::ByPoll, later);
-    EXPECT_DOUBLE_EQ(unestimated.progress().percentage(), 0.5) << "without an estimate nothing is carried on";
 }
 
 } // namespace quillon

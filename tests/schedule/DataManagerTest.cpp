@@ -25,6 +25,8 @@ protected:
     {
         notifications.addObserver(notifications::scheduledBackupShouldStart, &observer,
                                   [this](const QVariantMap&) { started.append(runLoop.now()); });
+        notifications.addObserver(notifications::scheduledBackupFoundLate, &observer,
+                                  [this](const QVariantMap&) { ++foundLate; });
     }
 
     DataManager& make()
@@ -32,45 +34,53 @@ protected:
         manager = std::make_unique<DataManager>(DataManager::Services{runLoop, defaults, notifications, loginItem});
         return *manager;
     }
+    void expect(std::optional<Date> next, std::optional<Date> retry = {})
+    {
+        EXPECT_EQ(manager->nextScheduledBackupDate(), next);
+        EXPECT_EQ(manager->startBackupTimer().isValid(), next.has_value());
+        EXPECT_EQ(manager->retryBackupDate(), retry);
+    }
+    /// On the day that the tests begin, at ten, and after it.
+    static Date today(int hour, int minute = 0) { return local(2026, 11, 21, hour, minute); }
 
     ScopedEnvironment zone{"TZ", "Europe/Berlin"};
-    VirtualRunLoop runLoop{local(2026, 11, 21, 10)};
+    VirtualRunLoop runLoop{today(10)};
     MemoryDefaults defaults;
     NotificationCenter notifications;
     FakeLoginItem loginItem;
     QObject observer;
     QList<Date> started;
+    int foundLate = 0;
     std::unique_ptr<DataManager> manager;
 };
 
-TEST_F(Model, AFreshInstallationHasItsDefaultsAndRegistersTheLoginItemOnce)
+TEST_F(Model, AFreshInstallationBacksUpAtNoonAndRegistersTheLoginItemOnceIfItIsWanted)
 {
-    const auto& fresh = make();
-    EXPECT_EQ(fresh.calendarIntervalSettings(), QList<CalendarIntervalRule>{CalendarIntervalRule()});
-    EXPECT_TRUE(fresh.isScheduleEnabled());
-    for (const auto& key :
-         {settingskeys::enableRetryAtMissedSchedule, settingskeys::enableRetryAtFailure, settingskeys::showDetailedTime,
-          settingskeys::enableMenuBarColors, settingskeys::rotateBackupDisks, settingskeys::launchAtSystemStart})
-        EXPECT_EQ(defaults.integer(key), 1) << key.toStdString();
-    EXPECT_EQ(defaults.integer(settingskeys::showMenuBarIconOnly), 0);
-    EXPECT_FALSE(defaults.object(settingskeys::lastMenuBarIconState).isValid());
-    EXPECT_FALSE(defaults.object(settingskeys::latestBackupInfo).isValid());
-    EXPECT_EQ(defaults.stored.keys(), QStringList{settingskeys::firstLaunch}) << "defaults are never written";
+    EXPECT_TRUE(make().isScheduleEnabled());
+    expect(today(12));
+    EXPECT_EQ(defaults.stored, (QVariantMap{{settingskeys::firstLaunch, false}})) << "defaults are never written";
     make();
     EXPECT_EQ(loginItem.calls, std::vector<bool>{true});
+    defaults.stored = {{settingskeys::launchAtSystemStart, 0LL}, {settingskeys::enableSchedule, 2LL}};
+    EXPECT_FALSE(make().isScheduleEnabled());
+    EXPECT_EQ(loginItem.calls.size(), 1U);
 }
 
 TEST_F(Model, ADeletedLastRuleStaysDeleted)
 {
     make().deleteBackupScheduleAtIndex(0);
-    EXPECT_FALSE(manager->nextScheduledBackupDate());
-    EXPECT_FALSE(manager->startBackupTimer().isValid());
+    expect({});
     EXPECT_TRUE(make().calendarIntervalSettings().isEmpty());
+    manager->setRetryBackupDate(today(11));
+    manager->saveAndBackupCalendarIntervalSettings();
+    expect(today(11), today(11)); // nothing comes before it
+    manager->setRetryBackupDate({});
     manager->addNewSchedule();
-    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 21, 12));
+    expect(today(12));
     manager->updateBackupScheduleAtIndex(0, 7200, u"time"_s);
     manager->updateBackupScheduleAtIndex(0, 1, u"day"_s);
-    EXPECT_EQ(make().nextScheduledBackupDate(), local(2026, 11, 22, 2));
+    make();
+    expect(today(24 + 2));
 }
 
 TEST_F(Model, StoredRubbishReadsAsNothingAndNeverCrashes)
@@ -81,7 +91,7 @@ TEST_F(Model, StoredRubbishReadsAsNothingAndNeverCrashes)
     defaults.stored[settingskeys::pauseUntilDate] = u"tomorrow"_s;
     EXPECT_EQ(make().calendarIntervalSettings(), (QList<CalendarIntervalRule>{{2, 0}, {0, 0}}));
     EXPECT_TRUE(manager->latestBackupInfo().isEmpty());
-    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 22, 0));
+    expect(today(24));
     defaults.stored[settingskeys::calendarIntervals] = 7LL;
     EXPECT_TRUE(make().calendarIntervalSettings().isEmpty());
 }
@@ -93,7 +103,31 @@ TEST_F(Model, AYearOfScheduleStartsEachRuleOnceADay)
     make();
     runLoop.advanceTo(local(2027, 11, 21, 10));
     EXPECT_EQ(started.size(), 365 + 5 * 52 + 53);
-    EXPECT_EQ(started.first(), local(2026, 11, 22, 0) + 1ms);
+    EXPECT_EQ(started.first(), today(24) + 1ms);
+}
+
+TEST_F(Model, AStartThatIsFoundAMinuteLateIsToldAndNotMade)
+{
+    defaults.setDate(settingskeys::lastBackupDate, today(9));
+    make();
+    runLoop.advanceTo(today(11, 59));
+    runLoop.stepWallClock(119s); // the timer comes before anybody looks at the clock
+    runLoop.advance(61s);
+    EXPECT_TRUE(started.isEmpty());
+    EXPECT_EQ(foundLate, 1);
+}
+
+TEST_F(Model, AClockSetBackByUpToThreeHoursRepeatsNoStartAndByMoreItDoes)
+{
+    make();
+    runLoop.advanceTo(today(12, 30));
+    for (const auto step : {3h + 0ms, 3h + 1ms}) {
+        runLoop.stepWallClock(-step);
+        manager->clockWasSetBack(step);
+        manager->scheduleNextBackup();
+        expect(step == 3h ? today(36) : today(12));
+    }
+    EXPECT_EQ(started.size(), 1);
 }
 
 TEST_F(Model, WhatElseTheStoredRulesHoldSurvivesAnEditAtItsPlace)
@@ -115,80 +149,69 @@ TEST_F(Model, WhatElseTheStoredRulesHoldSurvivesAnEditAtItsPlace)
 
 TEST_F(Model, ARetryReplacesTheRegularStartUnlessThatComesFirst)
 {
-    make().setRetryBackupDate(local(2026, 11, 21, 11));
-    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 21, 11));
+    make().setRetryBackupDate(today(11));
+    expect(today(11), today(11));
     manager->addNewSchedule();
-    EXPECT_EQ(manager->retryBackupDate(), local(2026, 11, 21, 11)) << "a rule edit keeps a retry that comes first";
+    expect(today(11), today(11)); // a rule edit keeps a retry that comes first
+    manager->updateBackupScheduleAtIndex(0, 11 * 3600, u"time"_s);
+    expect(today(11), today(11));
     manager->updateBackupScheduleAtIndex(0, 10 * 3600 + 1800, u"time"_s);
-    EXPECT_FALSE(manager->retryBackupDate());
-    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 21, 10, 30));
-    manager->setRetryBackupDate(local(2026, 11, 21, 10, 31));
-    EXPECT_FALSE(manager->retryBackupDate());
-    manager->setRetryBackupDate(local(2026, 11, 21, 10, 30));
-    EXPECT_TRUE(manager->retryBackupDate());
-    runLoop.advanceTo(local(2026, 11, 21, 10, 31));
-    EXPECT_FALSE(manager->retryBackupDate());
+    expect(today(10, 30));
+    manager->setRetryBackupDate(today(10, 31));
+    expect(today(10, 30));
+    manager->setRetryBackupDate(today(10, 30));
+    expect(today(10, 30), today(10, 30));
+    runLoop.advanceTo(today(10, 31));
+    expect(today(12));
     EXPECT_EQ(started.size(), 1);
-}
-
-TEST_F(Model, ARetryWithoutRulesIsKept)
-{
-    make().deleteBackupScheduleAtIndex(0);
-    manager->setRetryBackupDate(local(2026, 11, 21, 11));
-    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 21, 11));
-    manager->saveAndBackupCalendarIntervalSettings();
-    EXPECT_EQ(manager->retryBackupDate(), local(2026, 11, 21, 11));
 }
 
 TEST_F(Model, SwitchingTheScheduleOffStopsTheTimerAndLeavesTheRetryDate)
 {
-    make().setRetryBackupDate(local(2026, 11, 21, 11));
-    manager->setIsScheduleEnabled(false);
-    EXPECT_FALSE(manager->nextScheduledBackupDate());
-    EXPECT_TRUE(manager->retryBackupDate());
-    runLoop.advance(Seconds(86400));
-    EXPECT_TRUE(started.isEmpty());
+    make().setRetryBackupDate(today(11));
     manager->setIsScheduleEnabled(true);
-    EXPECT_FALSE(manager->retryBackupDate());
-    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 22, 12));
+    expect(today(11), today(11)); // which changes nothing
+    manager->setIsScheduleEnabled(false);
+    expect({}, today(11));
+    runLoop.advance(24h);
+    EXPECT_TRUE(started.isEmpty());
+    manager->updateBackupScheduleAtIndex(0, 13 * 3600, u"time"_s);
+    expect(today(11), today(11)); // an edit arms the timer all the same
+    manager->setIsScheduleEnabled(true);
+    expect(today(24 + 13));
+    manager->pauseBackupSchedule();
+    EXPECT_FALSE(manager->startBackupTimer().isValid());
+    EXPECT_EQ(manager->nextScheduledBackupDate(), today(24 + 13));
 }
 
 TEST_F(Model, APauseMovesTheNextDateAndIsClearedOnceItHasEnded)
 {
     defaults.setDate(settingskeys::pauseUntilDate, local(2026, 11, 24, 15));
     defaults.stored[settingskeys::pauseUntilTag] = 259200LL;
-    EXPECT_EQ(make().nextScheduledBackupDate(), local(2026, 11, 25, 12));
+    make();
+    expect(local(2026, 11, 25, 12));
     EXPECT_EQ(defaults.integer(settingskeys::pauseUntilTag), 259200);
     runLoop.advanceTo(local(2026, 11, 25, 13));
     EXPECT_FALSE(defaults.object(settingskeys::pauseUntilDate).isValid());
-    EXPECT_EQ(defaults.integer(settingskeys::pauseUntilTag), 0);
-}
-
-TEST_F(Model, TheSettingsTitleFollowsTheSystemVersion)
-{
-    EXPECT_STREQ(make().openSystemPreferencesTitleLocaleKey(), "openSystemPreferencesTitleVentura");
-    const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6.9");
-    EXPECT_STREQ(make().openSystemPreferencesTitleLocaleKey(), "openSystemPreferencesTitle");
-    const ScopedEnvironment early("QUILLON_SYSTEM_VERSION", "9.1");
-    EXPECT_STREQ(make().openSystemPreferencesTitleLocaleKey(), "openSystemPreferencesTitle");
+    EXPECT_EQ(defaults.object(settingskeys::pauseUntilTag), 0LL);
 }
 
 TEST_F(Model, KeepsOneRecordADiskNewestFirstAndStoresIt)
 {
     make();
-    const Date day = local(2026, 11, 20, 8);
-    manager->recordLatestBackup(u"A"_s, u"Disk A"_s, 10, day);
-    manager->recordLatestBackup(u"B"_s, u"Disk B"_s, 20, day + 1h);
-    manager->recordLatestBackup(u"A"_s, u"Renamed"_s, 30, day + 2h);
+    manager->recordLatestBackup(u"A"_s, u"Disk A"_s, 10, today(6));
+    manager->recordLatestBackup(u"B"_s, u"Disk B"_s, 20, today(7));
+    manager->recordLatestBackup(u"A"_s, u"Renamed"_s, 30, today(8));
     const auto records = make().latestBackupInfo();
     ASSERT_EQ(records.size(), 2);
     EXPECT_EQ(records[0].diskName(), u"Renamed"_s);
     EXPECT_EQ(records[0].totalBytes(), 30);
-    EXPECT_EQ(records[0].date(), day + 2h);
+    EXPECT_EQ(records[0].date(), today(8));
     EXPECT_EQ(records[1].diskIdentifier(), u"B"_s);
 
     auto stored = defaults.array(settingskeys::latestBackupInfo);
     stored.insert(1, QByteArray("damaged"));
+    stored.prepend(7LL);
     EXPECT_EQ(DataManager::unArchiveLatestBackupInfo(stored), records) << "the good ones load in order";
 }
 
@@ -197,20 +220,28 @@ TEST(BackupInfoRecord, MissingFieldsAreEmptyAndWrongOnesDropIt)
     const auto unarchive = [](const QVariantMap& fields) {
         return BackupInfo::unarchiveFromData(propertylist::toBinary(fields).value_or(QByteArray()));
     };
-    const auto bare = unarchive({{u"diskName"_s, u"Disk"_s}});
-    ASSERT_TRUE(bare);
-    EXPECT_EQ(bare->diskName(), u"Disk"_s);
-    EXPECT_EQ(bare->diskIdentifier(), u""_s);
-    EXPECT_EQ(bare->date(), std::nullopt);
-    EXPECT_EQ(bare->totalBytes(), 0);
-    EXPECT_FALSE(unarchive({{u"diskName"_s, 7LL}}));
-    EXPECT_FALSE(unarchive({{u"date"_s, u"today"_s}}));
-    EXPECT_FALSE(unarchive({{u"totalBytes"_s, u"12"_s}}));
+    const struct {
+        QString key;
+        QVariant right, wrong;
+    } fields[] = {
+        {u"diskIdentifier"_s, u"\u05d0\U0001f600"_s, 7LL},
+        {u"diskName"_s, u"Disk"_s, QVariantList()},
+        {u"date"_s, QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC), u"today"_s},
+        {u"totalBytes"_s, std::numeric_limits<qlonglong>::max(), u"12"_s},
+    };
+    QVariantMap whole;
+    for (const auto& [key, right, wrong] : fields) {
+        whole.insert(key, right);
+        EXPECT_FALSE(unarchive({{key, wrong}})) << key.toStdString();
+        const auto bare = unarchive({{key, right}});
+        ASSERT_TRUE(bare) << key.toStdString();
+        EXPECT_EQ(propertylist::parse(*bare->archivedData())->toMap().value(key), right);
+        EXPECT_EQ(bare->date().has_value(), key == "date"_L1);
+    }
+    EXPECT_EQ(propertylist::parse(*unarchive(whole)->archivedData()), whole);
+    EXPECT_TRUE(unarchive({{u"totalBytes"_s, 1.5}})) << "other numbers will do";
     EXPECT_FALSE(unarchive({{u"name"_s, u"another program's"_s}}));
     EXPECT_FALSE(BackupInfo::unarchiveFromData({}));
-    BackupInfo info(u"\u05d0\U0001f600"_s, local(2026, 11, 21, 10));
-    info.setTotalBytes(std::numeric_limits<std::int64_t>::max());
-    EXPECT_EQ(BackupInfo::unarchiveFromData(*info.archivedData()), info);
 }
 
 } // namespace quillon

@@ -27,14 +27,17 @@ TMStatus running(const QByteArray& entries)
 TEST(ReadingTheStatus, TakesEveryFieldFromTheToolsText)
 {
     EXPECT_EQ(TMStatus::fromOutput(answer(u"status-idle.txt"_s)), TMStatus::notRunning());
-    const auto copying = TMStatus::fromOutput(answer(u"status-copying.txt"_s));
-    EXPECT_FALSE(copying.failed);
-    EXPECT_EQ(copying.state, TMState::Running);
-    EXPECT_EQ(copying.phase, u"Copying"_s);
-    EXPECT_NEAR(copying.percent, 0.6, 1e-6);
-    EXPECT_DOUBLE_EQ(copying.timeRemaining, 3600.25);
-    EXPECT_EQ(copying.bytesCopied, 61728394);
-    EXPECT_EQ(copying.destinationID, u"6B29FC40-CA47-1067-B31D-00DD010662DA"_s);
+    EXPECT_EQ(TMStatus::notRunning(), (TMStatus{false, TMState::NotRunning, u"Not Running"_s, 0, 0, 0, {}}));
+    EXPECT_EQ(TMStatus::failure(), (TMStatus{true, TMState::Unknown, u"Unknown"_s, 0, 0, 0, {}}));
+    auto copying = TMStatus::fromOutput(answer(u"status-copying.txt"_s));
+    EXPECT_NEAR(std::exchange(copying.percent, 0), 0.6, 1e-6);
+    EXPECT_EQ(copying, (TMStatus{false, TMState::Running, u"Copying"_s, 0, 3600.25, 61728394,
+                                 u"6B29FC40-CA47-1067-B31D-00DD010662DA"_s}));
+    EXPECT_EQ(TMStatus::fromOutput("{ Running = 1; lastReport = { Running = 0; }; }"), TMStatus::notRunning());
+    EXPECT_EQ(running("Stopping = 1;").state, TMState::Stopping);
+    EXPECT_EQ(running("Stopping = YES;").state, TMState::Stopping);
+    EXPECT_EQ(running("Stopping = 0;").state, TMState::Running);
+    EXPECT_EQ(running("Stopping = { };").state, TMState::Running);
 }
 
 TEST(ReadingTheStatus, EveryUnreadableAnswerIsOneAndTheSameFailure)
@@ -49,42 +52,32 @@ TEST(ReadingTheStatus, EveryUnreadableAnswerIsOneAndTheSameFailure)
 
 TEST(ReadingTheStatus, ProgressIsScaledToTheWholeBackup)
 {
-    EXPECT_DOUBLE_EQ(running("Progress = { Percent = \"-1\"; };").percent, 0);
-    EXPECT_NEAR(running("Progress = { Percent = \"-1\"; }; EventFractionOfTotalProgressBar = \"0.2\";").percent, 0.2,
-                1e-6);
-    EXPECT_NEAR(running("Progress = { Percent = \"0.5\"; }; EventFractionOfTotalProgressBar = \"0.2\";").percent, 0.6,
-                1e-6);
-    EXPECT_NEAR(running("Progress = { Percent = 0.5; }; FractionOfProgressBar = 0.8;").percent, 0.6, 1e-6);
-    EXPECT_NEAR(running("Progress = { Percent = 0.5; }; FractionOfProgressBar = 0.8; "
-                        "EventFractionOfTotalProgressBar = 0.5;")
-                    .percent,
-                0.75, 1e-6);
-    EXPECT_DOUBLE_EQ(running("Progress = { }; EventFractionOfTotalProgressBar = 0.5;").percent, 0);
-    EXPECT_NEAR(running("FractionOfProgressBar = 0.5; FractionDone = 0.4;").percent, 0.2, 1e-6);
-    for (const auto* one : {"FractionOfProgressBar = 0.5;", "FractionOfProgressBar = 1e50;", "FractionDone = 1e50;"})
-        EXPECT_DOUBLE_EQ(running(one).percent, 0) << one;
-    EXPECT_DOUBLE_EQ(running("Progress = { Percent = \"1.5\"; };").percent, 1.5) << "nothing is clamped from above";
-    EXPECT_NE(running("Progress = { Percent = \"0.1\"; };").percent, 0.1) << "values are single-precision";
-}
-
-TEST(ReadingTheStatus, ValuesThatAreNoNumbersOrNegativeReadAsNothing)
-{
-    const auto status = running("Progress = { Percent = abc; TimeRemaining = \"-3\"; bytes = \"-5\"; };");
-    EXPECT_DOUBLE_EQ(status.percent, 0);
+    const struct {
+        QByteArray entries;
+        double percent;
+    } cases[] = {
+        {"Progress = { Percent = \"-1\"; };", 0},
+        {"Progress = { Percent = abc; };", 0},
+        {"Progress = { Percent = \"1.5\"; };", 1.5}, // nothing is clamped from above
+        {"Progress = { Percent = \"-1\"; }; EventFractionOfTotalProgressBar = \"0.2\";", 0.2},
+        {"Progress = { Percent = \"0.5\"; }; EventFractionOfTotalProgressBar = \"0.2\";", 0.6},
+        {"Progress = { Percent = 0.5; }; FractionOfProgressBar = 0.8;", 0.6},
+        {"Progress = { Percent = 0.5; }; FractionOfProgressBar = 0.8; EventFractionOfTotalProgressBar = 0.5;", 0.75},
+        {"Progress = { }; EventFractionOfTotalProgressBar = 0.5;", 0},
+        {"FractionOfProgressBar = 0.5; FractionDone = 0.4;", 0.2},
+        {"FractionOfProgressBar = 0.5;", 0},
+        {"FractionOfProgressBar = 1e50;", 0},
+        {"FractionDone = 1e50;", 0},
+        {"Progress = none; FractionOfProgressBar = 0.5; FractionDone = 1;", 0.5}, // a container of the wrong kind
+    };
+    for (const auto& [entries, percent] : cases)
+        EXPECT_NEAR(running(entries).percent, percent, 1e-6) << entries.toStdString();
+    EXPECT_EQ(running("Progress = { Percent = 0.1; };").percent, double(0.1F)) << "values are single-precision";
+    const auto status = running("Progress = { TimeRemaining = \"-3\"; bytes = \"-5\"; };");
     EXPECT_DOUBLE_EQ(status.timeRemaining, 0);
     EXPECT_EQ(status.bytesCopied, 0);
-    EXPECT_EQ(running("Progress = none; FractionOfProgressBar = 0.5; FractionDone = 1;").percent, 0.5)
-        << "a container of the wrong kind is absent";
+    EXPECT_EQ(running("Progress = { bytes = 1; };").bytesCopied, 1);
     EXPECT_EQ(running("Progress = { bytes = 99999999999999999999; };").bytesCopied, std::numeric_limits<qint64>::max());
-}
-
-TEST(ReadingTheStatus, TheLastReportStandsForTheWholeAndStoppingIsAState)
-{
-    EXPECT_EQ(TMStatus::fromOutput("{ Running = 1; lastReport = { Running = 0; }; }"), TMStatus::notRunning());
-    EXPECT_EQ(running("Stopping = 1;").state, TMState::Stopping);
-    EXPECT_EQ(running("Stopping = YES;").state, TMState::Stopping);
-    EXPECT_EQ(running("Stopping = 0;").state, TMState::Running);
-    EXPECT_EQ(running("Stopping = { };").state, TMState::Running);
 }
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include "LocalizedString.h"
 #include "ScopedEnvironment.h"
 #include "SetupAdvice.h"
+#include "TMUtilPath.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,7 @@
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class Tmutil : public testing::Test {
 protected:
@@ -23,13 +25,30 @@ protected:
         queue = std::make_unique<TMUtilQueue>(*launcher, runLoop, u"tool"_s);
         tmutil = std::make_unique<TMUtil>(*queue, *launcher, runLoop, workspace, alerts);
     }
-
-    StatusHandler noteStatus(const QString& who)
+    void askStatus(const QString& who)
     {
-        return [this, who](const TMStatus& status) { log.append(who + u':' + QString::number(int(status.state))); };
+        tmutil->getStatusWithCompletionHandler(
+            [this, who](const TMStatus& status) { log.append(who + u':' + QString::number(int(status.state))); });
+    }
+    void askDisks()
+    {
+        tmutil->getBackupDestinationsWithCompletionHandler([this](bool success, const QList<BackupDestination>& list) {
+            log.append(u"disks:%1,%2"_s.arg(success).arg(list.size()));
+        });
+    }
+    void start(const QString& disk = {}, bool rotate = false)
+    {
+        tmutil->startBackupOnDiskWithIdentifier(disk, rotate, [this](std::int32_t status, bool success) {
+            log.append(u"start:%1,%2"_s.arg(status).arg(success));
+        });
+    }
+    void stop()
+    {
+        tmutil->stopBackupWithCompletionHandler(
+            [this](bool failed, bool success) { log.append(u"stop:%1,%2"_s.arg(failed).arg(success)); });
     }
 
-    VirtualRunLoop runLoop{Date(std::chrono::hours(24 * 20000))};
+    VirtualRunLoop runLoop{Date(480'000h)};
     FakeWorkspace workspace;
     FakeAlerts alerts;
     std::unique_ptr<ScriptedLauncher> launcher;
@@ -38,68 +57,60 @@ protected:
     QStringList log;
 };
 
-TEST_F(Tmutil, GivesTheToolItsWordsAndOneVariable)
+TEST_F(Tmutil, GivesTheToolItsWordsAndOneVariableAndReadsWhatIsReadOnly)
 {
     play(R"([{"expect":["startbackup","-d","disk"]},{"expect":["startbackup","-r"]},{"expect":["startbackup"]},
              {"expect":["stopbackup"]},{"expect":["destinationinfo","-X"]},{"expect":["status"]}])");
-    tmutil->startBackupOnDiskWithIdentifier(u"disk"_s, true, {});
-    tmutil->startBackupOnDiskWithIdentifier({}, true, {});
+    start(u"disk"_s, true);
+    start({}, true);
     tmutil->startBackupOnDiskWithIdentifier(u""_s, false, {});
     tmutil->stopBackupWithCompletionHandler({});
     tmutil->getBackupDestinationsWithCompletionHandler({});
     tmutil->getStatusWithCompletionHandler({});
-    runLoop.advance(Seconds(1));
+    runLoop.advance(1s);
     for (const auto& request : launcher->launched()) {
         EXPECT_EQ(request.executable, u"tool"_s);
         EXPECT_EQ(request.environment, QStringList(u"command="_s + request.arguments.first()));
+        EXPECT_EQ(request.captureOutput, !request.arguments.first().endsWith(u"backup"_s));
+        EXPECT_FALSE(request.captureErrors);
     }
 }
 
 TEST_F(Tmutil, ReportsTheExitStatusFirstAndThenWhatTheParserMakesOfTheOutput)
 {
     play(R"([{"expect":["status"],"status":1},{"expect":["status"],"output":"{Running=0;}","status":1},
-             {"expect":["destinationinfo","-X"],"status":3},{"expect":["startbackup"],"status":30},
-             {"expect":["startbackup"]},{"expect":["stopbackup"],"status":1},{"expect":["stopbackup"]}])");
-    tmutil->getStatusWithCompletionHandler(noteStatus(u"empty"_s));
-    tmutil->getStatusWithCompletionHandler(noteStatus(u"full"_s));
-    tmutil->getBackupDestinationsWithCompletionHandler([this](bool success, const QList<BackupDestination>& list) {
-        log.append(u"disks:%1,%2"_s.arg(success).arg(list.size()));
-    });
-    for (int i = 0; i < 2; ++i) {
-        tmutil->startBackupOnDiskWithIdentifier({}, false, [this](std::int32_t status, bool success) {
-            log.append(u"start:%1,%2"_s.arg(status).arg(success));
-        });
-    }
-    for (int i = 0; i < 2; ++i) {
-        tmutil->stopBackupWithCompletionHandler(
-            [this](bool failed, bool success) { log.append(u"stop:%1,%2"_s.arg(failed).arg(success)); });
-    }
-    runLoop.advance(Seconds(1));
-    EXPECT_EQ(log, (QStringList{u"empty:-1"_s, u"empty:-1"_s, u"full:-1"_s, u"full:0"_s, u"disks:1,0"_s, u"disks:1,0"_s,
-                                u"start:30,0"_s, u"start:0,1"_s, u"stop:1,0"_s, u"stop:0,1"_s}));
+             {"expect":["destinationinfo","-X"],"status":1},{"expect":["destinationinfo","-X"]},
+             {"expect":["startbackup"],"status":30},{"expect":["startbackup"]},
+             {"expect":["stopbackup"],"status":1},{"expect":["stopbackup"]}])");
+    askStatus(u"empty"_s);
+    askStatus(u"full"_s);
+    askDisks();
+    askDisks();
+    start();
+    start();
+    stop();
+    stop();
+    runLoop.advance(1s);
+    EXPECT_EQ(log.join(u' '), u"empty:-1 empty:-1 full:-1 full:0 disks:1,0 disks:1,0 disks:1,0 "
+                              "start:30,0 start:0,1 stop:1,0 stop:0,1"_s);
 }
 
-TEST_F(Tmutil, NoWaitingRequestTakesAnothersReport)
+TEST_F(Tmutil, NoWaitingRequestTakesAnothersReportAndWhatAnAnswerLeadsToRunsAheadOfThem)
 {
-    play(R"([{"expect":["status"],"output":"{Running=0;}","delay":5},
-             {"expect":["status"],"output":"{Running=1;BackupPhase=Copying;}"}])");
-    tmutil->getStatusWithCompletionHandler(noteStatus(u"first"_s));
+    play(R"([{"expect":["status"],"output":"{Running=0;}","delay":5},{"expect":["startbackup"]},
+             {"expect":["stopbackup"]},{"expect":["status"],"output":"{Running=1;BackupPhase=Copying;}"},
+             {"expect":["destinationinfo","-X"]}])");
+    tmutil->getStatusWithCompletionHandler([this](const TMStatus& status) {
+        log.append(u"first:%1"_s.arg(int(status.state)));
+        start();
+        runLoop.enqueue([this] { stop(); });
+    });
     TMUtil other(*queue, *launcher, runLoop, workspace, alerts);
-    other.getStatusWithCompletionHandler(noteStatus(u"second"_s));
-    runLoop.advance(Seconds(6));
-    EXPECT_EQ(log, (QStringList{u"first:0"_s, u"second:1"_s}));
-}
-
-TEST_F(Tmutil, WhatAnAnswerLeadsToRunsAheadOfWhatWaits)
-{
-    play(R"([{"expect":["status"],"output":"{Running=0;}","delay":1},{"expect":["startbackup"]},
-             {"expect":["stopbackup"]},{"expect":["destinationinfo","-X"]}])");
-    tmutil->getStatusWithCompletionHandler([this](const TMStatus&) {
-        tmutil->startBackupOnDiskWithIdentifier({}, false, {});
-        runLoop.enqueue([this] { tmutil->stopBackupWithCompletionHandler({}); });
-    });
-    tmutil->getBackupDestinationsWithCompletionHandler({});
-    runLoop.advance(Seconds(2));
+    other.getStatusWithCompletionHandler(
+        [this](const TMStatus& status) { log.append(u"second:%1"_s.arg(int(status.state))); });
+    askDisks();
+    runLoop.advance(6s);
+    EXPECT_EQ(log.join(u' '), u"first:0 start:0,1 stop:0,1 second:1 disks:1,0"_s);
 }
 
 TEST_F(Tmutil, AnyWayInWhichTheToolFailsIsAReportAndTheQueueMovesOn)
@@ -108,37 +119,59 @@ TEST_F(Tmutil, AnyWayInWhichTheToolFailsIsAReportAndTheQueueMovesOn)
              {"expect":["status"],"output":"{Running=0;}","fault":"crash"},
              {"expect":["status"],"output":"{Running=0;}","fault":"endless"},
              {"expect":["status"],"output":"{Running=0;}","fault":"notUtf8"},
-             {"expect":["status"],"output":"{Running=0;}","fault":"hang"},
+             {"expect":["destinationinfo","-X"],"fault":"hang"},
              {"expect":["startbackup"],"fault":"hang"},
              {"expect":["status"],"output":"{Running=0;}"}])");
-    for (const auto* who : {"refused", "crash", "endless", "notUtf8", "hang"})
-        tmutil->getStatusWithCompletionHandler(noteStatus(QString::fromLatin1(who)));
-    tmutil->startBackupOnDiskWithIdentifier({}, false, [this](std::int32_t status, bool success) {
-        log.append(u"start:%1,%2"_s.arg(status).arg(success));
-    });
-    tmutil->getStatusWithCompletionHandler(noteStatus(u"last"_s));
-    runLoop.advance(Seconds(61));
-    EXPECT_EQ(log.size(), 9) << "two reports for a failed exit, one for an output that cannot be read";
-    EXPECT_EQ(log.last(), u"hang:-1"_s);
-    runLoop.stepWallClock(-Seconds(3600));
-    runLoop.advance(Seconds(121));
+    for (const auto* who : {"refused", "crash", "endless", "notUtf8"})
+        askStatus(QString::fromLatin1(who));
+    askDisks();
+    start();
+    askStatus(u"last"_s);
+    runLoop.advance(59s);
+    EXPECT_EQ(log.size(), 7) << "two reports for a failed exit, one for an output that cannot be read";
+    runLoop.stepWallClock(-1h);
+    runLoop.advance(2s);
+    EXPECT_EQ(log.mid(7), (QStringList{u"disks:1,0"_s, u"disks:1,0"_s}));
+    runLoop.advance(118s);
+    EXPECT_EQ(log.size(), 9);
+    runLoop.advance(2s);
     EXPECT_EQ(log.mid(9), (QStringList{u"start:9,0"_s, u"last:0"_s}));
     EXPECT_EQ(launcher->liveChildren(), 0);
 }
 
+TEST_F(Tmutil, ARequestOfItsOwnIsToldOfItsEndAndOfAChildThatWasTooSlow)
+{
+    play(R"([{"expect":["verify","-q"],"fault":"hang"},{"expect":["verify","-q"],"status":3,"delay":61}])");
+    for (const auto longest : {std::optional<Seconds>(5s), std::optional<Seconds>()}) {
+        queue->submit({.command = u"verify"_s,
+                       .arguments = {u"-q"_s},
+                       .ended = [this](const TaskResult& result,
+                                       bool tooSlow) { log.append(u"%1,%2"_s.arg(result.status).arg(tooSlow)); },
+                       .longest = longest});
+    }
+    runLoop.advance(6s);
+    EXPECT_EQ(log, QStringList{u"9,1"_s});
+    runLoop.advance(62s);
+    EXPECT_EQ(log.value(1), u"3,0"_s);
+    EXPECT_TRUE(launcher->launched().first().captureOutput && launcher->launched().first().captureErrors);
+}
+
 TEST_F(Tmutil, QuittingEndsWhatReadsAndLeavesAStartToFinish)
 {
-    play(R"([{"expect":["status"],"fault":"hang"}])");
-    tmutil->getStatusWithCompletionHandler(noteStatus(u"gone"_s));
-    runLoop.settle();
-    queue->shutDown();
-    tmutil->getStatusWithCompletionHandler(noteStatus(u"late"_s));
-    EXPECT_EQ(launcher->liveChildren(), 0);
-    play(R"([{"expect":["startbackup"],"delay":5}])");
-    tmutil->startBackupOnDiskWithIdentifier({}, false, {});
-    queue->shutDown();
-    EXPECT_EQ(launcher->liveChildren(), 1);
-    runLoop.advance(Seconds(6));
+    for (const QByteArray command : {"status", "destinationinfo", "startbackup"}) {
+        play(R"([{"expect":[")" + command + R"("],"delay":5}])");
+        queue->submit({.command = QString::fromLatin1(command)});
+        askStatus(u"waiting"_s);
+        queue->shutDown();
+        askStatus(u"late"_s);
+        EXPECT_EQ(launcher->liveChildren(), command == "startbackup" ? 1 : 0);
+        runLoop.advance(121s);
+    }
+    EXPECT_TRUE(log.isEmpty());
+    play(R"([{"expect":["status"]}])");
+    tmutil->getStatusWithCompletionHandler([this](const TMStatus&) { queue->shutDown(); });
+    askStatus(u"waiting"_s);
+    runLoop.advance(1s);
     EXPECT_TRUE(log.isEmpty());
 }
 
@@ -148,23 +181,26 @@ TEST_F(Tmutil, SettingsAreALinkFromVersion13OnAndAScriptBefore)
         "set the current pane to pane id \"com.apple.prefs.backup\"","-e","end tell"],"status":1,"delay":)";
     play('[' + script + "600}," + script + "1}]");
     tmutil->openTimeMachineSettings(u"Quillon"_s);
-    EXPECT_EQ(workspace.opened.size(), 1);
+    EXPECT_EQ(workspace.opened.first().toString(),
+              u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s);
     const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6");
     tmutil->openTimeMachineSettings(u"Quillon"_s);
-    runLoop.advance(Seconds(590));
+    runLoop.advance(590s);
     EXPECT_EQ(launcher->liveChildren(), 1) << "the system may still be asking the user";
-    EXPECT_EQ(launcher->launched().first().executable, u"/usr/bin/osascript"_s);
-    EXPECT_EQ(launcher->launched().first().environment, QStringList(u"command=OpenTimeMachinePrefs"_s));
+    const auto& request = launcher->launched().first();
+    EXPECT_EQ(request.executable, u"/usr/bin/osascript"_s);
+    EXPECT_EQ(request.environment, QStringList(u"command=OpenTimeMachinePrefs"_s));
+    EXPECT_FALSE(request.captureOutput);
     tmutil->openTimeMachineSettings(u"Quillon"_s);
-    runLoop.advance(Seconds(2));
-    EXPECT_EQ(launcher->launched().size(), 2) << "another request is another script";
-    ASSERT_EQ(alerts.presented.size(), 1U);
+    runLoop.advance(2s);
+    ASSERT_EQ(alerts.presented.size(), 1U) << "another request is another script";
     const auto& [alert, answer] = alerts.presented.front();
     EXPECT_EQ(alert.style, AlertStyle::Critical);
-    ASSERT_EQ(alert.buttons.size(), 2);
-    const auto button = alert.informativeText.indexOf(alert.buttons[1]);
-    EXPECT_GE(button, 0) << alert.informativeText.toStdString();
-    EXPECT_GT(alert.informativeText.lastIndexOf(u"Quillon"_s), button);
+    EXPECT_EQ(alert.messageText, u"Permission Required"_s);
+    EXPECT_EQ(alert.informativeText, u"To open the Time Machine preferences, click “Provide Permission” and allow "
+                                     "Quillon to control System Preferences. Then try again."_s);
+    EXPECT_EQ(alert.buttons, (QStringList{u"Close"_s, u"Provide Permission"_s}));
+    EXPECT_EQ(alert.escapeButton, 0);
     answer(alertFirstButtonReturn);
     EXPECT_EQ(workspace.opened.size(), 1);
     answer(alertSecondButtonReturn);
@@ -172,33 +208,55 @@ TEST_F(Tmutil, SettingsAreALinkFromVersion13OnAndAScriptBefore)
               u"x-apple.systempreferences:com.apple.preference.security?Privacy_Automation"_s);
 }
 
-TEST(BackupPhases, FoldRawWordsIntoPhrasesAndLeaveNewOnesAlone)
+TEST(TmutilPath, IsTheVariablesOrTheInstalledOnes)
 {
-    using backupphase::localizationKey;
-    using backupphase::phrase;
-    EXPECT_EQ(phrase({}), u"N/A"_s);
-    EXPECT_STREQ(localizationKey(phrase({})), "notAvailableAbbreviation");
-    EXPECT_EQ(phrase(u"MountingDiskImage"_s), phrase(u"MountingBackupVol"_s));
-    EXPECT_STREQ(localizationKey(phrase(u"HealthCheckFsck"_s)), "tmPhaseHealthCheck");
-    EXPECT_STREQ(localizationKey(phrase(u"Not Running"_s)), "tmPhaseDefault");
-    for (const auto& unknown : {u"copying"_s, u"NotRunning"_s, u"LazyThinning"_s}) {
-        EXPECT_EQ(phrase(unknown), unknown);
-        EXPECT_EQ(localizationKey(phrase(unknown)), nullptr);
+    const ScopedEnvironment chosen("QUILLON_TMUTIL", "/opt/tmutil");
+    EXPECT_EQ(tmutilPath(), u"/opt/tmutil"_s);
+    const ScopedEnvironment none("QUILLON_TMUTIL", "");
+    EXPECT_TRUE(tmutilPath().endsWith(u"/libexec/quillon/tmutil"_s));
+    EXPECT_FALSE(tmutilPath().contains(u".."_s));
+}
+
+TEST(BackupPhases, HaveThesePhrasesAndKeysAndNewOnesNone)
+{
+    const struct {
+        QString raw, phrase;
+        const char* key;
+    } phases[] = {
+        {{}, u"N/A"_s, "notAvailableAbbreviation"},
+        {u"Starting"_s, u"Starting"_s, "tmPhaseStarting"},
+        {u"FindingBackupVol"_s, u"Looking For Backup Disk"_s, "tmPhaseLookingForDisk"},
+        {u"MountingBackupVol"_s, u"Connecting To Backup Disk"_s, "tmPhaseConnectingToDisk"},
+        {u"MountingDiskImage"_s, u"Connecting To Backup Disk"_s, "tmPhaseConnectingToDisk"},
+        {u"ThinningPreBackup"_s, u"Preparing Backup"_s, "tmPhasePreparingBackup"},
+        {u"PreparingSourceVolumes"_s, u"Preparing Backup"_s, "tmPhasePreparingBackup"},
+        {u"FindingChanges"_s, u"Preparing Backup"_s, "tmPhasePreparingBackup"},
+        {u"Copying"_s, u"Copying"_s, "tmPhaseCopying"},
+        {u"ThinningPostBackup"_s, u"Cleaning Up"_s, "tmPhaseCleaningUp"},
+        {u"MountingBackupVolForHealthCheck"_s, u"Performing Health Check"_s, "tmPhaseHealthCheck"},
+        {u"HealthCheckCopyHFSMeta"_s, u"Performing Health Check"_s, "tmPhaseHealthCheck"},
+        {u"HealthCheckFsck"_s, u"Performing Health Check"_s, "tmPhaseHealthCheck"},
+        {u"Finishing"_s, u"Finishing"_s, "tmPhaseFinishing"},
+        {u"Not Running"_s, u"Not Running"_s, "tmPhaseDefault"},
+        {u"Unknown"_s, u"Unknown"_s, "tmPhaseUnknown"},
+        {u"NotRunning"_s, u"NotRunning"_s, nullptr},
+    };
+    for (const auto& [raw, phrase, key] : phases) {
+        EXPECT_EQ(backupphase::phrase(raw), phrase);
+        EXPECT_STREQ(backupphase::localizationKey(phrase), key);
     }
 }
 
 TEST_F(Tmutil, TheAdviceNamesTheDisksAndSaysSoOnlyWhenItIsKnownThatThereIsNone)
 {
-    const QString list = u"<plist><dict><key>Destinations</key><array>%1</array></dict></plist>"_s;
+    const QString list = u"\"output\":\"<plist><dict><key>Destinations</key><array>%1</array></dict></plist>\""_s;
     const QString disk = u"<dict><key>ID</key><string>%1</string><key>Name</key><string>%1%20Disk</string></dict>"_s;
     const struct {
-        QString answer;
-        QString text;
+        QString answer, text;
         bool diskIsMissing;
     } cases[] = {
-        {u"\"output\":\"%1\""_s.arg(list.arg(disk.arg(u"A"_s) + disk.arg(u"B"_s))),
-         localizedString("setupDisksMessage").arg(u"A Disk\nB Disk"_s), false},
-        {u"\"output\":\"%1\""_s.arg(list.arg(QString())), localizedString("setupNoDiskMessage"), true},
+        {list.arg(disk.arg(u"A"_s) + disk.arg(u"B"_s)), u"Backups are made to:\nA Disk\nB Disk"_s, false},
+        {list.arg(QString()), u"No backup disk is set up yet"_s, true},
         {u"\"output\":\"<plist><dict>\""_s, localizedString("setupUnknownDisksMessage"), false},
         {u"\"status\":78"_s, localizedString("setupUnknownDisksMessage"), false},
         {u"\"fault\":\"hang\""_s, localizedString("setupUnknownDisksMessage"), false},
@@ -207,11 +265,13 @@ TEST_F(Tmutil, TheAdviceNamesTheDisksAndSaysSoOnlyWhenItIsKnownThatThereIsNone)
         play(u"[{\"expect\":[\"destinationinfo\",\"-X\"],%1}]"_s.arg(answer).toUtf8());
         QList<SetupAdvice> given;
         giveSetupAdvice(*tmutil, runLoop, [&given](const SetupAdvice& advice) { given.append(advice); });
-        runLoop.advance(Seconds(61));
+        runLoop.advance(61s);
         ASSERT_EQ(given.size(), 1) << answer.toStdString();
-        EXPECT_EQ(given.first().text, text) << answer.toStdString();
-        EXPECT_EQ(given.first().diskIsMissing, diskIsMissing) << answer.toStdString();
-        EXPECT_EQ(given.first().style, AlertStyle::Informational);
+        EXPECT_TRUE(given.first().text.startsWith(text)) << given.first().text.toStdString();
+        given.first().text.clear();
+        EXPECT_EQ(given.first(),
+                  (SetupAdvice{
+                      AlertStyle::Informational, u"About the backup disks"_s, u"Backup Disks"_s, {}, diskIsMissing}));
     }
 }
 

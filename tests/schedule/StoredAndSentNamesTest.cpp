@@ -1,7 +1,6 @@
 #include "DefaultSettings.h"
 #include "Notifications.h"
 #include "SettingsKeys.h"
-#include "TMUtil.h"
 
 #include <gtest/gtest.h>
 
@@ -44,8 +43,6 @@ TEST(StoredAndSent, NamesAndDefaultsAreThese)
     EXPECT_EQ(notifications::scheduledBackupShouldStart, u"scheduledBackupShouldStartNotification"_s);
     EXPECT_EQ(notifications::shouldUpdateStatusBar, u"shouldUpdateStatusBarNotification"_s);
     EXPECT_EQ(notifications::appUpdateAvailable, u"appUpdateAvailableNotification"_s);
-    EXPECT_EQ(TMUtil::settingsAddress().toString(),
-              u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s);
 }
 
 } // namespace quillon
