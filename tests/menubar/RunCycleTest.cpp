@@ -1,4 +1,5 @@
 #include "ControllerFixture.h"
+#include "MenuBarIcon.h"
 
 namespace quillon {
 
@@ -6,201 +7,150 @@ using namespace Qt::StringLiterals;
 
 class RunCycle : public ControllerFixture {};
 
-TEST_F(RunCycle, AScheduledBackupIsStartedFollowedAndRecorded)
+TEST_F(RunCycle, AFailureEarnsARetryAlsoWithTheScheduleOffButNotWhereNobodyWantsIt)
 {
+    letRunsFail();
     launch();
-    EXPECT_EQ(item.title, u"Next:\n1h 59m"_s);
-
-    runLoop.advanceTo(local(2026, 11, 21, 12) + std::chrono::milliseconds(400));
-    EXPECT_EQ(controller->tmState(), TMState::Running);
-    runLoop.advance(Seconds(1));
-    ASSERT_EQ(machine.starts(), 1);
-    EXPECT_LT(machine.startDates().first() - local(2026, 11, 21, 12), std::chrono::milliseconds(200));
-    EXPECT_EQ(item.image->name, u"clock.arrow.2.circlepath"_s);
-    EXPECT_EQ(manager->nextScheduledBackupDate(), local(2026, 11, 22, 12)) << "the following date is armed at once";
-
-    runLoop.advance(Seconds(30)); // in the middle of copying
-    EXPECT_TRUE(text(menu().phaseMenuItem).startsWith(u"Phase: Copying (4"_s));
-    EXPECT_EQ(text(menu().backupNowMenuItem), u"Skip This Backup"_s);
-    EXPECT_TRUE(item.title.contains(u"%\n3"_s)) << item.title.toStdString();
-    EXPECT_EQ(item.image->percent, item.title.section(u'.', 0, 0).toInt());
-
-    QList<MenuBarIconState> icons;
-    QObject::connect(controller.get(), &StatusMenuController::menuBarIconStateChanged, &item,
-                     [this, &icons] { icons.append(icon()); });
-    runLoop.advance(Seconds(90));
-    EXPECT_EQ(icons, (QList<MenuBarIconState>{MenuBarIconState::Completed, MenuBarIconState::Idle}));
-    EXPECT_EQ(controller->uiState(), TMState::NotRunning);
-    ASSERT_EQ(manager->latestBackupInfo().size(), 1);
-    const BackupInfo& record = manager->latestBackupInfo().first();
-    EXPECT_EQ(record.diskIdentifier(), u"A"_s);
-    EXPECT_EQ(record.diskName(), u"First Disk"_s);
-    EXPECT_GT(record.totalBytes(), 4'500'000);
-    EXPECT_EQ(record.date(), defaults.date(settingskeys::lastBackupDate));
-    EXPECT_EQ(defaults.string(settingskeys::lastBackupDiskIdentifier), u"A"_s);
-    EXPECT_EQ(defaults.integer(settingskeys::lastMenuBarIconState), 1) << "an idle refresh follows the completed mark";
-    EXPECT_FALSE(manager->retryBackupDate());
-    EXPECT_TRUE(text(menu().phaseMenuItem).startsWith(u"Latest Backup: Today, "_s));
+    runElsewhere(60);
+    expect("5, Retry: 5m, Back Up Now, retry 21 10:06");
+    EXPECT_EQ(row(menu().skipRetryAttemptMenuItem), u"Skip Retry"_s);
+    menu().skipRetryAttemptMenuItem->trigger();
+    runLoop.settle();
+    expect("5, Next: 1h 58m, Back Up Now, next 21 12:00");
+    EXPECT_EQ(row(menu().skipRetryAttemptMenuItem), QString());
+    defaults.stored[settingskeys::pauseUntilTag] = 3600LL;
+    runElsewhere(60);
+    expect("5, Next: 1h 58m, Back Up Now, next 21 12:00");
+    defaults.stored[settingskeys::pauseUntilTag] = 0LL;
+    defaults.stored[settingskeys::enableRetryAtFailure] = 0LL;
+    runElsewhere(60);
+    expect("5, Next: 1h 57m, Back Up Now, next 21 12:00");
+    defaults.stored[settingskeys::enableRetryAtFailure] = 1LL;
+    manager->setIsScheduleEnabled(false);
+    runElsewhere(60);
+    expect("5, Retry: Disabled, Back Up Now, retry 21 10:09");
 }
 
-TEST_F(RunCycle, ARunThatEndsBeforeItsFinishingPhaseIsAFailureWithARetryAtAWholeMinute)
-{
-    machine.phases = {{u"Copying"_s, 20, true}};
-    launch();
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(60));
-    EXPECT_EQ(icon(), MenuBarIconState::Failed);
-    EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemOrange);
-    ASSERT_TRUE(manager->retryBackupDate());
-    const auto retry = *manager->retryBackupDate();
-    EXPECT_EQ(retry.time_since_epoch() % std::chrono::minutes(1), std::chrono::milliseconds(0));
-    EXPECT_TRUE(manager->latestBackupInfo().isEmpty());
-    EXPECT_TRUE(item.title.startsWith(u"Retry:"_s));
-    EXPECT_TRUE(menu().skipRetryAttemptMenuItem->isVisible());
-    EXPECT_TRUE(text(menu().remainingTimeMenuItem).endsWith(u")"_s));
-
-    const int before = machine.starts();
-    runLoop.advanceTo(retry + std::chrono::seconds(2));
-    EXPECT_EQ(machine.starts(), before + 1) << "the retry starts a backup";
-    EXPECT_EQ(icon(), MenuBarIconState::Running);
-    EXPECT_FALSE(manager->retryBackupDate());
-}
-
-TEST_F(RunCycle, AFailureWhilePausedOrWithRetryOffEarnsNoRetry)
-{
-    machine.phases = {{u"Copying"_s, 20, true}};
-    launch();
-    controller->pauseForClicked(3600);
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(60));
-    EXPECT_EQ(icon(), MenuBarIconState::Failed);
-    EXPECT_FALSE(manager->retryBackupDate());
-
-    controller->resumeScheduleClicked();
-    defaults.setObject(settingskeys::enableRetryAtFailure, 0LL);
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(60));
-    EXPECT_EQ(icon(), MenuBarIconState::Failed);
-    EXPECT_FALSE(manager->retryBackupDate());
-}
-
-TEST_F(RunCycle, ARetryIsArmedAlthoughTheScheduleIsOff)
-{
-    machine.phases = {{u"Copying"_s, 20, true}};
-    defaults.stored[settingskeys::enableSchedule] = 0LL;
-    launch();
-    EXPECT_EQ(item.title, u"Next:\nDisabled"_s);
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(60));
-    ASSERT_TRUE(manager->retryBackupDate());
-    runLoop.advance(Seconds(400));
-    EXPECT_EQ(machine.starts(), 2);
-}
-
-TEST_F(RunCycle, AStoppedRunIsNeverRecordedAsCompleted)
+TEST_F(RunCycle, ARunStoppedElsewhereOrLostFromSightHasFailedUntilItIsFoundAgain)
 {
     launch();
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(78)); // cleaning up: marked as complete
+    runElsewhere(78); // cleaning up: marked as complete
     machine.stop();
-    runLoop.advance(Seconds(3));
-    EXPECT_EQ(controller->tmState(), TMState::Stopping);
-    EXPECT_TRUE(item.title.endsWith(u"Stopping"_s)) << item.title.toStdString();
-    EXPECT_FALSE(menu().backupNowMenuItem->isEnabled());
-    runLoop.advance(Seconds(20));
+    wait(23);
+    expect("5, Retry: 5m, Back Up Now, retry 21 10:07");
     EXPECT_TRUE(manager->latestBackupInfo().isEmpty());
-    EXPECT_TRUE(menu().backupNowMenuItem->isEnabled());
-}
-
-TEST_F(RunCycle, AnUnreadableStatusEndsARunAndDrawsNoIdleTitle)
-{
-    launch();
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(30));
-    ASSERT_EQ(controller->uiState(), TMState::Running);
-    machine.injection = {int(machine.launched().size()) + 1, TmutilScript::Fault::NotUtf8, 0};
-    runLoop.advance(Seconds(3));
-    EXPECT_EQ(controller->tmState(), TMState::Unknown);
+    runElsewhere(30);
+    spoilNext(Fault::NotUtf8);
+    wait(3);
+    expect("5, , Back Up Now, retry 21 10:08");
     EXPECT_EQ(controller->uiState(), TMState::Unknown);
-    EXPECT_EQ(icon(), MenuBarIconState::Failed);
-    EXPECT_EQ(item.title, u""_s);
-    runLoop.advance(Seconds(15));
-    EXPECT_EQ(icon(), MenuBarIconState::Running) << "the run is found again";
-    EXPECT_FALSE(manager->retryBackupDate()) << "and cancels the retry";
+    wait(15);
+    expect("2, 65.3% 20s, Skip This Backup, next 21 12:00");
 }
 
-TEST_F(RunCycle, AMarkOfTroubleSurvivesIdleRefreshesAndRestart)
+TEST_F(RunCycle, AScheduledBackupIsStartedFollowedAndRecorded)
 {
     defaults.stored[settingskeys::lastMenuBarIconState] = 6LL;
     launch();
-    runLoop.advance(Seconds(60));
-    EXPECT_EQ(icon(), MenuBarIconState::MissedSchedule);
-    EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemYellow);
-    defaults.setObject(settingskeys::enableMenuBarColors, 0LL);
+    wait(60);
+    expect("6, Next: 1h 58m, Back Up Now, next 21 12:00"); // a mark of trouble survives
+    until(today(12) + std::chrono::milliseconds(400));
+    expect("startbackup -r; 2, 0.0% Starting, Skip This Backup, next 22 12:00");
+    wait(30); // in the middle of copying
+    expect("2, 40.2% 35s, Skip This Backup, next 22 12:00");
+    EXPECT_EQ(item.image->percent, item.title.section(u'.', 0, 0).toInt());
+    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
+    QList<MenuBarIconState> icons;
+    QObject::connect(controller.get(), &StatusMenuController::menuBarIconStateChanged, &item,
+                     [&] { icons.append(icon()); });
+    wait(90);
+    expect("1, Next: 23h 58m, Back Up Now, next 22 12:00");
+    EXPECT_EQ(icons, (QList{MenuBarIconState::Completed, MenuBarIconState::Idle}));
+    ASSERT_EQ(manager->latestBackupInfo().size(), 1);
+    const BackupInfo& record = manager->latestBackupInfo().first();
+    EXPECT_EQ(record.diskIdentifier(), u"A"_s);
+    EXPECT_EQ(record.diskName(), u"First"_s);
+    EXPECT_GT(record.totalBytes(), 4'500'000);
+    EXPECT_EQ(defaults.date(settingskeys::lastBackupDate), record.date());
+    EXPECT_EQ(defaults.integer(settingskeys::lastBackupBytesCopied), record.totalBytes());
+    EXPECT_EQ(defaults.string(settingskeys::lastBackupDiskIdentifier), u"A"_s);
+    EXPECT_EQ(defaults.integer(settingskeys::lastMenuBarIconState), 1) << "an idle refresh follows the completed mark";
+    EXPECT_TRUE(row(menu().phaseMenuItem).startsWith(u"(Latest Backup: Today, 12:01"_s));
+    machine.start(u"B"_s);
+    wait(30);
+    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: Second)"_s);
+}
+
+TEST_F(RunCycle, TheItemFollowsSettingsUpdatesAndTheSystemsVersion)
+{
+    defaults.stored[settingskeys::showMenuBarIconOnly] = 1LL;
+    defaults.stored[settingskeys::showDetailedTime] = 0LL;
+    launch();
+    expect("1, , Back Up Now, next 21 12:00");
+    EXPECT_EQ(item.menu, &menu());
+    const auto tell = [this](const QString& version) {
+        notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, version}});
+        runLoop.settle();
+    };
+    tell(u"2.0"_s);
+    EXPECT_EQ(icon(), MenuBarIconState::UpdateAvailable);
+    EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemGreen);
+    defaults.stored[settingskeys::showMenuBarIconOnly] = 0LL;
+    notifications.post(notifications::shouldUpdateStatusBar);
+    runLoop.settle();
+    EXPECT_EQ(item.attributed, (AttributedTitle{u"Next: 🟢\n1h"_s, 9.5, -5.0, -5.0}));
+    EXPECT_EQ(controller->itemTitle(), (shown::ItemTitle{u"Next: 🟢"_s, u"1h"_s}));
+    controller->updateStatusBarTitle({}, u"alone"_s);
+    EXPECT_EQ(item.attributed, (AttributedTitle{u"alone"_s, 9.5, 0.0, 0.0}));
+    tell({});
+    EXPECT_EQ(item.attributed->text, u"Next:\n1h"_s);
+    controller->setMenuBarIconState(MenuBarIconState::Failed);
+    runLoop.settle();
+    EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemOrange);
+    defaults.stored[settingskeys::enableMenuBarColors] = 0LL;
     notifications.post(notifications::shouldUpdateStatusBar);
     runLoop.settle();
     EXPECT_EQ(item.image->paletteColor, std::nullopt);
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(120));
-    EXPECT_EQ(icon(), MenuBarIconState::Idle);
+    EXPECT_EQ(item.fontSize, 11.0);
+    defaults.stored.remove(settingskeys::enableMenuBarColors);
+    for (const auto& [version, size, isColoured] :
+         {std::tuple{"12.0", 11.0, true}, {"11.7", 11.0, false}, {"10.15", 12.0, false}}) {
+        const ScopedEnvironment system("QUILLON_SYSTEM_VERSION", version);
+        launch();
+        EXPECT_EQ(item.fontSize, size) << version;
+        EXPECT_EQ(item.image->paletteColor.has_value(), isColoured) << version;
+    }
 }
 
-TEST_F(RunCycle, IconOnlyModeShowsNoTitleAndMarksAnUpdate)
+TEST(MenuBarIcon, IsSymbolColourAndMeaningOfItsState)
 {
-    defaults.stored[settingskeys::showMenuBarIconOnly] = 1LL;
-    launch();
-    EXPECT_EQ(item.title, u""_s);
-    notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"2.0"_s}});
-    runLoop.settle();
-    EXPECT_EQ(icon(), MenuBarIconState::UpdateAvailable);
-    EXPECT_TRUE(menu().updateAvailableMenuItem->isVisible());
-    defaults.setObject(settingskeys::showMenuBarIconOnly, 0LL);
-    notifications.post(notifications::shouldUpdateStatusBar);
-    runLoop.settle();
-    EXPECT_EQ(item.title.section(u'\n', 0, 0), u"Next: 🟢"_s);
-    EXPECT_EQ(item.attributed->baselineOffset, -5.0);
-    notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u""_s}});
-    runLoop.settle();
-    EXPECT_FALSE(menu().updateAvailableMenuItem->isVisible());
-}
-
-TEST_F(RunCycle, TheDiskInUseIsNamedOnceThereAreTwo)
-{
-    machine.destinations = {{u"A"_s, u"50%1 disk & more"_s}, {u"B"_s, u"Second%20Disk"_s}};
-    launch();
-    EXPECT_TRUE(menu().backupDiskMenuItem->isVisible()) << "the first menu is whole as it opens";
-    EXPECT_EQ(text(menu().backupDiskMenuItem), u"Backup Disk: N/A"_s);
-    machine.start(u"B"_s);
-    runLoop.advance(Seconds(30));
-    EXPECT_EQ(text(menu().backupDiskMenuItem), u"Backup Disk: Second Disk"_s);
-    runLoop.advance(Seconds(90));
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(30));
-    EXPECT_EQ(text(menu().backupDiskMenuItem), u"Backup Disk: 50%1 disk && more"_s);
-    runLoop.advance(Seconds(90));
-    ASSERT_EQ(manager->latestBackupInfo().size(), 2);
-    EXPECT_EQ(manager->latestBackupInfo()[0].diskIdentifier(), u"A"_s);
-    machine.start(u"B"_s);
-    runLoop.advance(Seconds(120));
-    EXPECT_EQ(manager->latestBackupInfo()[0].diskIdentifier(), u"B"_s) << "newest first";
-    EXPECT_EQ(manager->latestBackupInfo().size(), 2);
-}
-
-TEST_F(RunCycle, AStartThatIsNeverReportedEndsItsFastPollingWhenTheStatusIsLost)
-{
-    launch();
-    machine.phases = {{u"Copying"_s, 0.0, true}};
-    runLoop.advanceTo(local(2026, 11, 21, 12, 0, 1));
-    ASSERT_EQ(controller->tmState(), TMState::Starting);
-    EXPECT_EQ(item.title, u"0.0%\nStarting"_s);
-    runLoop.advance(Seconds(10));
-    EXPECT_EQ(controller->tmState(), TMState::Starting) << "there is no time limit on it";
-    machine.injection = {int(machine.launched().size()) + 2, TmutilScript::Fault::Crash, 0};
-    runLoop.advance(Seconds(2));
-    EXPECT_NE(controller->tmState(), TMState::Starting);
-    const auto calls = machine.launched().size();
-    runLoop.advance(Seconds(15));
-    EXPECT_LE(machine.launched().size() - calls, 2);
+    const QString clock = u"clock.arrow.circlepath"_s;
+    const QString mark = u"exclamationmark.arrow.circlepath"_s;
+    using enum MenuBarIconState;
+    const struct {
+        MenuBarIconState state;
+        SymbolImage image;
+    } cases[] = {
+        {Idle, {clock, {}, false}},
+        {Completed, {clock, {}, false}},
+        {Running, {u"clock.arrow.2.circlepath"_s, {}, false, u"A backup is running."_s, false, 42}},
+        {UpdateAvailable, {mark, SymbolColor::SystemGreen, true, u"An update is available."_s}},
+        {Failed,
+         {u"exclamationmark.arrow.triangle.2.circlepath"_s, SymbolColor::SystemOrange, true,
+          u"The latest backup failed."_s, true}},
+        {MissedSchedule, {mark, SymbolColor::SystemYellow, true, u"A scheduled backup was missed."_s}},
+    };
+    for (const auto& [state, image] : cases) {
+        EXPECT_EQ(menuBarIcon(state, true, 0.429), image) << int(state);
+        SymbolImage plain = image;
+        plain.paletteColor.reset();
+        plain.isTemplate = false;
+        EXPECT_EQ(menuBarIcon(state, false, 0.429), plain) << int(state);
+    }
+    EXPECT_EQ(menuBarIcon(None, true, 0), std::nullopt);
+    EXPECT_EQ(menuBarIcon(Running, true, 0.0099)->percent, std::nullopt);
+    EXPECT_EQ(menuBarIcon(Running, true, 0.01)->percent, 1);
+    EXPECT_EQ(menuBarIcon(Running, true, 1.5)->percent, 100);
 }
 
 } // namespace quillon

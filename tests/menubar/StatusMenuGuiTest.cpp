@@ -1,20 +1,14 @@
-#include "ClippedTexts.h"
 #include "ColorScheme_linux.h"
 #include "ControllerFixture.h"
 #include "DBusMenu_linux.h"
 #include "EventLoop.h"
 #include "HelpButton.h"
-#include "LocalizedString.h"
 #include "Popover.h"
+#include "ShownAlerts.h"
 
-#include <QAccessible>
 #include <QApplication>
-#include <QBuffer>
 #include <QLabel>
-#include <QPushButton>
-#include <QRegularExpression>
 #include <QScreen>
-#include <QSvgGenerator>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -27,36 +21,45 @@ using namespace Qt::StringLiterals;
 /// The real menu on the screen, clicked and typed into, in front of a played Time Machine.
 class StatusMenuGui : public ControllerFixture {
 protected:
-    void SetUp() override { machine.destinations = {{u"A"_s, u"First"_s}, {u"B"_s, u"Second"_s}}; }
-
     void TearDown() override
     {
-        statusMenu().close();
+        menu().close();
         controller.reset();
     }
 
-    StatusMenu& statusMenu() { return controller->statusMenu(); }
-
-    void openMenu()
+    /// Launches the program, opens the menu and waits for what it asks for.
+    void launchAndOpen()
     {
-        statusMenu().popup({20, 20});
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&statusMenu()));
+        launch();
+        openMenu();
+        wait(0.5);
     }
-
-    void answer() { runLoop.advance(Seconds(0.5)); }
-
-    static void click(QMenu& menu, QAction* item)
+    void openMenu(const QPoint& place = {20, 20})
     {
-        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(item).center());
+        menu().popup(place);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu()));
     }
-
-    static QMenu& openSubmenu(QMenu& menu, QAction* item)
+    static void click(QMenu& menu, QAction* opener)
     {
-        click(menu, item);
-        EXPECT_TRUE(runUntil([&] { return item->menu()->isVisible(); }));
-        return *item->menu();
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(opener).center());
     }
-
+    QMenu& openByMouse(QAction* opener)
+    {
+        click(menu(), opener);
+        EXPECT_TRUE(runUntil([&] { return opener->menu()->isVisible(); }));
+        return *opener->menu();
+    }
+    QMenu& openByKeyboard(QAction* opener)
+    {
+        menu().setActiveAction(opener);
+        QTest::keyClick(&menu(), Qt::Key_Right);
+        EXPECT_TRUE(runUntil([&] { return opener->menu()->isVisible(); }));
+        return *opener->menu();
+    }
+    static QWidget* viewOf(const QMenu& history, int row)
+    {
+        return qobject_cast<QWidgetAction*>(history.actions().at(row))->defaultWidget();
+    }
     /// The popover that is up, or nothing.
     static Popover* popover()
     {
@@ -67,147 +70,102 @@ protected:
         }
         return nullptr;
     }
-
-    /// What has less room than its text needs, one a line; the menu has to fit on the screen besides. A style marks
-    /// what it leaves out of an item.
-    static std::string clippedItems(QMenu& menu)
+    void expectHelp()
     {
-        std::string clipped = clippedTexts(menu);
-        if (!menu.screen()->availableGeometry().contains(QRect(menu.mapToGlobal(QPoint()), menu.size())))
-            clipped += "beyond the screen\n";
-        QBuffer drawing;
-        QSvgGenerator generator;
-        generator.setOutputDevice(&drawing);
-        menu.render(&generator);
-        static const QRegularExpression elided(u"[^>]*\u2026[^<]*"_s);
-        for (const auto& match : elided.globalMatch(QString::fromUtf8(drawing.data())))
-            clipped += (match.captured() + u'\n').toStdString();
-        return clipped;
-    }
-
-    /// Waits for the help and answers it with its button.
-    static void closeHelp()
-    {
-        ASSERT_TRUE(runUntil([&] { return popover(); }));
-        auto* close = popover()->findChild<QPushButton*>();
-        ASSERT_TRUE(close);
-        EXPECT_EQ(close->text(), u"Close"_s);
-        QTest::mouseClick(close, Qt::LeftButton);
-        EXPECT_TRUE(runUntil([&] { return !popover(); }));
+        EXPECT_FALSE(menu().isVisible()) << "it would hold the pointer";
+        ASSERT_TRUE(runUntil([] { return alertButton(u"Close"_s); }));
+        EXPECT_TRUE(shownAlertText().startsWith(u"This list shows the latest backup"_s));
+        answerAlert(u"Close"_s);
+        EXPECT_FALSE(popover());
     }
 };
 
 TEST_F(StatusMenuGui, ADiskChosenWithTheMouseIsBackedUpTo)
 {
-    launch();
-    openMenu();
-    answer();
-    QMenu& disks = openSubmenu(statusMenu(), menu().backupNowMenuItem);
+    launchAndOpen();
+    QMenu& disks = openByMouse(menu().backupNowMenuItem);
     EXPECT_EQ(machine.starts(), 0) << "the item only opens its submenu";
+    EXPECT_EQ(disks.accessibleName(), u"Back Up Now"_s);
     click(disks, disks.actions().at(3));
-    answer();
-    EXPECT_EQ(machine.starts(), 1);
-    EXPECT_FALSE(statusMenu().isVisible());
-    answer();
-    EXPECT_EQ(text(menu().backupDiskMenuItem), u"Backup Disk: Second"_s);
+    EXPECT_FALSE(menu().isVisible());
+    wait(1);
+    expect("startbackup -d B; 2, 0.0% Starting, Skip This Backup, next 21 12:00");
+    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: Second)"_s);
 }
 
-TEST_F(StatusMenuGui, EverythingIsReachedByKeyboard)
-{
-    launch();
-    openMenu();
-    answer();
-    // From above: the history opens to the right, and its help button takes the keyboard.
-    QTest::keyClick(&statusMenu(), Qt::Key_Down);
-    EXPECT_EQ(statusMenu().activeAction(), menu().phaseMenuItem);
-    QTest::keyClick(&statusMenu(), Qt::Key_Right);
-    QMenu* history = menu().phaseMenuItem->menu();
-    ASSERT_TRUE(runUntil([&] { return history->isVisible(); }));
-    EXPECT_TRUE(qobject_cast<HelpButton*>(history->focusWidget())) << "the first row's button has the keyboard at once";
-    auto* row = qobject_cast<QWidgetAction*>(history->actions().at(2))->defaultWidget();
-    const QImage plain = row->grab().toImage();
-    QTest::keyClick(history->focusWidget(), Qt::Key_Down);
-    EXPECT_NE(row->grab().toImage(), plain) << "it shows that it is chosen";
-    EXPECT_EQ(history->focusWidget(), history) << "the button is not pressed from another row";
-    QTest::keyClick(history, Qt::Key_Left);
-    EXPECT_TRUE(runUntil([&] { return !history->isVisible(); }));
-    QTest::keyClick(&statusMenu(), Qt::Key_Down);
-    EXPECT_EQ(statusMenu().activeAction(), menu().pauseScheduleMenuItem);
-    QTest::keyClick(&statusMenu(), Qt::Key_Right);
-    QMenu* durations = menu().pauseScheduleMenuItem->menu();
-    ASSERT_TRUE(runUntil([&] { return durations->isVisible(); }));
-    QTest::keyClick(durations, Qt::Key_Down);
-    QTest::keyClick(durations, Qt::Key_Return);
-    EXPECT_EQ(defaults.integer(settingskeys::pauseUntilTag), 7200) << "two hours";
-    EXPECT_TRUE(menu().pauseScheduleMenuItem->isChecked());
-    EXPECT_TRUE(menu().resumeScheduleMenuItem->isVisible());
-}
-
-TEST_F(StatusMenuGui, WhatInformsIsReachedByTheArrowKeysAndCannotBeChosen)
+TEST_F(StatusMenuGui, EverythingIsReachedByKeyboardAlsoWhatOnlyInforms)
 {
     applyColorScheme(ColorSchemePreference::None);
-    launch();
-    machine.start(u"A"_s);
-    runLoop.advance(Seconds(20));
-    openMenu();
-    answer();
-    QList<QAction*> expected = statusMenu().actions();
+    launchAndOpen();
+    EXPECT_EQ(menu().accessibleName(), QApplication::applicationDisplayName());
+    QList<QAction*> expected = menu().actions();
     expected.removeIf([](const QAction* action) { return !action->isVisible() || action->isSeparator(); });
-    EXPECT_TRUE(expected.contains(menu().backupDiskMenuItem));
     QList<QAction*> reached;
     for (qsizetype i = 0; i < expected.size(); ++i) {
-        QTest::keyClick(&statusMenu(), Qt::Key_Down);
-        reached += statusMenu().activeAction();
+        QTest::keyClick(&menu(), Qt::Key_Down);
+        reached += menu().activeAction();
     }
     EXPECT_EQ(reached, expected);
+    const QRect line = menu().actionGeometry(menu().remainingTimeMenuItem);
+    const QImage elsewhere = menu().grab(line).toImage();
+    menu().setActiveAction(menu().remainingTimeMenuItem);
+    EXPECT_NE(menu().grab(line).toImage(), elsewhere);
+    QTest::keyClick(&menu(), Qt::Key_Return);
+    EXPECT_TRUE(menu().isVisible()) << "there is nothing to choose";
 
-    const QImage elsewhere = statusMenu().grab(statusMenu().actionGeometry(menu().remainingTimeMenuItem)).toImage();
-    statusMenu().setActiveAction(menu().remainingTimeMenuItem);
-    EXPECT_NE(statusMenu().grab(statusMenu().actionGeometry(menu().remainingTimeMenuItem)).toImage(), elsewhere);
-    QTest::keyClick(&statusMenu(), Qt::Key_Return);
-    EXPECT_TRUE(statusMenu().isVisible());
+    QMenu& durations = openByKeyboard(menu().pauseScheduleMenuItem);
+    QTest::keyClick(&durations, Qt::Key_Down);
+    QTest::keyClick(&durations, Qt::Key_Return);
+    EXPECT_EQ(row(menu().pauseScheduleMenuItem), u"*Schedule Paused Until: Today, 12:00 >"_s);
+    EXPECT_EQ(row(menu().resumeScheduleMenuItem), u"Resume Schedule"_s);
+    EXPECT_TRUE(menu().resumeScheduleSeparator->isVisible());
 }
 
-TEST_F(StatusMenuGui, TheHistorysHelpClosesTheMenuAndOpensAPopoverThatItsButtonCloses)
+TEST_F(StatusMenuGui, TheHistorysHelpIsOpenedInEveryWay)
+{
+    for (const auto key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_unknown}) {
+        launchAndOpen();
+        if (key == Qt::Key_unknown) {
+            auto* help = openByMouse(menu().phaseMenuItem).findChild<HelpButton*>();
+            EXPECT_EQ(help->accessibleName(), u"Help"_s);
+            QTest::mouseClick(help, Qt::LeftButton);
+            controller->allBackupInfoHelpButtonPressed(); // pressed again while it is there
+        } else {
+            QTest::keyClick(openByKeyboard(menu().phaseMenuItem).focusWidget(), key);
+        }
+        expectHelp();
+    }
+}
+
+TEST_F(StatusMenuGui, ATrayThatDrawsTheMenuGetsPlainRowsAndHelpAsAnItem)
 {
     launch();
-    openMenu();
-    answer();
-    QMenu& history = openSubmenu(statusMenu(), menu().phaseMenuItem);
-    auto* help = history.findChild<HelpButton*>();
-    ASSERT_TRUE(help);
-    EXPECT_TRUE(help->isVisible());
-    EXPECT_EQ(help->accessibleName(), u"Help"_s);
-    QTest::mouseClick(help, Qt::LeftButton);
-    EXPECT_FALSE(statusMenu().isVisible()) << "it would hold the pointer";
-    EXPECT_FALSE(history.isVisible());
-    controller->allBackupInfoHelpButtonPressed(); // pressed again while it is there
-    closeHelp();
-}
-
-TEST_F(StatusMenuGui, TheHistorysHelpIsPressedByKeyboard)
-{
-    for (const auto key : {Qt::Key_Return, Qt::Key_Space}) {
-        launch();
-        openMenu();
-        answer();
-        statusMenu().setActiveAction(menu().phaseMenuItem);
-        QTest::keyClick(&statusMenu(), Qt::Key_Right);
-        QMenu* history = menu().phaseMenuItem->menu();
-        ASSERT_TRUE(runUntil([&] { return history->isVisible(); }));
-        QTest::keyClick(history->focusWidget(), key);
-        closeHelp();
-    }
+    DBusMenu exported(QDBusConnection(u"none"_s), u"/Menu"_s, [] { return false; });
+    exported.setMenu(&menu());
+    exported.AboutToShow(0);
+    wait(0.5);
+    MenuLayout layout;
+    exported.GetLayout(0, -1, {}, layout);
+    const auto history = layout.children.value(0).children;
+    EXPECT_EQ(history.value(2).properties[u"label"_s], u"First: N/A"_s);
+    EXPECT_EQ(history.value(0).properties[u"label"_s], u"Latest Backup of Each Disk"_s);
+    exported.Event(history.value(0).id, u"clicked"_s, {}, 0);
+    QCoreApplication::processEvents();
+    expectHelp();
 }
 
 TEST_F(StatusMenuGui, RowsOfTheHistoryShowNamesAsHeadingsAndTellAssistiveTechnology)
 {
     machine.destinations = {{u"A"_s, u"<b>Bold</b> & %20"_s}, {u"B"_s, u"Second"_s}};
-    launch();
-    openMenu();
-    answer();
-    QMenu& history = openSubmenu(statusMenu(), menu().phaseMenuItem);
-    auto* row = qobject_cast<QWidgetAction*>(history.actions().at(2))->defaultWidget();
+    launchAndOpen();
+    QMenu& history = openByKeyboard(menu().phaseMenuItem);
+    EXPECT_TRUE(qobject_cast<HelpButton*>(history.focusWidget())) << "the first row's button has the keyboard at once";
+    EXPECT_EQ(viewOf(history, 0)->findChild<QLabel*>()->text(), u"Latest Backup of Each Disk"_s);
+    auto* row = viewOf(history, 2);
+    const QImage plain = row->grab().toImage();
+    QTest::keyClick(history.focusWidget(), Qt::Key_Down);
+    EXPECT_NE(row->grab().toImage(), plain) << "it shows that it is chosen";
+    EXPECT_EQ(history.focusWidget(), &history) << "the button is not pressed from another row";
     EXPECT_EQ(row->accessibleName(), u"<b>Bold</b> &  : N/A"_s);
     const auto labels = row->findChildren<QLabel*>();
     ASSERT_EQ(labels.size(), 1) << "a second one would leave a gap ahead of the colon";
@@ -217,51 +175,9 @@ TEST_F(StatusMenuGui, RowsOfTheHistoryShowNamesAsHeadingsAndTellAssistiveTechnol
     const auto heading = shown.begin().begin().fragment();
     EXPECT_EQ(heading.text(), u"<b>Bold</b> &  "_s);
     EXPECT_GT(heading.charFormat().fontWeight(), QFont::Normal);
-}
-
-TEST_F(StatusMenuGui, WhatInformsCanBeReadAndACommandThatIsOffLooksOff)
-{
-    for (const auto preference : {ColorSchemePreference::Light, ColorSchemePreference::Dark}) {
-        applyColorScheme(preference);
-        launch();
-        manager->setIsScheduleEnabled(false);
-        runLoop.advance(Seconds(16)); // a poll later
-        openMenu();
-        answer();
-        const QImage picture = statusMenu().grab().toImage();
-        const auto ink = [&](QAction* action) { // what differs most from the ground, but for frame and arrow
-            const QRect whole = statusMenu().actionGeometry(action);
-            const QRect row = whole.adjusted(3, 3, -whole.height(), -3);
-            int most = 0;
-            for (int x = row.left(); x <= row.right(); ++x)
-                for (int y = row.top(); y <= row.bottom(); ++y)
-                    most = std::max(most, std::abs(picture.pixelColor(x, y).lightness() -
-                                                   picture.pixelColor(row.topLeft()).lightness()));
-            return most;
-        };
-        ASSERT_FALSE(menu().pauseScheduleMenuItem->isEnabled());
-        EXPECT_GT(ink(menu().remainingTimeMenuItem), ink(menu().pauseScheduleMenuItem) + 30);
-        EXPECT_GT(ink(menu().quitMenuItem), ink(menu().remainingTimeMenuItem) + 10);
-        statusMenu().close();
-    }
-    applyColorScheme(ColorSchemePreference::None);
-}
-
-TEST_F(StatusMenuGui, ATrayThatDrawsTheMenuGetsPlainRowsAndHelpAsAnItem)
-{
-    launch();
-    DBusMenu exported(QDBusConnection(u"none"_s), u"/Menu"_s, [] { return false; });
-    exported.setMenu(&statusMenu());
-    exported.AboutToShow(0);
-    answer();
-    MenuLayout layout;
-    exported.GetLayout(0, -1, {}, layout);
-    const auto history = layout.children.value(0).children;
-    EXPECT_EQ(history.value(2).properties[u"label"_s], u"First: N/A"_s);
-    EXPECT_EQ(history.value(0).properties[u"label"_s], u"Latest Backup of Each Disk"_s);
-    exported.Event(history.value(0).id, u"clicked"_s, {}, 0);
-    QCoreApplication::processEvents();
-    closeHelp();
+    row->setPalette(QPalette(Qt::black));
+    EXPECT_FALSE(labels.first()->text().contains(heading.charFormat().foreground().color().name()))
+        << "another blue for a dark ground";
 }
 
 TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
@@ -269,40 +185,38 @@ TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
     launch();
     openMenu();
     EXPECT_FALSE(menu().backupNowMenuItem->menu()) << "nothing waits for the answer";
-    answer();
-    QMenu& disks = openSubmenu(statusMenu(), menu().backupNowMenuItem);
+    wait(0.5);
+    QMenu& disks = openByMouse(menu().backupNowMenuItem);
     machine.destinations.append({u"C"_s, u"Third"_s});
-    controller->menuWillOpen();
-    answer();
+    openMenuAndWait();
     EXPECT_TRUE(disks.isVisible()) << "more disks do not close it";
     EXPECT_EQ(disks.actions().size(), 4) << "nor move what somebody is about to click";
     disks.close();
-    openSubmenu(statusMenu(), menu().backupNowMenuItem);
+    openByMouse(menu().backupNowMenuItem);
     EXPECT_EQ(disks.actions().size(), 5);
     machine.start(u"A"_s);
-    runLoop.advance(Seconds(16));
-    EXPECT_FALSE(menu().backupNowMenuItem->menu());
+    wait(16);
     EXPECT_FALSE(disks.isVisible()) << "a backup has begun: there is nothing to choose";
-    EXPECT_TRUE(statusMenu().isVisible());
-    click(statusMenu(), menu().backupNowMenuItem);
-    answer();
+    EXPECT_TRUE(menu().isVisible());
+    click(menu(), menu().backupNowMenuItem);
+    wait(0.5);
     EXPECT_EQ(controller->tmState(), TMState::Stopping);
 }
 
-TEST_F(StatusMenuGui, RowsOfAnOpenMenuStayWhereTheyAre)
+TEST_F(StatusMenuGui, AnOpenMenuKeepsItsRowsAndItsPlaceOnTheScreen)
 {
     launch();
-    openMenu();
-    const QRect before = statusMenu().geometry();
-    const QRect quit = statusMenu().actionGeometry(menu().quitMenuItem);
+    const QRect screen = menu().screen()->availableGeometry();
+    openMenu({screen.right() - 5, 20});
+    const QRect before = menu().geometry();
     manager->setRetryBackupDate(runLoop.now() + std::chrono::minutes(5));
     notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"2.0"_s}});
-    answer();
-    EXPECT_EQ(statusMenu().geometry().bottom(), before.bottom());
-    EXPECT_EQ(statusMenu().geometry().top(), before.top());
-    EXPECT_EQ(statusMenu().actionGeometry(menu().quitMenuItem).top(), quit.top());
-    statusMenu().close();
-    openMenu();
+    wait(0.5);
+    StatusMenu::setTitle(menu().quitMenuItem, u"Quit, and much more that nobody has ever read in a menu"_s);
+    ASSERT_TRUE(runUntil([&] { return menu().width() > before.width(); }));
+    EXPECT_EQ(menu().geometry().height(), before.height());
+    EXPECT_EQ(menu().geometry().topRight(), QPoint(screen.right(), before.top()));
+    menu().close();
     EXPECT_TRUE(menu().skipRetryAttemptMenuItem->isVisible());
     EXPECT_TRUE(menu().updateAvailableMenuItem->isVisible());
 }
@@ -311,55 +225,18 @@ TEST_F(StatusMenuGui, AClickOnAnItemThatHasJustBecomeAnotherOneDoesNothing)
 {
     machine.destinations.removeLast();
     launch();
-    const QString offersStart = text(menu().backupNowMenuItem);
-    for (const bool late : {false, true}) {
+    for (const double seconds : {0.4, 0.6}) {
         openMenu();
         machine.start(u"A"_s);
-        while (text(menu().backupNowMenuItem) == offersStart)
-            runLoop.advance(Seconds(0.1));
-        if (late)
-            runLoop.advance(Seconds(1));
-        click(statusMenu(), menu().backupNowMenuItem);
-        EXPECT_FALSE(statusMenu().isVisible());
-        answer();
-        EXPECT_EQ(controller->tmState(), late ? TMState::Stopping : TMState::Running);
-        runLoop.advance(Seconds(120));
+        while (menu().backupNowMenuItem->text() == u"Back Up Now"_s)
+            wait(0.01);
+        wait(seconds);
+        click(menu(), menu().backupNowMenuItem);
+        EXPECT_FALSE(menu().isVisible());
+        wait(0.5);
+        EXPECT_EQ(controller->tmState(), seconds > 0.5 ? TMState::Stopping : TMState::Running);
+        wait(120);
     }
-}
-
-TEST_F(StatusMenuGui, NothingIsClippedInAnyLanguageOrSize)
-{
-    const QFont before = QApplication::font();
-    applyColorScheme(ColorSchemePreference::None);
-    for (const QString& table : tableLanguages()) {
-        const ScopedEnvironment formats("LC_ALL", (table + u".UTF-8"_s).toLatin1());
-        installStringTable(table);
-        for (const qreal factor : {1.0, 2.0}) {
-            QFont font = before;
-            font.setPointSizeF(before.pointSizeF() * factor);
-            QApplication::setFont(font);
-            launch();
-            openMenu();
-            answer();
-            EXPECT_EQ(clippedItems(statusMenu()), "") << table.toStdString() << ' ' << factor;
-            for (QAction* opener : {menu().phaseMenuItem, menu().pauseScheduleMenuItem, menu().backupNowMenuItem})
-                EXPECT_EQ(clippedItems(openSubmenu(statusMenu(), opener)), "") << table.toStdString() << ' ' << factor;
-            statusMenu().close();
-        }
-    }
-    QApplication::setFont(before);
-    installStringTable(u"en"_s);
-}
-
-TEST_F(StatusMenuGui, AHangingToolDoesNotFreezeTheMenu)
-{
-    launch();
-    machine.injection = {int(machine.launched().size()) + 1, TmutilScript::Fault::Hang, 0, {}};
-    openMenu();
-    answer();
-    EXPECT_EQ(statusMenu().actionAt(statusMenu().actionGeometry(menu().quitMenuItem).center()), menu().quitMenuItem);
-    click(statusMenu(), menu().preferencesMenuItem);
-    EXPECT_TRUE(runUntil([&] { return popover(); }));
 }
 
 TEST_F(StatusMenuGui, SettingsAndAboutHangBelowTheItemAndGoWithEscape)
@@ -367,14 +244,17 @@ TEST_F(StatusMenuGui, SettingsAndAboutHangBelowTheItemAndGoWithEscape)
     launch();
     openMenu();
     controller->preferencesClicked(); // a second start of the program
-    EXPECT_FALSE(statusMenu().isVisible()) << "it would lie on top";
-    for (QAction* command : {menu().preferencesMenuItem, menu().aboutMenuItem}) {
+    EXPECT_FALSE(menu().isVisible()) << "it would lie on top";
+    for (const auto& [command, title] : {std::pair{menu().preferencesMenuItem, u"Settings"_s},
+                                         {menu().aboutMenuItem, u"About Quillon"_s},
+                                         {menu().preferencesMenuItem, u"Settings"_s}}) {
         openMenu();
-        click(statusMenu(), command);
-        ASSERT_TRUE(runUntil([&] { return popover(); }));
+        click(menu(), command);
+        ASSERT_TRUE(runUntil([] { return popover(); }));
+        EXPECT_EQ(popover()->windowTitle(), title);
         EXPECT_GE(popover()->contentView()->mapToGlobal(QPoint()).y(), item.anchor().screenRect.bottom());
         QTest::keyClick(popover(), Qt::Key_Escape);
-        EXPECT_TRUE(runUntil([&] { return !popover(); }));
+        EXPECT_TRUE(runUntil([] { return !popover(); }));
     }
 }
 

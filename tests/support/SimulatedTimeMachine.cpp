@@ -23,8 +23,6 @@ void SimulatedTimeMachine::start(const QString& destination)
     begun_ = Date(runLoop_.uptime());
     stoppedAfter_.reset();
     used_.append(destination);
-    ++starts_;
-    startDates_.append(runLoop_.now());
     startUptimes_.append(runLoop_.uptime());
 }
 

@@ -44,8 +44,7 @@ public:
     void stop();
 
     bool isRunning() const;
-    int starts() const { return starts_; }
-    const QList<Date>& startDates() const { return startDates_; }
+    int starts() const { return int(startUptimes_.size()); }
     /// On the clock that nobody sets.
     const QList<std::chrono::milliseconds>& startUptimes() const { return startUptimes_; }
 
@@ -66,8 +65,6 @@ private:
     std::optional<Date> begun_;
     std::optional<double> stoppedAfter_;
     QStringList used_; ///< disk of each run, the latest last
-    int starts_ = 0;
-    QList<Date> startDates_;
     QList<std::chrono::milliseconds> startUptimes_;
 };
 

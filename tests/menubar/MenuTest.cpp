@@ -1,0 +1,216 @@
+#include "Bundle.h"
+#include "ControllerFixture.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class Menu : public ControllerFixture {
+protected:
+    QStringList history() const { return rows(menu().phaseMenuItem->menu()).sliced(2); }
+    QStringList disks() const { return rows(menu().backupNowMenuItem->menu()); }
+    bool hasSubmenus() const { return menu().phaseMenuItem->menu() || menu().backupNowMenuItem->menu(); }
+};
+
+TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
+{
+    launch();
+    EXPECT_EQ(rows(&menu()),
+              (QStringList{u"(Latest Backup: N/A)"_s, u"(Backup Disk: N/A)"_s, u"-"_s, u"Pause Schedule For >"_s,
+                           u"(Next Backup: Today, 12:00 )"_s, u"-"_s, u"Back Up Now"_s,
+                           u"Browse Time Machine Backups"_s, u"-"_s, u"Open Time Machine Settings..."_s,
+                           u"Settings..."_s, u"About Quillon..."_s, u"-"_s, u"Quit Quillon"_s}));
+    QStringList names;
+    const auto items = menu().actions();
+    for (const QAction* action : items) {
+        if (action->isSeparator())
+            continue;
+        names.append(action->objectName().replace(u"MenuItem"_s, QString()));
+        EXPECT_EQ(action->menuRole(), QAction::NoRole) << "the system would move it to another menu";
+    }
+    EXPECT_EQ(names.join(u' '),
+              u"phase backupDisk pauseSchedule resumeSchedule remainingTime skipRetryAttempt backupNow "
+              "enterTimeMachine updateAvailable openSystemPreferences preferences about quit"_s);
+    EXPECT_EQ(rows(menu().pauseScheduleMenuItem->menu()).join(u", "_s),
+              u"1 Hour, 2 Hours, 4 Hours, 8 Hours, 12 Hours, 1 Day, 2 Days, 3 Days, 4 Days, 5 Days, 6 Days, 1 Week, "
+              "2 Weeks, 3 Weeks, 4 Weeks"_s);
+    const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6.1");
+    launch();
+    EXPECT_EQ(row(menu().enterTimeMachineMenuItem), u"Enter Time Machine"_s);
+    EXPECT_EQ(row(menu().openSystemPreferencesMenuItem), u"Open Time Machine Preferences..."_s);
+    machine.start(u"A"_s);
+    wait(15);
+    EXPECT_EQ(row(menu().backupNowMenuItem), u"Skip This Backup"_s);
+}
+
+TEST_F(Menu, ItemsThatStartSomethingCanBeTakenAwayAndGivenBack)
+{
+    launch();
+    manager->setRetryBackupDate(today(11));
+    controller->enableMenuButtons(false);
+    manager->setIsScheduleEnabled(false);
+    wait(31); // polls in between
+    const auto disabled = [this] { return rows(&menu()).filter(u"("_s).join(u' ').toStdString(); };
+    EXPECT_EQ(disabled(),
+              "(Latest Backup: N/A) (Backup Disk: N/A) (Pause Schedule For >) (Next Backup: Disabled (Retry)) "
+              "(Skip Retry) (Back Up Now) (Browse Time Machine Backups) (Open Time Machine Settings...) "
+              "(Settings...)");
+    controller->enableMenuButtons(true);
+    runLoop.settle();
+    EXPECT_EQ(disabled(),
+              "(Latest Backup: N/A) (Backup Disk: N/A) (Pause Schedule For >) (Next Backup: Disabled (Retry))");
+}
+
+TEST_F(Menu, TwoDisksAreOfferedAndTheirLatestBackupsListed)
+{
+    launch();
+    machine.start(u"B"_s);
+    wait(120);
+    openMenuAndWait();
+    EXPECT_EQ(disks(), (QStringList{u"Let Time Machine Choose"_s, u"-"_s, u"First"_s, u"Second (most recent)"_s}));
+    EXPECT_EQ(history(), (QStringList{u"Second: Today, 10:01 (4.9 MB)"_s, u"First: N/A"_s}));
+    EXPECT_TRUE(menu().phaseMenuItem->isEnabled());
+    EXPECT_EQ(menu().phaseMenuItem->menu()->actions().at(2)->data(), u"B"_s);
+    machine.destinations.removeLast();
+    openMenuAndWait();
+    EXPECT_FALSE(menu().backupNowMenuItem->menu()) << "one disk is left";
+    EXPECT_EQ(history().size(), 2) << "the record stays";
+}
+
+TEST_F(Menu, ASingleDiskNeedsNeitherAChoiceNorAnOverview)
+{
+    machine.destinations.removeLast();
+    launch();
+    openMenuAndWait();
+    EXPECT_FALSE(hasSubmenus());
+    EXPECT_FALSE(menu().phaseMenuItem->isEnabled());
+    EXPECT_FALSE(menu().backupDiskMenuItem->isVisible());
+}
+
+TEST_F(Menu, NamesAreShownAsTheyAreAndDisksThatAreGoneFirst)
+{
+    machine.destinations = {{u"A"_s, u"Tom%20%26%20Jerry"_s}, {u"B"_s, u"50%1 & 100% 💾"_s}, {u"C"_s, u"גיבוי"_s}};
+    launch();
+    manager->recordLatestBackup(u"gone"_s, u"Gone"_s, 0, local(2026, 11, 1, 9));
+    manager->recordLatestBackup(u"too"_s, u"Gone\ttoo"_s, -1, local(2026, 10, 1, 9));
+    openMenuAndWait();
+    EXPECT_EQ(disks().sliced(2), (QStringList{u"Tom && Jerry"_s, u"50%1 && 100% 💾"_s, u"גיבוי"_s}));
+    EXPECT_EQ(history().join(u'|').toStdString(), "Gone too: 1 October 2026, 09:00|Gone: 1 November 2026, 09:00|"
+                                                  "Tom && Jerry: N/A|50%1 && 100% 💾: N/A|גיבוי: N/A");
+}
+
+TEST_F(Menu, TheSingleRecordOfEarlierVersionsOpensTheList)
+{
+    defaults.setDate(settingskeys::lastBackupDate, local(2026, 11, 19, 8));
+    defaults.stored[settingskeys::lastBackupDiskIdentifier] = u"B"_s;
+    defaults.stored[settingskeys::lastBackupBytesCopied] = 1'000'000'000LL;
+    launch();
+    for (int opened = 0; opened < 2; ++opened) {
+        openMenuAndWait();
+        EXPECT_EQ(history().value(0), u"Second: Thursday, 08:00 (1.00 GB)"_s);
+        EXPECT_EQ(manager->loadLatestBackupInfo().size(), 1) << "stored at once";
+    }
+}
+
+TEST_F(Menu, DuringARunNothingIsOfferedButToStopIt)
+{
+    launch();
+    openMenuAndWait();
+    ASSERT_TRUE(hasSubmenus());
+    machine.start(u"A"_s);
+    wait(20);
+    EXPECT_FALSE(hasSubmenus());
+    const auto calls = machine.launched().size();
+    controller->menuWillOpen();
+    EXPECT_EQ(machine.launched().size(), calls) << "no disks are asked for";
+    wait(100);
+    machine.callDuration = 1;
+    controller->menuWillOpen();
+    controller->backupNowClicked(); // overtakes the answer
+    wait(10);
+    ASSERT_EQ(controller->tmState(), TMState::Running);
+    EXPECT_FALSE(hasSubmenus());
+    EXPECT_FALSE(menu().phaseMenuItem->isEnabled());
+    EXPECT_EQ(controller->backupDisks().size(), 2);
+}
+
+TEST_F(Menu, AToolThatFailsOrHangsLeavesAPlainMenuThatRecovers)
+{
+    for (const auto fault : {Fault::Hang, Fault::Crash, Fault::Half, Fault::NotUtf8, Fault::Refused}) {
+        launch();
+        openMenuAndWait();
+        spoilNext(fault);
+        const auto calls = machine.launched().size();
+        for (int opened = 0; opened < 3; ++opened)
+            controller->menuWillOpen();
+        EXPECT_TRUE(menu().backupNowMenuItem->menu()) << "it keeps what it had";
+        wait(1);
+        EXPECT_EQ(machine.launched().size(), calls + 1) << "it has been asked once";
+        wait(70);
+        EXPECT_FALSE(menu().backupNowMenuItem->menu());
+        openMenuAndWait();
+        EXPECT_TRUE(menu().backupNowMenuItem->menu());
+    }
+}
+
+TEST_F(Menu, TimeMachineIsOpenedOrTheCommandsThatTakeItsPlaceAreShown)
+{
+    const ScopedEnvironment tool("QUILLON_TMUTIL", "/opt/it's/tmutil");
+    const ScopedEnvironment home("HOME", "/nowhere");
+    launch();
+    menu().enterTimeMachineMenuItem->trigger();
+    EXPECT_EQ(workspace.openedApplications, QStringList{u"com.apple.backup.launcher"_s});
+    EXPECT_TRUE(alerts.presented.empty());
+    workspace.opens = false;
+    menu().enterTimeMachineMenuItem->trigger();
+    EXPECT_EQ(takeAlert().first.informativeText,
+              u"No backup has been completed yet. If a backup disk holds earlier ones, this command lists them:\n"
+              "'/opt/it'\\''s/tmutil' listbackups"_s);
+    machine.start(u"A"_s);
+    wait(120);
+    menu().enterTimeMachineMenuItem->trigger();
+    const auto guide = takeAlert().first;
+    EXPECT_EQ(guide.messageText, u"Restoring from Your Backups"_s);
+    EXPECT_EQ(guide.buttons, QStringList{u"Close"_s});
+    for (const auto& line :
+         {u"\nFirst: Today, 10:01 (4.9 MB)\nSecond: N/A\n"_s, u"'/opt/it'\\''s/tmutil' listbackups"_s,
+          u"'/opt/it'\\''s/tmutil' restore \"$('/opt/it'\\''s/tmutil' latestbackup)\"'/nowhere' "
+          "~/'Restored'"_s})
+        EXPECT_TRUE(guide.informativeText.contains(line)) << guide.informativeText.toStdString();
+}
+
+TEST_F(Menu, SettingsAndQuittingAreReachedAndAnUpdateOpensItsPageAndThenQuits)
+{
+    int terminations = 0;
+    launch();
+    QObject::connect(controller.get(), &StatusMenuController::terminate, &workspace, [&] { ++terminations; });
+    menu().openSystemPreferencesMenuItem->trigger();
+    EXPECT_EQ(workspace.opened, QList<QUrl>{TMUtil::settingsAddress()});
+    menu().quitMenuItem->trigger();
+    EXPECT_EQ(terminations, 1);
+    notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"9.1"_s}});
+    runLoop.settle();
+    EXPECT_EQ(row(menu().updateAvailableMenuItem), u"🟢 Update Available..."_s);
+    const auto answer = [&](int response) {
+        menu().updateAvailableMenuItem->trigger();
+        const auto [alert, take] = takeAlert();
+        EXPECT_EQ(alert.messageText, u"Quillon 9.1 is available"_s);
+        EXPECT_TRUE(alert.informativeText.startsWith(u"You have version %1. The"_s.arg(bundleShortVersion())));
+        EXPECT_EQ(alert.buttons, (QStringList{u"Get Update"_s, u"Cancel"_s}));
+        take(response);
+        runLoop.settle();
+    };
+    answer(alertSecondButtonReturn);
+    EXPECT_EQ(workspace.opened.size(), 1);
+    workspace.opens = false;
+    answer(alertFirstButtonReturn);
+    EXPECT_EQ(terminations, 1) << "the page could not be opened";
+    workspace.opens = true;
+    answer(alertFirstButtonReturn);
+    EXPECT_EQ(terminations, 2);
+    EXPECT_EQ(workspace.opened.last().path(), u"/quillon/download/"_s);
+    EXPECT_EQ(workspace.opened.last().scheme(), u"https"_s);
+}
+
+} // namespace quillon

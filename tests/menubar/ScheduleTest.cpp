@@ -1,0 +1,194 @@
+#include "ControllerFixture.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class SleepAndClock : public ControllerFixture {
+protected:
+    /// A program that has backed up before: without that nothing counts as missed.
+    void launchLater()
+    {
+        defaults.setDate(settingskeys::lastBackupDate, today(9));
+        launch();
+    }
+    /// Somebody sets the clock; the next poll finds it out.
+    void setClock(Seconds step)
+    {
+        runLoop.stepWallClock(step);
+        wait(16);
+    }
+};
+
+TEST_F(SleepAndClock, AStartMissedInSleepIsMadeUpForByARetryWhereThereWasABackup)
+{
+    launch();
+    sleepUntil(today(14));
+    expect("1, Next: 22h 0m, Back Up Now, next 22 12:00");
+    defaults.setDate(settingskeys::lastBackupDate, today(9));
+    sleepUntil(today(38, 0, 30));
+    expect("6, Retry: 5m, Back Up Now, retry 22 14:06");
+    sleepUntil(today(38, 2)); // sets a fresh one
+    expect("6, Retry: 6m, Back Up Now, retry 22 14:08");
+    defaults.stored[settingskeys::enableRetryAtMissedSchedule] = 0LL;
+    sleepUntil(today(40)); // the schedule goes on below the mark
+    expect("6, Next: 20h 0m, Back Up Now, next 23 12:00");
+}
+
+TEST_F(SleepAndClock, NothingStartsWhileAsleepUntilAWakeUpThatNobodyTellsOfShows)
+{
+    defaults.stored[settingskeys::showMenuBarIconOnly] = 1LL; // nobody looks
+    launchLater();
+    workspace.sleep();
+    EXPECT_FALSE(manager->startBackupTimer().isValid());
+    runLoop.stepWallClock(3h);
+    wait(59);
+    expect("1, , Back Up Now, next 21 12:00");
+    wait(16);
+    expect("6, , Back Up Now, retry 21 13:07");
+}
+
+TEST_F(SleepAndClock, AStartPassedOverByLessThanAMinuteIsMadeAndOneByMoreMissed)
+{
+    launchLater();
+    until(today(11, 59, 45));
+    setClock(30s);
+    expect("startbackup -r; 2, 0.0% Starting, Skip This Backup, next 22 12:00");
+    wait(100);
+    sleepUntil(today(35, 59, 59));
+    runLoop.stepWallClock(90s); // asleep without notice; the timer comes before the next poll
+    wait(2);
+    expect("6, Retry: 5m, Back Up Now, retry 22 12:07");
+    wait(60);
+    expect("6, Retry: 4m, Back Up Now, retry 22 12:07"); // once
+}
+
+TEST_F(SleepAndClock, ARetryOutlivesASetClockNoFartherAheadThanBefore)
+{
+    letRunsFail();
+    launch();
+    runElsewhere(40);
+    setClock(-10min);
+    expect("5, Retry: 5m, Back Up Now, retry 21 09:56");
+    setClock(10s);
+    expect("5, Retry: 4m, Back Up Now, retry 21 09:56");
+    manager->setNextScheduledBackupDate({});
+    setClock(2s);
+    expect("5, Retry: N/A, Back Up Now, retry never"); // a drift
+    setClock(2.5s);
+    expect("5, Next: 2h 8m, Back Up Now, next 21 12:00"); // one that is not armed is none to keep
+}
+
+TEST_F(SleepAndClock, AClockSetFarBackRepeatsAStartAndANewZoneMovesIt)
+{
+    launch();
+    until(today(12, 30));
+    setClock(-2h);
+    expect("startbackup -r; 1, Next: 1d 1h, Back Up Now, next 22 12:00");
+    setClock(-4h);
+    expect("1, Next: 5h 29m, Back Up Now, next 21 12:00");
+    const ScopedEnvironment travel("TZ", "Europe/London");
+    wait(16);
+    expect("1, Next: 6h 29m, Back Up Now, next 21 12:00");
+}
+
+class Pause : public ControllerFixture {
+protected:
+    /// What the menu shows of it, what is stored of it, and when the next backup is due.
+    std::string paused() const
+    {
+        QStringList checked;
+        for (const QAction* duration : menu().pauseDurationItems())
+            checked += duration->isChecked() ? QStringList(duration->text()) : QStringList();
+        const auto end = defaults.date(settingskeys::pauseUntilDate);
+        return u"%1, %2, %3, %4, %5, next %6"_s
+            .arg(row(menu().pauseScheduleMenuItem),
+                 row(menu().resumeScheduleMenuItem) + row(menu().resumeScheduleSeparator), checked.join(u'+'),
+                 end ? DateFormatter::string(*end, u"d HH:mm"_s) : u"never"_s,
+                 defaults.object(settingskeys::pauseUntilTag).toString(),
+                 DateFormatter::string(*manager->nextScheduledBackupDate(), u"d HH:mm"_s))
+            .toStdString();
+    }
+    const std::string over = "Pause Schedule For >, , , never, 0, next 22 12:00";
+};
+
+TEST_F(Pause, LastsUntilTheGraceAfterItsEndAndIsReplacedByAnother)
+{
+    launch();
+    menu().pauseDurationItems()[2]->trigger(); // four hours
+    const std::string fourHours =
+        "*Schedule Paused Until: Today, 14:00 >, Resume Schedule-, 4 Hours, 21 14:00, 14400, next 22 12:00";
+    EXPECT_EQ(paused(), fourHours);
+    wait(14400 + 9);
+    EXPECT_EQ(paused(), fourHours);
+    wait(2);
+    EXPECT_EQ(paused(), over);
+    controller->pauseForClicked(3600);
+    wait(1800);
+    controller->pauseForClicked(172800);
+    wait(7200);
+    EXPECT_EQ(paused(),
+              "*Schedule Paused Until: Monday, 23 November 2026, 14:30 >, Resume Schedule-, 2 Days, 23 14:30, "
+              "172800, next 24 12:00")
+        << "the timer of the first one is gone";
+    EXPECT_EQ(machine.starts(), 0);
+}
+
+TEST_F(Pause, HoldsAcrossARestartAndEndsWhileNobodyLooks)
+{
+    launch();
+    controller->pauseForClicked(2419200);
+    controller->stopTimer(); // weeks of polls would only take long
+    runLoop.advance(20 * 24h);
+    controller.reset();
+    launch();
+    EXPECT_EQ(paused(), "*Schedule Paused Until: Saturday, 19 December 2026, 10:00 >, Resume Schedule-, 4 Weeks, 19 "
+                        "10:00, 2419200, next 19 12:00");
+    controller.reset();
+    runLoop.advance(9 * 24h);
+    launch();
+    EXPECT_EQ(paused(), "Pause Schedule For >, , , never, 0, next 20 12:00");
+    EXPECT_EQ(machine.starts(), 0);
+}
+
+TEST_F(Pause, ResumedEarlyIsOverAndItsTimerLeavesALaterRetryAlone)
+{
+    letRunsFail();
+    launch();
+    controller->pauseForClicked(3600);
+    menu().resumeScheduleMenuItem->trigger();
+    runLoop.settle();
+    EXPECT_EQ(paused(), "Pause Schedule For >, , , never, 0, next 21 12:00");
+    until(today(10, 57));
+    machine.start(u"A"_s);
+    until(today(11, 1));
+    EXPECT_EQ(manager->retryBackupDate(), today(11, 3));
+    controller->pauseForClicked(3600);
+    EXPECT_FALSE(manager->retryBackupDate()) << "a pause drops it";
+}
+
+TEST_F(Pause, FollowsSleepAndAClockThatIsSet)
+{
+    launch();
+    controller->pauseForClicked(7200);
+    const std::string twoHours = paused();
+    runLoop.stepWallClock(-30min);
+    wait(5400);
+    EXPECT_EQ(paused(), twoHours) << "the end is a date";
+    sleepUntil(today(11, 50));
+    EXPECT_EQ(paused(), twoHours) << "one that outlasts a sleep goes on";
+    sleepUntil(today(12, 5));
+    EXPECT_EQ(paused(), over);
+    controller->pauseForClicked(3600);
+    runLoop.stepWallClock(61min);
+    wait(16);
+    EXPECT_EQ(paused(), over);
+    controller->pauseForClicked(3600);
+    wait(3603);
+    manager->scheduleNextBackup(); // forgets the pause before its timer has run
+    sleepUntil(runLoop.now() + 1s);
+    EXPECT_EQ(paused(), over);
+}
+
+} // namespace quillon
