@@ -18,21 +18,10 @@ constexpr auto reactionTime = 2s;
 
 } // namespace
 
-void Tally::add(const Tally& other)
-{
-    due += other.due;
-    made += other.made;
-    retries += other.retries;
-    for (const auto& [reason, count] : other.skipped.asKeyValueRange())
-        skipped[reason] += count;
-    lost += other.lost;
-    doubled += other.doubled;
-    untrue += other.untrue;
-}
-
-LivedSchedule::LivedSchedule(Date begin, unsigned seed)
+LivedSchedule::LivedSchedule(Date begin, unsigned seed, Tally& tally)
     : PlayedProgram(begin)
     , random_(seed)
+    , tally_(tally)
 {
     defaults.stored[settingskeys::lastBackupDate] =
         QDateTime::fromMSecsSinceEpoch(begin.time_since_epoch().count() - 1);
@@ -104,56 +93,46 @@ void LivedSchedule::play(Event event, Date due)
     switch (event) {
     case Event::Nothing:
     case Event::SetBack:
-        runLoop.advanceTo(due + reactionTime);
-        expectStart(due, true, {});
+        pass(due, true);
         letRunEnd();
         if (event == Event::SetBack) {
             runLoop.stepWallClock(-std::chrono::seconds(between(10, 600)));
             runLoop.advanceTo(std::max(runLoop.now(), due) + 2min);
             expectStart(due, false, {});
         }
-        break;
+        return;
     case Event::RunFails:
         machine.phases = {{u"Copying"_s, 20, true}};
-        runLoop.advanceTo(due + reactionTime);
-        expectStart(due, true, {});
+        pass(due, true);
         letRunEnd(); // as a completed one would have ended too
         machine.phases = completed;
         expectRetry();
-        break;
+        return;
     case Event::Asleep:
         sleepUntil(due + std::chrono::seconds(between(1, 3600)));
-        runLoop.advance(reactionTime);
-        expectStart(due, false, u"asleep"_s);
+        pass(runLoop.now(), false, u"asleep"_s);
         expectRetry();
-        break;
+        return;
     case Event::SmallJump:
+    case Event::LargeJump: {
+        const bool isMade = event == Event::SmallJump;
         runLoop.advanceTo(due - 20s);
-        runLoop.stepWallClock(std::chrono::seconds(between(21, 60)));
-        runLoop.advance(16s);
-        expectStart(due, true, {});
-        letRunEnd();
+        runLoop.stepWallClock(std::chrono::seconds(isMade ? between(21, 60) : between(100, 3600)));
+        pass(runLoop.now() + 14s, isMade, isMade ? QString() : u"the clock was set past it"_s);
+        if (!isMade)
+            expectRetry();
         break;
-    case Event::LargeJump:
-        runLoop.advanceTo(due - 20s);
-        runLoop.stepWallClock(std::chrono::seconds(between(100, 3600)));
-        runLoop.advance(16s);
-        expectStart(due, false, u"the clock was set past it"_s);
-        expectRetry();
-        break;
+    }
     case Event::Paused:
         controller->pauseForClicked(3600);
-        runLoop.advanceTo(due + reactionTime);
-        expectStart(due, false, u"paused"_s);
+        pass(due, false, u"paused"_s);
         controller->resumeScheduleClicked();
-        break;
+        return;
     case Event::OtherRun:
         runLoop.advanceTo(due - 30s);
         machine.start(u"A"_s);
         ++seen_;
-        runLoop.advanceTo(due + reactionTime);
-        expectStart(due, false, u"another backup ran"_s);
-        letRunEnd();
+        pass(due, false, u"another backup ran"_s);
         break;
     case Event::ToolFails:
         runLoop.advanceTo(due - 1s);
@@ -161,20 +140,24 @@ void LivedSchedule::play(Event event, Date due)
                                                     [](const auto& call) { return call.arguments.value(0); })) +
                                  1,
                              TmutilScript::Fault::Refused, 0, u"startbackup"_s};
-        runLoop.advanceTo(due + reactionTime);
-        expectStart(due, false, u"refused"_s);
+        pass(due, false, u"refused"_s);
         machine.injection = {};
-        break;
+        return;
     case Event::ByHand:
         runLoop.advanceTo(due - 1s);
         controller->backupNowClicked();
-        runLoop.advanceTo(due + reactionTime);
-        tally_.skipped[u"started by hand"_s] += 1;
         ++seen_;
-        expectStart(due, false, {});
-        letRunEnd();
+        pass(due, false, u"started by hand"_s);
         break;
     }
+    letRunEnd();
+}
+
+/// A start that is due, or would be.
+void LivedSchedule::pass(Date due, bool isExpected, const QString& reason)
+{
+    runLoop.advanceTo(due + reactionTime);
+    expectStart(due, isExpected, reason);
 }
 
 void LivedSchedule::expectStart(Date due, bool isExpected, const QString& reason)

@@ -22,7 +22,7 @@ struct Tally {
     QStringList doubled;        ///< when one was made that nothing called for
     QStringList untrue;         ///< when something else was shown than was so
 
-    void add(const Tally& other);
+    std::string trouble() const { return (lost + doubled + untrue).join(u'\n').toStdString(); }
 };
 
 /// A computer with the whole program on it, day after day: it sleeps and wakes, somebody sets its clock and travels
@@ -40,11 +40,9 @@ public:
         ScopedEnvironment language{"LC_ALL", "en_US.UTF-8"};
     };
 
-    LivedSchedule(Date begin, unsigned seed);
+    LivedSchedule(Date begin, unsigned seed, Tally& tally);
 
     void liveThrough(int days);
-    const Tally& tally() const { return tally_; }
-    Date now() const { return runLoop.now(); }
 
 private:
     /// What happens around the time of a start.
@@ -55,6 +53,7 @@ private:
     void meet(Date due);
     void travel();
     void play(Event event, Date due);
+    void pass(Date due, bool isExpected, const QString& reason = {});
     void expectStart(Date from, bool isExpected, const QString& reason);
     void expectRetry();
     void letRunEnd();
@@ -62,7 +61,7 @@ private:
     QString lineAt(Date date) const;
 
     std::mt19937 random_;
-    Tally tally_;
+    Tally& tally_;
     Event event_ = Event::Nothing;
     int seen_ = 0; ///< how many runs have been accounted for
 };
