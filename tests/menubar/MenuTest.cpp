@@ -1,6 +1,9 @@
 #include "Bundle.h"
 #include "ControllerFixture.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -178,6 +181,13 @@ TEST_F(Menu, TimeMachineIsOpenedOrTheCommandsThatTakeItsPlaceAreShown)
           u"'/opt/it'\\''s/tmutil' restore \"$('/opt/it'\\''s/tmutil' latestbackup)\"'/nowhere' "
           "~/'Restored'"_s})
         EXPECT_TRUE(guide.informativeText.contains(line)) << guide.informativeText.toStdString();
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QFile::link(u"/bin/true"_s, folder.filePath(u"tmutil"_s)));
+    const ScopedEnvironment path("PATH", folder.path().toUtf8());
+    const ScopedEnvironment found("QUILLON_TMUTIL", folder.filePath(u"tmutil"_s).toUtf8());
+    menu().enterTimeMachineMenuItem->trigger();
+    EXPECT_TRUE(
+        takeAlert().first.informativeText.contains(u"\ntmutil restore \"$(tmutil latestbackup)\"'/nowhere' "_s));
 }
 
 TEST_F(Menu, SettingsAndQuittingAreReachedAndAnUpdateOpensItsPageAndThenQuits)
