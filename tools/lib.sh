@@ -57,5 +57,5 @@ build() {
 
 # All C++ sources, ended by NUL.
 find_sources() {
-    find "$root"/{bench,resources,src,tests} \( -name '*.cpp' -o -name '*.h' -o -name '*.mm' \) -print0
+    find "$root"/{bench,resources,src,tests,tools/shots} \( -name '*.cpp' -o -name '*.h' -o -name '*.mm' \) -print0
 }

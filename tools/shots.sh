@@ -10,7 +10,7 @@ export LSAN_OPTIONS=suppressions=$root/tests/support/leaks.txt:print_suppression
 while read -r setup locale screen_scale text_scale; do
     mkdir -p "$folder/$setup"
     env -u LANGUAGE LC_ALL="$locale" QT_SCALE_FACTOR="$screen_scale" \
-        "$root/build/sanitize/tests/shots/quillon_shots" "$folder/$setup" "$text_scale" \
+        "$root/build/sanitize/tools/shots/quillon_shots" "$folder/$setup" "$text_scale" \
         </dev/null 2>"$folder/$setup/log" || die "$setup: $(<"$folder/$setup/log")"
     for scheme in light dark; do
         montage -pointsize 20 -label '%t' "$folder/$setup/$scheme"-*.png -tile 4x -geometry '+6+6' "$folder/sheet-$setup-$scheme.png"

@@ -1,5 +1,5 @@
 # Compiles for macOS on Debian, as far as object files: Zig has a clang++ with the headers of Darwin's C library,
-# tests/macos/frameworks declares what is called of Apple's frameworks, and Qt, ICU and libplist are the host's
+# tools/macos/frameworks declares what is called of Apple's frameworks, and Qt, ICU and libplist are the host's
 # headers. Nothing can be linked.
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH tools)
 cmake_path(GET tools PARENT_PATH root)
@@ -19,7 +19,7 @@ foreach(library plist unicode)
   file(CREATE_LINK /usr/include/${library} ${borrowed}/${library} SYMBOLIC)
 endforeach()
 foreach(language CXX OBJCXX)
-  set(CMAKE_${language}_FLAGS_INIT "-isystem ${root}/tests/macos/frameworks -isystem ${borrowed}")
+  set(CMAKE_${language}_FLAGS_INIT "-isystem ${root}/tools/macos/frameworks -isystem ${borrowed}")
 endforeach()
 
 # Packages: what Debian's CMake files ask for on macOS and do not find here.
