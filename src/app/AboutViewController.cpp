@@ -1,16 +1,17 @@
 #include "AboutViewController.h"
 
+#include "Accessibility.h"
 #include "AlertPresenter.h"
+#include "ApplicationIdentity.h"
 #include "DataHelper.h"
 #include "LocalizedString.h"
-#include "MakerSite.h"
-#include "Mnemonics.h"
 #include "RunLoop.h"
 #include "ScreenFittingArea.h"
 #include "Workspace.h"
 #include "ui_AboutView.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QVBoxLayout>
 
@@ -18,9 +19,28 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+ApplicationIcon::ApplicationIcon(QWidget* parent)
+    : QWidget(parent)
+    , renderer_(u":/icon/com.Orvane.Quillon.svg"_s)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize ApplicationIcon::sizeHint() const
+{
+    constexpr int side = 112; // logical pixels
+    return {side, side};
+}
+
+void ApplicationIcon::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    renderer_.render(&painter, rect());
+}
+
 namespace {
 
-const QString applicationName = u"Quillon"_s;
+const QString applicationName = identity::name;
 
 QUrl feedbackMail()
 {

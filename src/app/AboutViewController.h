@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSvgRenderer>
 #include <QWidget>
 
 #include <memory>
@@ -10,11 +11,25 @@ class AboutView;
 
 namespace quillon {
 
+/// The application's icon, drawn when it is needed, so that it is sharp on every screen.
+class ApplicationIcon final : public QWidget {
+public:
+    explicit ApplicationIcon(QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QSvgRenderer renderer_;
+};
+
 class AlertPresenter;
 class RunLoop;
 class Workspace;
 
-/// Content of the about popover: which version this is, who made it, and the ways to the maker. Main thread only.
+/// Content of the about popover: which version this is, who made it, and the ways to the maker.
 class AboutViewController final : public QWidget {
     Q_OBJECT
 

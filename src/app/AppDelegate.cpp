@@ -1,13 +1,12 @@
 #include "AppDelegate.h"
 
+#include "ApplicationIdentity.h"
 #include "Cirrel.h"
+#include "DataHelper.h"
 #include "LocalizedString.h"
-#include "MakerSite.h"
-#include "Notifications.h"
-#include "SettingsKeys.h"
 #include "SetupAdvice.h"
-#include "SystemVersion.h"
-#include "TextComparison.h"
+#include "ShownText.h"
+#include "StoredAndSentNames.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -33,7 +32,7 @@ AppDelegate::AppDelegate(const Services& services)
     , notifications_(services.notifications)
     , workspace_(services.workspace)
     , alerts_(services.alerts)
-    , tmutil_(services.tmutilQueue, services.launcher, services.runLoop, services.workspace, services.alerts)
+    , tmutil_(services.tmutil)
     , version_(services.version)
 {
 }
@@ -86,7 +85,7 @@ void AppDelegate::scheduleCheckForAppUpdateTimer()
 void AppDelegate::presentFirstLaunchAlert(const SetupAdvice& advice)
 {
     AlertRequest alert;
-    const QString name = u"Quillon"_s;
+    const QString name = identity::name;
     alert.messageText = localizedString("firstStartInfoAlertTitle").arg(name);
     alert.informativeText = localizedString("firstStartInfoAlertMessage").arg(advice.text, name);
     alert.buttons = {localizedString("AlertButtonClose"), localizedString("AlertButtonHelp")};

@@ -15,8 +15,7 @@ namespace quillon {
 struct SetupAdvice;
 
 /// What belongs to the program as a whole: the check for a newer version, at launch, on wake and once a day, and the
-/// alert of the first launch, which is followed by Time Machine's settings where a disk is yet to be set up. Main
-/// thread only.
+/// alert of the first launch, which is followed by Time Machine's settings where a disk is yet to be set up.
 class AppDelegate final : public QObject {
     Q_OBJECT
 
@@ -27,8 +26,7 @@ public:
         NotificationCenter& notifications;
         Workspace& workspace;
         AlertPresenter& alerts;
-        TMUtilQueue& tmutilQueue;
-        TaskLauncher& launcher;
+        TMUtil& tmutil;
         QString version; ///< of the program, such as 2.4.1
     };
 
@@ -59,7 +57,7 @@ private:
     NotificationCenter& notifications_;
     Workspace& workspace_;
     AlertPresenter& alerts_;
-    TMUtil tmutil_;
+    TMUtil& tmutil_;
     const QString version_;
     bool isRunning_ = false;
     Timer checkForAppUpdateTimer_;

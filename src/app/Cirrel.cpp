@@ -1,7 +1,7 @@
 #include "Cirrel.h"
 
 #include "PropertyList.h"
-#include "StrictUtf8.h"
+#include "TextEncoding.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Error.h"
 #include "FormPoster.h"
 #include "RunLoop.h"
 #include "UserDefaults.h"
@@ -21,7 +20,7 @@ namespace quillon {
 ///
 /// One for the whole process; there are no objects of this class. Completions may be empty; they are called once at
 /// most, on the main thread. Every failure reaches them as an error: of errorDomain(), of the HTTP client or of the
-/// JSON reader. Main thread only.
+/// JSON reader.
 class Cirrel {
 public:
     /// What the client stands on. Main makes one; while there is none the client is not initialised. Requests that are

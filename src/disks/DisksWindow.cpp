@@ -1,10 +1,9 @@
 #include "DisksWindow.h"
 
-#include "AccessibleRole.h"
+#include "Accessibility.h"
 #include "DisksPage.h"
-#include "ExclusionsPage.h"
+#include "FolderPages.h"
 #include "LocalizedString.h"
-#include "SourcesPage.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,7 +1,6 @@
 #include "ExclusionDialog.h"
 
 #include "BackupSetup.h"
-#include "Entries.h"
 #include "LocalizedString.h"
 #include "Setup.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Timer.h"
+#include "RunLoop.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -19,7 +19,7 @@ class TmutilClient;
 struct TmutilAnswer;
 
 /// Asks which files are to be left out by their names or by their size, and shows what of the present folders that
-/// would be before it takes an answer. Main thread only.
+/// would be before it takes an answer.
 class ExclusionDialog final : public QDialog {
     Q_OBJECT
 

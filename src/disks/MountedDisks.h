@@ -1,7 +1,7 @@
 #pragma once
 
 #include "RunLoop.h"
-#include "TaskLauncher.h"
+#include "Task.h"
 
 #include <QByteArray>
 #include <QString>
@@ -26,7 +26,7 @@ struct MountedDisk {
 std::optional<std::vector<MountedDisk>> readMountedDisks(const QByteArray& lsblk);
 
 /// Which disks are mounted. lsblk is asked, in a process of its own: a disk that hangs would block whoever asks the
-/// kernel for its room, and blocks lsblk, too, which then is given up. Main thread only.
+/// kernel for its room, and blocks lsblk, too, which then is given up.
 class MountedDisks {
 public:
     enum class State {

@@ -1,10 +1,10 @@
 // Started by the system at log-in: starts Quillon, unless it runs already, and ends.
 
+#include "ApplicationIdentity.h"
 #include "QuillonStart.h"
 #include "SingleInstance.h"
 
 #include <QCoreApplication>
-#include <QStandardPaths>
 
 #include <cstdio>
 
@@ -12,8 +12,7 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     // Started twice Quillon would show its settings, which nobody asked for.
-    if (quillon::SingleInstance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
-            .isHeldByAnother())
+    if (quillon::SingleInstance(quillon::identity::instanceLock()).isHeldByAnother())
         return 0;
     QString error;
     if (quillon::startQuillon(&error))

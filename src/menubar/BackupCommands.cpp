@@ -1,8 +1,8 @@
 #include "BackupCommands.h"
 
 #include "LocalizedString.h"
-#include "SettingsKeys.h"
-#include "StartFailure.h"
+#include "StoredAndSentNames.h"
+#include "SystemAdvice.h"
 
 #include <utility>
 

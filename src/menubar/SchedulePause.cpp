@@ -1,8 +1,8 @@
 #include "SchedulePause.h"
 
 #include "LocalizedString.h"
-#include "SettingsKeys.h"
 #include "Shown.h"
+#include "StoredAndSentNames.h"
 
 namespace quillon {
 

@@ -1,14 +1,58 @@
 #pragma once
 
-#include "ClockWatch.h"
+#include "Calendar.h"
 #include "DataManager.h"
+#include "RunLoop.h"
 #include "SchedulePause.h"
 #include "StatusItemFace.h"
 #include "UserDefaults.h"
 
+#include <QList>
 #include <QObject>
 
+#include <chrono>
+#include <optional>
+
 namespace quillon {
+
+/// Notices that the wall clock was set, or the time zone changed, since it was last looked at, and keeps in mind that
+/// the system sleeps. A zone is what it does in the coming year, not its name: /etc/localtime keeps its name, and a law
+/// changes what a name stands for.
+class ClockWatch {
+public:
+    struct Change {
+        std::chrono::milliseconds step{0}; ///< how far the wall clock was set, negative for back; 0 for mere drift
+        bool newTimeZone = false;
+
+        bool isAny() const { return step != std::chrono::milliseconds(0) || newTimeZone; }
+    };
+
+    explicit ClockWatch(const RunLoop& runLoop);
+
+    /// What changed since the last look. Whoever looks knows that the system is awake.
+    Change look();
+
+    void systemWillSleep() { asleepSince_ = runLoop_.uptime(); }
+    bool isAsleep() const { return asleepSince_.has_value(); }
+    /// The system has been awake for a minute without telling of it.
+    bool wakeUpWasLost() const;
+
+private:
+    struct ZoneYear {
+        Date begin;
+        int offset = 0;
+        QList<OffsetChange> changes;
+
+        bool operator==(const ZoneYear&) const = default;
+    };
+
+    static ZoneYear zoneYearFrom(Date begin);
+
+    const RunLoop& runLoop_;
+    std::chrono::milliseconds wallAheadOfUptime_{};
+    ZoneYear zone_;
+    std::optional<std::chrono::milliseconds> asleepSince_; ///< on the uptime clock
+};
 
 /// Holds the schedule against sleep, the clock and failed runs: finds starts that were missed, marks them, and plans
 /// retries. What becomes of a start is decided in startdecision.

@@ -1,19 +1,77 @@
 #include "StatusItemFace.h"
 
+#include "DataHelper.h"
 #include "LocalizedString.h"
-#include "MenuBarIcon.h"
-#include "ProcessInfo.h"
-#include "SettingsKeys.h"
-#include "SystemVersion.h"
+#include "StoredAndSentNames.h"
+
+#include <algorithm>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+SymbolImage plain(const QString& name)
+{
+    return {name, std::nullopt, false};
+}
+
+SymbolImage meaning(SymbolImage image, const char* descriptionKey)
+{
+    image.description = localizedString(descriptionKey);
+    return image;
+}
+
+/// Nothing before a run has told how far it has come.
+std::optional<int> shownPercent(double percentage)
+{
+    const int percent = static_cast<int>(std::min(percentage, 1.0) * 100);
+    return percent > 0 ? std::optional(percent) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<SymbolImage> menuBarIcon(MenuBarIconState state, bool colorsAreOn, double percentage)
+{
+    // The coloured image is marked as a template image all the same.
+    const auto coloured = [colorsAreOn](const QString& name, SymbolColor color) {
+        return colorsAreOn ? SymbolImage{name, color, true} : plain(name);
+    };
+    switch (state) {
+    case MenuBarIconState::Idle:
+    case MenuBarIconState::Completed:
+        return plain(u"clock.arrow.circlepath"_s);
+    case MenuBarIconState::Running: {
+        SymbolImage image = meaning(plain(u"clock.arrow.2.circlepath"_s), "iconRunningDescription");
+        image.percent = shownPercent(percentage);
+        return image;
+    }
+    case MenuBarIconState::UpdateAvailable:
+        return meaning(coloured(u"exclamationmark.arrow.circlepath"_s, SymbolColor::SystemGreen),
+                       "iconUpdateDescription");
+    case MenuBarIconState::Failed: {
+        SymbolImage image =
+            meaning(coloured(u"exclamationmark.arrow.triangle.2.circlepath"_s, SymbolColor::SystemOrange),
+                    "iconFailedDescription");
+        image.needsAttention = true;
+        return image;
+    }
+    case MenuBarIconState::MissedSchedule:
+        return meaning(coloured(u"exclamationmark.arrow.circlepath"_s, SymbolColor::SystemYellow),
+                       "iconMissedDescription");
+    case MenuBarIconState::None:
+        break;
+    }
+    return std::nullopt;
+}
 
 namespace {
 
 /// Points of the system font.
-double buttonFontSize(const OperatingSystemVersion& system)
+double buttonFontSize()
 {
-    return system.major < 11 ? 12.0 : 11.0;
+    return systemIsAtLeast(u"11.0") ? 11.0 : 12.0;
 }
 
 } // namespace
@@ -24,7 +82,7 @@ StatusItemFace::StatusItemFace(RunLoop& runLoop, UserDefaults& defaults, StatusI
     , item_(item)
     , run_(run)
 {
-    item_.setFontSize(buttonFontSize(operatingSystemVersion()));
+    item_.setFontSize(buttonFontSize());
 }
 
 void StatusItemFace::restore()

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "MenuBarIconState.h"
 #include "RunLoop.h"
 #include "Shown.h"
 #include "StatusItem.h"
+#include "StoredAndSentNames.h"
 #include "UserDefaults.h"
 
 #include <QObject>
@@ -12,6 +12,10 @@
 #include <optional>
 
 namespace quillon {
+
+/// The image for a state: coloured where the user wants that and the system can, with how far a run has come, a
+/// fraction, in the one of a run. None has no image.
+std::optional<SymbolImage> menuBarIcon(MenuBarIconState state, bool colorsAreOn, double percentage);
 
 /// What the item in the menu bar shows: its title of two lines, and the icon of a state that is kept between launches.
 class StatusItemFace final : public QObject {

@@ -1,12 +1,10 @@
 #include "StatusMenuController.h"
 
-#include "Bundle.h"
+#include "ApplicationIdentity.h"
+#include "DataHelper.h"
 #include "LocalizedString.h"
-#include "MakerSite.h"
-#include "Notifications.h"
-#include "RestoreGuide.h"
-#include "SettingsKeys.h"
-#include "SystemVersion.h"
+#include "StoredAndSentNames.h"
+#include "SystemAdvice.h"
 
 namespace quillon {
 
@@ -14,14 +12,14 @@ using namespace Qt::StringLiterals;
 
 StatusMenuController::StatusMenuController(const Services& services)
     : services_(services)
-    , tmutil_(services.tmutilQueue, services.launcher, services.runLoop, services.workspace, services.alerts)
     , statusMenu_(services.runLoop)
-    , follower_(services.runLoop, tmutil_)
-    , commands_({services.runLoop, services.defaults, services.dataManager, services.alerts, tmutil_, follower_})
-    , disks_({services.runLoop, services.defaults, services.dataManager, tmutil_, follower_.run()}, statusMenu_)
+    , follower_(services.runLoop, services.tmutil)
+    , commands_(
+          {services.runLoop, services.defaults, services.dataManager, services.alerts, services.tmutil, follower_})
+    , disks_({services.runLoop, services.defaults, services.dataManager, services.tmutil, follower_.run()}, statusMenu_)
     , pause_({services.runLoop, services.defaults, services.dataManager}, statusMenu_)
     , panels_({services.runLoop, services.defaults, services.notifications, services.dataManager, services.loginItem,
-               services.tmutilQueue, services.launcher, services.workspace, services.alerts},
+               services.tmutil, services.workspace, services.alerts},
               services.statusItem, statusMenu_)
     , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
     , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
@@ -76,7 +74,7 @@ void StatusMenuController::titleMenuItems()
         StatusMenu::setTitle(item, pattern.arg(localizedString(key)));
     };
     const QString opens = u"%1..."_s;
-    StatusMenu::setTitle(statusMenu_.quitMenuItem, localizedString("quitApplicationTitle").arg(u"Quillon"_s));
+    StatusMenu::setTitle(statusMenu_.quitMenuItem, localizedString("quitApplicationTitle").arg(identity::name));
     title(statusMenu_.skipRetryAttemptMenuItem, "skipRetryAttemptTitle");
     title(statusMenu_.enterTimeMachineMenuItem, enterTimeMachineTitleLocaleKey_);
     title(statusMenu_.updateAvailableMenuItem, "updateAvailableMenuTitle", u"🟢 %1..."_s);
@@ -175,7 +173,7 @@ void StatusMenuController::enterTimeMachineClicked()
 
 void StatusMenuController::openSystemPreferences()
 {
-    tmutil_.openTimeMachineSettings(u"Quillon"_s);
+    services_.tmutil.openTimeMachineSettings(identity::name);
 }
 
 void StatusMenuController::updateAvailableClicked()
@@ -193,6 +191,116 @@ void StatusMenuController::updateAvailableClicked()
                 services_.runLoop.enqueue([this] { quitClicked(); });
         });
     });
+}
+
+shown::Snapshot StatusMenuController::snapshot() const
+{
+    const UserDefaults& defaults = services_.defaults;
+    const DataManager& model = services_.dataManager;
+    return {
+        .now = services_.runLoop.now(),
+        .run = follower_.run(),
+        .isScheduleEnabled = model.isScheduleEnabled(),
+        .nextScheduledBackupDate = model.nextScheduledBackupDate(),
+        .retryBackupDate = model.retryBackupDate(),
+        .pauseUntil = defaults.date(settingskeys::pauseUntilDate),
+        .lastBackupDate = defaults.date(settingskeys::lastBackupDate),
+        .lastBackupBytes = defaults.integer(settingskeys::lastBackupBytesCopied),
+        .lastBackupDisk = defaults.string(settingskeys::lastBackupDiskIdentifier),
+        .backupDisks = disks_.backupDisks(),
+        .iconOnly = defaults.integer(settingskeys::showMenuBarIconOnly) != 0,
+        .detailedTime = defaults.integer(settingskeys::showDetailedTime) == 1,
+        .updateIsAvailable = latestAppVersion_.has_value(),
+        .commandIsUnderWay = commands_.isUnderWay(),
+        .skipThisBackupTitleLocaleKey = skipThisBackupTitleLocaleKey_,
+    };
+}
+
+void StatusMenuController::showStep(const BackupRun::Step& step)
+{
+    if (step.end)
+        endRun(*step.end);
+    const auto now = snapshot();
+    if (const auto title = shown::itemTitle(now))
+        updateStatusBarTitle(title->title, title->text);
+    if (step.began)
+        beginRun();
+    if (const auto icon = shown::idleIcon(now))
+        setMenuBarIconState(*icon);
+    if (now.run.isActive())
+        face_.drawIcon(); // whose progress may have changed
+    showMenu(shown::menu(snapshot()));
+    Q_EMIT statusBarUpdated();
+}
+
+void StatusMenuController::beginRun()
+{
+    services_.dataManager.setRetryBackupDate(std::nullopt);
+    disks_.request();
+    setMenuBarIconState(MenuBarIconState::Running);
+}
+
+void StatusMenuController::endRun(const BackupRun::End& end)
+{
+    setMenuBarIconState(MenuBarIconState::Completed);
+    if (end.completed)
+        recordCompletedRun(end);
+    if (end.failed()) {
+        setMenuBarIconState(MenuBarIconState::Failed);
+        schedule_.setRetryInFiveMinutesIfEnabled(settingskeys::enableRetryAtFailure);
+    }
+    updateStatusBarTitle({}, {});
+}
+
+void StatusMenuController::recordCompletedRun(const BackupRun::End& end)
+{
+    const QString identifier = end.disk.value_or(QString());
+    UserDefaults& defaults = services_.defaults;
+    defaults.setDate(settingskeys::lastBackupDate, end.completed);
+    defaults.setObject(settingskeys::lastBackupBytesCopied, static_cast<qlonglong>(end.bytes));
+    defaults.setObject(settingskeys::lastBackupDiskIdentifier, end.disk ? QVariant(identifier) : QVariant());
+    services_.dataManager.recordLatestBackup(identifier, nameForBackupDiskWithIdentifier(identifier), end.bytes,
+                                             *end.completed);
+}
+
+void StatusMenuController::showMenu(const shown::Menu& menu)
+{
+    StatusMenu::setTitle(statusMenu_.phaseMenuItem, menu.phase);
+    showBackupDisk(menu.backupDisk);
+    StatusMenu::setTitle(statusMenu_.remainingTimeMenuItem, menu.remainingTime);
+    statusMenu_.pauseScheduleMenuItem->setEnabled(menu.pauseIsEnabled);
+    showBackupNow(menu);
+    if (menu.pausedUntil)
+        StatusMenu::setTitle(statusMenu_.pauseScheduleMenuItem, *menu.pausedUntil);
+    statusMenu_.setShown(statusMenu_.updateAvailableMenuItem, menu.updateIsShown);
+}
+
+void StatusMenuController::showBackupNow(const shown::Menu& menu)
+{
+    if (menu.offersToStop)
+        disks_.withdrawSubmenus();
+    statusMenu_.setShown(statusMenu_.skipRetryAttemptMenuItem, menu.skipRetryIsShown);
+    StatusMenu::setTitle(statusMenu_.backupNowMenuItem, menu.backupNow);
+    disks_.setChoiceEnabled(menu.disksAreEnabled);
+    if (shouldEnableMenuButons_)
+        statusMenu_.backupNowMenuItem->setEnabled(menu.backupNowIsEnabled);
+}
+
+void StatusMenuController::updateBackupDiskMenuItem()
+{
+    showBackupDisk(shown::menu(snapshot()).backupDisk);
+}
+
+void StatusMenuController::showBackupDisk(const std::optional<QString>& title)
+{
+    statusMenu_.setShown(statusMenu_.backupDiskMenuItem, title.has_value());
+    if (title)
+        StatusMenu::setTitle(statusMenu_.backupDiskMenuItem, *title);
+}
+
+QString StatusMenuController::nameForBackupDiskWithIdentifier(const QString& identifier) const
+{
+    return words::diskNameFor(identifier, disks_.backupDisks());
 }
 
 } // namespace quillon

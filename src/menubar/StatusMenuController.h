@@ -32,8 +32,7 @@ public:
         UserDefaults& defaults;
         NotificationCenter& notifications;
         Workspace& workspace;
-        TMUtilQueue& tmutilQueue;
-        TaskLauncher& launcher;
+        TMUtil& tmutil;
         AlertPresenter& alerts;
         DataManager& dataManager;
         LoginItem& loginItem;
@@ -120,7 +119,6 @@ private:
     void showBackupNow(const shown::Menu& menu);
 
     Services services_;
-    TMUtil tmutil_;
     StatusMenu statusMenu_;
     RunFollower follower_;
     BackupCommands commands_;

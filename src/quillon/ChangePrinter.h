@@ -1,9 +1,12 @@
 #pragma once
 
+#include "DateFormatter.h"
 #include "StatusMenuController.h"
 
 #include <QObject>
 #include <QString>
+
+#include <cstdio>
 
 namespace quillon {
 
@@ -14,10 +17,28 @@ class ChangePrinter final : public QObject {
 
 public:
     /// The controller and the run loop must outlive the printer.
-    ChangePrinter(const StatusMenuController& controller, const RunLoop& runLoop);
+    ChangePrinter(const StatusMenuController& controller, const RunLoop& runLoop)
+        : controller_(controller)
+        , runLoop_(runLoop)
+    {
+        connect(&controller, &StatusMenuController::statusBarUpdated, this, &ChangePrinter::printIfChanged);
+        connect(&controller, &StatusMenuController::menuBarIconStateChanged, this, &ChangePrinter::printIfChanged);
+    }
 
 private:
-    void printIfChanged();
+    void printIfChanged()
+    {
+        using namespace Qt::StringLiterals;
+        const QString line = u"icon=%1 title=\"%2\" text=\"%3\" phase=\"%4\""_s.arg(
+            QString::number(static_cast<int>(controller_.menuBarIconState())), controller_.itemTitle().title,
+            controller_.itemTitle().text, controller_.tmPhase());
+        if (line == lastLine_)
+            return;
+        lastLine_ = line;
+        const QString stamped = DateFormatter::string(runLoop_.now(), u"HH:mm:ss"_s) + u"  "_s + line + u'\n';
+        std::fputs(stamped.toUtf8().constData(), stdout);
+        std::fflush(stdout);
+    }
 
     const StatusMenuController& controller_;
     const RunLoop& runLoop_;

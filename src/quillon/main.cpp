@@ -1,13 +1,12 @@
 #include "AppDelegate.h"
-#include "Bundle.h"
+#include "ApplicationIdentity.h"
 #include "Calendar.h"
 #include "ChangePrinter.h"
 #include "Cirrel.h"
 #include "DataManager.h"
 #include "HttpClient.h"
 #include "LocalizedString.h"
-#include "LoginItemFactory.h"
-#include "MakerService.h"
+#include "LoginItem.h"
 #include "ModalAlertPresenter.h"
 #include "NotificationCenter.h"
 #include "Options.h"
@@ -15,15 +14,13 @@
 #include "QuitSignals.h"
 #include "SingleInstance.h"
 #include "StatusMenuController.h"
-#include "TMUtilPath.h"
 #include "TMUtilQueue.h"
 #include "Task.h"
-#include "UserDefaultsStore.h"
-#include "WorkspaceFactory.h"
+#include "UserDefaults.h"
+#include "Workspace.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QStandardPaths>
 
 #include <clocale>
 #include <cstdio>
@@ -49,19 +46,24 @@ int runApplication(const Options& options, SingleInstance& instance)
     Task launcher;
     NotificationCenter notifications;
     ModalAlertPresenter alerts;
-    const auto defaults = openUserDefaults(DefaultsAccess::ReadWrite, runLoop);
-    const auto workspace = makeWorkspace(
-        runLoop, {{TMUtil::settingsAddress(), QCoreApplication::applicationDirPath() + "/quillon-disks"_L1}});
-    const auto loginItem =
-        makeLoginItem(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../libexec/quillon/QuillonHelper"_L1));
+    const auto defaults = openUserDefaults(identity::identifier, DefaultsAccess::ReadWrite, runLoop);
+    const QString programs = QCoreApplication::applicationDirPath();
+    const auto workspace =
+        makeWorkspace(runLoop, {.ownPrograms = {{TimeMachineSettings::address(), programs + "/quillon-disks"_L1}},
+                                .sleepReason = u"Putting the backup schedule on hold"_s});
+    const auto loginItem = makeLoginItem({.name = identity::name,
+                                          .identifier = identity::identifier,
+                                          .companion = identity::companionIdentifier,
+                                          .path = QDir::cleanPath(programs + "/../libexec/quillon/QuillonHelper"_L1)});
     TMUtilQueue tmutilQueue(launcher, runLoop, tmutilPath());
+    TimeMachineSettings timeMachineSettings(launcher, runLoop, *workspace, alerts);
+    TMUtil tmutil(tmutilQueue, timeMachineSettings);
     DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});
     Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
     const auto statusItem = makeStatusItem(options.placement);
-    StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutilQueue, launcher, alerts,
-                                     dataManager, *loginItem, *statusItem});
-    AppDelegate delegate(
-        {runLoop, *defaults, notifications, *workspace, alerts, tmutilQueue, launcher, bundleShortVersion()});
+    StatusMenuController controller(
+        {runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager, *loginItem, *statusItem});
+    AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 
     std::unique_ptr<ChangePrinter> printer;
     if (options.printChanges)
@@ -85,8 +87,7 @@ int runApplication(const Options& options, SingleInstance& instance)
 /// Two instances on one settings folder never run: a second start has the first one do what it was started for.
 int runAsOnlyInstance(const Options& options)
 {
-    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
-                            startRequestNames());
+    SingleInstance instance(identity::instanceLock(), startRequestNames());
     if (instance.acquire())
         return runApplication(options, instance);
     if (instance.askFirst(nameOf(options.request)))
@@ -119,9 +120,9 @@ int main(int argc, char** argv)
     Calendar::followSystemTimeZone(); // while there are no threads
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    QApplication::setApplicationName(u"Quillon"_s);
+    QApplication::setApplicationName(identity::name);
     QApplication::setApplicationVersion(bundleShortVersion());
-    QApplication::setDesktopFileName(u"com.Orvane.Quillon"_s);
+    QApplication::setDesktopFileName(identity::identifier);
     QApplication::setWindowIcon(QIcon(u":/icon/com.Orvane.Quillon.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false);
     installStringTable();

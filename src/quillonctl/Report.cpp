@@ -1,7 +1,9 @@
 #include "Report.h"
 
 #include "Calendar.h"
+#include "NextBackup.h"
 #include "ShownText.h"
+#include "StoredAndSentNames.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -9,6 +11,30 @@
 
 #include <array>
 #include <cstdlib>
+
+namespace quillon {
+
+using namespace std::chrono_literals;
+
+QList<Date> comingStarts(const UserDefaults& defaults, Date from, int count)
+{
+    QList<Date> starts;
+    if (defaults.integer(settingskeys::enableSchedule) != 1)
+        return starts;
+    const auto rules = CalendarIntervalRule::listFromArray(defaults.array(settingskeys::calendarIntervals));
+    const Calendar calendar;
+    Date reference = nextbackup::referenceDate(from, defaults.date(settingskeys::pauseUntilDate), std::nullopt);
+    while (starts.size() < count) {
+        const auto next = nextbackup::nextBackupDate(rules, reference, calendar);
+        if (!next)
+            break;
+        starts.append(*next);
+        reference = *next + 1ms;
+    }
+    return starts;
+}
+
+} // namespace quillon
 
 namespace quillon::report {
 

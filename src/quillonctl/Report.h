@@ -3,9 +3,18 @@
 #include "BackupDestination.h"
 #include "Date.h"
 #include "TMStatus.h"
+#include "UserDefaults.h"
 
 #include <QByteArray>
 #include <QList>
+
+namespace quillon {
+
+/// The next `count` dates that the stored rules give at or after `from`, a running pause taken into account, each later
+/// than the one before; none while the schedule is off.
+QList<Date> comingStarts(const UserDefaults& defaults, Date from, int count);
+
+} // namespace quillon
 
 /// What quillonctl prints: text for people, JSON for scripts; each ends in a line feed unless it is empty.
 namespace quillon::report {

@@ -3,7 +3,7 @@
 #include "BackupDestination.h"
 #include "BackupRun.h"
 #include "Date.h"
-#include "MenuBarIconState.h"
+#include "StoredAndSentNames.h"
 
 #include <QList>
 #include <QString>

@@ -1,9 +1,9 @@
 #include "Words.h"
 
-#include "BackupPhase.h"
-#include "DateComponentsFormatter.h"
+#include "DateFormatter.h"
 #include "LocalizedString.h"
 #include "ShownText.h"
+#include "TMStatus.h"
 
 #include <algorithm>
 #include <array>

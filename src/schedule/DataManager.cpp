@@ -1,9 +1,9 @@
 #include "DataManager.h"
 
-#include "DefaultSettings.h"
-#include "SettingsKeys.h"
-#include "SystemVersion.h"
+#include "DataHelper.h"
+#include "StoredAndSentNames.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace quillon {
@@ -107,6 +107,151 @@ void DataManager::saveAndBackupCalendarIntervalSettings()
     }
     retryBackupDate_.reset();
     setNextScheduledBackupDate(next);
+}
+
+void DataManager::recordLatestBackup(const QString& diskIdentifier, const QString& diskName, std::int64_t totalBytes,
+                                     Date date)
+{
+    const auto found = std::find_if(latestBackupInfo_.begin(), latestBackupInfo_.end(),
+                                    [&](const BackupInfo& info) { return info.diskIdentifier() == diskIdentifier; });
+    const bool isNew = found == latestBackupInfo_.end();
+    BackupInfo& info =
+        isNew ? *latestBackupInfo_.insert(latestBackupInfo_.begin(), BackupInfo(diskIdentifier, date)) : *found;
+    info.setDiskName(diskName);
+    info.setTotalBytes(totalBytes);
+    info.setDate(date);
+    if (!isNew) {
+        // Nothing is less than any date, so a record without one comes last.
+        std::stable_sort(latestBackupInfo_.begin(), latestBackupInfo_.end(),
+                         [](const BackupInfo& a, const BackupInfo& b) { return a.date() > b.date(); });
+    }
+    saveLatestBackupInfo();
+}
+
+void DataManager::saveLatestBackupInfo()
+{
+    defaults_.setObject(settingskeys::latestBackupInfo, archiveLatestBackInfo(latestBackupInfo_));
+}
+
+QList<BackupInfo> DataManager::loadLatestBackupInfo() const
+{
+    return unArchiveLatestBackupInfo(defaults_.array(settingskeys::latestBackupInfo));
+}
+
+QVariantList DataManager::archiveLatestBackInfo(const QList<BackupInfo>& records)
+{
+    QVariantList archived;
+    for (const auto& record : records) {
+        if (const auto data = record.archivedData())
+            archived.append(*data);
+    }
+    return archived;
+}
+
+QList<BackupInfo> DataManager::unArchiveLatestBackupInfo(const QVariantList& archived)
+{
+    QList<BackupInfo> records;
+    for (const auto& element : archived) {
+        if (element.typeId() != QMetaType::QByteArray)
+            continue;
+        if (auto record = BackupInfo::unarchiveFromData(element.toByteArray()))
+            records.append(std::move(*record));
+    }
+    return records;
+}
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Somebody who sets the clock by more wants another day, not a correction.
+constexpr auto largestStepBackWithoutRepeat = 3h;
+
+} // namespace
+
+std::optional<Date> DataManager::getNextBackupDate()
+{
+    const Date now = runLoop_.now();
+    const auto pauseUntil = defaults_.date(settingskeys::pauseUntilDate);
+    if (pauseUntil && *pauseUntil < now) {
+        defaults_.setDate(settingskeys::pauseUntilDate, std::nullopt);
+        defaults_.setObject(settingskeys::pauseUntilTag, 0LL);
+    }
+    const Date reference = nextbackup::referenceDate(now, pauseUntil, lastFiredDate_);
+    return nextbackup::nextBackupDate(calendarIntervalSettings_, reference, Calendar());
+}
+
+void DataManager::scheduleNextBackup()
+{
+    if (!isScheduleEnabled_) {
+        setNextScheduledBackupDate(std::nullopt);
+        return;
+    }
+    setNextScheduledBackupDate(getNextBackupDate());
+    retryBackupDate_.reset();
+}
+
+void DataManager::setNextScheduledBackupDate(std::optional<Date> date)
+{
+    nextScheduledBackupDate_ = date;
+    startBackupTimer_.invalidate();
+    if (date)
+        startBackupTimer_ = runLoop_.scheduleOnce(*date, [this] { startTimerFired(); });
+}
+
+void DataManager::startTimerFired()
+{
+    using namespace startdecision;
+    if (startDecision(Occasion::TimerRan, false) == Decision::Start)
+        makeScheduledStart();
+    else
+        notifications_.post(notifications::scheduledBackupFoundLate);
+}
+
+startdecision::Decision DataManager::startDecision(startdecision::Occasion occasion, bool isMarkedAsMissed) const
+{
+    return startdecision::decide(occasion, {.now = runLoop_.now(),
+                                            .next = nextScheduledBackupDate_,
+                                            .retry = retryBackupDate_,
+                                            .lastBackup = defaults_.date(settingskeys::lastBackupDate),
+                                            .isMarkedAsMissed = isMarkedAsMissed});
+}
+
+void DataManager::makeScheduledStart()
+{
+    lastFiredDate_ = nextScheduledBackupDate_;
+    notifications_.post(notifications::scheduledBackupShouldStart);
+    scheduleNextBackup();
+}
+
+void DataManager::clockWasSetBack(std::chrono::milliseconds step)
+{
+    if (step > largestStepBackWithoutRepeat)
+        lastFiredDate_.reset();
+}
+
+void DataManager::setRetryBackupDate(std::optional<Date> date)
+{
+    if (date) {
+        const auto next = getNextBackupDate();
+        if (!next || *date <= *next) {
+            retryBackupDate_ = date;
+            setNextScheduledBackupDate(date);
+            return;
+        }
+    }
+    retryBackupDate_.reset();
+    scheduleNextBackup();
+}
+
+void DataManager::pauseBackupSchedule()
+{
+    startBackupTimer_.invalidate();
+}
+
+nextbackup::TimeComponents DataManager::timeComponentsFromTimeInterval(double seconds)
+{
+    return nextbackup::timeComponents(seconds);
 }
 
 } // namespace quillon

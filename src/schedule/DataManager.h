@@ -19,7 +19,7 @@
 namespace quillon {
 
 /// The model of settings and schedule: the rules, the date of the next backup with the timer that starts it, and the
-/// latest backup of each disk. Main thread only.
+/// latest backup of each disk.
 ///
 /// It is the only writer of the rules and of the latest-backup list; every other setting is written by the control that
 /// changes it and read where it is needed.

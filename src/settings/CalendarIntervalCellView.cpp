@@ -3,16 +3,30 @@
 #include "CalendarIntervalRule.h"
 #include "DateFormatter.h"
 #include "LocalizedString.h"
-#include "TimePickerFormat.h"
-#include "UserLocale.h"
-#include "WheelGuard.h"
+#include "TimePicker.h"
 #include "ui_CalendarIntervalCell.h"
 
+#include <QEvent>
 #include <QSignalBlocker>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+WheelGuard::WheelGuard(QWidget* control)
+    : QObject(control)
+{
+    control->setFocusPolicy(Qt::StrongFocus); // the wheel brings no focus along
+    control->installEventFilter(this);
+}
+
+bool WheelGuard::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
+        return QObject::eventFilter(watched, event);
+    event->ignore();
+    return true;
+}
 
 CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
     : QWidget(parent)

@@ -6,15 +6,26 @@
 #include <memory>
 
 class QAbstractButton;
-
 namespace Ui {
 class CalendarIntervalCell;
 }
 
 namespace quillon {
 
+/// Lets the wheel change a control only where the user has gone to: what it merely passes over is scrolled. It is the
+/// control's own.
+class WheelGuard final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit WheelGuard(QWidget* control);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
 /// One rule of the schedule as a row that reads as a sentence: back up on this day at this time. The signals tell of
-/// changes by the user, never of fill(). Main thread only.
+/// changes by the user, never of fill().
 class CalendarIntervalCellView final : public QWidget {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #include "CalendarIntervalTable.h"
 
-#include "AccessibleRole.h"
+#include "Accessibility.h"
 #include "CalendarIntervalCellView.h"
 #include "SystemColor.h"
 

@@ -10,7 +10,7 @@ namespace quillon {
 class CalendarIntervalCellView;
 
 /// The rows of the schedule's rules. As high as five rows; it scrolls when there are more, or less room. A row lives
-/// until the table gets shorter than its place. Main thread only.
+/// until the table gets shorter than its place.
 class CalendarIntervalTable final : public QScrollArea {
     Q_OBJECT
 

@@ -3,8 +3,8 @@
 #include "AlertPopover.h"
 #include "AlertPresenter.h"
 #include "CalendarIntervalRule.h"
+#include "RunLoop.h"
 #include "TMUtil.h"
-#include "Timer.h"
 
 #include <QTime>
 #include <QWidget>
@@ -28,7 +28,7 @@ class UserDefaults;
 struct SetupAdvice;
 
 /// The settings panel. Every control acts and is stored the moment the user changes it; there is nothing to apply or to
-/// cancel. Main thread only.
+/// cancel.
 ///
 /// One file per concern: _schedule (rules, interval, next backup), _options (retry, menu bar, disks, log-in), _alerts.
 class SettingsViewController final : public QWidget {
@@ -41,8 +41,7 @@ public:
         NotificationCenter& notifications;
         DataManager& dataManager;
         LoginItem& loginItem;
-        TMUtilQueue& tmutilQueue;
-        TaskLauncher& launcher;
+        TMUtil& tmutil;
         Workspace& workspace;
         AlertPresenter& alerts;
     };
@@ -128,7 +127,7 @@ private:
     NotificationCenter& notifications_;
     DataManager& sharedDataManager_;
     LoginItem& loginItem_;
-    TMUtil tmutil_;
+    TMUtil& tmutil_;
     std::unique_ptr<Ui::SettingsView> ui_;
     Timer nextBackupTimer_; ///< runs while the panel is visible
     QPointer<QWidget> focusBeforeAlert_;

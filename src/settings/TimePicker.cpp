@@ -2,10 +2,108 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStylePainter>
 
 #include <algorithm>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString fieldFormat(QChar field, qsizetype width)
+{
+    switch (field.unicode()) {
+    case u'h':
+    case u'K':
+        return QString(width, u'h');
+    case u'H':
+    case u'k':
+        return QString(width, u'H');
+    case u'm':
+        return u"mm"_s;
+    case u'a':
+    case u'b':
+    case u'B':
+        return u"Ap"_s; // as it is written in the language
+    default:
+        return {};
+    }
+}
+
+bool isField(QChar character)
+{
+    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
+}
+
+} // namespace
+
+QString timePickerFormat(const QString& pattern)
+{
+    QString format;
+    bool quoted = false;
+    for (qsizetype place = 0; place < pattern.size();) {
+        const QChar character = pattern[place];
+        qsizetype end = place + 1;
+        if (character == u'\'')
+            quoted = !quoted;
+        if (!quoted && isField(character)) {
+            while (end < pattern.size() && pattern[end] == character)
+                ++end;
+            format += fieldFormat(character, end - place);
+        } else {
+            // Nobody types a narrow no-break space.
+            format += character.isSpace() ? QChar(u' ') : character;
+        }
+        place = end;
+    }
+    return format.trimmed();
+}
+
+Stepper::Stepper(QWidget* parent)
+    : QSpinBox(parent)
+{
+    lineEdit()->hide();
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+/// Of the whole spin box; the arrows are at its right end.
+QStyleOptionSpinBox Stepper::wholeSpinBox() const
+{
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    option.rect = QRect(QPoint(), QSpinBox::sizeHint());
+    return option;
+}
+
+QSize Stepper::sizeHint() const
+{
+    const QStyleOptionSpinBox whole = wholeSpinBox();
+    const QRect arrow = style()->subControlRect(QStyle::CC_SpinBox, &whole, QStyle::SC_SpinBoxUp, this);
+    return {whole.rect.width() - arrow.left(), whole.rect.height()};
+}
+
+QSize Stepper::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+/// What is left of the arrows lies outside.
+void Stepper::paintEvent(QPaintEvent* /*event*/)
+{
+    QStylePainter painter(this);
+    QStyleOptionSpinBox whole = wholeSpinBox();
+    whole.rect.setHeight(height());
+    painter.translate(width() - whole.rect.width(), 0);
+    painter.drawComplexControl(QStyle::CC_SpinBox, whole);
+    painter.resetTransform();
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+}
 
 namespace {
 

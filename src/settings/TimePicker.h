@@ -1,13 +1,37 @@
 #pragma once
 
+#include <QSpinBox>
+#include <QString>
+#include <QStyleOptionSpinBox>
 #include <QTimeEdit>
 
 namespace quillon {
 
+/// The display format of a QTimeEdit for the Unicode date pattern (UTS 35) of a time of day: hours and minutes in the
+/// pattern's order and with its separators, "Ap" where the pattern has a day period. Nothing else that a pattern may
+/// hold is a part of a time picker.
+QString timePickerFormat(const QString& pattern);
+
+/// The two arrows of a spin box without its text field, for a value that another control shows.
+class Stepper final : public QSpinBox {
+    Q_OBJECT
+
+public:
+    explicit Stepper(QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QStyleOptionSpinBox wholeSpinBox() const;
+};
+
 /// A field for a time of day. Its arrows go round, and switch between the halves of the day, as the keys A and P do in
 /// every language; wherever the user puts the cursor, what is typed next replaces that part of the time, or, where all
-/// of it is selected, the time from its hours on. A digit that cannot go on with the hours begins the minutes. Main
-/// thread only.
+/// of it is selected, the time from its hours on. A digit that cannot go on with the hours begins the minutes.
 class TimePicker final : public QTimeEdit {
     Q_OBJECT
 

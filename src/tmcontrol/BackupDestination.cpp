@@ -1,8 +1,8 @@
 #include "BackupDestination.h"
 
-#include "PlistAccess.h"
 #include "PropertyList.h"
-#include "TextComparison.h"
+#include "ShownText.h"
+#include "TMStatus.h"
 
 #include <QVariantMap>
 

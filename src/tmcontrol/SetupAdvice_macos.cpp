@@ -1,6 +1,6 @@
+#include "DataHelper.h"
 #include "LocalizedString.h"
 #include "SetupAdvice.h"
-#include "SystemVersion.h"
 
 namespace quillon {
 

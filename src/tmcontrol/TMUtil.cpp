@@ -1,6 +1,6 @@
 #include "TMUtil.h"
 
-#include "BackupPhase.h"
+#include "TMStatus.h"
 
 #include <utility>
 
@@ -8,13 +8,9 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-TMUtil::TMUtil(TMUtilQueue& queue, TaskLauncher& launcher, RunLoop& runLoop, Workspace& workspace,
-               AlertPresenter& alerts)
+TMUtil::TMUtil(TMUtilQueue& queue, TimeMachineSettings& settings)
     : queue_(queue)
-    , launcher_(launcher)
-    , runLoop_(runLoop)
-    , workspace_(workspace)
-    , alerts_(alerts)
+    , settings_(settings)
 {
 }
 
@@ -57,6 +53,11 @@ void TMUtil::stopBackupWithCompletionHandler(StopHandler handler)
     callTMUtilWithCommand(u"stopbackup"_s, {},
                           [handler = std::move(handler)](TMUtilHandlers& handlers) { handlers.stopbackup = handler; },
                           {});
+}
+
+void TMUtil::openTimeMachineSettings(const QString& applicationName)
+{
+    settings_.open(applicationName);
 }
 
 QString TMUtil::stringForBackupPhase(const QString& rawPhase) const

@@ -1,15 +1,10 @@
 #pragma once
 
-#include "AlertPresenter.h"
 #include "TMUtilQueue.h"
-#include "Workspace.h"
+#include "TimeMachineSettings.h"
 
 #include <QString>
 #include <QStringList>
-#include <QUrl>
-
-#include <list>
-#include <memory>
 
 namespace quillon {
 
@@ -20,7 +15,7 @@ namespace quillon {
 /// program: answers still under way refer to it.
 class TMUtil {
 public:
-    TMUtil(TMUtilQueue& queue, TaskLauncher& launcher, RunLoop& runLoop, Workspace& workspace, AlertPresenter& alerts);
+    TMUtil(TMUtilQueue& queue, TimeMachineSettings& settings);
 
     void getStatusWithCompletionHandler(StatusHandler handler);
 
@@ -32,12 +27,8 @@ public:
 
     void stopBackupWithCompletionHandler(StopHandler handler);
 
-    /// Brings up the system's Time Machine settings. Before version 13 that takes a script, and the user is told how to
-    /// permit it when it fails; `applicationName` is the name used in that alert.
+    /// Brings up the system's Time Machine settings; an alert about it calls this program `applicationName`.
     void openTimeMachineSettings(const QString& applicationName);
-
-    /// Address of the system's Time Machine settings, from version 13 on.
-    static QUrl settingsAddress();
 
     /// English phrase of a raw phase word; "N/A" for none.
     QString stringForBackupPhase(const QString& rawPhase) const;
@@ -47,14 +38,9 @@ private:
     void callTMUtilWithCommand(const QString& command, const QStringList& arguments,
                                std::function<void(TMUtilHandlers&)> enterSlot,
                                std::function<void(const std::optional<QByteArray>&)> parse);
-    void presentPermissionAlert(const QString& applicationName);
 
     TMUtilQueue& queue_;
-    TaskLauncher& launcher_;
-    RunLoop& runLoop_;
-    Workspace& workspace_;
-    AlertPresenter& alerts_;
-    std::list<std::unique_ptr<RunningTask>> settingsScripts_; ///< each may wait for what the user answers the system
+    TimeMachineSettings& settings_;
 };
 
 } // namespace quillon

@@ -3,7 +3,7 @@
 #include "BackupDestination.h"
 #include "RunLoop.h"
 #include "TMStatus.h"
-#include "TaskLauncher.h"
+#include "Task.h"
 
 #include <QByteArray>
 #include <QString>
@@ -16,6 +16,10 @@
 #include <optional>
 
 namespace quillon {
+
+/// Path of the tmutil tool to run: the environment variable QUILLON_TMUTIL unless it is empty, else the system's own,
+/// or on Linux the one that is installed with this program.
+QString tmutilPath();
 
 using StatusHandler = std::function<void(const TMStatus& status)>;
 using StartHandler = std::function<void(std::int32_t exitStatus, bool success)>;
@@ -30,7 +34,7 @@ struct TMUtilHandlers {
     DestinationsHandler destinationinfo;
 };
 
-/// Runs the tmutil tool for every TMUtil of the process, one child at a time. Main thread only; nothing blocks it.
+/// Runs the tmutil tool for every TMUtil of the process, one child at a time.
 ///
 /// When a child ends, the report of its exit status and then the parser's report are delivered in one turn, and the
 /// queue moves on only after the blocks that those handlers queued: what a handler, or such a block, asks for runs

@@ -1,11 +1,11 @@
 #include "AboutViewController.h"
+#include "ApplicationIdentity.h"
 #include "ClippedTexts.h"
 #include "DataHelper.h"
 #include "EventLoop.h"
 #include "FakeServices.h"
 #include "LocalDates.h"
 #include "LocalizedString.h"
-#include "MakerSite.h"
 #include "Popover.h"
 #include "VirtualRunLoop.h"
 

@@ -1,16 +1,15 @@
 #include "AppDelegate.h"
 
+#include "ApplicationIdentity.h"
 #include "Cirrel.h"
+#include "DataHelper.h"
 #include "FakePoster.h"
 #include "FakeServices.h"
 #include "LocalizedString.h"
-#include "MakerSite.h"
 #include "MemoryDefaults.h"
-#include "Notifications.h"
 #include "ScopedEnvironment.h"
-#include "SettingsKeys.h"
 #include "SimulatedTimeMachine.h"
-#include "SystemVersion.h"
+#include "StoredAndSentNames.h"
 #include "TMUtil.h"
 
 #include <QJsonDocument>
@@ -54,7 +53,7 @@ protected:
     void launch()
     {
         delegate = std::make_unique<AppDelegate>(
-            AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts, queue, machine, u"2.9"_s});
+            AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts, tmutil, u"2.9"_s});
         delegate->applicationDidFinishLaunching();
         runLoop.advance(1s);
     }
@@ -74,6 +73,8 @@ protected:
     FakeAlerts alerts;
     SimulatedTimeMachine machine{runLoop};
     TMUtilQueue queue{machine, runLoop, u"tmutil"_s};
+    TimeMachineSettings settings{machine, runLoop, workspace, alerts};
+    TMUtil tmutil{queue, settings};
     FakePoster* network = new FakePoster; // the services' own
     Cirrel::Services services{runLoop, defaults, std::unique_ptr<FormPoster>(network)};
     QObject observer;
@@ -162,7 +163,7 @@ TEST_F(AppDelegateTest, TheFirstLaunchSaysOnceWhereBackupsGoAndLeadsToTheSetting
             if (response == alertSecondButtonReturn)
                 expected.append(makersite::page(u"/quillon/manual/"_s));
             if (!hasDisk)
-                expected.append(TMUtil::settingsAddress());
+                expected.append(TimeMachineSettings::address());
             EXPECT_EQ(workspace.opened, expected);
             launch();
             EXPECT_EQ(alerts.presented.size(), 1U);

@@ -1,7 +1,7 @@
 #include "Cirrel.h"
 
 #include "FakePoster.h"
-#include "FileUserDefaults.h"
+#include "FileUserDefaults_linux.h"
 #include "MemoryDefaults.h"
 #include "VirtualRunLoop.h"
 

@@ -1,4 +1,4 @@
-#include "MakerService.h"
+#include "ApplicationIdentity.h"
 
 #include <QFile>
 

@@ -1,9 +1,8 @@
 #include "DataHelper.h"
 
+#include "ApplicationIdentity.h"
 #include "LocalDates.h"
-#include "MakerSite.h"
 #include "ScopedEnvironment.h"
-#include "SystemVersion.h"
 
 #include <gtest/gtest.h>
 

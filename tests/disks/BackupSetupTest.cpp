@@ -1,6 +1,5 @@
 #include "BackupSetup.h"
 
-#include "Entries.h"
 #include "LocalizedString.h"
 #include "ScopedEnvironment.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "DisksWindow.h"
-#include "EntryDelegate.h"
 #include "FakeServices.h"
 #include "ListPage.h"
 #include "LocalizedString.h"

@@ -1,10 +1,9 @@
 #include "BackupSetup.h"
-#include "Entries.h"
 #include "EventLoop.h"
 #include "PracticeTmutil.h"
 #include "QtRunLoop.h"
+#include "Setup.h"
 #include "Task.h"
-#include "TmutilClient.h"
 
 #include <QDir>
 #include <QFile>

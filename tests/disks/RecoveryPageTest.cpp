@@ -1,4 +1,4 @@
-#include "RecoveryPage.h"
+#include "RecoveryKeyDialog.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,5 @@
-#include "TmutilClient.h"
-
 #include "LocalizedString.h"
+#include "Setup.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>

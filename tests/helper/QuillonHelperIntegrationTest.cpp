@@ -41,7 +41,7 @@ TEST_F(QuillonHelper, StartsTheApplicationOfItsOwnPrefixOrSaysThatItCannot)
     ASSERT_TRUE(runUntil([this] { return QFile::exists(note); }));
     EXPECT_EQ(contentOf(note), u"0 %1\n"_s.arg(QDir(prefix.path()).canonicalPath()));
     {
-        SingleInstance started(prefix.filePath(u"config"_s));
+        SingleInstance started(prefix.filePath(u"config/com.Orvane.Quillon.instance"_s));
         EXPECT_TRUE(started.acquire());
     }
 
@@ -53,7 +53,7 @@ TEST_F(QuillonHelper, StartsTheApplicationOfItsOwnPrefixOrSaysThatItCannot)
 
 TEST_F(QuillonHelper, LeavesARunningApplicationAlone)
 {
-    SingleInstance running(prefix.filePath(u"config"_s));
+    SingleInstance running(prefix.filePath(u"config/com.Orvane.Quillon.instance"_s));
     ASSERT_TRUE(running.acquire());
     QFile::remove(application); // which would be missed
     int presented = 0;

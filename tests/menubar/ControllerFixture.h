@@ -2,9 +2,9 @@
 
 #include "DateFormatter.h"
 #include "LocalDates.h"
-#include "Notifications.h"
 #include "PlayedProgram.h"
 #include "ScopedEnvironment.h"
+#include "StoredAndSentNames.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

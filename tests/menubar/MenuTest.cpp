@@ -1,4 +1,4 @@
-#include "Bundle.h"
+#include "ApplicationIdentity.h"
 #include "ControllerFixture.h"
 
 #include <QFile>
@@ -196,7 +196,7 @@ TEST_F(Menu, SettingsAndQuittingAreReachedAndAnUpdateOpensItsPageAndThenQuits)
     launch();
     QObject::connect(controller.get(), &StatusMenuController::terminate, &workspace, [&] { ++terminations; });
     menu().openSystemPreferencesMenuItem->trigger();
-    EXPECT_EQ(workspace.opened, QList<QUrl>{TMUtil::settingsAddress()});
+    EXPECT_EQ(workspace.opened, QList<QUrl>{TimeMachineSettings::address()});
     menu().quitMenuItem->trigger();
     EXPECT_EQ(terminations, 1);
     notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"9.1"_s}});

@@ -1,5 +1,5 @@
 #include "ControllerFixture.h"
-#include "MenuBarIcon.h"
+#include "StatusItemFace.h"
 
 namespace quillon {
 

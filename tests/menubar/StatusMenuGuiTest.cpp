@@ -1,8 +1,8 @@
+#include "Buttons.h"
 #include "ColorScheme_linux.h"
 #include "ControllerFixture.h"
 #include "DBusMenu_linux.h"
 #include "EventLoop.h"
-#include "HelpButton.h"
 #include "Popover.h"
 #include "ShownAlerts.h"
 

@@ -89,7 +89,7 @@ class InstallationTest(unittest.TestCase):
                     self.assertEqual(OPTION.findall(" ".join(rest)), OPTION.findall(described[1]))
         self.assertEqual(len(usage.splitlines()) - 1, commands.count(".TP\n"))
         documented = re.findall(r"\.TP\n\.B (\d+)\n", statuses)
-        used = re.findall(r"= (\d+),", (SOURCE / "src/tmutil/command/ExitStatus.h").read_text(encoding="utf-8"))
+        used = re.findall(r"= (\d+),", (SOURCE / "src/tmutil/command/Failure.h").read_text(encoding="utf-8"))
         self.assertEqual(documented, used)
 
     def test_desktop_entries_are_valid_and_start_installed_programs(self):

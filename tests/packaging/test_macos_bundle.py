@@ -23,9 +23,9 @@ def read(name):
 
 class PropertyListsTest(unittest.TestCase):
     def test_the_code_knows_the_bundles_by_their_identifiers(self):
-        for name, source in (("Info.plist", "platform/core/defaults/UserDefaultsStore_macos.cpp"),
-                             ("HelperInfo.plist", "platform/session/LoginItem_macos.cpp")):
-            self.assertIn(f'CFSTR("{read(name)["CFBundleIdentifier"]}")', (ROOT / "src" / source).read_text())
+        code = (ROOT / "src/common/core/ApplicationIdentity.h").read_text()
+        for name, constant in (("Info.plist", "identifier"), ("HelperInfo.plist", "companionIdentifier")):
+            self.assertIn(f' {constant}("{read(name)["CFBundleIdentifier"]}")', code)
 
     def test_every_string_table_is_a_localization(self):
         codes = {path.stem.removeprefix("quillon_") for path in (ROOT / "resources" / "strings").glob("*.ts")}

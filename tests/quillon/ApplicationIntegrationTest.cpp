@@ -1,7 +1,7 @@
 #include "EventLoop.h"
-#include "FileUserDefaults.h"
+#include "FileUserDefaults_linux.h"
 #include "PracticeTmutil.h"
-#include "SettingsKeys.h"
+#include "StoredAndSentNames.h"
 #include "VirtualRunLoop.h"
 
 #include <QDir>

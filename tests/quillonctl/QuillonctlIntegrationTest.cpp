@@ -5,7 +5,6 @@
 #include "ScriptedTmutil.h"
 #include "TrayProtocols_linux.h"
 #include "VirtualDisplay.h"
-#include "Xcb_linux.h"
 
 #include <QJsonDocument>
 #include <QProcess>

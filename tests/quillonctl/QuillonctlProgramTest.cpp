@@ -1,4 +1,6 @@
-#include "Bundle.h"
+#include "ApplicationIdentity.h"
+#include "Program.h"
+#include "QtRunLoop.h"
 #include "Report.h"
 #include "ScopedEnvironment.h"
 #include "Task.h"
@@ -10,11 +12,13 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 /// Stands for the processes that the program starts: every call of the tool gets the one answer.
 class PlayedTask final : public TaskLauncher {
 public:
-    static inline TaskResult answer;
-    static inline QString asked;
+    TaskResult answer;
+    QString asked;
 
     std::unique_ptr<RunningTask> launch(const TaskRequest& request, Completion completion) override
     {
@@ -22,22 +26,10 @@ public:
             void kill() override {}
         };
         asked = request.arguments.join(u' ');
-        QTimer::singleShot(0, [completion = std::move(completion)] { completion(answer); });
+        QTimer::singleShot(0, [this, completion = std::move(completion)] { completion(answer); });
         return std::make_unique<Child>();
     }
 };
-
-} // namespace quillon
-
-#define main quillonctlMain // the tests have one of their own
-#define Task PlayedTask
-#include "main.cpp" // NOLINT(bugprone-suspicious-include): what it does is in no header
-#undef Task
-#undef main
-
-namespace quillon {
-
-using namespace Qt::StringLiterals;
 
 TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
 {
@@ -81,17 +73,18 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
     for (const auto& [words, tool, status, output, errors, asked] : rows) {
         SCOPED_TRACE(words.toStdString() + ' ' + output.toStdString());
         QString error;
-        PlayedTask::answer = tool;
-        PlayedTask::asked.clear();
+        QtRunLoop runLoop;
+        PlayedTask played;
+        played.answer = tool;
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        EXPECT_EQ(::run(*Arguments::parse(words.split(u' '), &error)), status);
+        EXPECT_EQ(runQuillonctl(*Arguments::parse(words.split(u' '), &error), {runLoop, played}), status);
         const std::string printed = testing::internal::GetCapturedStdout();
         EXPECT_TRUE(words.startsWith(u"doctor"_s) ? printed.starts_with(output.toStdString())
                                                   : printed == output.toStdString())
             << printed;
         EXPECT_EQ(testing::internal::GetCapturedStderr(), errors);
-        EXPECT_EQ(PlayedTask::asked, asked);
+        EXPECT_EQ(played.asked, asked);
     }
 }
 

@@ -1,15 +1,13 @@
+#include "ApplicationIdentity.h"
 #include "Arguments.h"
 #include "BackupInfo.h"
-#include "Bundle.h"
 #include "CalendarIntervalRule.h"
-#include "ComingStarts.h"
-#include "DefaultSettings.h"
 #include "Doctor.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
 #include "Report.h"
 #include "ScopedEnvironment.h"
-#include "SettingsKeys.h"
+#include "StoredAndSentNames.h"
 #include "VirtualLauncher.h"
 
 #include <QFile>

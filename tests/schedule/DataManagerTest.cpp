@@ -3,10 +3,9 @@
 #include "FakeServices.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
-#include "Notifications.h"
 #include "PropertyList.h"
 #include "ScopedEnvironment.h"
-#include "SettingsKeys.h"
+#include "StoredAndSentNames.h"
 #include "VirtualRunLoop.h"
 
 #include <QDateTime>

@@ -1,6 +1,4 @@
-#include "DefaultSettings.h"
-#include "Notifications.h"
-#include "SettingsKeys.h"
+#include "StoredAndSentNames.h"
 
 #include <gtest/gtest.h>
 

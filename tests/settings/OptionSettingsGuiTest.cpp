@@ -1,7 +1,7 @@
-#include "AlertIcon.h"
+#include "Alert.h"
+#include "Buttons.h"
 #include "LocalizedString.h"
 #include "SettingsFixture.h"
-#include "SignButton.h"
 
 namespace quillon {
 
@@ -175,7 +175,7 @@ TEST_F(OptionSettings, TheAdviceSaysWhereBackupsGoAndLeadsToTimeMachinesSettings
     clickSetupAdvice(); // an impatient user asks once
     EXPECT_TRUE(shownAlertText().contains(u"First Disk"_s)) << shownAlertText().toStdString();
     answerAlert(u"Open Time Machine Settings..."_s);
-    EXPECT_EQ(workspace_.opened, QList<QUrl>{TMUtil::settingsAddress()});
+    EXPECT_EQ(workspace_.opened, QList<QUrl>{TimeMachineSettings::address()});
     EXPECT_FALSE(isBlocked());
     click("warningButton");
     click("retryAtFailureHelpButton");

@@ -4,13 +4,12 @@
 #include "FakeServices.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
-#include "Notifications.h"
 #include "Popover.h"
 #include "ScopedEnvironment.h"
-#include "SettingsKeys.h"
 #include "SettingsViewController.h"
 #include "ShownAlerts.h"
 #include "SimulatedTimeMachine.h"
+#include "StoredAndSentNames.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -56,7 +55,7 @@ protected:
             std::make_unique<DataManager>(DataManager::Services{runLoop_, defaults_, notifications_, loginItem_});
         popover_ = std::make_unique<Popover>();
         panel_ = new SettingsViewController(
-            {runLoop_, defaults_, notifications_, *manager_, loginItem_, queue_, machine_, workspace_, alerts_});
+            {runLoop_, defaults_, notifications_, *manager_, loginItem_, tmutil_, workspace_, alerts_});
         popover_->setContentView(panel_);
         popover_->setBehavior(PopoverBehavior::Transient);
         popover_->setAnimates(false);
@@ -129,6 +128,8 @@ protected:
     FakeAlerts alerts_;
     FakeLoginItem loginItem_;
     TMUtilQueue queue_{machine_, runLoop_, u"tmutil"_s};
+    TimeMachineSettings timeMachineSettings_{machine_, runLoop_, workspace_, alerts_};
+    TMUtil tmutil_{queue_, timeMachineSettings_};
     std::unique_ptr<DataManager> manager_;
     std::unique_ptr<Popover> popover_;
     SettingsViewController* panel_ = nullptr; ///< owned by the popover

@@ -1,10 +1,10 @@
+#include "Buttons.h"
 #include "ClippedTexts.h"
 #include "ColorScheme_linux.h"
-#include "DeleteButton.h"
 #include "LocalizedString.h"
 #include "SettingsFixture.h"
-#include "Stepper.h"
 #include "SystemColor.h"
+#include "TimePicker.h"
 
 #include <QAccessible>
 #include <QFile>

@@ -1,5 +1,5 @@
 #include "SettingsViewController.h"
-#include "TimePickerFormat.h"
+#include "TimePicker.h"
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,8 @@
 #include "FakeStatusItem.h"
 #include "MemoryDefaults.h"
 #include "NotificationCenter.h"
-#include "SettingsKeys.h"
 #include "StatusMenuController.h"
+#include "StoredAndSentNames.h"
 #include "TMUtilQueue.h"
 
 #include <QString>
@@ -20,8 +20,8 @@ namespace quillon {
 struct ProgramUnderTest {
     ProgramUnderTest(RunLoop& clock, TaskLauncher& processes, const QString& tool)
         : queue(processes, clock, tool)
+        , settings(processes, clock, workspace, alerts)
         , clock_(clock)
-        , processes_(processes)
     {
     }
 
@@ -37,7 +37,7 @@ struct ProgramUnderTest {
         controller.reset();
         manager = std::make_unique<DataManager>(DataManager::Services{clock_, defaults, notifications, loginItem});
         controller = std::make_unique<StatusMenuController>(StatusMenuController::Services{
-            clock_, defaults, notifications, workspace, queue, processes_, alerts, *manager, loginItem, statusItem});
+            clock_, defaults, notifications, workspace, tmutil, alerts, *manager, loginItem, statusItem});
         controller->awakeFromNib();
     }
 
@@ -48,12 +48,13 @@ struct ProgramUnderTest {
     FakeLoginItem loginItem;
     FakeStatusItem item;
     TMUtilQueue queue;
+    TimeMachineSettings settings;
+    TMUtil tmutil{queue, settings};
     std::unique_ptr<DataManager> manager;
     std::unique_ptr<StatusMenuController> controller;
 
 private:
     RunLoop& clock_;
-    TaskLauncher& processes_;
 };
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TaskLauncher.h"
+#include "Task.h"
 #include "TmutilScript.h"
 #include "VirtualRunLoop.h"
 

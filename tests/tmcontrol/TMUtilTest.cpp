@@ -1,11 +1,11 @@
 #include "TMUtil.h"
 
-#include "BackupPhase.h"
 #include "FakeServices.h"
 #include "LocalizedString.h"
 #include "ScopedEnvironment.h"
 #include "SetupAdvice.h"
-#include "TMUtilPath.h"
+#include "TMStatus.h"
+#include "TMUtilQueue.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +23,8 @@ protected:
         queue.reset();
         launcher = std::make_unique<ScriptedLauncher>(runLoop, TmutilScript::fromJson(script));
         queue = std::make_unique<TMUtilQueue>(*launcher, runLoop, u"tool"_s);
-        tmutil = std::make_unique<TMUtil>(*queue, *launcher, runLoop, workspace, alerts);
+        settings = std::make_unique<TimeMachineSettings>(*launcher, runLoop, workspace, alerts);
+        tmutil = std::make_unique<TMUtil>(*queue, *settings);
     }
     void askStatus(const QString& who)
     {
@@ -53,6 +54,7 @@ protected:
     FakeAlerts alerts;
     std::unique_ptr<ScriptedLauncher> launcher;
     std::unique_ptr<TMUtilQueue> queue;
+    std::unique_ptr<TimeMachineSettings> settings;
     std::unique_ptr<TMUtil> tmutil;
     QStringList log;
 };
@@ -105,7 +107,7 @@ TEST_F(Tmutil, NoWaitingRequestTakesAnothersReportAndWhatAnAnswerLeadsToRunsAhea
         start();
         runLoop.enqueue([this] { stop(); });
     });
-    TMUtil other(*queue, *launcher, runLoop, workspace, alerts);
+    TMUtil other(*queue, *settings);
     other.getStatusWithCompletionHandler(
         [this](const TMStatus& status) { log.append(u"second:%1"_s.arg(int(status.state))); });
     askDisks();

@@ -1,10 +1,10 @@
 #include "ConfigurationFixture.h"
-#include "DestinationChoice.h"
-#include "DestinationReport.h"
+#include "Destination.h"
 #include "History.h"
 #include "KeyStore.h"
 #include "Output.h"
 #include "PropertyListFile.h"
+#include "Reports.h"
 #include "Restore.h"
 #include "SourceSet.h"
 

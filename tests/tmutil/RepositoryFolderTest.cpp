@@ -1,7 +1,7 @@
 #include "RepositoryFolder.h"
 
 #include "ConfigurationFixture.h"
-#include "RecoveryKey.h"
+#include "KeyStore.h"
 
 #include <QRegularExpression>
 

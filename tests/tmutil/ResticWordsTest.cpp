@@ -2,8 +2,7 @@
 #include "Paths.h"
 #include "Restic.h"
 #include "ResticDiagnosis.h"
-#include "ResticLocks.h"
-#include "RestoreErrors.h"
+#include "Restore.h"
 #include "Verification.h"
 
 #include <gtest/gtest.h>

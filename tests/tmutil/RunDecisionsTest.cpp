@@ -1,7 +1,6 @@
+#include "BackupOutput.h"
 #include "BackupRemark.h"
-#include "DroppedFolders.h"
 #include "Restic.h"
-#include "Standstill.h"
 #include "Verification.h"
 
 #include <QFile>

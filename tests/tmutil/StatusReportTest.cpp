@@ -1,13 +1,11 @@
-#include "StatusReport.h"
-
 #include "ConfigurationFixture.h"
 #include "History.h"
-#include "ParentDeath.h"
 #include "PracticeTmutil.h"
-#include "ProcessLock.h"
 #include "PropertyListFile.h"
-#include "ReportMarks.h"
+#include "Reports.h"
 #include "RunLog.h"
+#include "RunState.h"
+#include "StopRequest.h"
 
 #include <fcntl.h>
 #include <signal.h>
@@ -237,7 +235,8 @@ TEST_F(StatusReportTest, AReaderNeverSeesHalfAFile)
     const QVariantMap before{{u"a"_s, u"before"_s}};
     const QVariantMap after{{u"a"_s, u"after"_s}};
     const QString list = path(u"state/run.plist"_s);
-    for (const auto write : {writePropertyListFile, replacePropertyListFile}) {
+    const auto writeAtOnce = [](const QString& to, const QVariantMap& what) { return writePropertyListFile(to, what); };
+    for (const auto& write : {std::function(writeAtOnce), std::function(replacePropertyListFile)}) {
         ASSERT_TRUE(write(list, before));
         QFile reader(list);
         ASSERT_TRUE(reader.open(QIODevice::ReadOnly));

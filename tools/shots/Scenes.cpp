@@ -2,8 +2,8 @@
 
 #include "AppDelegate.h"
 #include "Cirrel.h"
-#include "Notifications.h"
 #include "ScopedEnvironment.h"
+#include "StoredAndSentNames.h"
 
 #include <QAction>
 #include <QApplication>
@@ -51,7 +51,7 @@ void launchForTheFirstTime(Stage& stage)
     auto& program = stage.program();
     const Cirrel::Services unused(program.runLoop, program.defaults, nullptr); // by a build without a service
     AppDelegate delegate({program.runLoop, program.defaults, program.notifications, program.workspace, program.alerts,
-                          program.queue, program.machine, u"1.0"_s});
+                          program.tmutil, u"1.0"_s});
     delegate.applicationDidFinishLaunching();
     program.runLoop.advance(Seconds(1));
     stage.showAlert();

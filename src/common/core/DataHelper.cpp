@@ -1,8 +1,14 @@
 #include "DataHelper.h"
 
-#include "Bundle.h"
+#include "ApplicationIdentity.h"
 #include "Calendar.h"
 #include "LocalizedString.h"
+#include "ProcessInfo.h"
+#include "ShownText.h"
+
+#include <QVersionNumber>
+
+#include <compare>
 
 namespace quillon {
 
@@ -91,6 +97,25 @@ QString DataHelper::stringFromSystemVersion(const OperatingSystemVersion& versio
 {
     return u"%1.%2.%3"_s.arg(QString::number(version.major), QString::number(version.minor),
                              QString::number(version.patch));
+}
+
+QString systemVersion()
+{
+    const auto pretended = QVersionNumber::fromString(qEnvironmentVariable("QUILLON_SYSTEM_VERSION"));
+    if (pretended.isNull())
+        return DataHelper::stringFromSystemVersion(operatingSystemVersion());
+    return DataHelper::stringFromSystemVersion(
+        {pretended.majorVersion(), pretended.minorVersion(), pretended.microVersion()});
+}
+
+bool systemIsAtLeast(QStringView version)
+{
+    return std::is_gteq(compareNumerically(systemVersion(), version));
+}
+
+QString disableTimeMachineInstruction()
+{
+    return localizedString(systemIsAtLeast(u"13.0") ? "disableTmInstructionVentura" : "disableTmInstruction");
 }
 
 } // namespace quillon

@@ -3,6 +3,9 @@
 #include "DateFormatter.h"
 #include "ProcessInfo.h"
 
+#include <QString>
+#include <QStringView>
+
 namespace quillon {
 
 /// Short texts for dates and versions, and the date of a retry. Texts are in the user's locale and current time zone.
@@ -33,5 +36,16 @@ public:
     /// Such as "14.2.1".
     static QString stringFromSystemVersion(const OperatingSystemVersion& version);
 };
+
+/// Version of the system that runs this program, such as "14.2.1", unless the environment variable
+/// QUILLON_SYSTEM_VERSION says otherwise.
+QString systemVersion();
+
+/// Whether the system that runs this program has this version or a later one, compared number by number: "13.10" is
+/// later than "13.9".
+bool systemIsAtLeast(QStringView version);
+
+/// How to switch Time Machine's own automatic backups off, in the words of this system's settings.
+QString disableTimeMachineInstruction();
 
 } // namespace quillon

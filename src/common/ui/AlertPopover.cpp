@@ -1,6 +1,6 @@
 #include "AlertPopover.h"
 
-#include "AccessibleRole.h"
+#include "Accessibility.h"
 #include "Alert.h"
 
 #include <QCoreApplication>

@@ -14,7 +14,7 @@ namespace quillon {
 /// An alert inside a popover that points at the control it is about. One of them is visible at a time in the whole
 /// process: a newer one pushes it aside, and it comes back when the newer one has been answered, the one pushed aside
 /// last first. It closes by its buttons only, and a popover that it points into stays open until then. It lives as long
-/// as it is shown or waits. Main thread only.
+/// as it is shown or waits.
 class AlertPopover final : public std::enable_shared_from_this<AlertPopover> {
 public:
     using CompletionBlock = std::function<void(int response)>;

@@ -3,7 +3,7 @@
 #include "BackupSetup.h"
 #include "ListPage.h"
 #include "MountedDisks.h"
-#include "TmutilClient.h"
+#include "Setup.h"
 
 #include <QStringList>
 

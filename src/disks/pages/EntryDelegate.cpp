@@ -1,5 +1,4 @@
-#include "EntryDelegate.h"
-
+#include "ListPage.h"
 #include "Symbol_linux.h"
 
 #include <QAbstractItemView>

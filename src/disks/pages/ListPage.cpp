@@ -1,6 +1,5 @@
 #include "ListPage.h"
 
-#include "EntryDelegate.h"
 #include "LocalizedString.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "Bundle.h"
+#include "ApplicationIdentity.h"
 #include "ColorScheme_linux.h"
 #include "DisksWindow.h"
 #include "LocalizedString.h"
@@ -7,7 +7,7 @@
 #include "QuitSignals.h"
 #include "SingleInstance.h"
 #include "Symbol_linux.h"
-#include "TMUtilPath.h"
+#include "TMUtilQueue.h"
 #include "Task.h"
 
 #include <QApplication>
@@ -62,7 +62,7 @@ int main(int argc, char** argv)
 
     // A second start brings the first window to the front.
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                            "/quillon-disks"_L1);
+                            "/quillon-disks/instance"_L1);
     if (!instance.acquire()) {
         if (instance.askFirstToPresent())
             return 0;

@@ -1,17 +1,82 @@
 #pragma once
 
-#include "BackupDisksMenu.h"
 #include "DataManager.h"
-#include "HistoryMenu.h"
 #include "RunFollower.h"
 #include "StatusMenu.h"
 #include "TMUtil.h"
 #include "UserDefaults.h"
 
 #include <QList>
+#include <QMenu>
 #include <QObject>
+#include <QString>
 
 namespace quillon {
+
+/// Submenu of the backup-now item: which disk to back up to.
+class BackupDisksMenu final : public QMenu {
+    Q_OBJECT
+
+public:
+    struct Entry {
+        QString identifier; ///< of the destination
+        QString title;
+
+        bool operator==(const Entry&) const = default;
+    };
+
+    /// The parent is the menu that it opens from.
+    explicit BackupDisksMenu(QWidget* parent);
+
+    /// What it offers beside the choice of the system, once it has been closed: a click is meant for what was there.
+    void setEntries(const QList<Entry>& entries);
+
+Q_SIGNALS:
+    void systemChoiceClicked();
+    void diskClicked(const QString& identifier);
+
+private:
+    void fill();
+
+    QList<Entry> wanted_;
+    QList<Entry> entries_;
+};
+
+/// Submenu of the status line: the latest backup of each disk, headed by a title with a help button.
+///
+/// A desktop that draws the menu itself shows the rows as plain text; there the title opens the help.
+class HistoryMenu final : public QMenu {
+    Q_OBJECT
+
+public:
+    struct Row {
+        QString identifier; ///< of the destination
+        QString heading;    ///< its name, shown as a heading
+        QString value;
+
+        QString title() const { return heading + QStringLiteral(": ") + value; }
+        bool operator==(const Row&) const = default;
+    };
+
+    /// The parent is the menu that it opens from.
+    explicit HistoryMenu(QWidget* parent);
+
+    /// What it lists, once it has been closed: rows do not move under the pointer.
+    void setRows(const QList<Row>& rows);
+
+Q_SIGNALS:
+    void helpButtonPressed();
+
+private:
+    void fill();
+    void giveKeyboardTo(QAction* item);
+    void addTitle();
+    QWidget* createAllBackupInfoTitleMenuItemView();
+    void addRow(const Row& row);
+
+    QList<Row> wanted_;
+    QList<Row> rows_;
+};
 
 /// The backup disks in the menu: which to back up to, and the latest backup of each. They are asked for as the menu
 /// opens; the menu is not delayed, its submenus follow when Time Machine has answered.

@@ -1,8 +1,7 @@
 #include "StatusMenu.h"
 
-#include "EmojiFont.h"
 #include "LocalizedString.h"
-#include "PauseDurations.h"
+#include "SystemColor.h"
 
 #include <QActionEvent>
 #include <QGuiApplication>
@@ -15,6 +14,7 @@
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 StatusMenu::StatusMenu(const RunLoop& runLoop)

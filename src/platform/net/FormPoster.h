@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Date.h"
-#include "Error.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -12,6 +11,13 @@
 #include <optional>
 
 namespace quillon {
+
+/// Why something failed, for code that tells failures apart.
+struct Error {
+    QString domain; ///< who numbered the code
+    int code = 0;
+    QString message; ///< one line in English
+};
 
 /// A form to be posted, encoded as application/x-www-form-urlencoded (WHATWG URL Standard, section 5), in UTF-8.
 struct FormRequest {
@@ -27,7 +33,7 @@ struct HttpResult {
     std::optional<Error> error;
 };
 
-/// Posts forms over HTTP; the seam at which tests play a server. Main thread only.
+/// Posts forms over HTTP; the seam at which tests play a server.
 class FormPoster {
 public:
     using Completion = std::function<void(const HttpResult&)>;

@@ -1,12 +1,58 @@
 #pragma once
 
 #include "FormPoster.h"
+#include "RunLoop.h"
 
+#include <QNetworkAccessManager>
+#include <QNetworkProxy>
+#include <QNetworkReply>
 #include <QObject>
+#include <QProcessEnvironment>
+#include <QUrl>
 
 namespace quillon {
 
+/// Whether a host's name or address stands for this machine.
+bool isThisMachine(const QString& host);
+
+/// The proxy that the environment names for an HTTPS address: https_proxy, else all_proxy, unless no_proxy lists the
+/// host; the names in capital letters count where those in small ones are not set. `host:port` means an HTTP proxy,
+/// socks5:// and socks5h:// one for SOCKS, which also resolves the host's name; other kinds are passed over. no_proxy
+/// has names, which stand for the names below them too, addresses and subnets, each with a port or without, or "*".
+/// @return of the kind DefaultProxy where the environment says nothing, of the kind NoProxy where it forbids one
+QNetworkProxy environmentProxy(const QUrl& address, const QProcessEnvironment& environment);
+
 class RunLoop;
+
+/// One request under way: collects the answer within the bounds of size and time, and judges redirects. It deletes
+/// itself when it has ended; it ends once, and never when its parent is destroyed before.
+///
+/// It has connections of its own: those of one QNetworkAccessManager that requests share can get lost together, and
+/// then a request that comes to nothing is seen by its time-out only.
+class HttpExchange final : public QObject {
+    Q_OBJECT
+
+public:
+    using End = std::function<void(const HttpResult&)>;
+
+    HttpExchange(FormRequest form, RunLoop& runLoop, End end, QObject* parent);
+
+private:
+    void send(const QUrl& address);
+    void takeBytes();
+    void takeEnd();
+    void follow(const QUrl& target);
+    void fail(QNetworkReply::NetworkError code, const QString& message);
+    void finish(const HttpResult& result);
+
+    QNetworkAccessManager manager_;
+    const FormRequest form_;
+    QNetworkReply* reply_ = nullptr; // the manager's
+    const End end_;
+    Timer timeout_;
+    QByteArray body_;
+    int redirects_ = 0;
+};
 
 /// Posts forms to HTTPS servers with certificates that the system trusts; plain HTTP goes to this machine only.
 ///

@@ -1,5 +1,4 @@
 #include "LoginItem.h"
-#include "LoginItemFactory.h"
 
 #include <QDir>
 #include <QFile>
@@ -51,7 +50,7 @@ QString execArgument(const QString& program)
 /// An entry in the user's autostart folder (Desktop Application Autostart Specification 0.5).
 class AutostartEntry final : public LoginItem {
 public:
-    explicit AutostartEntry(QString program)
+    explicit AutostartEntry(LoginProgram program)
         : program_(std::move(program))
     {
     }
@@ -59,22 +58,24 @@ public:
     bool setEnabled(bool enabled) override { return enabled ? write() : remove(); }
 
 private:
-    static QString path()
+    QString path() const
     {
         const QString configuration = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-        return configuration + "/autostart/com.Orvane.Quillon.desktop"_L1;
+        return configuration + "/autostart/"_L1 + program_.identifier + ".desktop"_L1;
     }
 
     QByteArray content() const
     {
         return "[Desktop Entry]\n"
                "Type=Application\n"
-               "Name=Quillon\n"
+               "Name=" +
+               stringValue(program_.name).toUtf8() +
+               "\n"
                "Exec=" +
-               stringValue(execArgument(program_)).toUtf8() +
+               stringValue(execArgument(program_.path)).toUtf8() +
                "\n"
                "TryExec=" +
-               stringValue(program_).toUtf8() +
+               stringValue(program_.path).toUtf8() +
                "\n"
                "Terminal=false\n";
     }
@@ -91,18 +92,18 @@ private:
         return file.open(QIODevice::WriteOnly) && file.write(wanted) == wanted.size() && file.commit();
     }
 
-    static bool remove()
+    bool remove() const
     {
         QFile entry(path());
         return !entry.exists() || entry.remove();
     }
 
-    QString program_;
+    const LoginProgram program_;
 };
 
 } // namespace
 
-std::unique_ptr<LoginItem> makeLoginItem(const QString& program)
+std::unique_ptr<LoginItem> makeLoginItem(const LoginProgram& program)
 {
     return std::make_unique<AutostartEntry>(program);
 }

@@ -1,7 +1,6 @@
+#include "CoreFoundation_macos.h"
 #include "LoginItem.h"
-#include "LoginItemFactory.h"
 
-#include <CoreFoundation/CoreFoundation.h>
 #include <ServiceManagement/ServiceManagement.h>
 
 namespace quillon {
@@ -11,21 +10,29 @@ namespace {
 /// The companion bundle in Contents/Library/LoginItems of the application.
 class CompanionLoginItem final : public LoginItem {
 public:
+    explicit CompanionLoginItem(const QString& identifier)
+        : identifier_(identifier.toCFString())
+    {
+    }
+
     bool setEnabled(bool enabled) override
     {
         // Its successor since version 13, SMAppService, exists in Objective-C only.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
-        return SMLoginItemSetEnabled(CFSTR("com.Orvane.QuillonHelper"), enabled);
+        return SMLoginItemSetEnabled(identifier_.get(), enabled);
 #pragma clang diagnostic pop
     }
+
+private:
+    const CFOwned<CFStringRef> identifier_;
 };
 
 } // namespace
 
-std::unique_ptr<LoginItem> makeLoginItem(const QString&)
+std::unique_ptr<LoginItem> makeLoginItem(const LoginProgram& program)
 {
-    return std::make_unique<CompanionLoginItem>();
+    return std::make_unique<CompanionLoginItem>(program.companion);
 }
 
 } // namespace quillon

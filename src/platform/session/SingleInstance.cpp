@@ -1,20 +1,18 @@
 #include "SingleInstance.h"
 
-#include "PeerUser.h"
-#include "PrivateFolder.h"
-#include "ReopenWatch.h"
+#include "FileLock.h"
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
 
-#include <cerrno>
 #include <chrono>
-#include <sys/file.h>
 
 namespace quillon {
 
@@ -31,8 +29,6 @@ constexpr qint64 longestRequest = 64;
 constexpr qint64 longestToken = 512;
 constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
 constexpr QByteArrayView confirmation("presenting\n");
-
-constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
 /// The user's own folder for sockets, which the session's end empties; empty where the session has none.
 QString runtimeFolder()
@@ -61,21 +57,20 @@ public:
     ~TokenInEnvironment() { qunsetenv(tokenVariable); }
 };
 
-/// A name for the folder's socket. The folder's own path may be longer than the 104 bytes (macOS) or 108 bytes (Linux)
-/// that the address of a socket holds, unix(4) and unix(7).
-QString socketName(const QString& folder)
+/// A name for the socket. The file's own path may be longer than the 104 bytes (macOS) or 108 bytes (Linux) that the
+/// address of a socket holds, unix(4) and unix(7).
+QString socketName(const QString& lockFile)
 {
-    const QByteArray path = QDir(folder).canonicalPath().toUtf8();
+    const QByteArray path = QFileInfo(lockFile).canonicalFilePath().toUtf8();
     const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex().first(16);
-    return "quillon-"_L1 + QLatin1StringView(hash);
+    return "instance-"_L1 + QLatin1StringView(hash);
 }
 
 } // namespace
 
-SingleInstance::SingleInstance(const QString& folder, const QByteArrayList& requests)
-    : folder_(folder)
-    , requests_(requests)
-    , lockFile_(QDir(folder).filePath(u"com.Orvane.Quillon.instance"_s))
+SingleInstance::SingleInstance(const QString& lockFile, const QByteArrayList& requests)
+    : requests_(requests)
+    , lock_(lockFile)
 {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::answerNextClient);
@@ -83,44 +78,37 @@ SingleInstance::SingleInstance(const QString& folder, const QByteArrayList& requ
 
 bool SingleInstance::acquire()
 {
-    if (lockFile_.isOpen())
+    if (isFirst_)
         return true;
-    if (claim() != Claim::Ours) {
-        lockFile_.close();
-        return false;
+    isFirst_ = claim() == FileLock::Outcome::Taken;
+    if (isFirst_) {
+        listen();
+        reopenWatch_ = makeReopenWatch([this] { Q_EMIT presentRequested(); });
     }
-    listen();
-    reopenWatch_ = makeReopenWatch([this] { Q_EMIT presentRequested(); });
-    return true;
+    return isFirst_;
 }
 
 bool SingleInstance::isHeldByAnother()
 {
-    if (lockFile_.isOpen())
-        return false;
-    const bool held = claim() == Claim::Anothers;
-    lockFile_.close();
+    const bool held = !isFirst_ && claim() == FileLock::Outcome::Anothers;
+    if (!isFirst_)
+        lock_.release();
     return held;
 }
 
-SingleInstance::Claim SingleInstance::claim()
+FileLock::Outcome SingleInstance::claim()
 {
-    // QFile opens close-on-exec: a child that outlives this process does not keep the lock.
-    // Only the user can open the file, for whoever can open one can hold its lock.
-    if (!makePrivateFolder(folder_) || !lockFile_.open(QIODevice::ReadWrite, ownerOnly) ||
-        !lockFile_.setPermissions(ownerOnly)) { // of a file that an earlier version made for all to read
-        errorString_ = u"cannot write in the folder %1"_s.arg(folder_);
-        return Claim::Impossible;
+    const QString folder = QFileInfo(lock_.path()).path();
+    if (!makePrivateFolder(folder)) {
+        errorString_ = u"cannot write in the folder %1"_s.arg(folder);
+        return FileLock::Outcome::Impossible;
     }
-    if (flock(lockFile_.handle(), LOCK_EX | LOCK_NB) == 0)
-        return Claim::Ours;
-    const int error = errno;
-    if (error == EWOULDBLOCK) {
-        errorString_ = u"another instance runs on the folder %1"_s.arg(folder_);
-        return Claim::Anothers;
-    }
-    errorString_ = u"cannot lock %1: %2"_s.arg(lockFile_.fileName(), qt_error_string(error));
-    return Claim::Impossible;
+    const auto outcome = lock_.tryLock();
+    if (outcome == FileLock::Outcome::Anothers)
+        errorString_ = u"another instance runs on the folder %1"_s.arg(folder);
+    else if (outcome == FileLock::Outcome::Impossible)
+        errorString_ = u"cannot lock %1: %2"_s.arg(lock_.path(), lock_.errorString());
+    return outcome;
 }
 
 void SingleInstance::listen()
@@ -130,14 +118,12 @@ void SingleInstance::listen()
         ownFolder_ = std::make_unique<QTemporaryDir>();
         place = ownFolder_->path();
     }
-    const QString name = QDir(place).filePath(socketName(folder_));
+    const QString name = QDir(place).filePath(socketName(lock_.path()));
     QLocalServer::removeServer(name); // left by a crash: whoever listened there has lost the lock
     if (!server_.listen(name)) {
         qWarning("a second start will not bring this one to the front: %ls", qUtf16Printable(server_.errorString()));
     }
-    lockFile_.resize(0);
-    lockFile_.write(QFile::encodeName(server_.fullServerName()));
-    lockFile_.flush();
+    lock_.write(QFile::encodeName(server_.fullServerName()));
 }
 
 void SingleInstance::answerNextClient()
@@ -191,7 +177,7 @@ bool SingleInstance::askFirst(const QByteArray& request)
 bool SingleInstance::ask(const QByteArray& request, const QDeadlineTimer& deadline) const
 {
     const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
-    QFile address(lockFile_.fileName());
+    QFile address(lock_.path());
     if (!address.open(QIODevice::ReadOnly))
         return false;
     QLocalSocket first;

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "FileLock.h"
+
 #include <QByteArrayList>
-#include <QFile>
 #include <QLocalServer>
 #include <QObject>
 #include <QString>
 #include <QTemporaryDir>
+#include <QtGlobal>
 
+#include <functional>
 #include <memory>
 
 class QDeadlineTimer;
@@ -14,22 +17,29 @@ class QLocalSocket;
 
 namespace quillon {
 
-/// Sees to it that one instance at most runs on a settings folder. Main thread only.
+/// Whether the process at the other end of a connected local socket belongs to this one's user.
+bool isPeerOwnUser(qintptr socket);
+
+/// Calls `reopened`, from the event loop and until it is destroyed, when the user starts the application while it runs
+/// and the system starts no second process for that but tells this one. Null on systems that always start a process.
+std::unique_ptr<QObject> makeReopenWatch(const std::function<void()>& reopened);
+
+/// Sees to it that one instance at most of a program runs.
 ///
-/// The claim is a kernel lock on a file in the folder: it ends with the process, however that ends. The file names the
-/// socket over which a later start of the same user asks the first instance to present itself. Where the system turns a
-/// second start into a message to the first instance, that message counts as the same request. With the request comes
-/// the token by which the later start could have come to the front; while the signal's slots run it is the first's.
+/// The claim is the lock of a file, which ends with the process, however that ends. The file names the socket over
+/// which a later start of the same user asks the first instance to present itself. Where the system turns a second
+/// start into a message to the first instance, that message counts as the same request. With the request comes the
+/// token by which the later start could have come to the front; while the signal's slots run it is the first's.
 class SingleInstance final : public QObject {
     Q_OBJECT
 
 public:
-    /// The folder is made when it does not exist.
+    /// The folder of the lock file is made when it does not exist.
     /// @param requests what else than to present itself the first instance can be asked for: small letters and dashes
-    explicit SingleInstance(const QString& folder, const QByteArrayList& requests = {});
+    explicit SingleInstance(const QString& lockFile, const QByteArrayList& requests = {});
 
-    /// True when this is the one instance, until the object is destroyed. False when another one is, or when the folder
-    /// cannot be used: errorString() says which.
+    /// True when this is the one instance, until the object is destroyed. False when another one is, or when the file
+    /// cannot be locked: errorString() says which.
     [[nodiscard]] bool acquire();
 
     /// Whether another process is the one instance now. The claim is not taken.
@@ -46,24 +56,23 @@ public:
     QString errorString() const { return errorString_; }
 
 Q_SIGNALS:
-    /// Another start on the same folder, or of the same application, asks this one to come to the front.
+    /// Another start on the same file, or of the same application, asks this one to come to the front.
     void presentRequested();
     /// The same for one of the requests that the constructor was given.
     void requested(const QByteArray& request);
 
 private:
-    enum class Claim { Ours, Anothers, Impossible };
-    Claim claim();
+    FileLock::Outcome claim();
     void listen();
     void answerNextClient();
     void answer(QLocalSocket& client);
     bool ask(const QByteArray& request, const QDeadlineTimer& deadline) const;
 
-    QString folder_;
     QByteArrayList requests_;
-    QFile lockFile_;
+    FileLock lock_;
+    bool isFirst_ = false;
     std::unique_ptr<QTemporaryDir> ownFolder_; ///< of the socket, where the session has none for sockets
-    QLocalServer server_; // below the lock file, so that the socket is gone before the lock is free
+    QLocalServer server_;                      // below the lock, so that the socket is gone before the lock is free
     std::unique_ptr<QObject> reopenWatch_;
     QString errorString_;
 };

@@ -1,12 +1,47 @@
 #pragma once
 
-#include "LogindSleepWatch_linux.h"
 #include "Workspace.h"
-#include "WorkspaceFactory.h"
 
 #include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusServiceWatcher>
+#include <QDBusUnixFileDescriptor>
+#include <QObject>
+#include <QString>
 
 namespace quillon {
+
+/// Sleep and wake as logind announces them, org.freedesktop.login1(5).
+///
+/// Holds a delay lock while the system is awake, so that sleep waits for the slots of willSleep(). logind may be
+/// absent, come late or restart; no call waits for it.
+class LogindSleepWatch final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Without a connected bus nothing is ever announced. `reason` is what logind tells users who ask why sleep waits.
+    LogindSleepWatch(const QDBusConnection& systemBus, QString reason);
+
+Q_SIGNALS:
+    /// The lock is released when the slots connected directly have returned.
+    void willSleep();
+    void didWake();
+
+private Q_SLOTS:
+    void prepareForSleep(bool start);
+    void takeLock(const QDBusUnixFileDescriptor& lock);
+    void goWithoutLock(const QDBusError&) {}
+
+private:
+    void requestLock();
+    void changeOwner(const QString& newOwner);
+
+    QDBusConnection bus_;
+    const QString reason_;
+    QDBusServiceWatcher owner_;
+    QDBusUnixFileDescriptor lock_;
+    bool sleeping_ = false;
+};
 
 class RunLoop;
 
@@ -14,7 +49,7 @@ class RunLoop;
 class LinuxWorkspace final : public Workspace {
 public:
     /// `systemBus` is where logind is looked for; it need not be connected.
-    LinuxWorkspace(RunLoop& runLoop, const QDBusConnection& systemBus, OwnPrograms ownPrograms = {});
+    LinuxWorkspace(RunLoop& runLoop, const QDBusConnection& systemBus, WorkspaceNeeds needs = {});
 
     /// The completion gets true when xdg-open ends with status 0, and also when it still runs after ten seconds:
     /// without a desktop environment it stays for as long as the browser that it started.
@@ -25,7 +60,7 @@ private:
     void report(bool opened, Completion completion);
 
     RunLoop& runLoop_;
-    OwnPrograms ownPrograms_;
+    const OwnPrograms ownPrograms_;
     LogindSleepWatch sleepWatch_;
 };
 

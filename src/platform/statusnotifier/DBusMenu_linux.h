@@ -18,7 +18,7 @@ class QMenu;
 namespace quillon {
 
 /// A menu for hosts that draw it themselves, over com.canonical.dbusmenu: it follows a QMenu with its submenus, opens
-/// and closes it as the host does its own, and triggers what is clicked on there. Main thread only.
+/// and closes it as the host does its own, and triggers what is clicked on there.
 class DBusMenu final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")

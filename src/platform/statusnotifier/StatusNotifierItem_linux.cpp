@@ -3,13 +3,126 @@
 #include "TrayProtocols_linux.h"
 
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QGuiApplication>
+#include <QImage>
+#include <QtEndian>
 
 #include <utility>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap)
+{
+    argument.beginStructure();
+    argument << pixmap.width << pixmap.height << pixmap.pixels;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap)
+{
+    argument.beginStructure();
+    argument >> pixmap.width >> pixmap.height >> pixmap.pixels;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierToolTip& toolTip)
+{
+    argument.beginStructure();
+    argument << QString() << NotifierPixmaps() << toolTip.title << toolTip.text;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierToolTip& toolTip)
+{
+    QString iconName;
+    NotifierPixmaps icon;
+    argument.beginStructure();
+    argument >> iconName >> icon >> toolTip.title >> toolTip.text;
+    argument.endStructure();
+    return argument;
+}
+
+void registerNotifierTypes()
+{
+    qDBusRegisterMetaType<NotifierPixmap>();
+    qDBusRegisterMetaType<NotifierPixmaps>();
+    qDBusRegisterMetaType<NotifierToolTip>();
+    qRegisterMetaType<NotifierPixmaps>("quillon::NotifierPixmaps");
+}
+
+NotifierPixmaps notifierPixmaps(const QIcon& icon)
+{
+    NotifierPixmaps pixmaps;
+    const auto sizes = icon.availableSizes();
+    for (const QSize& size : sizes) {
+        const QImage image = icon.pixmap(size, 1.0).toImage().convertToFormat(QImage::Format_ARGB32);
+        QByteArray pixels(image.sizeInBytes(), Qt::Uninitialized);
+        // Of pixels of four bytes no row has any filling.
+        qToBigEndian<quint32>(image.constBits(), image.sizeInBytes() / static_cast<qsizetype>(sizeof(quint32)),
+                              pixels.data());
+        pixmaps.append({image.width(), image.height(), pixels});
+    }
+    return pixmaps;
+}
+
+using namespace trayprotocols;
+
+namespace {
+
+// A watcher that hangs must not keep the item hidden.
+constexpr int answerTimeoutMs = 1000;
+
+} // namespace
+
+StatusNotifierHostWatcher::StatusNotifierHostWatcher(const QDBusConnection& bus)
+    : bus_(bus)
+    , serviceWatcher_(statusNotifierWatcher, bus_, QDBusServiceWatcher::WatchForOwnerChange)
+    , known_(!bus_.isConnected())
+{
+    if (known_)
+        return;
+    connect(&serviceWatcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString& /*service*/, const QString& /*oldOwner*/, const QString& newOwner) {
+                if (!newOwner.isEmpty()) {
+                    ask();
+                    return;
+                }
+                question_.reset();
+                settle(false);
+            });
+    for (const auto signal : {"StatusNotifierHostRegistered"_L1, "StatusNotifierHostUnregistered"_L1})
+        bus_.connect(statusNotifierWatcher, statusNotifierPath, statusNotifierWatcher, signal, this, SLOT(ask()));
+    ask();
+}
+
+StatusNotifierHostWatcher::~StatusNotifierHostWatcher() = default;
+
+void StatusNotifierHostWatcher::ask()
+{
+    // A newer question replaces one under way, so that answers cannot overtake each other.
+    question_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(statusNotifierQuestion(), answerTimeoutMs));
+    connect(question_.get(), &QDBusPendingCallWatcher::finished, this, [this] {
+        const bool present = isYes(question_->reply());
+        question_.release()->deleteLater();
+        settle(present);
+    });
+}
+
+void StatusNotifierHostWatcher::settle(bool present)
+{
+    const bool news = !known_ || present_ != present;
+    known_ = true;
+    present_ = present;
+    if (news)
+        Q_EMIT changed();
+}
+
 using namespace trayprotocols;
 
 namespace {

@@ -1,14 +1,81 @@
 #pragma once
 
-#include "NotifierTypes_linux.h"
-
+#include <QByteArray>
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
+#include <QIcon>
+#include <QList>
 #include <QObject>
+#include <QString>
+
+#include <memory>
 
 namespace quillon {
+
+// What org.kde.StatusNotifierItem says of pictures and tool tips, in the shapes in which it goes over the bus:
+// https://www.freedesktop.org/wiki/Specifications/StatusNotifierItem/Icons/
+
+/// "(iiay)": a picture's pixels, row by row, each as alpha, red, green and blue.
+struct NotifierPixmap {
+    int width = 0;
+    int height = 0;
+    QByteArray pixels;
+
+    bool operator==(const NotifierPixmap&) const = default;
+};
+
+/// One picture in several sizes.
+using NotifierPixmaps = QList<NotifierPixmap>;
+
+/// "(sa(iiay)ss)", of which the icon stays empty.
+struct NotifierToolTip {
+    QString title;
+    QString text; ///< HTML
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierToolTip& toolTip);
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierToolTip& toolTip);
+
+/// Makes these shapes known to Qt's D-Bus module.
+void registerNotifierTypes();
+
+/// The icon in each of its sizes.
+NotifierPixmaps notifierPixmaps(const QIcon& icon);
+
+/// Knows whether a tray of the StatusNotifier protocol takes items; asks and listens, never waits.
+class StatusNotifierHostWatcher final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit StatusNotifierHostWatcher(const QDBusConnection& bus);
+    ~StatusNotifierHostWatcher() override;
+
+    /// Whether the first answer has come; without a bus it is there from the beginning.
+    bool isKnown() const { return known_; }
+    bool isPresent() const { return present_; }
+
+Q_SIGNALS:
+    /// The first answer has come, or the answer has changed.
+    void changed();
+
+private Q_SLOTS:
+    void ask();
+
+private:
+    void settle(bool present);
+
+    QDBusConnection bus_;
+    QDBusServiceWatcher serviceWatcher_;
+    std::unique_ptr<QDBusPendingCallWatcher> question_;
+    bool known_ = false;
+    bool present_ = false;
+};
 
 /// What a host shows of a program.
 struct NotifierContent {
@@ -24,7 +91,7 @@ struct NotifierContent {
 };
 
 /// A program's item on D-Bus for StatusNotifier hosts, which draw its menu themselves. It registers with every watcher
-/// that comes, from its construction on. Main thread only.
+/// that comes, from its construction on.
 class StatusNotifierItem final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")

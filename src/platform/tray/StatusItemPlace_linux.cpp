@@ -1,6 +1,5 @@
 #include "StatusItemPlace.h"
 #include "TrayProtocols_linux.h"
-#include "Xcb_linux.h"
 
 #include <QDBusConnection>
 

@@ -1,29 +1,24 @@
 #include "Commands.h"
 
-#include "CallerChannel.h"
 #include "Configuration.h"
-#include "DestinationChoice.h"
-#include "DestinationReport.h"
-#include "ExclusionCommands.h"
+#include "Destination.h"
 #include "Failure.h"
 #include "FolderTree.h"
 #include "Folders.h"
 #include "History.h"
 #include "KeyStore.h"
 #include "Output.h"
-#include "ProcessLock.h"
+#include "Reports.h"
 #include "RepositoryFolder.h"
 #include "Restic.h"
 #include "Restore.h"
 #include "Room.h"
 #include "RunLog.h"
-#include "SetupCommands.h"
+#include "RunState.h"
 #include "Snapshot.h"
-#include "StatusReport.h"
 #include "StopRequest.h"
 #include "Verification.h"
 #include "Worker.h"
-#include "WorkerProcess.h"
 
 #include <QStorageInfo>
 
@@ -54,7 +49,7 @@ void destinationInfo(const Folders& folders, bool xml)
 /// Under the worker's lock, so that no backup to that disk begins meanwhile.
 void removeDestination(const Folders& folders, const QString& id)
 {
-    makePrivateFolder(folders.state);
+    needPrivateFolder(folders.state);
     ProcessLock lock(RunState::lockPath(folders.state));
     if (!lock.tryLock()) {
         const auto run = RunState::current(folders.state);
@@ -121,7 +116,7 @@ void verify(const Folders& folders, const CommandLine& line)
     if (RunState::current(folders.state))
         throw Failure(ExitStatus::AlreadyRunning, u"A backup is running."_s);
     const RepositoryFolder repository = openRepository(chosenDestination(folders, line.destination));
-    makePrivateFolder(folders.state);
+    needPrivateFolder(folders.state);
     const StopRequest stop;
     if (const auto damage = Verification::runAndRemember(repository, folders, stop, line.all))
         throw Failure(ExitStatus::Damaged, damage->description());
@@ -131,7 +126,7 @@ void verify(const Folders& folders, const CommandLine& line)
 /// All of those named, or none. A name given once stands for one backup, the oldest of that name.
 void deleteBackups(const Folders& folders, const QStringList& names)
 {
-    makePrivateFolder(folders.state);
+    needPrivateFolder(folders.state);
     ProcessLock lock(RunState::lockPath(folders.state)); // no backup is to begin meanwhile
     if (!lock.tryLock())
         throw Failure(ExitStatus::AlreadyRunning, u"A backup is running."_s);

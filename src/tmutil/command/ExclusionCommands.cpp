@@ -1,5 +1,4 @@
-#include "ExclusionCommands.h"
-
+#include "Commands.h"
 #include "Configuration.h"
 #include "Failure.h"
 #include "Output.h"

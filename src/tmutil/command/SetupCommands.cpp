@@ -1,5 +1,4 @@
-#include "SetupCommands.h"
-
+#include "Commands.h"
 #include "Configuration.h"
 #include "Failure.h"
 #include "History.h"

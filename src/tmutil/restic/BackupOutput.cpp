@@ -11,6 +11,28 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+QVariantMap BackupProgress::toDictionary() const
+{
+    QVariantMap entry{{u"Percent"_s, fraction ? QVariant(*fraction) : QVariant(qlonglong{-1})},
+                      {u"bytes"_s, bytes},
+                      {u"totalBytes"_s, totalBytes},
+                      {u"files"_s, files},
+                      {u"totalFiles"_s, totalFiles}};
+    if (secondsRemaining)
+        entry.insert(u"TimeRemaining"_s, *secondsRemaining);
+    return entry;
+}
+
+bool Standstill::isSince(const std::optional<BackupProgress>& progress, std::chrono::steady_clock::time_point now)
+{
+    constexpr std::chrono::minutes longest{1};
+    if (!progress || progress != told_) {
+        told_ = progress;
+        since_ = now;
+    }
+    return now - since_ >= longest;
+}
+
 BackupOutput::BackupOutput(const QStringList& sources, bool repaired)
     : emptySources_(sources)
     , isOnlySource_(sources.size() == 1)

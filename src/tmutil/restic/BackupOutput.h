@@ -1,17 +1,45 @@
 #pragma once
 
-#include "BackupProgress.h"
-
 #include <QByteArray>
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
+#include <chrono>
 #include <optional>
 
 class QJsonObject;
 
 namespace quillon {
+
+/// How far copying has come.
+struct BackupProgress {
+    std::optional<double> fraction = std::nullopt;            ///< 0 to 1, once the scan has ended
+    std::optional<qlonglong> secondsRemaining = std::nullopt; ///< once it can be estimated
+    qlonglong bytes = 0;                                      ///< read so far
+    qlonglong totalBytes = 0;                                 ///< found so far; final once the scan has ended
+    qlonglong files = 0;
+    qlonglong totalFiles = 0;
+
+    bool operator==(const BackupProgress&) const = default;
+
+    /// The system tool's dictionary "Progress", in which a "Percent" of -1 stands for an unknown one.
+    QVariantMap toDictionary() const;
+};
+
+/// Notices that a backup gets no further. restic 0.14 waits for ever where the disk fills up as it writes its last
+/// files, and goes on telling how far it has come.
+class Standstill {
+public:
+    /// Whether the same has been told for a minute, as of now on a clock that never steps. Nothing told is no progress
+    /// that could stand still: restic reads its indexes first.
+    bool isSince(const std::optional<BackupProgress>& progress, std::chrono::steady_clock::time_point now);
+
+private:
+    std::optional<BackupProgress> told_;
+    std::chrono::steady_clock::time_point since_;
+};
 
 /// Reads what `restic backup` prints, line by line.
 class BackupOutput {

@@ -2,7 +2,6 @@
 
 #include "Failure.h"
 #include "KeyStore.h"
-#include "RecoveryKey.h"
 #include "StopRequest.h"
 
 #include <QDir>

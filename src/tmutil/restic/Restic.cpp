@@ -1,9 +1,8 @@
 #include "Restic.h"
 
 #include "KeyStore.h"
-#include "ParentDeath.h"
 #include "RepositoryFolder.h"
-#include "ResticLocks.h"
+#include "ResticDiagnosis.h"
 #include "StopRequest.h"
 
 #include <QDir>

@@ -1,16 +1,15 @@
 #include "Backup.h"
 
 #include "BackupOutput.h"
-#include "DroppedFolders.h"
+#include "BackupRemark.h"
 #include "History.h"
 #include "KeyStore.h"
 #include "RepositorySetup.h"
 #include "Restic.h"
-#include "ResticLocks.h"
+#include "ResticDiagnosis.h"
 #include "Retention.h"
 #include "Room.h"
 #include "RunState.h"
-#include "Standstill.h"
 #include "StopRequest.h"
 #include "Verification.h"
 

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "BackupProgress.h"
+#include "BackupOutput.h"
 #include "BackupRemark.h"
 #include "Configuration.h"
-#include "EarlierBackups.h"
 #include "Folders.h"
-#include "LastFailure.h"
 #include "RepositoryFolder.h"
 #include "RunLog.h"
 #include "Snapshot.h"

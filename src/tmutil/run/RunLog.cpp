@@ -1,7 +1,6 @@
 #include "RunLog.h"
 
-#include "Failure.h"
-#include "Folders.h"
+#include "FileLock.h"
 #include "PropertyListFile.h"
 
 #include <QDir>
@@ -10,6 +9,20 @@
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+QString statusDate(const QDateTime& date)
+{
+    return date.toUTC().toString(u"yyyy-MM-dd HH:mm:ss '+0000'"_s);
+}
+
+QVariantMap LastFailure::toDictionary() const
+{
+    QVariantMap entry{
+        {u"Date"_s, date}, {u"DestinationID"_s, destinationId}, {u"Cause"_s, cause}, {u"Description"_s, description}};
+    if (unreadFiles > 0)
+        entry.insert(u"UnreadFiles"_s, unreadFiles);
+    return entry;
+}
 
 namespace {
 
@@ -60,11 +73,8 @@ QString storable(QString text)
 bool RunLog::write(const QString& stateFolder) const
 {
     const QString folder = folderOf(stateFolder);
-    try {
-        makePrivateFolder(folder);
-    } catch (const Failure&) {
+    if (!makePrivateFolder(folder))
         return false;
-    }
     QVariantList paths;
     for (const QString& path : unread)
         paths.append(storable(path));

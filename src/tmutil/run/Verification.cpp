@@ -3,7 +3,6 @@
 #include "Failure.h"
 #include "Folders.h"
 #include "History.h"
-#include "ProcessLock.h"
 #include "Restic.h"
 #include "Retention.h"
 #include "RunState.h"

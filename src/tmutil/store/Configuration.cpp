@@ -1,12 +1,12 @@
 #include "Configuration.h"
 
 #include "Failure.h"
+#include "Folders.h"
 #include "KeyStore.h"
 #include "Paths.h"
-#include "ProcessLock.h"
 #include "PropertyList.h"
-#include "PropertyListFile.h"
 #include "RepositoryFolder.h"
+#include "RunState.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -296,7 +296,7 @@ void Configuration::setLargestFile(qlonglong bytes)
 /// On the newest contents, under the lock. What throws changes nothing.
 void Configuration::change(const std::function<void()>& edit)
 {
-    makePrivateFolder(folders_.configuration);
+    needPrivateFolder(folders_.configuration);
     ProcessLock lock(file() + ".lock"_L1);
     lock.lock();
     read();

@@ -2,7 +2,7 @@
 
 #include "Destination.h"
 #include "Folders.h"
-#include "MountTable.h"
+#include "Paths.h"
 #include "Retention.h"
 
 #include <QStringList>

@@ -1,10 +1,13 @@
 #include "Folders.h"
 
 #include "Failure.h"
+#include "FileLock.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
+#include <cstdio>
 #include <pwd.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -47,14 +50,47 @@ bool hasRoom(const QString& folder)
            room.f_bavail * room.f_frsize >= smallFiles;
 }
 
-void makePrivateFolder(const QString& path)
+void needPrivateFolder(const QString& path)
 {
-    constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
-    if (QFileInfo(path).isDir())
-        return;
-    const QString parent = QFileInfo(path).path();
-    if (!QDir().mkpath(parent) || !QDir().mkdir(path, ownerOnly))
+    if (!makePrivateFolder(path))
         throw Failure(ExitStatus::CannotWrite, u"The folder \"%1\" cannot be made."_s.arg(path));
+}
+
+namespace {
+
+QString beside(const QString& path, QLatin1StringView what)
+{
+    const QFileInfo file(path);
+    return file.path() + u'/' + file.completeBaseName() + u'-' + what + u'.' + file.suffix();
+}
+
+/// The file stays where it is: writing the next version may fail, most likely on the full disk that damaged this one.
+void keepBeside(const QString& path, QLatin1StringView what)
+{
+    const QByteArray fresh = QFile::encodeName(beside(path, "fresh"_L1));
+    unlink(fresh.constData());
+    if (link(QFile::encodeName(path).constData(), fresh.constData()) == 0)
+        std::rename(fresh.constData(), QFile::encodeName(beside(path, what)).constData());
+}
+
+} // namespace
+
+KeptPropertyList readKeptPropertyList(const QString& path)
+{
+    const QString previous = beside(path, "previous"_L1);
+    const bool isLost = !QFile::exists(path) && QFile::exists(previous);
+    if (auto contents = readPropertyListFile(path); contents && !isLost)
+        return {std::move(contents), false};
+    return {QFile::exists(previous) ? readPropertyListFile(previous) : std::nullopt, true};
+}
+
+bool writeKeptPropertyList(const QString& path, const QVariantMap& contents)
+{
+    if (const auto current = readPropertyListFile(path); !current)
+        keepBeside(path, "damaged"_L1);
+    else if (*current != contents)
+        keepBeside(path, "previous"_L1);
+    return writePropertyListFile(path, contents);
 }
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PropertyListFile.h"
+
 #include <QString>
 
 namespace quillon {
@@ -19,6 +21,17 @@ struct Folders {
 bool hasRoom(const QString& folder);
 
 /// Makes the folder, parents included, readable by the user only. Throws Failure.
-void makePrivateFolder(const QString& path);
+void needPrivateFolder(const QString& path);
+
+/// A property list that is kept together with the version before it.
+struct KeptPropertyList {
+    std::optional<QVariantMap> contents; ///< of the version before where `damaged`; nothing where both are damaged
+    bool damaged = false;                ///< or gone, while the version before it is there
+};
+KeptPropertyList readKeptPropertyList(const QString& path);
+
+/// As writePropertyListFile(), with the version before kept as "NAME-previous.plist", and a damaged one put aside as
+/// "NAME-damaged.plist".
+bool writeKeptPropertyList(const QString& path, const QVariantMap& contents);
 
 } // namespace quillon

@@ -1,8 +1,6 @@
 #include "History.h"
 
 #include "Folders.h"
-#include "ProcessLock.h"
-#include "PropertyListFile.h"
 #include "RunState.h"
 
 #include <QDeadlineTimer>
@@ -233,7 +231,7 @@ void History::setDamage(const QString& destinationId, const std::optional<Damage
 
 bool History::change(const QString& stateFolder, const std::function<void(History&)>& edit)
 {
-    makePrivateFolder(stateFolder);
+    needPrivateFolder(stateFolder);
     ProcessLock lock(RunState::lockPath(stateFolder));
     const QDeadlineTimer limit(patience); // most who hold it do so for a moment
     while (!lock.tryLock()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LastFailure.h"
+#include "RunLog.h"
 #include "Snapshot.h"
 #include "Verification.h"
 

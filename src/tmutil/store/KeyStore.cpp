@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSaveFile>
+#include <QStringList>
 #include <QUuid>
 
 #include <array>
@@ -16,6 +17,59 @@
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Base 32 without I, L, O and U: Douglas Crockford, "Base 32".
+constexpr QLatin1StringView alphabet{"0123456789ABCDEFGHJKMNPQRSTVWXYZ"};
+constexpr qsizetype randomCharacters = 28;
+constexpr qsizetype groupLength = 5;
+
+/// Two characters that change when one is mistaken, or when two are exchanged.
+QString checkOf(const QString& characters)
+{
+    constexpr int largestPrimeOfTenBits = 1021;
+    int sum = 1;
+    for (const QChar character : characters)
+        sum = static_cast<int>((sum * 32 + alphabet.indexOf(character)) % largestPrimeOfTenBits);
+    return QString(alphabet[sum / 32]) + alphabet[sum % 32];
+}
+
+QString inGroups(const QString& characters)
+{
+    QStringList groups;
+    for (qsizetype at = 0; at < characters.size(); at += groupLength)
+        groups.append(characters.mid(at, groupLength));
+    return groups.join(u'-');
+}
+
+} // namespace
+
+QString makeRecoveryKey()
+{
+    QString characters;
+    while (characters.size() < randomCharacters)
+        characters += alphabet[QRandomGenerator::system()->bounded(static_cast<int>(alphabet.size()))];
+    return inGroups(characters + checkOf(characters));
+}
+
+QString recoveryKeyFrom(const QString& typed)
+{
+    QString characters;
+    for (QChar character : typed.toUpper()) {
+        if (character == u'O')
+            character = u'0';
+        else if (character == u'I' || character == u'L')
+            character = u'1';
+        if (alphabet.contains(character))
+            characters += character;
+        else if (character != u'-' && !character.isSpace())
+            return {};
+    }
+    const QString random = characters.left(randomCharacters);
+    return characters.size() == randomCharacters + 2 && characters.endsWith(checkOf(random)) ? inGroups(characters)
+                                                                                             : QString();
+}
 
 namespace {
 
@@ -77,7 +131,7 @@ void KeyStore::ensure(const QString& destinationId) const
 
 void KeyStore::store(const QString& destinationId, const QString& key) const
 {
-    makePrivateFolder(folder_);
+    needPrivateFolder(folder_);
     const QString aside = path(destinationId) + u'.' + QUuid::createUuid().toString(QUuid::Id128).left(8);
     if (contains(destinationId) && !QFile::copy(path(destinationId), aside))
         throw Failure(ExitStatus::CannotWrite, u"The key file \"%1\" cannot be written."_s.arg(aside));
@@ -98,7 +152,7 @@ QString KeyStore::keptRecoveryKey(const QString& destinationId) const
 
 void KeyStore::setKeptRecoveryKey(const QString& destinationId, const QString& identifier) const
 {
-    makePrivateFolder(folder_);
+    needPrivateFolder(folder_);
     writePrivateLine(keptPath(destinationId), identifier);
 }
 

@@ -1,7 +1,6 @@
 #include "RunState.h"
 
 #include "Failure.h"
-#include "ProcessLock.h"
 #include "PropertyListFile.h"
 
 #include <QFile>
@@ -9,6 +8,37 @@
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+ProcessLock::ProcessLock(const QString& path)
+    : lock_(path)
+{
+}
+
+bool ProcessLock::tryLock()
+{
+    return taken(lock_.tryLock());
+}
+
+void ProcessLock::lock()
+{
+    taken(lock_.lock());
+}
+
+bool ProcessLock::taken(FileLock::Outcome outcome) const
+{
+    if (outcome == FileLock::Outcome::Impossible)
+        throw Failure(ExitStatus::CannotWrite,
+                      u"The lock \"%1\" cannot be taken: %2."_s.arg(lock_.path(), lock_.errorString()));
+    return outcome == FileLock::Outcome::Taken;
+}
+
+std::optional<pid_t> ProcessLock::holder(const QString& path)
+{
+    const auto found = FileLock::holder(path);
+    if (!found.error.isEmpty())
+        throw Failure(ExitStatus::StateDamaged, u"The lock \"%1\" cannot be read: %2."_s.arg(path, found.error));
+    return found.process;
+}
 
 namespace {
 

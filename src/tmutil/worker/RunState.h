@@ -1,7 +1,8 @@
 #pragma once
 
-#include "BackupProgress.h"
-#include "LastFailure.h"
+#include "BackupOutput.h"
+#include "FileLock.h"
+#include "RunLog.h"
 
 #include <QString>
 #include <QVariantMap>
@@ -10,6 +11,26 @@
 #include <sys/types.h>
 
 namespace quillon {
+
+/// The lock of a file for this program, which ends with a Failure where a lock cannot be had at all.
+class ProcessLock {
+public:
+    explicit ProcessLock(const QString& path);
+
+    /// False when another process holds it.
+    bool tryLock();
+
+    /// Waits until nobody else holds it.
+    void lock();
+
+    /// The process that holds the lock of that file; nothing when it is free.
+    static std::optional<pid_t> holder(const QString& path);
+
+private:
+    bool taken(FileLock::Outcome outcome) const;
+
+    FileLock lock_;
+};
 
 /// The words under which a run's steps are known; the system tool's own.
 namespace phase {

@@ -3,10 +3,17 @@
 #include <QSocketNotifier>
 
 #include <csignal>
+#include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
 namespace quillon {
+
+bool endWithParent(int signal, pid_t parent) noexcept
+{
+    prctl(PR_SET_PDEATHSIG, signal);
+    return getppid() == parent;
+}
 
 namespace {
 

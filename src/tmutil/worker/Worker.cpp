@@ -1,11 +1,11 @@
 #include "Worker.h"
 
-#include "CallerChannel.h"
-#include "DestinationChoice.h"
+#include "Destination.h"
 #include "Failure.h"
 #include "History.h"
-#include "ReportMarks.h"
-#include "UtilityPriority.h"
+#include "Output.h"
+#include "ProcessInfo.h"
+#include "Reports.h"
 #include "Verification.h"
 
 #include <QDir>
@@ -143,7 +143,7 @@ BackupResult Worker::backUp(const Destination& destination, const Configuration&
 
 void Worker::takeLock()
 {
-    makePrivateFolder(folders_.state);
+    needPrivateFolder(folders_.state);
     lock_.emplace(RunState::lockPath(folders_.state));
     const QDeadlineTimer limit(lockWait);
     // Asked before the lock is held, which a look at its holder would drop.

@@ -1,9 +1,8 @@
-#include "WorkerProcess.h"
-
-#include "CallerChannel.h"
 #include "Failure.h"
+#include "Output.h"
 #include "RunState.h"
 #include "Verification.h"
+#include "Worker.h"
 
 #include <QDeadlineTimer>
 #include <QThread>

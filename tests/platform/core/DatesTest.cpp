@@ -1,5 +1,4 @@
 #include "Calendar.h"
-#include "DateComponentsFormatter.h"
 #include "DateFormatter.h"
 #include "ScopedEnvironment.h"
 

@@ -1,5 +1,4 @@
-#include "FileUserDefaults.h"
-
+#include "FileUserDefaults_linux.h"
 #include "PropertyList.h"
 #include "ScopedEnvironment.h"
 #include "VirtualRunLoop.h"
@@ -7,11 +6,12 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <functional>
 #include <gtest/gtest.h>
-#include <sys/file.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -181,29 +181,39 @@ TEST_F(FileUserDefaultsTest, WhatAnotherProgramsLockKeepsInMemoryFollowsOnceItIs
 {
     write("{ a = 1; }");
     const auto holdLock = [this] {
-        const int other = ::open(QFile::encodeName(path() + u".lock"_s).constData(), O_RDWR | O_CREAT, 0600);
-        EXPECT_EQ(flock(other, LOCK_EX), 0);
+        constexpr auto holds =
+            "import fcntl, sys; f = open(sys.argv[1], 'w'); fcntl.lockf(f, fcntl.LOCK_EX); print('held', "
+            "flush=True); sys.stdin.read()"_L1;
+        auto other = std::make_unique<QProcess>();
+        other->start(u"python3"_s, {u"-c"_s, holds, path() + u".lock"_s});
+        EXPECT_TRUE(other->waitForReadyRead());
         return other;
+    };
+    std::unique_ptr<QProcess> other;
+    const auto letGo = [&] {
+        other->closeWriteChannel();
+        EXPECT_TRUE(other->waitForFinished());
     };
     const QString warnings = told([&] {
         auto defaults = open();
-        const int first = holdLock();
+        other = holdLock();
         defaults.setObject(u"b"_s, 2);
         defaults.setObject(u"a"_s, QVariant());
         runLoop_.advance(Seconds(10));
         EXPECT_EQ(defaults.integer(u"b"_s), 2);
         EXPECT_EQ(contents(path()), "{ a = 1; }");
-        close(first);
+        letGo();
         runLoop_.advance(Seconds(2));
         EXPECT_EQ(stored(), (QVariantMap{{u"b"_s, 2LL}}));
         write("{ theirs = 1; }");
         runLoop_.advance(Seconds(60));
         EXPECT_EQ(contents(path()), "{ theirs = 1; }") << "nothing is left to write";
 
-        holdLock(); // and never lets go
+        other = holdLock(); // beyond the end
         defaults.setObject(u"c"_s, 3);
         write("{ theirs = 2; }");
     });
+    letGo();
     EXPECT_EQ(stored(), (QVariantMap{{u"theirs"_s, u"2"_s}, {u"c"_s, 3LL}}));
     EXPECT_EQ(warnings.count(u'\n'), 2) << "one trouble is told once: " << warnings.toStdString();
 }
@@ -213,9 +223,9 @@ TEST_F(FileUserDefaultsTest, TheUsersDatabaseLiesInTheConfigurationFolderAndIsTh
     const QString deep = folder() + u"/deeper"_s;
     const ScopedEnvironment config("XDG_CONFIG_HOME", QFile::encodeName(deep));
     const mode_t before = umask(0);
-    openUserDefaults(DefaultsAccess::ReadWrite, runLoop_)->setObject(u"a"_s, 1);
+    openUserDefaults(u"com.Orvane.Quillon"_s, DefaultsAccess::ReadWrite, runLoop_)->setObject(u"a"_s, 1);
     umask(before);
-    EXPECT_EQ(openUserDefaults(DefaultsAccess::ReadOnly, runLoop_)->integer(u"a"_s), 1);
+    EXPECT_EQ(openUserDefaults(u"com.Orvane.Quillon"_s, DefaultsAccess::ReadOnly, runLoop_)->integer(u"a"_s), 1);
     EXPECT_TRUE(QFile::exists(deep + u"/com.Orvane.Quillon.plist"_s));
     EXPECT_EQ(modeOf(folder()), 0700);
     EXPECT_EQ(modeOf(deep), 0700);

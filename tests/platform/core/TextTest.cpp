@@ -1,5 +1,4 @@
 #include "ShownText.h"
-#include "TextComparison.h"
 
 #include <gtest/gtest.h>
 #include <initializer_list>

@@ -1,4 +1,4 @@
-#include "EnvironmentProxy.h"
+#include "HttpClient.h"
 
 #include <gtest/gtest.h>
 

@@ -22,7 +22,7 @@ void say(const QString& line)
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    quillon::SingleInstance instance(application.arguments().value(1), {"back-up-now"});
+    quillon::SingleInstance instance(application.arguments().value(1) + QStringLiteral("/instance"), {"back-up-now"});
     const QByteArray request = application.arguments().value(2, u"present"_s).toUtf8();
     if (!instance.acquire()) {
         say(instance.askFirst(request) ? u"presented"_s : u"refused: "_s + instance.errorString());

@@ -1,7 +1,6 @@
 #include "ChildProgram.h"
 #include "EventLoop.h"
 #include "LoginItem.h"
-#include "LoginItemFactory.h"
 #include "ScopedEnvironment.h"
 #include "SessionTestSupport.h"
 
@@ -19,7 +18,10 @@ namespace {
 
 class LoginItemIntegrationTest : public testing::Test {
 protected:
-    static bool enable(const QString& program) { return makeLoginItem(program)->setEnabled(true); }
+    static bool enable(const QString& program)
+    {
+        return makeLoginItem({u"Quillon"_s, u"com.Orvane.Quillon"_s, {}, program})->setEnabled(true);
+    }
     QString validated() const { return outputOf(u"desktop-file-validate"_s, {entry}, {}) + contentOf(entry); }
 
     QTemporaryDir folder;
@@ -51,7 +53,7 @@ TEST_F(LoginItemIntegrationTest, TheEntryIsValidAndStartsTheProgramWhateverItsPa
 
 TEST_F(LoginItemIntegrationTest, AnEntryIsWrittenOnlyWhereSomethingIsNewAndRemovedWhereThereIsOne)
 {
-    EXPECT_TRUE(makeLoginItem({})->setEnabled(false));
+    EXPECT_TRUE(makeLoginItem({u"Quillon"_s, u"com.Orvane.Quillon"_s, {}, {}})->setEnabled(false));
     ASSERT_TRUE(enable(u"/opt/quillon"_s));
     const auto number = [this] {
         struct stat status {};
@@ -63,7 +65,7 @@ TEST_F(LoginItemIntegrationTest, AnEntryIsWrittenOnlyWhereSomethingIsNewAndRemov
     ASSERT_TRUE(enable(u"/srv/quillon"_s));
     EXPECT_TRUE(contentOf(entry).contains("/srv/quillon"_L1));
     EXPECT_EQ(QFileInfo(entry).dir().entryList(QDir::Files).size(), 1);
-    EXPECT_TRUE(makeLoginItem({})->setEnabled(false));
+    EXPECT_TRUE(makeLoginItem({u"Quillon"_s, u"com.Orvane.Quillon"_s, {}, {}})->setEnabled(false));
     EXPECT_EQ(number(), 0);
 }
 

@@ -60,9 +60,9 @@ protected:
     ScopedEnvironment path{"PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin"};
     ScopedEnvironment noteFile{"NOTE", QFile::encodeName(folder.filePath(u"note"_s))};
     VirtualRunLoop runLoop{Date{}};
-    const OwnPrograms ownPrograms{{QUrl(u"x-settings:disks"_s), folder.filePath(u"disks"_s)}};
+    const WorkspaceNeeds needs{{{QUrl(u"x-settings:disks"_s), folder.filePath(u"disks"_s)}}, {}};
     std::unique_ptr<Workspace> workspace =
-        std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection(u"no such connection"_s), ownPrograms);
+        std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection(u"no such connection"_s), needs);
     std::optional<bool> result;
 };
 

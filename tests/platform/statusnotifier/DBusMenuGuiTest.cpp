@@ -1,5 +1,5 @@
 #include "DBusMenu_linux.h"
-#include "NotifierTypes_linux.h"
+#include "StatusNotifierItem_linux.h"
 
 #include <QAction>
 #include <QActionGroup>

@@ -1,4 +1,4 @@
-#include "Mnemonics.h"
+#include "Accessibility.h"
 
 #include <QSet>
 

@@ -1,4 +1,4 @@
-#include "PopoverFrame.h"
+#include "PopoverPlacement.h"
 #include "host/Probe.h"
 #include "host/VirtualDisplay.h"
 #include "host/WaylandCompositor.h"

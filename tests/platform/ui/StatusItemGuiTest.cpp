@@ -1,5 +1,5 @@
-#include "NotifierStatusItem_linux.h"
 #include "PrivateBus.h"
+#include "TrayStatusItems_linux.h"
 #include "host/FakeSettingsPortal.h"
 #include "host/FakeStatusNotifierTray.h"
 #include "host/Probe.h"

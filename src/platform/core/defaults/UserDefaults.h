@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Date.h"
+#include "RunLoop.h"
 
 #include <QString>
 #include <QVariant>
@@ -11,7 +12,7 @@
 namespace quillon {
 
 /// The user's settings database of this program: typed reads over stored values, with registered defaults behind them.
-/// Values are those of property lists (PropertyList.h). Main thread only.
+/// Values are those of property lists (PropertyList.h).
 class UserDefaults {
 public:
     UserDefaults() = default;
@@ -43,5 +44,16 @@ protected:
 private:
     QVariantMap registered_;
 };
+
+enum class DefaultsAccess {
+    ReadWrite,
+    ReadOnly ///< nothing on disk is made, changed or set aside; values that are set live in memory
+};
+
+/// The settings database of the application with that identifier, for the user who runs this program.
+///
+/// macOS: the preferences of the application; a tool in the application's bundle shares them. Elsewhere: the file
+/// `IDENTIFIER.plist` in the user's configuration folder (XDG Base Directory Specification).
+std::unique_ptr<UserDefaults> openUserDefaults(const QString& identifier, DefaultsAccess access, RunLoop& runLoop);
 
 } // namespace quillon

@@ -1,16 +1,29 @@
 #include "ProcessInfo.h"
 
-#include <QString>
-#include <QVersionNumber>
+#include <linux/ioprio.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 namespace quillon {
 
 OperatingSystemVersion operatingSystemVersion()
 {
-    const auto version = QVersionNumber::fromString(qEnvironmentVariable("QUILLON_SYSTEM_VERSION"));
-    if (version.isNull())
-        return {14, 0, 0};
-    return {version.majorVersion(), version.minorVersion(), version.microVersion()};
+    return {14, 0, 0};
+}
+
+namespace {
+
+constexpr int utilityNiceness = 10; // what nice(1) adds to a shell's 0
+constexpr int lowestBestEffort = 7; // ioprio_set(2); in the idle class other users of the disk could starve `status`
+
+} // namespace
+
+void lowerToUtilityPriority() noexcept
+{
+    if (getpriority(PRIO_PROCESS, 0) < utilityNiceness)
+        setpriority(PRIO_PROCESS, 0, utilityNiceness);
+    syscall(SYS_ioprio_set, IOPRIO_WHO_PROCESS, 0, IOPRIO_PRIO_VALUE(IOPRIO_CLASS_BE, lowestBestEffort));
 }
 
 } // namespace quillon

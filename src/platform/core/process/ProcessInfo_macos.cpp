@@ -2,12 +2,28 @@
 
 #include <QOperatingSystemVersion>
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 namespace quillon {
 
 OperatingSystemVersion operatingSystemVersion()
 {
     const auto version = QOperatingSystemVersion::current();
     return {version.majorVersion(), version.minorVersion(), version.microVersion()};
+}
+
+namespace {
+
+constexpr int utilityNiceness = 10; // what nice(1) adds to a shell's 0
+
+} // namespace
+
+void lowerToUtilityPriority() noexcept
+{
+    if (getpriority(PRIO_PROCESS, 0) < utilityNiceness)
+        setpriority(PRIO_PROCESS, 0, utilityNiceness);
+    setiopolicy_np(IOPOL_TYPE_DISK, IOPOL_SCOPE_PROCESS, IOPOL_UTILITY); // getiopolicy_np(3)
 }
 
 } // namespace quillon

@@ -1,6 +1,5 @@
-#include "BinaryPropertyListCheck.h"
-
-#include "PropertyListLimits.h"
+#include "LibplistCodec.h"
+#include "PropertyList.h"
 
 #include <optional>
 

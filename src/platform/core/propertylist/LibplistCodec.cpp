@@ -1,8 +1,7 @@
 #include "LibplistCodec.h"
 
-#include "BinaryPropertyListCheck.h"
-#include "PropertyListLimits.h"
-#include "StrictUtf8.h"
+#include "PropertyList.h"
+#include "TextEncoding.h"
 
 #include <QDateTime>
 #include <QVariantList>

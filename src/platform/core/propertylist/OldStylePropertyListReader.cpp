@@ -1,8 +1,6 @@
-#include "OldStylePropertyListReader.h"
-
-#include "NextStepEncoding.h"
-#include "PropertyListLimits.h"
-#include "StrictUtf8.h"
+#include "OldStylePropertyList.h"
+#include "PropertyList.h"
+#include "TextEncoding.h"
 
 #include <QVariantList>
 #include <QVariantMap>

@@ -1,6 +1,5 @@
-#include "OldStylePropertyListWriter.h"
-
-#include "PropertyListLimits.h"
+#include "OldStylePropertyList.h"
+#include "PropertyList.h"
 
 #include <QDateTime>
 #include <QVariantList>

@@ -1,14 +1,14 @@
 #include "PropertyList.h"
 
 #include "LibplistCodec.h"
-#include "OldStylePropertyListReader.h"
-#include "OldStylePropertyListWriter.h"
-#include "StrictUtf8.h"
-#include "XmlPropertyListReader.h"
-#include "XmlPropertyListWriter.h"
+#include "OldStylePropertyList.h"
+#include "TextEncoding.h"
+#include "XmlPropertyList.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
+#include <limits>
 
 namespace quillon::propertylist {
 
@@ -64,6 +64,146 @@ std::optional<QByteArray> toOldStyle(const QVariant& value)
     if (!writer.write(value))
         return std::nullopt;
     return writer.text() + '\n';
+}
+
+} // namespace quillon::propertylist
+
+namespace quillon::propertylist {
+
+namespace {
+
+/// The text behind leading blanks.
+QStringView afterBlanks(QStringView text)
+{
+    while (!text.isEmpty() && text.front().isSpace())
+        text = text.sliced(1);
+    return text;
+}
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+qsizetype skipSign(QStringView text, qsizetype at)
+{
+    return at < text.size() && (text[at] == u'-' || text[at] == u'+') ? at + 1 : at;
+}
+
+qsizetype skipDigits(QStringView text, qsizetype at)
+{
+    while (at < text.size() && isDigit(text[at]))
+        ++at;
+    return at;
+}
+
+/// The longest prefix that is a decimal number: sign, digits, point, digits, exponent.
+QStringView numericPrefix(QStringView text)
+{
+    const qsizetype start = skipSign(text, 0);
+    qsizetype end = skipDigits(text, start);
+    qsizetype digits = end - start;
+    if (end < text.size() && text[end] == u'.') {
+        const qsizetype fraction = end + 1;
+        end = skipDigits(text, fraction);
+        digits += end - fraction;
+    }
+    if (digits == 0)
+        return {};
+    if (end < text.size() && (text[end] == u'e' || text[end] == u'E')) {
+        const qsizetype exponent = skipSign(text, end + 1);
+        if (const qsizetype exponentEnd = skipDigits(text, exponent); exponentEnd > exponent)
+            end = exponentEnd;
+    }
+    return text.first(end);
+}
+
+float floatFromText(QStringView text)
+{
+    return numericPrefix(afterBlanks(text)).toFloat();
+}
+
+qlonglong integerFromText(QStringView text)
+{
+    text = afterBlanks(text);
+    const qsizetype start = skipSign(text, 0);
+    const QStringView digits = text.sliced(start, skipDigits(text, start) - start);
+    const bool negative = text.startsWith(u'-');
+    if (digits.isEmpty())
+        return 0;
+    bool fits = false;
+    const qlonglong magnitude = digits.toLongLong(&fits);
+    if (!fits)
+        return negative ? std::numeric_limits<qlonglong>::min() : std::numeric_limits<qlonglong>::max();
+    return negative ? -magnitude : magnitude;
+}
+
+bool booleanFromText(QStringView text)
+{
+    text = afterBlanks(text);
+    text = text.sliced(skipSign(text, 0));
+    while (text.startsWith(u'0'))
+        text = text.sliced(1);
+    return !text.isEmpty() && QStringView(u"YyTt123456789").contains(text.front());
+}
+
+qlonglong saturated(double number)
+{
+    constexpr double bound = 0x1p63;
+    if (std::isnan(number))
+        return 0;
+    if (number >= bound)
+        return std::numeric_limits<qlonglong>::max();
+    if (number < -bound)
+        return std::numeric_limits<qlonglong>::min();
+    return static_cast<qlonglong>(number);
+}
+
+bool isInteger(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isReal(const QVariant& value)
+{
+    return value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float;
+}
+
+} // namespace
+
+float toFloat(const QVariant& value)
+{
+    if (value.typeId() == QMetaType::QString)
+        return floatFromText(value.toString());
+    if (isInteger(value))
+        return static_cast<float>(value.toLongLong());
+    return isReal(value) ? value.toFloat() : 0.0F;
+}
+
+qlonglong toInteger(const QVariant& value)
+{
+    if (value.typeId() == QMetaType::QString)
+        return integerFromText(value.toString());
+    if (isInteger(value))
+        return value.toLongLong();
+    return isReal(value) ? saturated(value.toDouble()) : 0;
+}
+
+bool toBoolean(const QVariant& value)
+{
+    if (value.typeId() == QMetaType::QString)
+        return booleanFromText(value.toString());
+    if (isInteger(value))
+        return value.toLongLong() != 0;
+    return isReal(value) && value.toDouble() != 0.0;
 }
 
 } // namespace quillon::propertylist

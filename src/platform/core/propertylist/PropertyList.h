@@ -6,6 +6,13 @@
 
 #include <optional>
 
+namespace quillon::propertylist {
+
+/// Arrays and dictionaries inside one another, at most: far more than real lists have, few enough for any stack.
+inline constexpr int maximumNesting = 512;
+
+} // namespace quillon::propertylist
+
 namespace quillon {
 
 /// Property lists in the old-style text, XML and binary formats.

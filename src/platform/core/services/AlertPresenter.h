@@ -26,7 +26,7 @@ struct AlertRequest {
 inline constexpr int alertFirstButtonReturn = 1000;
 inline constexpr int alertSecondButtonReturn = 1001;
 
-/// Shows alerts; the seam that keeps code without a display free of widgets. Main thread only.
+/// Shows alerts; the seam that keeps code without a display free of widgets.
 class AlertPresenter {
 public:
     AlertPresenter() = default;

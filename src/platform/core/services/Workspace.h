@@ -1,14 +1,16 @@
 #pragma once
 
+#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 
 namespace quillon {
 
-/// The user's session: opens addresses and applications, tells of sleep and wake. Main thread only.
+/// The user's session: opens addresses and applications, tells of sleep and wake.
 class Workspace : public QObject {
     Q_OBJECT
 
@@ -27,5 +29,19 @@ Q_SIGNALS:
     void willSleep();
     void didWake();
 };
+
+class RunLoop;
+
+/// Programs, by their paths, that open addresses for which a desktop has none.
+using OwnPrograms = QMap<QUrl, QString>;
+
+/// What a desktop on Linux has to be told; macOS has a program for every address and asks nobody why sleep waits.
+struct WorkspaceNeeds {
+    OwnPrograms ownPrograms;
+    QString sleepReason; ///< why sleep waits for the slots of willSleep(), for users who ask: English
+};
+
+/// The workspace of the session that the program runs in; the run loop must outlive it.
+std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop, const WorkspaceNeeds& needs);
 
 } // namespace quillon

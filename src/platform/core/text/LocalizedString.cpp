@@ -15,14 +15,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto tableFolder = ":/strings"_L1;
-constexpr auto tablePrefix = "quillon_"_L1;
 constexpr auto english = "en"_L1;
+
+/// Names of tables, each NAME_TAG.qm.
+QStringList tables(const QString& tag)
+{
+    return QDir(tableFolder).entryList({"*_"_L1 + tag + ".qm"_L1});
+}
 
 QStringList tableLanguages()
 {
     QStringList tags;
-    for (const auto& table : QDir(tableFolder).entryInfoList({tablePrefix + "*.qm"_L1}))
-        tags.append(table.completeBaseName().mid(tablePrefix.size()));
+    for (const QString& table : tables(u"*"_s))
+        tags.append(table.chopped(3).section(u'_', 1));
     return tags;
 }
 
@@ -48,14 +53,14 @@ QString localizedString(const char* key)
     return qtTrId(key);
 }
 
-QString userLanguage()
+QString tableLanguage(const QStringList& preferred)
 {
     // QTranslator::load() would take the second of a user's languages when its name fits exactly and the first's does
     // not: German for "en_GB:de".
-    const QStringList tables = tableLanguages();
-    for (const auto& preferred : preferredLanguages()) {
-        const QLocale wanted(preferred);
-        for (const auto& tag : tables) {
+    const QStringList tags = tableLanguages();
+    for (const auto& language : preferred) {
+        const QLocale wanted(language);
+        for (const auto& tag : tags) {
             const QLocale offered(tag);
             if (offered.language() == wanted.language() && offered.script() == wanted.script())
                 return tag;
@@ -64,13 +69,17 @@ QString userLanguage()
     return english;
 }
 
+QString userLanguage()
+{
+    return tableLanguage(preferredLanguages());
+}
+
 void installStringTable(const QString& language)
 {
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>(Qt::FindDirectChildrenOnly));
     // The one installed last is asked first.
-    install(tablePrefix + english, tableFolder);
-    if (language != english)
-        install(tablePrefix + language, tableFolder);
+    for (const QString& tag : {QString(english), language})
+        install(tables(tag).value(0), tableFolder);
     install("qtbase_"_L1 + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 

@@ -1,7 +1,5 @@
 #include "QtRunLoop.h"
 
-#include "UptimeClock.h"
-
 #include <algorithm>
 
 namespace quillon {

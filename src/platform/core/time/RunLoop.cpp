@@ -1,11 +1,58 @@
 #include "RunLoop.h"
 
-#include "TimerState.h"
-
 #include <algorithm>
 #include <utility>
 
 namespace quillon {
+
+/// What a Timer handle and its RunLoop share. An empty block marks an invalidated timer.
+struct TimerState {
+    RunLoop::Block block;
+    std::chrono::milliseconds due{};                     ///< on the uptime clock
+    std::optional<std::chrono::milliseconds> interval{}; ///< of a repeating timer
+    std::optional<Date> fireDate{};                      ///< on the wall clock, which a timer may have to wait for too
+};
+
+Timer::Timer(std::shared_ptr<TimerState> state)
+    : state_(std::move(state))
+{
+}
+
+Timer& Timer::operator=(Timer&& other) noexcept
+{
+    if (this != &other) {
+        invalidate();
+        state_ = std::move(other.state_);
+    }
+    return *this;
+}
+
+Timer::~Timer()
+{
+    invalidate();
+}
+
+bool Timer::isValid() const
+{
+    return state_ && state_->block;
+}
+
+void Timer::invalidate()
+{
+    if (state_)
+        state_->block = nullptr;
+}
+
+void Timer::fire()
+{
+    if (!isValid())
+        return;
+    // The block may replace this very handle: what it needs is held here while it runs.
+    const RunLoop::Block block = state_->block;
+    if (!state_->interval)
+        invalidate();
+    block();
+}
 
 using std::chrono::milliseconds;
 using namespace std::chrono_literals;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Date.h"
-#include "Timer.h"
 
 #include <chrono>
 #include <deque>
@@ -12,7 +11,38 @@
 
 namespace quillon {
 
-/// The one source of the current time, of timers and of queued blocks. Main thread only.
+class RunLoop;
+struct TimerState;
+
+/// Owner's handle on a timer of a RunLoop; letting go of the handle invalidates the timer.
+///
+/// A default-constructed handle stands for "no timer".
+class Timer {
+public:
+    Timer() = default;
+    Timer(Timer&& other) noexcept = default;
+    Timer& operator=(Timer&& other) noexcept;
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+    ~Timer();
+
+    bool isValid() const;
+
+    /// After this the block never runs again. Safe from inside the block itself.
+    void invalidate();
+
+    /// Runs the block now. A repeating timer keeps its schedule, a one-shot timer is invalidated; an invalid timer
+    /// does nothing.
+    void fire();
+
+private:
+    friend class RunLoop;
+    explicit Timer(std::shared_ptr<TimerState> state);
+
+    std::shared_ptr<TimerState> state_;
+};
+
+/// The one source of the current time, of timers and of queued blocks.
 ///
 /// The rules for timers live here, so that the real run loop and the virtual one of the tests share them; what differs
 /// is the clock and the way of being woken.

@@ -1,7 +1,6 @@
 #include "Alert.h"
 
-#include "AlertIcon.h"
-#include "AlertText.h"
+#include "Accessibility.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
@@ -9,13 +8,159 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <numbers>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int columnDigits = 58;
+constexpr double highestShareOfScreen = 0.6;
+
+} // namespace
+
+AlertText::AlertText(const QString& text, bool bold, QWidget* parent)
+    : QTextEdit(parent)
+{
+    setAccessibleRole(*this, QAccessible::StaticText);
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+    viewport()->setCursor(Qt::ArrowCursor);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setFocusPolicy(bold ? Qt::ClickFocus : Qt::StrongFocus); // what is worth copying stands in the second text
+    document()->setDocumentMargin(0);
+    QFont own = font();
+    own.setBold(bold);
+    setFont(own);
+    setPlainText(text);
+    setAccessibleName(text);
+    takeWindowColor();
+    fitToText();
+}
+
+void AlertText::changeEvent(QEvent* event)
+{
+    QTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitToText();
+    else if (event->type() == QEvent::PaletteChange)
+        takeWindowColor();
+}
+
+void AlertText::fitToText()
+{
+    const std::unique_ptr<QTextDocument> measured(document()->clone());
+    measured->setDefaultFont(font());
+    // Not the average character: that is as wide as an ideograph in a font that has them.
+    const int column = fontMetrics().horizontalAdvance(u'0') * columnDigits;
+    measured->setTextWidth(column);
+    int width = std::min(column, static_cast<int>(std::ceil(measured->idealWidth())));
+    const int highest = static_cast<int>(screen()->availableGeometry().height() * highestShareOfScreen);
+    const int height = static_cast<int>(std::ceil(measured->size().height()));
+    const bool scrolls = height > highest;
+    setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    if (scrolls)
+        width += verticalScrollBar()->sizeHint().width();
+    setFixedSize(width, std::min(height, highest));
+}
+
+/// Text fields have a ground of their own, and so a colour of their own; this one has neither.
+void AlertText::takeWindowColor()
+{
+    QPalette own = palette();
+    if (own.color(QPalette::Text) == own.color(QPalette::WindowText))
+        return;
+    own.setColor(QPalette::Text, own.color(QPalette::WindowText));
+    setPalette(own);
+}
+
+namespace {
+
+constexpr int side = 40; // logical pixels; what signs are drawn in
+
+/// A regular polygon around the middle, with rounded corners; its first corner points up, or half a side beside it.
+QPolygonF polygon(QPointF middle, qreal radius, int corners, bool standsOnSide)
+{
+    QPolygonF result;
+    for (int corner = 0; corner < corners; ++corner) {
+        const qreal turn = (corner + (standsOnSide ? 0.5 : 0.0)) * 2 * std::numbers::pi / corners;
+        result.append(middle + radius * QPointF(std::sin(turn), -std::cos(turn)));
+    }
+    return result;
+}
+
+/// The line of an exclamation mark or, upside down, of an i.
+void paintMark(QPainter& painter, qreal top, qreal bottom, qreal dot)
+{
+    painter.drawLine(QPointF(0, top), QPointF(0, bottom));
+    painter.drawPoint(QPointF(0, dot));
+}
+
+} // namespace
+
+void paintAlertSign(QPainter& painter, const QRectF& area, AlertStyle alertStyle)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(area.center());
+    painter.scale(area.width() / side, area.height() / side);
+    const auto ground = [&painter](QRgb color, const QPolygonF& corners) {
+        painter.setBrush(QColor(color));
+        painter.setPen(QPen(QColor(color), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)); // rounds the corners
+        painter.drawPolygon(corners);
+    };
+    constexpr qreal stroke = 4.2;
+    const auto pen = [](QRgb color) { return QPen(QColor(color), stroke, Qt::SolidLine, Qt::RoundCap); };
+    switch (alertStyle) {
+    case AlertStyle::Informational:
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x2f6fde));
+        painter.drawEllipse(QPointF(), 18, 18);
+        painter.setPen(pen(0xffffff));
+        paintMark(painter, -1, 9, -9);
+        break;
+    case AlertStyle::Warning:
+        ground(0xf6b21b, polygon({0, 5}, 19, 3, false));
+        painter.setPen(pen(0x3a2a00));
+        paintMark(painter, -6, 3, 10.5);
+        break;
+    case AlertStyle::Critical:
+        ground(0xd6302b, polygon({}, 16.5, 8, true));
+        painter.setPen(pen(0xffffff));
+        paintMark(painter, -9, 1, 9);
+        break;
+    }
+    painter.restore();
+}
+
+AlertIcon::AlertIcon(AlertStyle alertStyle, QWidget* parent)
+    : QWidget(parent)
+    , alertStyle_(alertStyle)
+{
+    setFixedSize(side, side);
+}
+
+void AlertIcon::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    paintAlertSign(painter, rect(), alertStyle_);
+}
 
 namespace {
 

@@ -1,5 +1,5 @@
+#include "TrayStatusItems_linux.h"
 #include "WindowSystem.h"
-#include "X11_linux.h"
 
 #include <QGuiApplication>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "Popover.h"
 
-#include "AccessibleRole.h"
-#include "PopoverFrame.h"
+#include "Accessibility.h"
+#include "PopoverPlacement.h"
 #include "WindowSystem.h"
 
 #include <QApplication>

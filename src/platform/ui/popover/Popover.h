@@ -30,7 +30,7 @@ struct PopoverAnchor {
 /// shown. A child popover, one whose anchor lies inside this one, keeps a transient popover open and has the keyboard
 /// before it; a menu or a combo box's list that belongs to it or an application-modal window keep it open too. Where a
 /// program cannot place windows (Wayland) it has no arrow and is a child of its anchor's window; only a child popover
-/// is placed there too, by the compositor. Main thread only.
+/// is placed there too, by the compositor.
 class Popover : public QWidget {
     Q_OBJECT
 

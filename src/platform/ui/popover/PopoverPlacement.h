@@ -1,7 +1,13 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QRect>
 #include <QSize>
+
+#include <optional>
+
+class QPainter;
+class QPalette;
 
 namespace quillon {
 
@@ -38,5 +44,19 @@ struct PopoverPlacement {
 /// is larger than `available` keeps its upper left corner there.
 /// @param anchor may be empty, and may lie outside of `available`
 PopoverPlacement popoverPlacement(const QRect& anchor, const QSize& size, const QRect& available, RectEdge preferred);
+
+/// How far a popover's shadow reaches around its body, in logical pixels; the arrow stays inside of it.
+inline constexpr int popoverShadowExtent = 16;
+static_assert(popoverShadowExtent > popoverArrowLength);
+
+/// The outline of a popover: rounded corners, and an arrow unless it points at nothing.
+/// @param body in the coordinates of the path
+QPainterPath popoverOutline(const QRectF& body, const std::optional<PopoverArrow>& arrow);
+
+/// A soft shadow around the body, for windows that let what lies under them shine through.
+void paintPopoverShadow(QPainter& painter, const QRectF& body);
+
+/// The ground and its border line in the palette's colours.
+void paintPopoverGround(QPainter& painter, const QPainterPath& outline, const QPalette& palette);
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #include "ScreenFittingArea.h"
 
-#include "PopoverFrame.h"
+#include "PopoverPlacement.h"
 #include "WindowSystem.h"
 
 #include <QEvent>

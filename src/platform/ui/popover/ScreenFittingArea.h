@@ -5,7 +5,7 @@
 namespace quillon {
 
 /// The content of a popover: as large as what is in it, and scrolling where the screen has no room for that. What is in
-/// it needs a layout. Main thread only.
+/// it needs a layout.
 class ScreenFittingArea final : public QScrollArea {
     Q_OBJECT
 

@@ -1,7 +1,6 @@
 #include "MenuBarButton_linux.h"
 
-#include "EmojiFont.h"
-#include "ModalWindow.h"
+#include "ModalAlertPresenter.h"
 #include "Symbol_linux.h"
 #include "SystemColor.h"
 

@@ -8,8 +8,7 @@
 namespace quillon {
 
 /// The item inside the bar: a title of one or two lines, an image to the right of it; opens its menu on a press of the
-/// mouse, the space bar, Return or Down, or brings the window to the front that has to be answered first. Main thread
-/// only.
+/// mouse, the space bar, Return or Down, or brings the window to the front that has to be answered first.
 class MenuBarButton final : public QPushButton {
     Q_OBJECT
 

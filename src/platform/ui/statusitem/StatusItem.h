@@ -38,7 +38,7 @@ struct AttributedTitle {
     bool operator==(const AttributedTitle&) const = default;
 };
 
-/// The program's item in the menu bar: a title, an image to the right of it, and a menu. Main thread only.
+/// The program's item in the menu bar: a title, an image to the right of it, and a menu.
 class StatusItem : public QObject {
     Q_OBJECT
 

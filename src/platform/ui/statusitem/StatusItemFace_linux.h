@@ -20,7 +20,7 @@ struct StatusItemContent {
     }
 };
 
-/// One way of showing the status item. Main thread only.
+/// One way of showing the status item.
 class StatusItemFace {
 public:
     StatusItemFace() = default;

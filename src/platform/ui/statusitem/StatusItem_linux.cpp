@@ -1,9 +1,7 @@
 #include "ColorScheme_linux.h"
 #include "MenuBarWindow_linux.h"
-#include "NotifierStatusItem_linux.h"
-#include "StatusNotifierHostWatcher_linux.h"
-#include "XEmbedHostWatcher_linux.h"
-#include "XEmbedStatusItem_linux.h"
+#include "StatusNotifierItem_linux.h"
+#include "TrayStatusItems_linux.h"
 
 #include <QDBusConnection>
 #include <QMenu>

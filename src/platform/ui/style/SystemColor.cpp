@@ -1,9 +1,15 @@
 #include "SystemColor.h"
 
+#include <QFontInfo>
+#include <QPainter>
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,6 +38,39 @@ bool isDark(const QPalette& palette)
 QColor systemBlueColor(const QPalette& palette)
 {
     return isDark(palette) ? QColor(0x5aaaff) : QColor(0x0058d0);
+}
+
+namespace {
+
+constexpr int space = 6; // above and below the line, in logical pixels
+constexpr int line = 1;
+
+} // namespace
+
+Divider::Divider(QWidget* parent)
+    : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize Divider::sizeHint() const
+{
+    return {0, 2 * space + line};
+}
+
+void Divider::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    QColor faint = palette().color(QPalette::WindowText);
+    faint.setAlphaF(0.15F);
+    painter.fillRect(QRect(0, space, width(), line), faint);
+}
+
+QFont withColorEmoji(QFont font)
+{
+    font.setFamilies(
+        QStringList{QFontInfo(font).family(), u"Noto Color Emoji"_s}); // what a system does not have is passed over
+    return font;
 }
 
 } // namespace quillon

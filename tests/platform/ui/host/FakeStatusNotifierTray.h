@@ -1,7 +1,7 @@
 #pragma once
 
 #include "MenuLayout_linux.h"
-#include "NotifierTypes_linux.h"
+#include "StatusNotifierItem_linux.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,0 +1,25 @@
+#include "StoredAndSentNames.h"
+
+#include "CalendarIntervalRule.h"
+
+namespace quillon {
+
+QVariantMap registeredDefaults()
+{
+    using namespace settingskeys;
+    // The pause, the remembered backups and the icon state have no default: absent is what their readers look for.
+    return {
+        {firstLaunch, true},
+        {enableSchedule, 1LL},
+        {enableRetryAtMissedSchedule, 1LL},
+        {enableRetryAtFailure, 1LL},
+        {showDetailedTime, 1LL},
+        {showMenuBarIconOnly, 0LL},
+        {enableMenuBarColors, 1LL},
+        {rotateBackupDisks, 1LL},
+        {launchAtSystemStart, 1LL},
+        {calendarIntervals, QVariantList{CalendarIntervalRule().toDictionary()}},
+    };
+}
+
+} // namespace quillon

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QString>
+#include <QVariantMap>
+
+#include <cstdint>
+
+/// Keys of the user's settings database: "userSettings" for what the user chooses, "appSettings" for what the program
+/// remembers.
+namespace quillon::settingskeys {
+
+using namespace Qt::StringLiterals;
+
+// Booleans.
+inline const QString firstLaunch = u"firstLaunch"_s;
+inline const QString didShowAlertAtFirstLaunch = u"appSettingsDidShowAlertAtFirstLaunch"_s;
+
+// Switches: integers that hold a control state, 1 on, anything else off.
+inline const QString enableSchedule = u"userSettingsEnableSchedule"_s;
+inline const QString enableRetryAtMissedSchedule = u"userSettingsEnableRetryAtMissedSchedule"_s;
+inline const QString enableRetryAtFailure = u"userSettingsEnableRetryAtFailure"_s;
+inline const QString showDetailedTime = u"userSettingsShowDetailedTime"_s;
+inline const QString showMenuBarIconOnly = u"userSettingsShowMenuBarIconOnly"_s;
+inline const QString enableMenuBarColors = u"userSettingsEnableMenuBarColors"_s;
+inline const QString rotateBackupDisks = u"userSettingsRotateBackupDisks"_s;
+inline const QString launchAtSystemStart = u"userSettingsLaunchAtSystemStart"_s;
+
+/// Array of rule dictionaries.
+inline const QString calendarIntervals = u"userSettingsCalendarIntervals"_s;
+
+/// Date until which the schedule is paused, and the chosen length in seconds, 0 when it is not.
+inline const QString pauseUntilDate = u"userSettingsPauseUntilDate"_s;
+inline const QString pauseUntilTag = u"userSettingsPauseUntilTag"_s;
+
+/// The latest backup to any disk: date, integer, string.
+inline const QString lastBackupDate = u"appSettingsLastBackupDate"_s;
+inline const QString lastBackupBytesCopied = u"appSettingsLastBackupBytesCopied"_s;
+inline const QString lastBackupDiskIdentifier = u"appSettingsLastBackupDiskIdentifier"_s;
+
+/// Array of archived BackupInfo records.
+inline const QString latestBackupInfo = u"appSettingsLatestBackupInfo"_s;
+
+/// Integer, a MenuBarIconState.
+inline const QString lastMenuBarIconState = u"appSettingsLastMenuBarIconState"_s;
+
+} // namespace quillon::settingskeys
+
+namespace quillon {
+
+/// Which icon the menu bar shows; stored between launches.
+enum class MenuBarIconState : std::int64_t {
+    None = -1, ///< no image, before anything was set
+    Idle = 1,
+    Running = 2,
+    Completed = 3, ///< a run ended, completed or stopped by the user
+    UpdateAvailable = 4,
+    Failed = 5,         ///< a run ended without completing and without a user's stop
+    MissedSchedule = 6, ///< a scheduled backup was found missed on wake
+};
+
+} // namespace quillon
+
+/// Names of the notifications that parts of the program send each other.
+namespace quillon::notifications {
+
+using namespace Qt::StringLiterals;
+
+/// The next scheduled date is reached: a backup is to be started.
+inline const QString scheduledBackupShouldStart = u"scheduledBackupShouldStartNotification"_s;
+
+/// The start timer found its date past by a minute or more: the start counts as missed.
+inline const QString scheduledBackupFoundLate = u"scheduledBackupFoundLateNotification"_s;
+
+/// A setting that the menu bar shows has changed.
+inline const QString shouldUpdateStatusBar = u"shouldUpdateStatusBarNotification"_s;
+
+/// The update check has an answer; user information "latestAppVersion": the newer version, or empty when there is none.
+inline const QString appUpdateAvailable = u"appUpdateAvailableNotification"_s;
+
+} // namespace quillon::notifications
+
+namespace quillon {
+
+/// What is read for settings that were never stored.
+QVariantMap registeredDefaults();
+
+} // namespace quillon

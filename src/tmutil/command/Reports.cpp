@@ -1,0 +1,167 @@
+#include "Reports.h"
+
+#include "Configuration.h"
+#include "Failure.h"
+#include "FolderTree.h"
+#include "Folders.h"
+#include "History.h"
+#include "KeyStore.h"
+#include "PropertyList.h"
+#include "RunState.h"
+#include "ShownText.h"
+#include "Verification.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+#include <fcntl.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+ReportMarks::ReportMarks(const QString& stateFolder)
+    : folder_(stateFolder + "/reported"_L1)
+{
+}
+
+void ReportMarks::clear() const
+{
+    QFile::remove(folder_); // should it be a link: not what that leads to
+    removeFolderTree(AT_FDCWD, QFile::encodeName(folder_).constData());
+    needPrivateFolder(folder_);
+}
+
+void ReportMarks::mark(const QString& runId, bool finishing) const
+{
+    if (QFile file(path(runId, finishing)); !file.exists())
+        file.open(QIODevice::WriteOnly);
+}
+
+bool ReportMarks::isReported(const QString& runId) const
+{
+    return QFile::exists(path(runId, false)) || isFinishingReported(runId);
+}
+
+bool ReportMarks::isFinishingReported(const QString& runId) const
+{
+    return QFile::exists(path(runId, true));
+}
+
+QString ReportMarks::path(const QString& runId, bool finishing) const
+{
+    return folder_ + u'/' + runId + (finishing ? "-finishing"_L1 : "-running"_L1);
+}
+
+QByteArray destinationText(const std::vector<Destination>& destinations, const History& history, const KeyStore& keys)
+{
+    if (destinations.empty())
+        return "No destinations configured.\n";
+    QString text;
+    for (const Destination& destination : destinations) {
+        text += destination.id == history.lastDestination() ? "> "_L1 + QString(50, u'=') : QString(52, u'=');
+        text += "\nName          : "_L1 + shownText(destination.name) + "\nKind          : Local\n"_L1;
+        if (destination.isPresent())
+            text += "Mount Point   : "_L1 + shownText(destination.path, destination.path.size()) + u'\n';
+        text += "ID            : "_L1 + destination.id + u'\n';
+        if (keys.keptRecoveryKey(destination.id).isEmpty())
+            text += "Recovery Key  : not kept yet; \"tmutil recoverykey -d ID\" makes one and shows it\n"_L1;
+    }
+    return text.toUtf8();
+}
+
+QByteArray destinationXml(const Configuration& configuration, const History& history, const KeyStore& keys,
+                          const MountTable& mounts)
+{
+    QVariantList entries;
+    for (const Destination& destination : configuration.destinations()) {
+        QVariantMap entry{{u"ID"_s, destination.id},
+                          {u"Name"_s, destination.name},
+                          {u"Kind"_s, u"Local"_s},
+                          {u"Path"_s, destination.path},
+                          {u"LastDestination"_s, qlonglong{destination.id == history.lastDestination() ? 1 : 0}}};
+        if (destination.isPresent()) {
+            entry.insert(u"MountPoint"_s, destination.path);
+            const QStorageInfo room(destination.path);
+            entry.insert(u"BytesFree"_s, room.bytesAvailable());
+            entry.insert(u"BytesTotal"_s, room.bytesTotal());
+            if (const QString source = configuration.sourceOnDisk(destination.path, mounts); !source.isEmpty())
+                entry.insert(u"SourceOnDisk"_s, source);
+        }
+        if (const QVariantMap failure = history.lastFailure(destination.id); !failure.isEmpty())
+            entry.insert(u"LastFailure"_s, failure);
+        if (const QDateTime last = history.lastBackup(destination.id); last.isValid())
+            entry.insert(u"LastBackup"_s, last);
+        if (const QVariantList backups = history.backups(destination.id); !backups.isEmpty())
+            entry.insert(u"Backups"_s, backups);
+        if (keys.keptRecoveryKey(destination.id).isEmpty())
+            entry.insert(u"RecoveryKeyMissing"_s, qlonglong{1});
+        entries.append(entry);
+    }
+    const auto xml = propertylist::toXml(QVariantMap{{u"Destinations"_s, entries}});
+    if (!xml)
+        throw Failure(ExitStatus::Configuration, u"The name of a backup disk cannot be written as XML."_s);
+    return *xml;
+}
+
+StatusReport::StatusReport(const Folders& folders)
+    : folders_(folders)
+    , run_(RunState::current(folders.state))
+{
+}
+
+QByteArray StatusReport::text() const
+{
+    const auto list = propertylist::toOldStyle(dictionary());
+    if (!list)
+        throw Failure(ExitStatus::StateDamaged, u"The state of the backup cannot be written as a property list."_s);
+    return "Backup session status:\n" + list->trimmed() + '\n';
+}
+
+void StatusReport::markReported() const
+{
+    if (run_)
+        ReportMarks(folders_.state).mark(run_->runId, run_->isFinishing());
+}
+
+QVariantMap StatusReport::dictionary() const
+{
+    QVariantMap entry = run_ ? run_->toDictionary()
+                             : QVariantMap{{u"ClientID"_s, u"com.apple.backupd"_s}, {u"Running"_s, qlonglong{0}}};
+    // No backup, and not to be taken for one.
+    if (!run_ && ProcessLock::holder(Verification::lockPath(folders_.state)))
+        entry.insert(u"Verifying"_s, qlonglong{1});
+    const QVariantMap failure = this->failure();
+    if (!failure.isEmpty())
+        entry.insert(u"LastFailure"_s, failure);
+    return entry;
+}
+
+/// What keeps backups from being made, or else what the last ones met with.
+QVariantMap StatusReport::failure() const
+{
+    const auto now = [](const QString& file, const QString& cause, const QString& description) {
+        return LastFailure{statusDate(QFileInfo(file).lastModified()), {}, cause, description}.toDictionary();
+    };
+    if (!hasRoom(folders_.state))
+        return now(
+            folders_.state, u"NoStateSpace"_s,
+            u"The disk that holds \"%1\" is full; no backup can be made until there is room."_s.arg(folders_.state));
+    std::optional<QStringList> destinations;
+    try {
+        const Configuration configuration(folders_);
+        if (!configuration.complaint().isEmpty())
+            return now(configuration.file(), u"ConfigurationDamaged"_s, configuration.complaint());
+        destinations.emplace();
+        for (const Destination& destination : configuration.destinations())
+            destinations->append(destination.id);
+    } catch (const Failure& failure) {
+        return now(folders_.configuration, u"ConfigurationDamaged"_s, failure.message());
+    }
+    if (const auto abandoned = RunState::abandoned(folders_.state))
+        return abandoned->interruption().toDictionary();
+    return History(folders_.state).lastFailure(destinations);
+}
+
+} // namespace quillon
