@@ -18,6 +18,49 @@ if(QUILLON_SANITIZE)
   endif()
 endif()
 
+# quillon_precompiled(TARGET): the headers that most sources read are compiled once, instead of once a source. There is one
+# set for each way of compiling: with and without widgets, programs and tests.
+function(quillon_precompiled target)
+  set(set core)
+  set(headers <QByteArray> <QDateTime> <QDir> <QFile> <QJsonDocument> <QJsonObject> <QObject> <QStringList> <QUrl>
+    <QVariantMap> <algorithm> <chrono> <functional> <map> <memory> <optional> <utility> <vector>)
+  set(links Qt6::Core)
+  get_target_property(linked ${target} LINK_LIBRARIES)
+  foreach(library ${linked})
+    set(of_library "")
+    if(TARGET ${library})
+      get_target_property(of_library ${library} quillon_precompiled)
+    endif()
+    if(library STREQUAL Qt6::Widgets OR of_library STREQUAL widgets)
+      set(set widgets)
+    endif()
+  endforeach()
+  set_target_properties(${target} PROPERTIES quillon_precompiled ${set})
+  if(set STREQUAL widgets)
+    list(APPEND headers <QApplication> <QKeyEvent> <QLabel> <QLayout> <QMenu> <QPainter> <QPointer> <QPushButton>)
+    list(APPEND links Qt6::Widgets)
+  endif()
+  if("tests" IN_LIST ARGN)
+    string(APPEND set _tests)
+    list(APPEND headers <gtest/gtest.h>)
+    list(APPEND links GTest::gtest)
+  endif()
+  if(NOT TARGET precompiled_${set})
+    set(empty ${PROJECT_BINARY_DIR}/precompiled_${set}.cpp)
+    file(CONFIGURE OUTPUT ${empty} CONTENT "")
+    add_library(precompiled_${set} OBJECT ${empty})
+    target_link_libraries(precompiled_${set} PRIVATE ${links} quillon_options)
+    if("tests" IN_LIST ARGN)
+      target_compile_options(precompiled_${set} PRIVATE ${quillon_test_options})
+    endif()
+    target_precompile_headers(precompiled_${set} PRIVATE ${headers})
+  endif()
+  get_target_property(sources ${target} SOURCES)
+  list(FILTER sources INCLUDE REGEX "\\.mm$") # another language
+  set_source_files_properties(${sources} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+  target_precompile_headers(${target} REUSE_FROM precompiled_${set})
+endfunction()
+
 # Folders of a target: the current one, and those in it that are no target of their own.
 function(quillon_folders result)
   set(folders ${CMAKE_CURRENT_SOURCE_DIR})
@@ -58,6 +101,7 @@ function(quillon_layer name)
     AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/resources/interface)
   target_include_directories(${name} PUBLIC ${folders})
   target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE quillon_options)
+  quillon_precompiled(${name})
 endfunction()
 
 # quillon_program(NAME LINK...): an executable of all sources in the current folder.
@@ -66,7 +110,10 @@ function(quillon_program name)
   add_executable(${name} ${sources})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PRIVATE ${ARGN} quillon_options)
+  quillon_precompiled(${name})
 endfunction()
+
+set(quillon_test_options -O0) # compiles a third faster; tests wait more than they compute
 
 # quillon_tests(NAME MAIN LINK...): the tests of the current folder. A file's ending says its kind and so its ctest
 # label: *IntegrationTest.cpp (real processes), *GuiTest.cpp (real widgets), any other *Test.cpp (unit). MAIN is
@@ -88,9 +135,15 @@ function(quillon_tests name main)
       add_executable(${target} ${sources})
       set_target_properties(${target} PROPERTIES AUTOMOC ON)
       target_link_libraries(${target} PRIVATE ${main} ${ARGN} quillon_options)
-      target_compile_options(${target} PRIVATE -O0) # compiles a third faster; tests wait more than they compute
-      gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 600
-        PROPERTIES LABELS ${kind} TIMEOUT 1200)
+      target_compile_options(${target} PRIVATE ${quillon_test_options})
+      quillon_precompiled(${target} tests)
+      if(kind STREQUAL "integration") # these wait more than they compute: side by side they take less time
+        gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 600
+          PROPERTIES LABELS ${kind} TIMEOUT 1200)
+      else()
+        add_test(NAME ${target} COMMAND ${target} --gtest_brief=1)
+        set_tests_properties(${target} PROPERTIES LABELS ${kind} TIMEOUT 1200)
+      endif()
     endif()
   endforeach()
 endfunction()

@@ -49,6 +49,8 @@ def objects(build):
     found = {}
     for entry in commands:
         words = shlex.split(entry["command"])
+        if Path(entry["file"]).name.startswith("cmake_pch."):
+            continue  # headers compiled ahead, which are no object
         found[Path(entry["file"])] = build / words[words.index("-o") + 1]
     return found
 

@@ -8,8 +8,9 @@ die() {
     exit 1
 }
 
-# What one checkout has compiled serves the others.
-export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
+# What one checkout has compiled serves the others; headers compiled ahead are known by their contents ("Precompiled
+# headers" in the manual of ccache).
+export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
 
 # A bare system runs in the C locale, where programs take file names for ASCII.
 [[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
