@@ -63,7 +63,6 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
         {u"status"_s, missing, 1, report::status(TMStatus::failure(), false), isMissing, u"status"_s},
         {u"status --json"_s, babble, 1, report::status(TMStatus::failure(), true), isBabble, u"status"_s},
         {u"status --json"_s, healthy, 0, report::status(TMStatus::notRunning(), true), "", u"status"_s},
-        {u"destinations --json"_s, missing, 1, "[\n]\n", isMissing, u"destinationinfo -X"_s},
         {u"destinations"_s, babble, 1, "", isBabble, u"destinationinfo -X"_s},
         {u"destinations"_s, none, 0, "", "quillonctl: no backup disk is set up\n", u"destinationinfo -X"_s},
         {u"destinations"_s, healthy, 0, "A  B\n", "", u"destinationinfo -X"_s},
