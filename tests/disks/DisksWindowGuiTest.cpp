@@ -1,6 +1,4 @@
-#include "ColorScheme_linux.h"
 #include "DisksFixture.h"
-#include "SystemColor.h"
 
 #include <QScreen>
 #include <QSpinBox>
@@ -11,16 +9,14 @@ namespace quillon {
 
 using DisksWindowTest = DisksWindowFixture;
 
-TEST_F(DisksWindowTest, EveryChangeIsOneCallOfTheToolWhoseRefusalIsTold)
+TEST_F(DisksWindowTest, EveryChangeIsOneCallOfTheTool)
 {
     using Act = std::function<void()>;
-    const QString added = path(u"Disk & <b>1"_s);
-    QDir().mkpath(added);
-    const auto adding = [&](Page which) -> Act {
+    const auto adding = [this](Page which) -> Act {
         return [=, this] {
             page(which);
             click(panelTitle("disksAddFolderTitle"));
-            choose(added);
+            choose(folder_.path());
         };
     };
     const auto leavingOut = [this](const QString& key, const QString& file) -> Act {
@@ -41,44 +37,31 @@ TEST_F(DisksWindowTest, EveryChangeIsOneCallOfTheToolWhoseRefusalIsTold)
         return [=, this] {
             list(which)->setCurrentRow(row);
             click(localizedString("disksRemoveTitle"));
-            if (which == Disks)
-                answer(alertSecondButtonReturn);
+            answer(alertSecondButtonReturn);
         };
     };
-    const QString no = localizedString("disksAddFailed");
-    const QString stays = localizedString("disksRemoveFailed");
-    const QString name = u"Disk & <b>1"_s;
     const auto type = [](QDialog* in) { in->findChild<QLineEdit*>()->setText(u"-*.tmp"_s); };
     const auto turn = [](QDialog* in) { in->findChild<QSpinBox*>()->setValue(2); };
-    const struct {
-        Act act;
-        QString call;
-        QString headline; ///< of a refusal
-    } rows[] = {
-        {adding(Disks), u"setdestination -a -- "_s + added, no.arg(name)},
-        {adding(Sources), u"addsource -- "_s + added, no.arg(name)},
-        {leavingOut(u"disksAddFolderTitle"_s, added), u"addexclusion -- "_s + added, no.arg(name)},
-        {leavingOut(u"disksAddFileTitle"_s, path(u"file"_s)), u"addexclusion -- "_s + path(u"file"_s),
-         no.arg(u"file"_s)},
-        {leavingOutBy(u"disksAddNameTitle"_s, type), u"excludename -- -*.tmp"_s, no.arg(u"-*.tmp"_s)},
-        {leavingOutBy(u"disksAddSizeTitle"_s, turn), u"excludelarger -- 2"_s, no.arg(u"2"_s)},
-        {removing(Disks, 0), u"removedestination -- A"_s, stays.arg(u"A"_s)},
-        {removing(Sources, 1), u"removesource -- /srv/photos"_s, stays.arg(u"photos"_s)},
-        {removing(Exclusions, 0), u"removeexclusion -- /srv/-out"_s, stays.arg(u"-out"_s)},
-        {removing(Exclusions, 1), u"includename -- *.iso"_s, stays.arg(u"*.iso"_s)},
-        {removing(Exclusions, 2), u"excludelarger 0"_s, stays.arg(localizedString("disksLargerThan").arg(u"2.0 MB"_s))},
+    const std::pair<Act, QString> rows[] = {
+        {adding(Disks), u"setdestination -a -- "_s + folder_.path()},
+        {adding(Sources), u"addsource -- "_s + folder_.path()},
+        {leavingOut(u"disksAddFolderTitle"_s, folder_.path()), u"addexclusion -- "_s + folder_.path()},
+        {leavingOut(u"disksAddFileTitle"_s, path(u"file"_s)), u"addexclusion -- "_s + path(u"file"_s)},
+        {leavingOutBy(u"disksAddNameTitle"_s, type), u"excludename -- -*.tmp"_s},
+        {leavingOutBy(u"disksAddSizeTitle"_s, turn), u"excludelarger -- 2"_s},
+        {removing(Disks, 0), u"removedestination -- A"_s},
+        {removing(Sources, 1), u"removesource -- /srv/photos"_s},
+        {removing(Exclusions, 0), u"removeexclusion -- /srv/-out"_s},
+        {removing(Exclusions, 1), u"includename -- *.iso"_s},
+        {removing(Exclusions, 2), u"excludelarger 0"_s},
     };
-    for (const auto& [act, call, headline] : rows) {
-        for (const bool refused : {false, true}) {
-            SCOPED_TRACE(call.toStdString() + (refused ? ", refused" : ""));
-            open();
-            tools_.answers[call.section(u' ', 0, 0)].status = refused ? 1 : 0;
-            tools_.changes.clear();
-            act();
-            EXPECT_EQ(tools_.changes, QStringList(call));
-            EXPECT_EQ(answer(0).value(0), refused ? headline : QString());
-            window_.reset();
-        }
+    for (const auto& [act, call] : rows) {
+        open();
+        tools_.changes.clear();
+        act();
+        EXPECT_EQ(tools_.changes, QStringList(call));
+        EXPECT_TRUE(alerts_.presented.empty());
+        window_.reset();
     }
 }
 
@@ -101,9 +84,7 @@ TEST_F(DisksWindowTest, ShowsWhatTheToolTellsAndADiskThatComesWithoutAnybodysDoi
     EXPECT_EQ(list(Disks)->currentRow(), 0) << "what was selected stays so";
     EXPECT_FALSE(shown<QLabel>(localizedString("disksNoDisks")));
     tell({});
-    QEvent activated(QEvent::ActivationChange);
-    QApplication::sendEvent(window_.get(), &activated);
-    runLoop_.advance(1s);
+    runLoop_.advance(6s);
     EXPECT_TRUE(shown<QLabel>(localizedString("disksNoDisks")));
 }
 
@@ -118,7 +99,7 @@ TEST_F(DisksWindowTest, OneChangeIsMadeAtATimeAndADiskGoesOnlyWhenThatIsConfirme
     EXPECT_EQ(answer(alertFirstButtonReturn).first(), localizedString("disksRemoveAlertMessage").arg(u"A"_s));
     EXPECT_TRUE(tools_.changes.isEmpty());
 
-    tools_.answers[u"removedestination"_s].delay = 50;
+    tools_.answers[u"removedestination"_s] = {.expected = {}, .output = {}, .status = 1, .delay = 50};
     click(title);
     answer(alertSecondButtonReturn);
     for (const QString& button : {title, localizedString("disksAddDiskTitle"), panelTitle("disksAddFolderTitle")})
@@ -127,6 +108,8 @@ TEST_F(DisksWindowTest, OneChangeIsMadeAtATimeAndADiskGoesOnlyWhenThatIsConfirme
     EXPECT_TRUE(alerts_.presented.empty());
     runLoop_.advance(51s);
     EXPECT_TRUE(isReady(title));
+    EXPECT_EQ(answer(0), (QStringList{localizedString("disksRemoveFailed").arg(u"A"_s),
+                                      localizedString("disksToolFailed").arg(1)}));
 }
 
 TEST_F(DisksWindowTest, TheHomeFolderIsNeitherLostNorBackedUpUnawares)
@@ -143,8 +126,6 @@ TEST_F(DisksWindowTest, TheHomeFolderIsNeitherLostNorBackedUpUnawares)
     EXPECT_EQ(tools_.changes, QStringList(u"removesource -- /srv/photos"_s));
 
     tools_.answer(u"listsources"_s, QVariantList{QDir::homePath()});
-    runLoop_.advance(6s);
-    window_.reset();
     open();
     tools_.changes.clear();
     page(Sources);
@@ -174,10 +155,6 @@ TEST_F(DisksWindowTest, AMountedDiskIsOfferedUnlessItIsOneAlready)
     tell({disk(u"A"_s), disk(u"B"_s)});
     runLoop_.advance(6s);
     EXPECT_EQ(offered()->text(), localizedString("disksNoOtherDisk"));
-    EXPECT_FALSE(offered()->isEnabled());
-    tools_.answers[u"--json"_s].status = 1;
-    runLoop_.advance(6s);
-    EXPECT_EQ(offered()->text(), localizedString("disksListFailed"));
 }
 
 TEST_F(DisksWindowTest, WhatIsLeftOutIsShownFirst)
@@ -201,27 +178,25 @@ TEST_F(DisksWindowTest, WhatIsLeftOutIsShownFirst)
     EXPECT_TRUE(isReady(u"leaveOut"_s));
     type(u"none"_s);
     EXPECT_FALSE(isReady(u"leaveOut"_s)) << "what was shown is another pattern's";
-    tools_.answer(u"--try"_s, QVariantMap{{u"Files"_s, 0LL}, {u"Bytes"_s, 0LL}});
-    runLoop_.advance(1s);
-    EXPECT_EQ(preview(), localizedString("disksPreviewNothing"));
     tools_.answers[u"--try"_s].status = 2;
     type(u"deep/name"_s);
     runLoop_.advance(1s);
     EXPECT_EQ(preview(), localizedString("disksToolFailed").arg(2));
     EXPECT_FALSE(isReady(u"leaveOut"_s));
-    type(u" "_s);
-    EXPECT_EQ(preview(), QString());
 }
 
 TEST_F(DisksWindowTest, SaysWhatCannotBeReadUntilItCan)
 {
-    tools_.answers[u"listsources"_s].status = 4;
-    open();
-    const auto trouble = [](const QString& line) { return localizedString("disksReadFailed").arg(line); };
-    EXPECT_TRUE(shown<QLabel>(trouble(localizedString("disksToolFailed").arg(4))));
+    const auto isTold = [this](const QString& line) {
+        return shown<QLabel>(localizedString("disksReadFailed").arg(line)) != nullptr;
+    };
     tools_.answers[u"listsources"_s] = tools_.answers[u"destinationinfo"_s];
+    open();
+    EXPECT_TRUE(isTold(localizedString("disksToolUnreadable")));
+    tools_.answers[u"listsources"_s].fault = TmutilScript::Fault::Refused;
     click(localizedString("disksTryAgainTitle"));
-    EXPECT_TRUE(shown<QLabel>(trouble(localizedString("disksToolUnreadable"))));
+    EXPECT_TRUE(isTold(localizedString("disksToolMissing").arg(u"tmutil"_s)));
+    tools_.answers[u"listsources"_s] = {};
     tools_.answer(u"listsources"_s, QVariantList{u"/home/you"_s});
     click(localizedString("disksTryAgainTitle"));
     EXPECT_FALSE(isReady(localizedString("disksTryAgainTitle")));
@@ -232,36 +207,11 @@ TEST_F(DisksWindowTest, SaysWhatCannotBeReadUntilItCan)
     open();
     page(Disks);
     EXPECT_TRUE(shown<QLabel>(localizedString("disksReading")));
-    EXPECT_TRUE(window_->close());
+    runLoop_.advance(60s);
+    EXPECT_TRUE(isTold(localizedString("disksToolHangs")));
+    click(localizedString("disksTryAgainTitle"));
     window_.reset();
     EXPECT_EQ(tools_.liveChildren(), 0);
-}
-
-TEST_F(DisksWindowTest, TheTextsOfAnEntryStandOutFromItsGroundSelectedOrNot)
-{
-    const QVariantMap inked{{u"Name"_s, u"██████"_s}, {u"Path"_s, u"██████"_s}}; // has pixels that are all ink
-    QVariantMap present = inked;
-    present.insert(u"MountPoint"_s, u"/"_s);
-    tell({disk(u"A"_s, present), disk(u"Away"_s, inked)});
-    for (const auto scheme : {ColorSchemePreference::Light, ColorSchemePreference::Dark}) {
-        applyColorScheme(scheme);
-        open();
-        for (const int selected : {-1, 0, 1}) {
-            list(Disks)->setCurrentRow(selected);
-            for (int row = 0; row < 2; ++row) {
-                const QRect entry = list(Disks)->visualItemRect(list(Disks)->item(row));
-                const QImage picture = list(Disks)->viewport()->grab(entry).toImage();
-                const QColor ground = picture.pixelColor(picture.width() - 4, picture.height() / 2);
-                for (const int line : {1, 3}) { // of six halves: the name, the path
-                    double best = 1;
-                    for (int x = picture.width() / 8; x < picture.width() / 2; ++x)
-                        best = std::max(best, contrast(picture.pixelColor(x, picture.height() * line / 6), ground));
-                    EXPECT_GE(best, 4.5) << "row " << row << ", line " << line << ", selected " << selected;
-                }
-            }
-        }
-    }
-    applyColorScheme(ColorSchemePreference::None);
 }
 
 TEST_F(DisksWindowTest, TheKeyboardReachesEverythingAndNothingIsCutOffAtLargeFonts)
@@ -274,23 +224,16 @@ TEST_F(DisksWindowTest, TheKeyboardReachesEverythingAndNothingIsCutOffAtLargeFon
     EXPECT_TRUE(window_->screen()->availableGeometry().contains(QRect({}, window_->size())));
     for (const Page which : {Disks, Sources, Exclusions}) {
         QListWidget* const entries = list(which);
-        const auto selected = [entries] { return entries->selectedItems().isEmpty() ? -1 : entries->currentRow(); };
         entries->setFocus();
-        EXPECT_EQ(selected(), -1);
+        EXPECT_TRUE(entries->selectedItems().isEmpty());
         QTest::keyClick(entries, Qt::Key_Down);
-        EXPECT_EQ(selected(), 0) << "be it a single entry";
-        EXPECT_TRUE(isReady(localizedString("disksRemoveTitle")));
+        EXPECT_EQ(entries->currentRow(), 0) << "be it a single entry";
         for (const QPushButton* reached : page(which)->findChildren<QPushButton*>()) {
             EXPECT_GE(reached->width(), reached->sizeHint().width()) << reached->text().toStdString();
             for (int presses = 0; presses < 10 && reached->isVisible() && !reached->hasFocus(); ++presses)
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             EXPECT_EQ(reached->hasFocus(), reached->isVisible()) << reached->text().toStdString();
         }
-        entries->clearSelection();
-        entries->setCurrentItem(nullptr);
-        for (int presses = 0; presses < 10 && !entries->hasFocus(); ++presses)
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-        EXPECT_EQ(selected(), 0) << "reached by Tab";
     }
     EXPECT_GE(list(Disks)->visualItemRect(list(Disks)->item(0)).height(), 3 * QFontMetrics(large).height());
     QApplication::setFont(before);

@@ -11,26 +11,18 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-RecoveryPage pageOf(const QString& path)
+static RecoveryPage pageOf(const QString& path)
 {
-    return {.disk = u"Disk"_s,
-            .path = path,
-            .key = u"8K2VT-00000-11111-22222-33333-444AB"_s,
-            .made = Date(std::chrono::seconds(1'795'245'778))};
+    return {.disk = u"Disk"_s, .path = path, .key = u"8K2VT-444AB"_s, .made = Date()};
 }
-
-} // namespace
 
 TEST(RecoveryPage, HoldsTheKeyAndCommandsThatAShellTakes)
 {
     for (const auto& [path, adopt] : {std::pair{u"/media/you/Disk-1"_s, u"tmutil adopt /media/you/Disk-1 "_s},
-                                      std::pair{u"/media/you/My $HOME"_s, u"tmutil adopt '/media/you/My $HOME' "_s},
-                                      std::pair{u"/media/it's"_s, u"tmutil adopt '/media/it'\\''s' "_s}}) {
+                                      std::pair{u"/it's $HOME"_s, u"tmutil adopt '/it'\\''s $HOME' "_s}}) {
         const QString text = pageOf(path).text();
         EXPECT_TRUE(text.contains(adopt)) << text.toStdString();
-        EXPECT_TRUE(text.contains(u"\n    8K2VT-00000-11111-22222-33333-444AB\n"_s));
+        EXPECT_TRUE(text.contains(u"\n    8K2VT-444AB\n"_s));
         EXPECT_TRUE(text.contains(u"\n5. tmutil startbackup -b"_s)) << text.toStdString();
     }
 }
@@ -40,13 +32,11 @@ TEST(RecoveryPage, IsSavedWholeAndForTheUserAlone)
     const QTemporaryDir folder;
     const auto page = pageOf(folder.path());
     const QString file = folder.filePath(u"page.txt"_s);
-    const auto everybodys = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::ReadGroup;
     QFile open(file);
-    ASSERT_TRUE(open.open(QIODevice::WriteOnly) && open.setPermissions(everybodys));
+    ASSERT_TRUE(open.open(QIODevice::WriteOnly) && open.setPermissions(QFile::WriteOwner | QFile::ReadOther));
     for (const bool pdf : {false, true}) {
         EXPECT_EQ(page.save(file, pdf), QString());
-        const auto permissions = QFileInfo(file).permissions();
-        EXPECT_FALSE(permissions & (QFile::ReadGroup | QFile::ReadOther)) << pdf;
+        EXPECT_FALSE(QFileInfo(file).permissions() & (QFile::ReadGroup | QFile::ReadOther)) << pdf;
         QFile saved(file);
         ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
         const QByteArray contents = saved.readAll();
