@@ -8,13 +8,14 @@
 #include <QComboBox>
 #include <QHash>
 #include <QLabel>
+#include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
-#include <QStyleOptionButton>
-#include <QStyleOptionComboBox>
 #include <QTextEdit>
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace quillon {
 
@@ -37,46 +38,26 @@ QColor groundOf(const QImage& picture)
     return most == counts.cend() ? QColor() : QColor(most.key());
 }
 
-/// What stands out most from its ground.
-double strongest(const QImage& picture)
+/// What stands out most from its ground; of what differs from the picture before, where there is one.
+double strongest(const QImage& picture, const QImage& before = {})
 {
-    const QColor ground = groundOf(picture);
+    const QColor ground = groundOf(before.isNull() ? picture : before);
     double most = 1;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
-            most = std::max(most, contrast(picture.pixelColor(x, y), ground));
-    return most;
-}
-
-/// Of the pixels that differ, the one that stands out most from the ground around it.
-double strongestChange(const QImage& before, const QImage& after)
-{
-    const QColor ground = groundOf(before);
-    double most = 1;
-    for (int y = 0; y < before.height(); ++y)
-        for (int x = 0; x < before.width(); ++x)
-            if (before.pixel(x, y) != after.pixel(x, y))
-                most = std::max(most, contrast(after.pixelColor(x, y), ground));
+            if (before.isNull() || before.pixel(x, y) != picture.pixel(x, y))
+                most = std::max(most, contrast(picture.pixelColor(x, y), ground));
     return most;
 }
 
 /// Where a control's text lies, without its frame; nothing for what shows no text.
 QRect textArea(const QWidget& widget)
 {
-    const QStyle& style = *widget.style();
     constexpr int frame = 4;
-    if (const auto* box = qobject_cast<const QCheckBox*>(&widget)) {
-        QStyleOptionButton option;
-        option.initFrom(box);
-        option.text = box->text();
-        return style.subElementRect(QStyle::SE_CheckBoxContents, &option, box);
-    }
-    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
-        QStyleOptionComboBox option;
-        option.initFrom(box);
-        const QRect field = style.subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
-        return field.adjusted(frame, frame, -frame, -frame);
-    }
+    if (qobject_cast<const QCheckBox*>(&widget)) // without its box
+        return widget.rect().adjusted(widget.height(), 0, 0, 0);
+    if (qobject_cast<const QComboBox*>(&widget)) // without its arrow
+        return widget.rect().adjusted(frame, frame, -widget.height(), -frame);
     if (const auto* button = qobject_cast<const QPushButton*>(&widget); button && !button->text().isEmpty())
         return button->rect().adjusted(frame, frame, -frame, -frame);
     const auto* label = qobject_cast<const QLabel*>(&widget);
@@ -91,14 +72,21 @@ QImage picture(const QWidget& widget, const QRect& area)
     return widget.window()->grab(inWindow & widget.window()->rect()).toImage();
 }
 
-std::string describe(const QObject& object, const QString& text, double measured)
+/// The items of a menu that can be chosen or that tell something.
+QList<QAction*> itemsToRead(const QMenu& menu)
 {
-    return (object.objectName() + u" \""_s + text + u"\" "_s + QString::number(measured) + u'\n').toStdString();
+    QList<QAction*> items = menu.actions();
+    items.removeIf([](const QAction* item) {
+        const bool tells =
+            item->objectName() == u"backupDiskMenuItem"_s || item->objectName() == u"remainingTimeMenuItem"_s;
+        return !item->isVisible() || item->isSeparator() || (!item->isEnabled() && !tells);
+    });
+    return items;
 }
 
 } // namespace
 
-/// Each scene that the program can show, light and dark.
+/// Each scene that the program can show.
 class ContrastOf : public testing::TestWithParam<Scene> {
 protected:
     ContrastOf()
@@ -113,32 +101,59 @@ protected:
         applyColorScheme(ColorSchemePreference::None);
     }
 
-    /// Plays the scene in both schemes; `measure` gives what is too faint, one a line.
-    template<typename Measure>
-    static void expectNothingFaint(Measure measure)
+    void note(const QObject& part, const QString& text, double measured, double least)
     {
-        for (const auto preference : {ColorSchemePreference::Light, ColorSchemePreference::Dark}) {
-            Stage stage;
-            applyColorScheme(preference); // in place of the desktop's, which the stage's item takes
-            stage.launch();
-            GetParam().play(stage);
-            const auto windows = Stage::windows();
-            std::string faint;
-            for (QWidget* window : windows) {
-                auto parts = window->findChildren<QWidget*>();
-                parts.removeIf([window](const QWidget* part) { // a dialog's come with the dialog
-                    return part->window() != window || !part->isEnabled() || !part->isVisible() ||
-                           part->visibleRegion().isEmpty();
-                });
-                window->setAttribute(Qt::WA_KeyboardFocusChange); // as with the first Tab key
-                faint += measure(*window, parts);
+        if (measured < least)
+            faint_ +=
+                (part.objectName() + u" \""_s + text + u"\" "_s + QString::number(measured) + u'\n').toStdString();
+    }
+    void look(QWidget& part)
+    {
+        const QRect text = textArea(part);
+        const QString name = part.accessibleName();
+        if (!text.isEmpty())
+            note(part, name, strongest(picture(part, text)), forTexts);
+        // A default button looks the same all the time: Return presses it from everywhere but other buttons.
+        const auto* button = qobject_cast<const QPushButton*>(&part);
+        if (!(part.focusPolicy() & Qt::TabFocus) || part.focusProxy() || (button && button->isDefault()))
+            return;
+        if (QWidget* focused = QApplication::focusWidget())
+            focused->clearFocus();
+        constexpr int around = 6; // tells the ground
+        const QRect area = part.rect().adjusted(-around, -around, around, around);
+        const QImage before = picture(part, area);
+        part.setFocus(Qt::TabFocusReason);
+        if (!part.hasFocus())
+            return;
+        note(part, name + u" focused"_s, strongest(picture(part, area), before), forLines);
+        if (!text.isEmpty())
+            note(part, name + u" focused"_s, strongest(picture(part, text)), forTexts);
+    }
+    void look(QListWidget& list)
+    {
+        const QRect row = list.visualItemRect(list.item(0));
+        for (const int selected : {-1, 0}) {
+            list.setCurrentRow(selected);
+            // Beside the symbol, below the title.
+            const double measured =
+                strongest(picture(*list.viewport(), row.adjusted(row.height(), row.height() / 2, 0, 0)));
+            note(list, list.item(0)->text(), measured, forTexts);
+        }
+    }
+    void look(QMenu& menu)
+    {
+        for (QAction* item : itemsToRead(menu)) {
+            const QRect row = menu.actionGeometry(item);
+            for (QAction* chosen : {item, static_cast<QAction*>(nullptr)}) {
+                menu.setActiveAction(chosen);
+                const double measured = strongest(picture(menu, row.adjusted(row.height(), 3, -row.height(), -3)));
+                note(*item, item->text() + (chosen ? u" chosen"_s : QString()), measured, forTexts);
             }
-            EXPECT_EQ(faint, "") << (preference == ColorSchemePreference::Dark ? "dark" : "light");
-            Stage::clear();
         }
     }
 
     const QFont font_ = QApplication::font();
+    std::string faint_; ///< a line each
 };
 
 TEST(Contrast, IsMeasuredAsTheGuidelinesSay)
@@ -147,78 +162,29 @@ TEST(Contrast, IsMeasuredAsTheGuidelinesSay)
     EXPECT_NEAR(contrast(Qt::white, QColor(0x77, 0x77, 0x77)), 4.48, 0.01);
 }
 
-TEST_P(ContrastOf, TextsIsEnoughWhereTheKeyboardIsToo)
+TEST_P(ContrastOf, TextsItemsInMenusAndTheKeyboardIsEnough)
 {
-    expectNothingFaint([](const QWidget& /*window*/, const QWidgetList& parts) {
-        std::string faint;
-        for (QWidget* part : parts) {
-            const QRect area = textArea(*part);
-            if (area.isEmpty())
-                continue;
-            const QString name = part->accessibleName();
-            if (const double measured = strongest(picture(*part, area)); measured < forTexts)
-                faint += describe(*part, name, measured);
-            part->setFocus();
-            if (const double measured = strongest(picture(*part, area)); part->hasFocus() && measured < forTexts)
-                faint += describe(*part, name + u" focused"_s, measured);
-        }
-        return faint;
-    });
-}
-
-TEST_P(ContrastOf, LinesAroundBoxesAndTheKeyboardIsEnough)
-{
-    expectNothingFaint([](const QWidget& /*window*/, const QWidgetList& parts) {
-        std::string faint;
-        for (QWidget* part : parts) {
-            constexpr int around = 6; // tells the ground
-            const QRect area = part->rect().adjusted(-around, -around, around, around);
-            if (auto* box = qobject_cast<QCheckBox*>(part)) {
-                QStyleOptionButton option;
-                option.initFrom(box);
-                const QRect indicator =
-                    box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).adjusted(-around, 0, 0, 0);
-                const QImage line = picture(*box, {indicator.left(), indicator.center().y(), 2 * around, 1});
-                if (strongest(line) < forLines)
-                    faint += describe(*box, u"box"_s, strongest(line));
+    for (const auto preference : {ColorSchemePreference::Light, ColorSchemePreference::Dark}) {
+        Stage stage;
+        applyColorScheme(preference); // in place of the desktop's, which the stage's item takes
+        stage.launch();
+        GetParam().play(stage);
+        const auto windows = Stage::windows();
+        for (QWidget* window : windows) {
+            window->setAttribute(Qt::WA_KeyboardFocusChange); // as with the first Tab key
+            const auto parts = window->findChildren<QWidget*>();
+            for (QWidget* part : parts) {
+                if (part->window() == window && part->isEnabled() && !part->visibleRegion().isEmpty())
+                    look(*part); // a dialog's come with the dialog
+                if (auto* list = qobject_cast<QListWidget*>(part); list && list->isVisible() && list->count() > 0)
+                    look(*list);
             }
-            // A default button looks the same all the time: Return presses it from everywhere but other buttons.
-            const auto* button = qobject_cast<const QPushButton*>(part);
-            if (!(part->focusPolicy() & Qt::TabFocus) || part->focusProxy() || (button && button->isDefault()))
-                continue;
-            if (QWidget* focused = QApplication::focusWidget())
-                focused->clearFocus();
-            const QImage before = picture(*part, area);
-            part->setFocus(Qt::TabFocusReason);
-            const double measured = strongestChange(before, picture(*part, area));
-            if (part->hasFocus() && measured < forLines)
-                faint += describe(*part, part->accessibleName() + u" focused"_s, measured);
+            if (auto* menu = qobject_cast<QMenu*>(window))
+                look(*menu);
         }
-        return faint;
-    });
-}
-
-TEST_P(ContrastOf, ItemsInMenusIsEnoughChosenAndNot)
-{
-    expectNothingFaint([](QWidget& window, const QWidgetList& /*parts*/) {
-        std::string faint;
-        auto* menu = qobject_cast<QMenu*>(&window);
-        const auto items = menu ? menu->actions() : QList<QAction*>();
-        for (QAction* item : items) {
-            const QRect row = menu->actionGeometry(item);
-            const bool information =
-                item->objectName() == u"backupDiskMenuItem"_s || item->objectName() == u"remainingTimeMenuItem"_s;
-            if (!item->isVisible() || item->isSeparator() || (!item->isEnabled() && !information))
-                continue;
-            for (const bool chosen : {false, true}) {
-                menu->setActiveAction(chosen ? item : nullptr);
-                const double measured = strongest(picture(*menu, row.adjusted(row.height(), 3, -row.height(), -3)));
-                if (measured < forTexts)
-                    faint += describe(*item, item->text() + (chosen ? u" chosen"_s : QString()), measured);
-            }
-        }
-        return faint;
-    });
+        EXPECT_EQ(std::exchange(faint_, {}), "") << (preference == ColorSchemePreference::Dark ? "dark" : "light");
+        Stage::clear();
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, ContrastOf, testing::ValuesIn(allScenes().begin(), allScenes().end()),
