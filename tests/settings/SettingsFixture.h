@@ -29,17 +29,11 @@ using namespace Qt::StringLiterals;
 /// The settings panel in its popover, on a Saturday at ten in the morning.
 class SettingsFixture : public testing::Test {
 protected:
-    struct Place {
-        ScopedEnvironment zone{"TZ", "Europe/Berlin"};
-        ScopedEnvironment language{"LC_ALL", "en_US.UTF-8"};
-    };
-
-    void SetUp() override
+    SettingsFixture()
     {
         notifications_.addObserver(notifications::shouldUpdateStatusBar, &observer_,
                                    [this](const QVariantMap&) { ++menuBarUpdates_; });
     }
-
     void TearDown() override
     {
         if (popover_)
@@ -85,25 +79,15 @@ protected:
     }
     QWidgetList rows() const
     {
-        QWidgetList found;
-        const auto cells = control<QWidget>("calendarIntervalTable").findChildren<QWidget*>(u"CalendarIntervalCell"_s);
-        for (QWidget* cell : cells) {
-            if (!cell->isHidden())
-                found.append(cell);
-        }
-        return found;
+        auto cells = control<QWidget>("calendarIntervalTable").findChildren<QWidget*>(u"CalendarIntervalCell"_s);
+        cells.removeIf([](const QWidget* cell) { return cell->isHidden(); });
+        return cells;
     }
     void click(const char* name) const { click(control<QAbstractButton>(name)); }
     static void click(QAbstractButton& button)
     {
         // On the far left of a check box there is its box.
         QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(button.height() / 2, button.height() / 2));
-    }
-    /// The tool is asked for the disks before it says anything.
-    void clickSetupAdvice()
-    {
-        click("warningButton");
-        runLoop_.advance(Seconds(1));
     }
     /// With the keyboard, as a user does.
     static void choose(QComboBox& menu, const QString& item)
@@ -119,7 +103,8 @@ protected:
     static QVariantMap rule(qlonglong day, qlonglong time) { return {{u"day"_s, day}, {u"time"_s, time}}; }
     bool isBlocked() const { return control<QWidget>("disabledOverlayBox").isVisible(); }
 
-    Place place_;
+    ScopedEnvironment zone_{"TZ", "Europe/Berlin"};
+    ScopedEnvironment language_{"LC_ALL", "en_US.UTF-8"};
     VirtualRunLoop runLoop_{local(2026, 11, 21, 10)};
     SimulatedTimeMachine machine_{runLoop_};
     MemoryDefaults defaults_;
