@@ -115,6 +115,11 @@ protected:
     {
         EXPECT_EQ(seen(), expected) << "line " << at.line();
     }
+    void after(double seconds, const char* expected, std::source_location at = std::source_location::current())
+    {
+        wait(seconds);
+        expect(expected, at);
+    }
 };
 
 } // namespace quillon

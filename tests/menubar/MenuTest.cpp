@@ -25,14 +25,12 @@ TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
                            u"Browse Time Machine Backups"_s, u"-"_s, u"Open Time Machine Settings..."_s,
                            u"Settings..."_s, u"About Quillon..."_s, u"-"_s, u"Quit Quillon"_s}));
     QStringList names;
-    const auto items = menu().actions();
-    for (const QAction* action : items) {
-        if (action->isSeparator())
-            continue;
-        names.append(action->objectName().replace(u"MenuItem"_s, QString()));
-        EXPECT_EQ(action->menuRole(), QAction::NoRole) << "the system would move it to another menu";
+    for (const QAction* action : menu().actions()) {
+        names.append(action->objectName());
+        EXPECT_TRUE(action->isSeparator() || action->menuRole() == QAction::NoRole) << "it would move to another menu";
     }
-    EXPECT_EQ(names.join(u' '),
+    names.removeAll(QString());
+    EXPECT_EQ(names.replaceInStrings(u"MenuItem"_s, QString()).join(u' '),
               u"phase backupDisk pauseSchedule resumeSchedule remainingTime skipRetryAttempt backupNow "
               "enterTimeMachine updateAvailable openSystemPreferences preferences about quit"_s);
     EXPECT_EQ(rows(menu().pauseScheduleMenuItem->menu()).join(u", "_s),
@@ -42,32 +40,17 @@ TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
     launch();
     EXPECT_EQ(row(menu().enterTimeMachineMenuItem), u"Enter Time Machine"_s);
     EXPECT_EQ(row(menu().openSystemPreferencesMenuItem), u"Open Time Machine Preferences..."_s);
-    machine.start(u"A"_s);
-    wait(15);
+    runElsewhere(15);
     EXPECT_EQ(row(menu().backupNowMenuItem), u"Skip This Backup"_s);
 }
 
-TEST_F(Menu, ItemsThatStartSomethingCanBeTakenAwayAndGivenBack)
+TEST_F(Menu, TwoDisksAreOfferedAndTheirLatestBackupsListedWhileASingleOneNeedsNeither)
 {
+    const auto second = machine.destinations.takeLast();
     launch();
-    manager->setRetryBackupDate(today(11));
-    controller->enableMenuButtons(false);
-    manager->setIsScheduleEnabled(false);
-    wait(31); // polls in between
-    const auto disabled = [this] { return rows(&menu()).filter(u"("_s).join(u' ').toStdString(); };
-    EXPECT_EQ(disabled(),
-              "(Latest Backup: N/A) (Backup Disk: N/A) (Pause Schedule For >) (Next Backup: Disabled (Retry)) "
-              "(Skip Retry) (Back Up Now) (Browse Time Machine Backups) (Open Time Machine Settings...) "
-              "(Settings...)");
-    controller->enableMenuButtons(true);
-    runLoop.settle();
-    EXPECT_EQ(disabled(),
-              "(Latest Backup: N/A) (Backup Disk: N/A) (Pause Schedule For >) (Next Backup: Disabled (Retry))");
-}
-
-TEST_F(Menu, TwoDisksAreOfferedAndTheirLatestBackupsListed)
-{
-    launch();
+    openMenuAndWait();
+    EXPECT_FALSE(hasSubmenus() || menu().phaseMenuItem->isEnabled() || menu().backupDiskMenuItem->isVisible());
+    machine.destinations.append(second);
     machine.start(u"B"_s);
     wait(120);
     openMenuAndWait();
@@ -79,16 +62,6 @@ TEST_F(Menu, TwoDisksAreOfferedAndTheirLatestBackupsListed)
     openMenuAndWait();
     EXPECT_FALSE(menu().backupNowMenuItem->menu()) << "one disk is left";
     EXPECT_EQ(history().size(), 2) << "the record stays";
-}
-
-TEST_F(Menu, ASingleDiskNeedsNeitherAChoiceNorAnOverview)
-{
-    machine.destinations.removeLast();
-    launch();
-    openMenuAndWait();
-    EXPECT_FALSE(hasSubmenus());
-    EXPECT_FALSE(menu().phaseMenuItem->isEnabled());
-    EXPECT_FALSE(menu().backupDiskMenuItem->isVisible());
 }
 
 TEST_F(Menu, NamesAreShownAsTheyAreAndDisksThatAreGoneFirst)
@@ -109,11 +82,10 @@ TEST_F(Menu, TheSingleRecordOfEarlierVersionsOpensTheList)
     defaults.stored[settingskeys::lastBackupDiskIdentifier] = u"B"_s;
     defaults.stored[settingskeys::lastBackupBytesCopied] = 1'000'000'000LL;
     launch();
-    for (int opened = 0; opened < 2; ++opened) {
-        openMenuAndWait();
-        EXPECT_EQ(history().value(0), u"Second: Thursday, 08:00 (1.00 GB)"_s);
-        EXPECT_EQ(manager->loadLatestBackupInfo().size(), 1) << "stored at once";
-    }
+    openMenuAndWait();
+    openMenuAndWait();
+    EXPECT_EQ(history().value(0), u"Second: Thursday, 08:00 (1.00 GB)"_s);
+    EXPECT_EQ(manager->loadLatestBackupInfo().size(), 1) << "stored at once";
 }
 
 TEST_F(Menu, DuringARunNothingIsOfferedButToStopIt)
@@ -121,8 +93,7 @@ TEST_F(Menu, DuringARunNothingIsOfferedButToStopIt)
     launch();
     openMenuAndWait();
     ASSERT_TRUE(hasSubmenus());
-    machine.start(u"A"_s);
-    wait(20);
+    runElsewhere(20);
     EXPECT_FALSE(hasSubmenus());
     const auto calls = machine.launched().size();
     controller->menuWillOpen();
@@ -133,16 +104,14 @@ TEST_F(Menu, DuringARunNothingIsOfferedButToStopIt)
     controller->backupNowClicked(); // overtakes the answer
     wait(10);
     ASSERT_EQ(controller->tmState(), TMState::Running);
-    EXPECT_FALSE(hasSubmenus());
-    EXPECT_FALSE(menu().phaseMenuItem->isEnabled());
-    EXPECT_EQ(controller->backupDisks().size(), 2);
+    EXPECT_FALSE(hasSubmenus() || menu().phaseMenuItem->isEnabled());
 }
 
 TEST_F(Menu, AToolThatFailsOrHangsLeavesAPlainMenuThatRecovers)
 {
-    for (const auto fault : {Fault::Hang, Fault::Crash, Fault::Half, Fault::NotUtf8, Fault::Refused}) {
-        launch();
-        openMenuAndWait();
+    launch();
+    openMenuAndWait();
+    for (const auto fault : {Fault::Hang, Fault::Crash, Fault::Half}) {
         spoilNext(fault);
         const auto calls = machine.launched().size();
         for (int opened = 0; opened < 3; ++opened)
@@ -164,7 +133,6 @@ TEST_F(Menu, TimeMachineIsOpenedOrTheCommandsThatTakeItsPlaceAreShown)
     launch();
     menu().enterTimeMachineMenuItem->trigger();
     EXPECT_EQ(workspace.openedApplications, QStringList{u"com.apple.backup.launcher"_s});
-    EXPECT_TRUE(alerts.presented.empty());
     workspace.opens = false;
     menu().enterTimeMachineMenuItem->trigger();
     EXPECT_EQ(takeAlert().first.informativeText,
@@ -174,8 +142,7 @@ TEST_F(Menu, TimeMachineIsOpenedOrTheCommandsThatTakeItsPlaceAreShown)
     wait(120);
     menu().enterTimeMachineMenuItem->trigger();
     const auto guide = takeAlert().first;
-    EXPECT_EQ(guide.messageText, u"Restoring from Your Backups"_s);
-    EXPECT_EQ(guide.buttons, QStringList{u"Close"_s});
+    EXPECT_EQ(guide.messageText + guide.buttons.join(u' '), u"Restoring from Your BackupsClose"_s);
     for (const auto& line :
          {u"\nFirst: Today, 10:01 (4.9 MB)\nSecond: N/A\n"_s, u"'/opt/it'\\''s/tmutil' listbackups"_s,
           u"'/opt/it'\\''s/tmutil' restore \"$('/opt/it'\\''s/tmutil' latestbackup)\"'/nowhere' "
@@ -202,23 +169,19 @@ TEST_F(Menu, SettingsAndQuittingAreReachedAndAnUpdateOpensItsPageAndThenQuits)
     notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"9.1"_s}});
     runLoop.settle();
     EXPECT_EQ(row(menu().updateAvailableMenuItem), u"🟢 Update Available..."_s);
-    const auto answer = [&](int response) {
-        menu().updateAvailableMenuItem->trigger();
-        const auto [alert, take] = takeAlert();
-        EXPECT_EQ(alert.messageText, u"Quillon 9.1 is available"_s);
-        EXPECT_TRUE(alert.informativeText.startsWith(u"You have version %1. The"_s.arg(bundleShortVersion())));
-        EXPECT_EQ(alert.buttons, (QStringList{u"Get Update"_s, u"Cancel"_s}));
-        take(response);
-        runLoop.settle();
-    };
-    answer(alertSecondButtonReturn);
+    menu().updateAvailableMenuItem->trigger();
+    const auto [alert, take] = takeAlert();
+    EXPECT_EQ(alert.messageText, u"Quillon 9.1 is available"_s);
+    EXPECT_TRUE(alert.informativeText.startsWith(u"You have version %1. The"_s.arg(bundleShortVersion())));
+    EXPECT_EQ(alert.buttons, (QStringList{u"Get Update"_s, u"Cancel"_s}));
+    take(alertSecondButtonReturn);
     EXPECT_EQ(workspace.opened.size(), 1);
-    workspace.opens = false;
-    answer(alertFirstButtonReturn);
-    EXPECT_EQ(terminations, 1) << "the page could not be opened";
-    workspace.opens = true;
-    answer(alertFirstButtonReturn);
-    EXPECT_EQ(terminations, 2);
+    for (const bool opens : {false, true}) {
+        workspace.opens = opens;
+        take(alertFirstButtonReturn);
+        runLoop.settle();
+        EXPECT_EQ(terminations, opens ? 2 : 1) << "it stays where the page could not be opened";
+    }
     EXPECT_EQ(workspace.opened.last().path(), u"/quillon/download/"_s);
     EXPECT_EQ(workspace.opened.last().scheme(), u"https"_s);
 }

@@ -18,14 +18,13 @@ TEST_F(RunCycle, AFailureEarnsARetryAlsoWithTheScheduleOffButNotWhereNobodyWants
     runLoop.settle();
     expect("5, Next: 1h 58m, Back Up Now, next 21 12:00");
     EXPECT_EQ(row(menu().skipRetryAttemptMenuItem), QString());
-    defaults.stored[settingskeys::pauseUntilTag] = 3600LL;
-    runElsewhere(60);
-    expect("5, Next: 1h 58m, Back Up Now, next 21 12:00");
-    defaults.stored[settingskeys::pauseUntilTag] = 0LL;
-    defaults.stored[settingskeys::enableRetryAtFailure] = 0LL;
-    runElsewhere(60);
-    expect("5, Next: 1h 57m, Back Up Now, next 21 12:00");
-    defaults.stored[settingskeys::enableRetryAtFailure] = 1LL;
+    for (const auto& [key, unwanted, wanted] :
+         {std::tuple{settingskeys::pauseUntilTag, 3600LL, 0LL}, {settingskeys::enableRetryAtFailure, 0LL, 1LL}}) {
+        defaults.stored[key] = unwanted;
+        runElsewhere(60);
+        EXPECT_FALSE(manager->retryBackupDate());
+        defaults.stored[key] = wanted;
+    }
     manager->setIsScheduleEnabled(false);
     runElsewhere(60);
     expect("5, Retry: Disabled, Back Up Now, retry 21 10:09");
@@ -36,49 +35,39 @@ TEST_F(RunCycle, ARunStoppedElsewhereOrLostFromSightHasFailedUntilItIsFoundAgain
     launch();
     runElsewhere(78); // cleaning up: marked as complete
     machine.stop();
-    wait(23);
-    expect("5, Retry: 5m, Back Up Now, retry 21 10:07");
+    after(23, "5, Retry: 5m, Back Up Now, retry 21 10:07");
     EXPECT_TRUE(manager->latestBackupInfo().isEmpty());
     runElsewhere(30);
     spoilNext(Fault::NotUtf8);
-    wait(3);
-    expect("5, , Back Up Now, retry 21 10:08");
+    after(3, "5, , Back Up Now, retry 21 10:08");
     EXPECT_EQ(controller->uiState(), TMState::Unknown);
-    wait(15);
-    expect("2, 65.3% 20s, Skip This Backup, next 21 12:00");
+    after(15, "2, 65.3% 20s, Skip This Backup, next 21 12:00");
 }
 
 TEST_F(RunCycle, AScheduledBackupIsStartedFollowedAndRecorded)
 {
     defaults.stored[settingskeys::lastMenuBarIconState] = 6LL;
     launch();
-    wait(60);
-    expect("6, Next: 1h 58m, Back Up Now, next 21 12:00"); // a mark of trouble survives
+    after(60, "6, Next: 1h 58m, Back Up Now, next 21 12:00"); // a mark of trouble survives
     until(today(12) + std::chrono::milliseconds(400));
     expect("startbackup -r; 2, 0.0% Starting, Skip This Backup, next 22 12:00");
-    wait(30); // in the middle of copying
-    expect("2, 40.2% 35s, Skip This Backup, next 22 12:00");
+    // in the middle of copying
+    after(30, "2, 40.2% 35s, Skip This Backup, next 22 12:00");
     EXPECT_EQ(item.image->percent, item.title.section(u'.', 0, 0).toInt());
     EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
     QList<MenuBarIconState> icons;
     QObject::connect(controller.get(), &StatusMenuController::menuBarIconStateChanged, &item,
                      [&] { icons.append(icon()); });
-    wait(90);
-    expect("1, Next: 23h 58m, Back Up Now, next 22 12:00");
+    after(90, "1, Next: 23h 58m, Back Up Now, next 22 12:00");
     EXPECT_EQ(icons, (QList{MenuBarIconState::Completed, MenuBarIconState::Idle}));
     ASSERT_EQ(manager->latestBackupInfo().size(), 1);
     const BackupInfo& record = manager->latestBackupInfo().first();
-    EXPECT_EQ(record.diskIdentifier(), u"A"_s);
-    EXPECT_EQ(record.diskName(), u"First"_s);
+    EXPECT_EQ(record.diskIdentifier() + record.diskName(), u"AFirst"_s);
     EXPECT_GT(record.totalBytes(), 4'500'000);
     EXPECT_EQ(defaults.date(settingskeys::lastBackupDate), record.date());
     EXPECT_EQ(defaults.integer(settingskeys::lastBackupBytesCopied), record.totalBytes());
     EXPECT_EQ(defaults.string(settingskeys::lastBackupDiskIdentifier), u"A"_s);
     EXPECT_EQ(defaults.integer(settingskeys::lastMenuBarIconState), 1) << "an idle refresh follows the completed mark";
-    EXPECT_TRUE(row(menu().phaseMenuItem).startsWith(u"(Latest Backup: Today, 12:01"_s));
-    machine.start(u"B"_s);
-    wait(30);
-    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: Second)"_s);
 }
 
 TEST_F(RunCycle, TheItemFollowsSettingsUpdatesAndTheSystemsVersion)
@@ -88,30 +77,19 @@ TEST_F(RunCycle, TheItemFollowsSettingsUpdatesAndTheSystemsVersion)
     launch();
     expect("1, , Back Up Now, next 21 12:00");
     EXPECT_EQ(item.menu, &menu());
-    const auto tell = [this](const QString& version) {
-        notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, version}});
-        runLoop.settle();
-    };
-    tell(u"2.0"_s);
+    notifications.post(notifications::appUpdateAvailable, {{u"latestAppVersion"_s, u"2.0"_s}});
+    runLoop.settle();
     EXPECT_EQ(icon(), MenuBarIconState::UpdateAvailable);
-    EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemGreen);
     defaults.stored[settingskeys::showMenuBarIconOnly] = 0LL;
-    notifications.post(notifications::shouldUpdateStatusBar);
-    runLoop.settle();
-    EXPECT_EQ(item.attributed, (AttributedTitle{u"Next: 🟢\n1h"_s, 9.5, -5.0, -5.0}));
-    EXPECT_EQ(controller->itemTitle(), (shown::ItemTitle{u"Next: 🟢"_s, u"1h"_s}));
-    controller->updateStatusBarTitle({}, u"alone"_s);
-    EXPECT_EQ(item.attributed, (AttributedTitle{u"alone"_s, 9.5, 0.0, 0.0}));
-    tell({});
-    EXPECT_EQ(item.attributed->text, u"Next:\n1h"_s);
-    controller->setMenuBarIconState(MenuBarIconState::Failed);
-    runLoop.settle();
-    EXPECT_EQ(item.image->paletteColor, SymbolColor::SystemOrange);
     defaults.stored[settingskeys::enableMenuBarColors] = 0LL;
     notifications.post(notifications::shouldUpdateStatusBar);
     runLoop.settle();
+    EXPECT_EQ(item.attributed, (AttributedTitle{u"Next: 🟢\n1h"_s, 9.5, -5.0, -5.0}));
+    notifications.post(notifications::appUpdateAvailable, {});
+    controller->setMenuBarIconState(MenuBarIconState::Failed);
+    runLoop.settle();
+    EXPECT_EQ(item.attributed->text, u"Next:\n1h"_s);
     EXPECT_EQ(item.image->paletteColor, std::nullopt);
-    EXPECT_EQ(item.fontSize, 11.0);
     defaults.stored.remove(settingskeys::enableMenuBarColors);
     for (const auto& [version, size, isColoured] :
          {std::tuple{"12.0", 11.0, true}, {"11.7", 11.0, false}, {"10.15", 12.0, false}}) {
@@ -132,7 +110,6 @@ TEST(MenuBarIcon, IsSymbolColourAndMeaningOfItsState)
         SymbolImage image;
     } cases[] = {
         {Idle, {clock, {}, false}},
-        {Completed, {clock, {}, false}},
         {Running, {u"clock.arrow.2.circlepath"_s, {}, false, u"A backup is running."_s, false, 42}},
         {UpdateAvailable, {mark, SymbolColor::SystemGreen, true, u"An update is available."_s}},
         {Failed,
@@ -140,13 +117,8 @@ TEST(MenuBarIcon, IsSymbolColourAndMeaningOfItsState)
           u"The latest backup failed."_s, true}},
         {MissedSchedule, {mark, SymbolColor::SystemYellow, true, u"A scheduled backup was missed."_s}},
     };
-    for (const auto& [state, image] : cases) {
+    for (const auto& [state, image] : cases)
         EXPECT_EQ(menuBarIcon(state, true, 0.429), image) << int(state);
-        SymbolImage plain = image;
-        plain.paletteColor.reset();
-        plain.isTemplate = false;
-        EXPECT_EQ(menuBarIcon(state, false, 0.429), plain) << int(state);
-    }
     EXPECT_EQ(menuBarIcon(None, true, 0), std::nullopt);
     EXPECT_EQ(menuBarIcon(Running, true, 0.0099)->percent, std::nullopt);
     EXPECT_EQ(menuBarIcon(Running, true, 0.01)->percent, 1);

@@ -113,30 +113,28 @@ TEST(BackupRun, BeginsOnceAndEndsAsItsReportsSay)
 TEST(BackupRun, IsAskedForAtThePaceThatItCallsFor)
 {
     BackupRun run;
+    const auto take = [&run](const TMStatus& status) {
+        run.take(status, Asked::ByPoll, start);
+        run.step();
+    };
     EXPECT_EQ(run.pace(), Pace::Idle);
-    run.take(idle, Asked::ByPoll, start);
     run.stopAccepted();
-    run.step();
+    take(idle);
     EXPECT_FALSE(run.stopBackupConfirmed()) << "a stop that comes too late is forgotten";
     run.startAccepted(10s);
-    EXPECT_EQ(run.tmPhase(), u"Starting"_s);
-    run.take(idle, Asked::ByPoll, start);
-    run.step();
+    take(idle);
     EXPECT_EQ(run.previousTmPhase(), u"Starting"_s);
     run.tick(70s);
     EXPECT_EQ(run.pace(), Pace::Starting);
     run.tick(70s + 1ms);
     EXPECT_EQ(run.pace(), Pace::Running) << "nobody looks closely for ever";
-    run.take(TMStatus::failure(), Asked::ByPoll, start);
-    run.step();
+    take(TMStatus::failure());
     EXPECT_EQ(run.pace(), Pace::Idle);
     run = begun();
     run.tick(24h);
-    run.take(stopping, Asked::ByPoll, start);
-    run.step();
+    take(stopping);
     EXPECT_EQ(run.pace(), Pace::Running);
-    run.take(idle, Asked::ByPoll, start);
-    run.step();
+    take(idle);
     EXPECT_EQ(run.pace(), Pace::Idle);
 }
 

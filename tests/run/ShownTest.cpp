@@ -149,38 +149,4 @@ TEST_F(Shown, TheBackupNowItemOffersWhatAClickWouldDo)
     }
 }
 
-TEST_F(Shown, TheDiskInUseIsNamedOnceThereAreTwoAndAPauseWhileItLasts)
-{
-    report(NotRunning, u"Not Running"_s);
-    moment.lastBackupDisk = u"A"_s;
-    moment.backupDisks = {{u"A"_s, u"50%1 & more"_s}};
-    EXPECT_EQ(menu().backupDisk, std::nullopt);
-    moment.backupDisks.append({u"B"_s, u"Second%20Disk"_s});
-    EXPECT_EQ(menu().backupDisk, u"Backup Disk: 50%1 & more"_s);
-    report(Stopping, u"Copying"_s);
-    EXPECT_EQ(menu().backupDisk, u"Backup Disk: Second Disk"_s);
-    report(NotRunning, u"Not Running"_s);
-    moment.lastBackupDisk = u"gone"_s;
-    EXPECT_EQ(menu().backupDisk, u"Backup Disk: N/A"_s);
-    EXPECT_EQ(menu().pausedUntil, std::nullopt);
-    moment.pauseUntil = moment.now;
-    EXPECT_EQ(menu().pausedUntil, std::nullopt);
-    moment.pauseUntil = moment.now + 1ms;
-    EXPECT_EQ(menu().pausedUntil, u"Schedule Paused Until: Today, 10:00"_s);
-}
-
-TEST(ShownIcon, AMarkOfTroubleOutlivesIdleness)
-{
-    using enum MenuBarIconState;
-    const struct {
-        MenuBarIconState wanted, current;
-        bool replaces;
-    } cases[] = {
-        {Idle, Failed, false},   {Idle, MissedSchedule, false},  {Idle, Completed, true},
-        {Failed, Failed, false}, {MissedSchedule, Failed, true}, {Completed, MissedSchedule, true},
-    };
-    for (const auto& [wanted, current, replaces] : cases)
-        EXPECT_EQ(shown::iconReplaces(wanted, current), replaces) << int(wanted) << " over " << int(current);
-}
-
 } // namespace quillon

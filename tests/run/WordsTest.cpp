@@ -2,8 +2,8 @@
 
 #include "ScopedEnvironment.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace quillon {
 
@@ -11,50 +11,28 @@ using namespace Qt::StringLiterals;
 
 TEST(Words, BytesAreShownInDecimalUnitsTiesToEven)
 {
-    const struct {
-        std::int64_t count;
-        QString shown;
-    } cases[] = {
-        {-5, u"-5 bytes"_s},
-        {999, u"999 bytes"_s},
-        {1000, u"1 KB"_s},
-        {2500, u"2 KB"_s},
-        {999'999, u"1000 KB"_s},
-        {1'250'000, u"1.2 MB"_s},
-        {999'999'999, u"1000.0 MB"_s},
-        {1'250'000'000, u"1.25 GB"_s},
-        {999'999'999'999, u"1000.00 GB"_s},
-        {1'250'000'000'000, u"1.25 TB"_s},
-        {1'000'000, u"1.0 MB"_s},
-        {1'000'000'000, u"1.00 GB"_s},
-        {1'000'000'000'000, u"1.00 TB"_s},
-    };
-    for (const auto& [count, shown] : cases)
-        EXPECT_EQ(words::bytes(count), shown);
+    QStringList shown;
+    for (const auto count : {-5LL, 999LL, 1000LL, 2500LL, 999'999LL, 1'000'000LL, 1'250'000LL, 999'999'999LL,
+                             1'000'000'000LL, 1'250'000'000LL, 999'999'999'999LL, 1'000'000'000'000LL})
+        shown.append(words::bytes(count));
+    EXPECT_EQ(shown.join(u", "_s), u"-5 bytes, 999 bytes, 1 KB, 2 KB, 1000 KB, 1.0 MB, 1.2 MB, 1000.0 MB, 1.00 GB, "
+                                   "1.25 GB, 1000.00 GB, 1.00 TB"_s);
 }
 
 TEST(Words, TimesTakeTheUnitsThatTheIntervalAndThePrecisionAllow)
 {
     const ScopedEnvironment language("LC_ALL", "en_US.UTF-8");
-    const struct {
-        double seconds;
-        int style;
-        bool precise, withSeconds;
-        QString shown;
-    } cases[] = {
-        {59.9, 2, true, true, u"59s"_s},
-        {60, 2, true, false, u"1m"_s},
-        {3599, 2, true, false, u"59m"_s},
-        {3599, 2, true, true, u"59m 59s"_s},
-        {3600, 2, true, true, u"1h 0m"_s},
-        {3600, 2, false, true, u"1h"_s},
-        {86400, 2, false, true, u"1d"_s},
-        {90000, 2, true, false, u"1d 1h"_s},
-        {std::numeric_limits<double>::quiet_NaN(), 2, true, true, u"0s"_s},
-        {3900, 1, true, false, u"1:05"_s},
+    const auto text = [](double seconds, bool precise, bool withSeconds, int style = 2) {
+        return words::timeFromInterval(seconds, style, precise, withSeconds);
     };
-    for (const auto& row : cases)
-        EXPECT_EQ(words::timeFromInterval(row.seconds, row.style, row.precise, row.withSeconds), row.shown);
+    EXPECT_EQ((QStringList{text(59.9, true, true), text(60, true, false), text(3599, true, false),
+                           text(3599, true, true), text(3600, true, true), text(3600, false, true)})
+                  .join(u", "_s),
+              u"59s, 1m, 59m, 59m 59s, 1h 0m, 1h"_s);
+    EXPECT_EQ((QStringList{text(86400, false, true), text(90000, true, false), text(std::nan(""), true, true),
+                           text(3900, true, false, 1)})
+                  .join(u", "_s),
+              u"1d, 1d 1h, 0s, 1:05"_s);
 }
 
 TEST(Words, NamesAreDecodedWhereTheyCanBeAndPhasesTranslated)

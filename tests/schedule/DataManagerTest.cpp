@@ -1,5 +1,6 @@
 #include "DataManager.h"
 
+#include "DateFormatter.h"
 #include "FakeServices.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
@@ -24,8 +25,6 @@ protected:
     {
         notifications.addObserver(notifications::scheduledBackupShouldStart, &observer,
                                   [this](const QVariantMap&) { started.append(runLoop.now()); });
-        notifications.addObserver(notifications::scheduledBackupFoundLate, &observer,
-                                  [this](const QVariantMap&) { ++foundLate; });
     }
 
     DataManager& make()
@@ -49,7 +48,6 @@ protected:
     FakeLoginItem loginItem;
     QObject observer;
     QList<Date> started;
-    int foundLate = 0;
     std::unique_ptr<DataManager> manager;
 };
 
@@ -68,65 +66,25 @@ TEST_F(Model, AFreshInstallationBacksUpAtNoonAndRegistersTheLoginItemOnceIfItIsW
 TEST_F(Model, ADeletedLastRuleStaysDeleted)
 {
     make().deleteBackupScheduleAtIndex(0);
+    make();
     expect({});
-    EXPECT_TRUE(make().calendarIntervalSettings().isEmpty());
     manager->setRetryBackupDate(today(11));
     manager->saveAndBackupCalendarIntervalSettings();
     expect(today(11), today(11)); // nothing comes before it
     manager->setRetryBackupDate({});
     manager->addNewSchedule();
     expect(today(12));
-    manager->updateBackupScheduleAtIndex(0, 7200, u"time"_s);
-    manager->updateBackupScheduleAtIndex(0, 1, u"day"_s);
-    make();
-    expect(today(24 + 2));
 }
 
 TEST_F(Model, StoredRubbishReadsAsNothingAndNeverCrashes)
 {
     defaults.stored[settingskeys::calendarIntervals] =
         QVariantList{u"rule"_s, QVariantMap{{u"day"_s, u"2"_s}}, QVariantMap{{u"time"_s, QVariantList()}}};
-    defaults.stored[settingskeys::latestBackupInfo] = QVariantList{1LL, QByteArray("rubbish"), QVariantMap()};
     defaults.stored[settingskeys::pauseUntilDate] = u"tomorrow"_s;
     EXPECT_EQ(make().calendarIntervalSettings(), (QList<CalendarIntervalRule>{{2, 0}, {0, 0}}));
-    EXPECT_TRUE(manager->latestBackupInfo().isEmpty());
     expect(today(24));
     defaults.stored[settingskeys::calendarIntervals] = 7LL;
     EXPECT_TRUE(make().calendarIntervalSettings().isEmpty());
-}
-
-TEST_F(Model, AYearOfScheduleStartsEachRuleOnceADay)
-{
-    defaults.stored[settingskeys::calendarIntervals] =
-        CalendarIntervalRule::listToArray({{0, 2 * 3600 + 1800}, {8, 8 * 3600}, {1, 0}});
-    make();
-    runLoop.advanceTo(local(2027, 11, 21, 10));
-    EXPECT_EQ(started.size(), 365 + 5 * 52 + 53);
-    EXPECT_EQ(started.first(), today(24) + 1ms);
-}
-
-TEST_F(Model, AStartThatIsFoundAMinuteLateIsToldAndNotMade)
-{
-    defaults.setDate(settingskeys::lastBackupDate, today(9));
-    make();
-    runLoop.advanceTo(today(11, 59));
-    runLoop.stepWallClock(119s); // the timer comes before anybody looks at the clock
-    runLoop.advance(61s);
-    EXPECT_TRUE(started.isEmpty());
-    EXPECT_EQ(foundLate, 1);
-}
-
-TEST_F(Model, AClockSetBackByUpToThreeHoursRepeatsNoStartAndByMoreItDoes)
-{
-    make();
-    runLoop.advanceTo(today(12, 30));
-    for (const auto step : {3h + 0ms, 3h + 1ms}) {
-        runLoop.stepWallClock(-step);
-        manager->clockWasSetBack(step);
-        manager->scheduleNextBackup();
-        expect(step == 3h ? today(36) : today(12));
-    }
-    EXPECT_EQ(started.size(), 1);
 }
 
 TEST_F(Model, WhatElseTheStoredRulesHoldSurvivesAnEditAtItsPlace)
@@ -134,16 +92,13 @@ TEST_F(Model, WhatElseTheStoredRulesHoldSurvivesAnEditAtItsPlace)
     const auto rule = [](qlonglong time) {
         return QVariantMap{{u"day"_s, 2LL}, {u"time"_s, time}, {u"note"_s, u"kept"_s}};
     };
+    const auto stored = [this] { return defaults.array(settingskeys::calendarIntervals); };
     defaults.stored[settingskeys::calendarIntervals] =
         QVariantList{u"first"_s, rule(60), u"between"_s, 7LL, rule(120), u"last"_s};
     make().updateBackupScheduleAtIndex(1, 180, u"time"_s);
-    EXPECT_EQ(defaults.array(settingskeys::calendarIntervals),
-              (QVariantList{u"first"_s, rule(60), u"between"_s, 7LL, rule(180), u"last"_s}));
+    EXPECT_EQ(stored(), (QVariantList{u"first"_s, rule(60), u"between"_s, 7LL, rule(180), u"last"_s}));
     manager->deleteBackupScheduleAtIndex(0);
-    manager->addNewSchedule();
-    EXPECT_EQ(
-        defaults.array(settingskeys::calendarIntervals),
-        (QVariantList{u"first"_s, u"between"_s, 7LL, rule(180), u"last"_s, CalendarIntervalRule().toDictionary()}));
+    EXPECT_EQ(stored(), (QVariantList{u"first"_s, u"between"_s, 7LL, rule(180), u"last"_s}));
 }
 
 TEST_F(Model, ARetryReplacesTheRegularStartUnlessThatComesFirst)
@@ -178,21 +133,6 @@ TEST_F(Model, SwitchingTheScheduleOffStopsTheTimerAndLeavesTheRetryDate)
     expect(today(11), today(11)); // an edit arms the timer all the same
     manager->setIsScheduleEnabled(true);
     expect(today(24 + 13));
-    manager->pauseBackupSchedule();
-    EXPECT_FALSE(manager->startBackupTimer().isValid());
-    EXPECT_EQ(manager->nextScheduledBackupDate(), today(24 + 13));
-}
-
-TEST_F(Model, APauseMovesTheNextDateAndIsClearedOnceItHasEnded)
-{
-    defaults.setDate(settingskeys::pauseUntilDate, local(2026, 11, 24, 15));
-    defaults.stored[settingskeys::pauseUntilTag] = 259200LL;
-    make();
-    expect(local(2026, 11, 25, 12));
-    EXPECT_EQ(defaults.integer(settingskeys::pauseUntilTag), 259200);
-    runLoop.advanceTo(local(2026, 11, 25, 13));
-    EXPECT_FALSE(defaults.object(settingskeys::pauseUntilDate).isValid());
-    EXPECT_EQ(defaults.object(settingskeys::pauseUntilTag), 0LL);
 }
 
 TEST_F(Model, KeepsOneRecordADiskNewestFirstAndStoresIt)
@@ -201,17 +141,15 @@ TEST_F(Model, KeepsOneRecordADiskNewestFirstAndStoresIt)
     manager->recordLatestBackup(u"A"_s, u"Disk A"_s, 10, today(6));
     manager->recordLatestBackup(u"B"_s, u"Disk B"_s, 20, today(7));
     manager->recordLatestBackup(u"A"_s, u"Renamed"_s, 30, today(8));
-    const auto records = make().latestBackupInfo();
-    ASSERT_EQ(records.size(), 2);
-    EXPECT_EQ(records[0].diskName(), u"Renamed"_s);
-    EXPECT_EQ(records[0].totalBytes(), 30);
-    EXPECT_EQ(records[0].date(), today(8));
-    EXPECT_EQ(records[1].diskIdentifier(), u"B"_s);
-
     auto stored = defaults.array(settingskeys::latestBackupInfo);
     stored.insert(1, QByteArray("damaged"));
     stored.prepend(7LL);
-    EXPECT_EQ(DataManager::unArchiveLatestBackupInfo(stored), records) << "the good ones load in order";
+    defaults.stored[settingskeys::latestBackupInfo] = stored;
+    QStringList records;
+    for (const BackupInfo& record : make().latestBackupInfo())
+        records +=
+            record.diskName() + u" %1 "_s.arg(record.totalBytes()) + DateFormatter::string(*record.date(), u"H"_s);
+    EXPECT_EQ(records, (QStringList{u"Renamed 30 8"_s, u"Disk B 20 7"_s})) << "the good ones load in order";
 }
 
 TEST(BackupInfoRecord, MissingFieldsAreEmptyAndWrongOnesDropIt)
@@ -234,7 +172,6 @@ TEST(BackupInfoRecord, MissingFieldsAreEmptyAndWrongOnesDropIt)
         EXPECT_FALSE(unarchive({{key, wrong}})) << key.toStdString();
         const auto bare = unarchive({{key, right}});
         ASSERT_TRUE(bare) << key.toStdString();
-        EXPECT_EQ(propertylist::parse(*bare->archivedData())->toMap().value(key), right);
         EXPECT_EQ(bare->date().has_value(), key == "date"_L1);
     }
     EXPECT_EQ(propertylist::parse(*unarchive(whole)->archivedData()), whole);

@@ -25,10 +25,8 @@ TEST(StartDecision, IsOneForEachOccasionAndSituation)
         {TimerRan, {next + 1h, next, before, before}, Decision::Missed},
 
         {ClockChanged, {next + 1ms, next, {}, before}, Decision::Start},
-        {ClockChanged, {next + 60s - 1ms, next}, Decision::Start},
         {ClockChanged, {next + 60s, next, {}, before}, Decision::Missed},
         {ClockChanged, {next, next, {}, before}, Decision::PlanAnew},
-        {ClockChanged, {next - 2h, next, {}, before}, Decision::PlanAnew},
         {ClockChanged, {next - 2h, next, next, before}, Decision::KeepRetry},
         {ClockChanged, {next + 1h, next, next, before}, Decision::KeepRetry},
         {ClockChanged, {next + 1s, next, next}, Decision::Start},

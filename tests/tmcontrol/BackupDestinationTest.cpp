@@ -24,12 +24,6 @@ QByteArray entry(const QByteArray& fields)
     return dictionary + "</dict>";
 }
 
-QString nameOf(const QByteArray& fields)
-{
-    const auto read = quillon::read("<array>" + entry(fields) + "</array>");
-    return read.list.isEmpty() ? u"none"_s : read.list.first().name;
-}
-
 } // namespace
 
 TEST(ReadingDestinations, ComeSortedByIdentifierWithTheOneUsedLast)
@@ -43,11 +37,15 @@ TEST(ReadingDestinations, ComeSortedByIdentifierWithTheOneUsedLast)
 
 TEST(ReadingDestinations, OnlyANetworkDiskWithAServerGetsItsName)
 {
-    EXPECT_EQ(nameOf("Name=Data;Kind=Network;URL=smb://me@Server._smb._tcp.local./Data"), u"Data - Server.local"_s);
-    EXPECT_EQ(nameOf("Name=Data;Kind=Network;URL=smb://Server.local/Data"), u"Data"_s);
-    EXPECT_EQ(nameOf("Name=Data;Kind=Network;URL=smb://me@.local/Data"), u"Data"_s);
-    EXPECT_EQ(nameOf("Name=Data;Kind=Network"), u"Data"_s);
-    EXPECT_EQ(nameOf("Name=Data;Kind=Local;URL=smb://me@Server.local/Data"), u"Data"_s);
+    for (const auto& [fields, name] :
+         {std::pair{"Network;URL=smb://me@Server._smb._tcp.local./Data", "Data - Server.local"},
+          {"Network;URL=smb://Server.local/Data", "Data"},
+          {"Network;URL=smb://me@.local/Data", "Data"},
+          {"Network", "Data"},
+          {"Local;URL=smb://me@Server.local/Data", "Data"}})
+        EXPECT_EQ(read("<array>" + entry("Name=Data;Kind=" + QByteArray(fields)) + "</array>").list.value(0).name,
+                  QLatin1StringView(name))
+            << fields;
 }
 
 TEST(ReadingDestinations, NothingIsAnEmptyListAndRubbishAFailure)
