@@ -27,14 +27,9 @@ class PropertyListsTest(unittest.TestCase):
         for name, constant in (("Info.plist", "identifier"), ("HelperInfo.plist", "companionIdentifier")):
             self.assertIn(f' {constant}("{read(name)["CFBundleIdentifier"]}")', code)
 
-    def test_every_string_table_is_a_localization(self):
-        codes = {path.stem.removeprefix("quillon_") for path in (ROOT / "resources" / "strings").glob("*.ts")}
-        named = {"pt_BR": "pt-BR", "zh_CN": "zh-Hans"}
-        self.assertEqual(set(read("Info.plist")["CFBundleLocalizations"]), {named.get(code, code) for code in codes})
-
 
 class IconTest(unittest.TestCase):
-    def test_every_size_is_there_and_drawn_as_another_reader_finds_it(self):
+    def test_every_size_is_there(self):
         with tempfile.TemporaryDirectory() as folder:
             drawing, icon = Path(folder, "corner.svg"), Path(folder, "Quillon.icns")
             drawing.write_text('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">'
@@ -43,13 +38,6 @@ class IconTest(unittest.TestCase):
             header = rb"(ic\d\d)....\x89PNG\r\n\x1a\n....IHDR(....)(....)"  # PNG specification, "IHDR Image header"
             self.assertEqual(PIXELS_OF_PNG, {kind.decode(): int.from_bytes(width) for kind, width, height in
                                              re.findall(header, icon.read_bytes(), re.DOTALL) if width == height})
-            subprocess.run(["icns2png", "-x", "-o", folder, icon], check=True, capture_output=True)
-            for side in (16, 32, 256, 512, 1024):
-                picture = icon.with_name(f"Quillon_{side}x{side}x32.png")
-                for at, color in ((side // 4, "#FF8000FF"), (side * 3 // 4, "#00000000")):
-                    pixel = subprocess.run(["convert", picture, "-depth", "8", "-crop", f"1x1+{at}+{at}", "txt:-"],
-                                           check=True, capture_output=True, text=True).stdout
-                    self.assertIn(color, pixel, picture.name)
 
 
 if __name__ == "__main__":
