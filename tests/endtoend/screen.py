@@ -15,16 +15,12 @@ from gi.repository import Atspi, GLib
 PATIENCE = 240  # seconds; the bound only ends a test that hangs
 
 
-class NotSeen(AssertionError):
-    pass
-
-
 def wait_for(what, condition, seconds=PATIENCE):
     """The condition's first true value."""
     deadline = time.monotonic() + seconds
     while not (value := condition()):
         if time.monotonic() > deadline:
-            raise NotSeen(what)
+            raise AssertionError(what)
         GLib.MainContext.default().iteration(False)  # what has changed is told in events
         time.sleep(0.02)
     return value
@@ -35,7 +31,6 @@ class Screen:
 
     def __init__(self, folder, log):
         desktop = desktops.start_virtual(folder, log)
-        self.take_picture = desktop.take_picture
         # The accessibility bus and its registry are found by these, and started by the first who asks for them.
         os.environ.update(desktop.environment | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
         Atspi.init()
@@ -66,16 +61,15 @@ class Screen:
         """Clicks on an item of the tray icon's menu."""
         item = next(widgets(self.open_menu(), "menu item", name), None)
         if not item:
-            raise NotSeen(f"no menu item “{name}”")
+            raise AssertionError(f"no menu item “{name}”")
         self.click(item)
 
     def click(self, widget):
-        place = widget.get_extents(Atspi.CoordType.SCREEN)
-        self.click_at(place.x + place.width // 2, place.y + place.height // 2)
+        self.click_begin(widget, widget.get_extents(Atspi.CoordType.SCREEN).width // 2)
 
-    def click_begin(self, widget):
+    def click_begin(self, widget, right=10):
         place = widget.get_extents(Atspi.CoordType.SCREEN)
-        self.click_at(place.x + place.height // 2, place.y + place.height // 2)
+        self.click_at(place.x + right, place.y + place.height // 2)
 
     def click_at(self, x, y):
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
@@ -101,10 +95,6 @@ class Screen:
             if 1 < int(width) <= largest_icon:
                 return int(x) + int(width) // 2, int(y) + int(height) // 2
         return None
-
-
-def is_checked(widget):
-    return widget.get_state_set().contains(Atspi.StateType.CHECKED)
 
 
 def widgets(parent, role, name):

@@ -6,7 +6,6 @@
 # obeys commands on standard input, one JSON object a line, answers each with a line of JSON, and ends when standard input
 # does:
 #
-#     {"parameter": NAME, "result": VALUE}   what "v1/Config" answers for that parameter
 #     {"fault": NAME, "detail": TEXT}        how every request is treated from now on: a method of Handler
 #     {"status": NUMBER}                     the status code of answers from now on
 #     {}                                     nothing; the answer of each command lists the requests seen so far, the
@@ -30,7 +29,6 @@ ENDLESS = 1 << 30  # bytes
 
 class Service:
     def __init__(self):
-        self.parameters = {}
         self.fault = None
         self.detail = None
         self.status = 200
@@ -39,8 +37,6 @@ class Service:
         self.left = 0
 
     def obey(self, command):
-        if "parameter" in command:
-            self.parameters[command["parameter"]] = command["result"]
         if "fault" in command:
             self.fault = command["fault"]
             self.detail = command.get("detail")
@@ -49,8 +45,6 @@ class Service:
 
     def answer(self, path, form):
         """The answer's status code and text."""
-        if path == "/v1/Config/" and form.get("parameter") in self.parameters:
-            return self.status, json.dumps({"result": self.parameters[form["parameter"]]})
         if path == "/v1/Event/" and form.get("name"):
             return self.status, json.dumps({"result": True})
         return 404, json.dumps({"error": "unknown function or parameter"})
