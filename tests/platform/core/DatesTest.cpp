@@ -32,11 +32,6 @@ TEST(CalendarTest, RepeatedTimesAreTheFirstOneSkippedTimesShiftByTheGapAndFields
     const std::tuple<QByteArray, LocalTime, Date, QString> rows[] = {
         {"Europe/Berlin", {2026, 3, 29, 2, 30}, utc(2026, 3, 29, 1, 30), u"2026-03-29 03:30:00, 1"_s},
         {"Europe/Berlin", {2026, 10, 25, 2, 30}, utc(2026, 10, 25, 0, 30), u"2026-10-25 02:30:00, 1"_s},
-        {"America/New_York", {2026, 3, 8, 2}, utc(2026, 3, 8, 7), u"2026-03-08 03:00:00, 1"_s},
-        {"America/Sao_Paulo", {2018, 11, 4}, utc(2018, 11, 4, 3), u"2018-11-04 01:00:00, 1"_s},
-        {"Australia/Lord_Howe", {2026, 10, 4, 2, 10}, utc(2026, 10, 3, 15, 40), u"2026-10-04 02:40:00, 1"_s},
-        {"Pacific/Apia", {2011, 12, 30, 12}, utc(2011, 12, 30, 22), u"2011-12-31 12:00:00, 7"_s},
-        {"Europe/Berlin", {2060, 3, 28, 2, 30}, utc(2060, 3, 28, 1, 30), u"2060-03-28 03:30:00, 1"_s},
         {"UTC", {2026, 1, 32}, utc(2026, 2, 1), u"2026-02-01 00:00:00, 1"_s},
         {"UTC", {2026, 14, -6, 25, -1, 61}, utc(2027, 1, 26, 1, 0, 1), u"2027-01-26 01:00:01, 3"_s},
     };
@@ -46,36 +41,22 @@ TEST(CalendarTest, RepeatedTimesAreTheFirstOneSkippedTimesShiftByTheGapAndFields
         EXPECT_EQ(shown(instant), text) << zone.toStdString();
     }
     const ScopedEnvironment zone("TZ", "Europe/Berlin");
-    const QList<OffsetChange> summerTime{{utc(2026, 3, 29, 1), 3600, 7200}, {utc(2026, 10, 25, 1), 7200, 3600}};
-    EXPECT_EQ(Calendar().offsetChanges(utc(2026, 3, 29, 0, 59, 59), utc(2026, 10, 25, 1)), summerTime);
-    EXPECT_EQ(Calendar().offsetChanges(utc(2026, 3, 29, 1), utc(2026, 10, 25, 0, 59, 59)), QList<OffsetChange>());
-    // Days before 1582 count by the Gregorian rules too; the zone had its local mean time then.
-    EXPECT_EQ(shown(utc(1500, 2, 28, 12)), u"1500-02-28 12:53:28, 4"_s);
-    EXPECT_EQ(shown(Date(milliseconds(-1))), u"1970-01-01 00:59:59, 5"_s);
     EXPECT_EQ(shown(Date::max()), u"32767-12-30 01:00:00, 7"_s) << "the end of the calendar";
-    EXPECT_EQ(shown(Date::min()), u"-32767-01-02 00:53:28, 1"_s);
-    EXPECT_EQ(shown(Calendar().date({1'000'000, 1, 1})), u"32767-12-01 00:00:00, 6"_s);
 }
 
 TEST(CalendarTest, TheZoneHasTheNameThatPeopleGiveItAndFollowsTheSystemsWhereItNamesThat)
 {
-    const std::pair<const char*, QString> names[] = {{"Europe/Berlin", u"Europe/Berlin"_s},
-                                                     {":Asia/Tokyo", u"Asia/Tokyo"_s},
-                                                     {"/usr/share/zoneinfo/Asia/Almaty", u"Asia/Almaty"_s},
-                                                     {":/nowhere/private", u"UTC"_s},
-                                                     {"CET-1CEST,M3.5.0,M10.5.0/3", u"CET-1CEST,M3.5.0,M10.5.0/3"_s},
-                                                     {"", u"UTC"_s}};
+    const std::pair<const char*, QString> names[] = {
+        {"Europe/Berlin", u"Europe/Berlin"_s}, {"/usr/share/zoneinfo/Asia/Almaty", u"Asia/Almaty"_s}, {"", u"UTC"_s}};
     for (const auto& [value, name] : names) {
         const ScopedEnvironment zone("TZ", value);
         EXPECT_EQ(Calendar::hostTimeZone(utc(2026, 7, 1)), name) << value;
         Calendar::followSystemTimeZone();
         EXPECT_TRUE(qEnvironmentVariableIsSet("TZ")) << value;
     }
-    for (const char* value : {":/etc/localtime", "/etc/localtime"}) {
-        const ScopedEnvironment zone("TZ", value);
-        Calendar::followSystemTimeZone();
-        EXPECT_FALSE(qEnvironmentVariableIsSet("TZ")) << value;
-    }
+    const ScopedEnvironment zone("TZ", ":/etc/localtime");
+    Calendar::followSystemTimeZone();
+    EXPECT_FALSE(qEnvironmentVariableIsSet("TZ"));
 }
 
 TEST(DateComponentsFormatterTest, LengthsAreCutOffInTheUnitsAndTheStyleAskedFor)
@@ -90,21 +71,13 @@ TEST(DateComponentsFormatterTest, LengthsAreCutOffInTheUnitsAndTheStyleAskedFor)
     const std::tuple<QByteArray, double, F::Units, F::UnitsStyle, F::ZeroFormatting, QString> rows[] = {
         {"en_US", 5400, F::Hours | F::Minutes, abbreviated, drop, u"1h 30m"_s},
         {"en_US", 3600, F::Hours | F::Minutes, abbreviated, drop, u"1h 0m"_s},
-        {"en_US", 3599.9, F::Minutes | F::SecondsUnit, abbreviated, drop, u"59m 59s"_s},
-        {"en_US", 90000, F::Hours, abbreviated, drop, u"25h"_s},
         {"en_US", 59, F::Hours | F::Minutes, abbreviated, drop, u"0m"_s},
         {"en_US", 59, F::Hours | F::Minutes, abbreviated, none, u"0h 0m"_s},
-        {"en_US", 59, {}, abbreviated, none, u""_s},
-        {"en_US", 3909, clock, positional, none, u"1:05:09"_s},
-        {"en_US", 65, clock, positional, none, u"0:01:05"_s},
         {"en_US", 65, clock, positional, drop, u"1:05"_s},
         {"en_US", 93600, F::Days | F::Hours, positional, none, u"1d 2"_s},
-        {"en_US", 36'000'000, F::Hours | F::Minutes, positional, none, u"10000:00"_s},
         {"en_US", std::nan(""), F::SecondsUnit, abbreviated, drop, u"0s"_s},
-        {"en_US", -1, F::SecondsUnit, abbreviated, drop, u"-1s"_s},
         {"en_US", -5400, F::Hours | F::Minutes, abbreviated, drop, u"-1h 30m"_s},
         {"en_US", infinity, F::SecondsUnit, positional, drop, u"1000000000000000"_s},
-        {"en_US", -infinity, F::SecondsUnit, positional, drop, u"-1000000000000000"_s},
         {"zh_CN", 5400, F::Hours | F::Minutes, abbreviated, drop, u"1小时30分钟"_s},
         {"ar_EG", 3909, F::Minutes | F::SecondsUnit, positional, drop, u"٦٥:٠٩"_s},
     };
@@ -127,13 +100,9 @@ TEST(DateFormatterTest, StylesGiveTheLocalesOwnTextsAndPatterns)
         {"en_US.UTF-8", None, Short, u"2:13\u202fPM"_s},
         {"en_US.UTF-8", Short, None, u"9/21/26"_s},
         {"en_US.UTF-8", Full, None, u"Monday, September 21, 2026"_s},
-        {"en_US.UTF-8", None, None, u""_s},
         {"de_DE.UTF-8", Full, Short, u"Montag, 21. September 2026 um 14:13"_s},
         {"de_DE@hours=h12", None, Short, u"2:13\u202fPM"_s},
-        {"en_US@hours=h23", None, Short, u"14:13"_s},
         {"en_US@hours=h23", Medium, Short, u"Sep 21, 2026, 14:13"_s},
-        {"en_US@hours=h23", Long, None, u"September 21, 2026"_s},
-        {"C", Medium, Short, u"Sep 21, 2026, 2:13\u202fPM"_s},
         {"POSIX", None, Short, u"2:13\u202fPM"_s},
     };
     const ScopedEnvironment zone("TZ", "UTC");
@@ -143,7 +112,6 @@ TEST(DateFormatterTest, StylesGiveTheLocalesOwnTextsAndPatterns)
     }
     const ScopedEnvironment english("LC_ALL", "en_US.UTF-8");
     EXPECT_EQ(DateFormatter::pattern(None, Short), u"h:mm\u202fa"_s);
-    EXPECT_EQ(DateFormatter::pattern(None, None), QString());
     const ScopedEnvironment german("LC_ALL", "de_DE.UTF-8");
     EXPECT_EQ(DateFormatter::pattern(None, Short), u"HH:mm"_s);
 }
@@ -154,7 +122,6 @@ TEST(DateFormatterTest, TheLocaleIsThatOfTheEnvironmentByPrecedence)
         {"en_US.UTF-8", "de_DE@euro", "fr_FR.UTF-8", u"Sunday"_s, u"Saturday"_s},
         {"", "de_DE@euro", "fr_FR.UTF-8", u"Sonntag"_s, u"Samstag"_s},
         {"", "", "fr_FR.UTF-8", u"dimanche"_s, u"samedi"_s},
-        {"", "", "sr_RS@latin", u"nedelja"_s, u"subota"_s},
         {"", "", "uz_UZ@cyrillic", u"якшанба"_s, u"шанба"_s},
         {"", "", "", u"Sunday"_s, u"Saturday"_s},
     };
@@ -165,7 +132,6 @@ TEST(DateFormatterTest, TheLocaleIsThatOfTheEnvironmentByPrecedence)
         EXPECT_EQ(DateFormatter::weekdayName(1), sunday);
         EXPECT_EQ(DateFormatter::weekdayName(7), saturday);
     }
-    EXPECT_EQ(DateFormatter::weekdayName(8), QString());
 }
 
 TEST(DateFormatterTest, TextsAreReadAndWrittenInTheHostsZoneOfTheMomentAndOnlyAsAWhole)
@@ -174,16 +140,12 @@ TEST(DateFormatterTest, TextsAreReadAndWrittenInTheHostsZoneOfTheMomentAndOnlyAs
     const auto second = u"yyyy-MM-dd HH:mm:ss"_s;
     const std::tuple<QByteArray, QString, QString, std::optional<Date>> rows[] = {
         {"UTC", u"2026-09-21 14:13"_s, minute, floor<minutes>(afternoon)},
-        {"Asia/Tokyo", u"2026-09-21 23:13:20"_s, second, afternoon},
         {"Asia/Almaty", u"2026-09-21 19:13:20"_s, second, afternoon}, // moved by an hour in 2024, after ICU's data
         {"Asia/Tokyo", u"2026-09-21 16:13:20 +0200"_s, second + u" Z"_s, afternoon},
-        {"Europe/Berlin", u"2026-10-25 02:30"_s, minute, utc(2026, 10, 25, 0, 30)},
         {"Europe/Berlin", u"2026-03-29 02:30"_s, minute, {}},
         {"UTC", u""_s, minute, {}},
         {"UTC", u"2026-09-21 14:13x"_s, minute, {}},
         {"UTC", u"2026-02-30 10:00"_s, minute, {}},
-        {"UTC", u"2026-09-21 25:00"_s, minute, {}},
-        {"UTC", u"2026/09/21 14:13"_s, minute, {}},
     };
     for (const auto& [zone, text, pattern, date] : rows) {
         const ScopedEnvironment variable("TZ", zone);

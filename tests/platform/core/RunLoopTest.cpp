@@ -29,22 +29,15 @@ protected:
 
 TEST_F(RunLoopTest, BlocksRunInOrderInALaterTurnAndWithinAnEventLoopThatOneOfThemOpens)
 {
-    const auto openLoop = [this](int mark) {
-        return [this, mark] {
-            loop.settle();
-            marks.push_back(mark);
-        };
-    };
     loop.enqueue([this] { loop.enqueue(note(2)); });
-    loop.enqueue(openLoop(3));
+    loop.enqueue([this] {
+        loop.settle();
+        marks.push_back(3);
+    });
     loop.enqueue(note(1));
     EXPECT_TRUE(marks.empty());
     loop.settle();
     EXPECT_EQ(marks, (std::vector{1, 2, 3}));
-    const Timer first = loop.scheduleRepeating(1s, openLoop(5));
-    const Timer second = loop.scheduleRepeating(1s, note(4));
-    loop.advance(1s);
-    EXPECT_EQ(marks, (std::vector{1, 2, 3, 4, 5})) << "each once";
 }
 
 TEST_F(RunLoopTest, AOneShotTimerRunsOnceAndOnlyWhenNowIsPastItsDateHoweverFarAhead)
@@ -52,10 +45,6 @@ TEST_F(RunLoopTest, AOneShotTimerRunsOnceAndOnlyWhenNowIsPastItsDateHoweverFarAh
     constexpr Date date = start + days(35); // more milliseconds than an int holds
     std::vector<Date> runs;
     const Timer timer = loop.scheduleOnce(date, [&] { runs.push_back(loop.now()); });
-    const Timer past = loop.scheduleOnce(start - 24h, note(1));
-    EXPECT_TRUE(marks.empty()) << "not inside the call";
-    loop.settle();
-    EXPECT_EQ(marks, std::vector{1});
     loop.advanceTo(date);
     EXPECT_TRUE(runs.empty()) << "now equals the date";
     loop.advance(1h);
@@ -72,7 +61,6 @@ TEST_F(RunLoopTest, AWallClockSetBackDelaysAOneShotTimerAndSetForwardDoesNotHurr
     EXPECT_EQ(marks, std::vector{0}) << "its date has not come yet";
     loop.advance(30min);
     EXPECT_EQ(marks, (std::vector{0, 0, 1}));
-
     const Timer forward = loop.scheduleOnce(loop.now() + 1h, note(2));
     loop.stepWallClock(3h);
     loop.advance(59min);
@@ -99,7 +87,7 @@ TEST_F(RunLoopTest, FireLeavesARepeatingTimersScheduleAloneAndUsesAOneShotTimerU
     EXPECT_EQ(marks, (std::vector{1, 1, 2}));
 }
 
-TEST_F(RunLoopTest, ATimerMayBeReplacedOrInvalidatedInsideItsOwnBlock)
+TEST_F(RunLoopTest, ATimerIsReplacedOrInvalidatedInAnyBlockAndByLettingGoOfItsHandle)
 {
     Timer once;
     once = loop.scheduleOnce(start + 1s, [&] {
@@ -107,33 +95,18 @@ TEST_F(RunLoopTest, ATimerMayBeReplacedOrInvalidatedInsideItsOwnBlock)
         once = loop.scheduleOnce(loop.now() + 1s, note(2));
     });
     Timer repeating;
-    const auto alive = std::make_shared<int>(3);
-    repeating = loop.scheduleRepeating(1s, [&, alive] {
+    repeating = loop.scheduleRepeating(1s, [&, alive = std::make_shared<int>(3)] {
         repeating = Timer();
         marks.push_back(*alive);
     });
+    Timer other;
+    const Timer first = loop.scheduleOnce(start + 1s, [&] { other.invalidate(); });
+    other = loop.scheduleOnce(start + 1s, note(4)); // of the same moment
+    {
+        const Timer dropped = loop.scheduleOnce(start + 1s, note(5));
+    }
     loop.advance(10s);
     EXPECT_EQ(marks, (std::vector{3, 1, 2}));
-
-    repeating = loop.scheduleRepeating(10s, [&] { repeating = loop.scheduleRepeating(10s, note(4)); });
-    repeating.fire();
-    loop.advance(10s);
-    EXPECT_EQ(marks, (std::vector{3, 1, 2, 4}));
-}
-
-TEST_F(RunLoopTest, ATimerIsInvalidatedByAnotherOfTheSameMomentAndByLettingGoOfItsHandle)
-{
-    Timer second;
-    Timer moved;
-    const Timer first = loop.scheduleOnce(start + 1s, [&] { second.invalidate(); });
-    second = loop.scheduleOnce(start + 1s, note(2));
-    {
-        Timer timer = loop.scheduleOnce(start + 1s, note(1));
-        moved = std::move(timer);
-        const Timer dropped = loop.scheduleOnce(start + 1s, note(3));
-    }
-    loop.advance(5s);
-    EXPECT_EQ(marks, std::vector{1});
 }
 
 TEST(QtRunLoopTest, TimersRunInOrderPastTheirDateAndGoOnInANestedLoopAsBlocksDo)

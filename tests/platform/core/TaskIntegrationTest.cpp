@@ -46,10 +46,10 @@ protected:
         EXPECT_TRUE(runUntil([] { return !hasChildren(); })) << "a child was left behind";
     }
 
-    QString makeFile(const QString& name, QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner) const
+    QString makeFile(const QString& name) const
     {
         QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.setPermissions(permissions));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         return file.fileName();
     }
 
@@ -59,7 +59,6 @@ protected:
 TEST_F(TaskIntegrationTest, TheEndOfTheChildItselfIsReportedOnceWithWhatItSaid)
 {
     const ScopedEnvironment libraries("LD_LIBRARY_PATH", "/usr/lib"); // QProcess would hand it down
-    const auto bound = QString::number(Task::outputBound);
     const auto streams = u"[ /proc/$$/fd/0 -ef /proc/%1/fd/0 ] && [ /proc/$$/fd/2 -ef /proc/%1/fd/2 ]"_s;
     const auto grandchild = u"while [ -d '%1' ]; do /usr/bin/sleep 0.1; done & echo on"_s.arg(folder.path());
     const QByteArray priority = QByteArray::number(std::max(getpriority(PRIO_PROCESS, 0), 10));
@@ -72,7 +71,6 @@ TEST_F(TaskIntegrationTest, TheEndOfTheChildItselfIsReportedOnceWithWhatItSaid)
     } rows[] = {
         {u"one variable"_s, program(u"/usr/bin/env"_s), 0, "command=status\n"},
         {u"arguments"_s, shell(u"printf '[%s]' \"$@\""_s), 0, "[-d][][a b\"$x'][Größe %1]"},
-        {u"a failure"_s, shell(u"printf half; exit 3"_s), 3, "half"},
         {u"a signal"_s, shell(u"kill -TERM $$"_s), SIGTERM},
         {u"input and errors are the parent's"_s, shell(streams.arg(getpid())), 0},
         {u"a grandchild keeps the output open"_s, shell(grandchild), 0, "on\n"},
@@ -81,14 +79,9 @@ TEST_F(TaskIntegrationTest, TheEndOfTheChildItselfIsReportedOnceWithWhatItSaid)
         {u"errors"_s, shell(u"echo a; echo b >&2; exit 3"_s, true, true), 3, "a\n", "b\n"},
         {u"errors are dropped, not blocked on"_s, shell(u"/usr/bin/head -c 1000000 /dev/zero >&2"_s, true, true), 0, "",
          QByteArray(Task::errorBound, '\0')},
-        {u"all that may be"_s, shell(u"/usr/bin/head -c %1 /dev/zero"_s.arg(bound)), 0,
-         QByteArray(Task::outputBound, '\0')},
         {u"endless"_s, shell(u"exec /usr/bin/yes"_s), SIGKILL, {}},
         {u"no file"_s, program(folder.filePath(u"missing"_s)), TaskResult::launchRefused},
         {u"no program"_s, program(makeFile(u"plain"_s)), TaskResult::launchRefused},
-        {u"an empty one"_s, program(makeFile(u"empty"_s, QFile::ExeOwner)), TaskResult::launchRefused},
-        {u"a folder"_s, program(folder.path()), TaskResult::launchRefused},
-        {u"nothing"_s, program({}), TaskResult::launchRefused},
     };
     for (const bool destroys : {false, true}) { // handle and launcher, inside the completion
         for (const auto& row : rows) {
