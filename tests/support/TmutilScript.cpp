@@ -22,24 +22,6 @@ TmutilScript::Fault readFault(const QString& name)
 
 } // namespace
 
-QByteArray TmutilScript::Call::faultyOutput() const
-{
-    switch (fault) {
-    case Fault::Half:
-    case Fault::Crash:
-        return output.left(output.size() / 2);
-    case Fault::NotUtf8:
-        return "\xff\xfe" + output;
-    case Fault::Refused:
-    case Fault::Endless:
-        return {};
-    case Fault::None:
-    case Fault::Hang:
-        break;
-    }
-    return output;
-}
-
 TmutilScript TmutilScript::fromJson(const QByteArray& json)
 {
     const auto document = QJsonDocument::fromJson(json);

@@ -7,8 +7,7 @@
 
 namespace quillon {
 
-/// What a scripted tmutil expects and answers, read from data, so that the same scenario is played inside a test and by
-/// a real process.
+/// What a scripted tmutil expects and answers, read from data.
 ///
 /// JSON: an array of calls { "expect": [words], "output": text, "status": exit status, "delay": seconds, "fault": one
 /// of Fault's names }.
@@ -20,7 +19,7 @@ struct TmutilScript {
         Half,    ///< ends well, in the middle of its output
         Endless, ///< prints without end
         NotUtf8, ///< prints bytes that are no UTF-8
-        Refused, ///< cannot be launched; played inside a test only
+        Refused, ///< cannot be launched
     };
 
     struct Call {
@@ -29,9 +28,6 @@ struct TmutilScript {
         int status = 0;
         double delay = 0;
         Fault fault = Fault::None;
-
-        /// The output as the fault leaves it.
-        QByteArray faultyOutput() const;
     };
 
     QList<Call> calls;

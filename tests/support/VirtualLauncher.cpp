@@ -42,6 +42,31 @@ private:
     std::shared_ptr<Child> child_;
 };
 
+namespace {
+
+TaskResult resultOf(const TmutilScript::Call& call)
+{
+    using enum TmutilScript::Fault;
+    switch (call.fault) {
+    case Crash:
+        return {SIGSEGV, call.output.left(call.output.size() / 2)};
+    case Half:
+        return {call.status, call.output.left(call.output.size() / 2)};
+    case Endless:
+        return {SIGKILL, std::nullopt};
+    case NotUtf8:
+        return {call.status, "\xff\xfe" + call.output};
+    case Refused:
+        return {TaskResult::launchRefused, QByteArray()};
+    case None:
+    case Hang:
+        break;
+    }
+    return {call.status, call.output};
+}
+
+} // namespace
+
 VirtualLauncher::VirtualLauncher(VirtualRunLoop& runLoop)
     : runLoop_(runLoop)
 {
@@ -51,22 +76,14 @@ VirtualLauncher::~VirtualLauncher() = default;
 
 std::unique_ptr<RunningTask> VirtualLauncher::launch(const TaskRequest& request, Completion completion)
 {
-    using Fault = TmutilScript::Fault;
     launched_.append(request);
     const auto child = children_.emplace_back(std::make_shared<Child>(runLoop_, std::move(completion)));
     const auto call = behaviour(request);
-    TaskResult result{call.status, call.faultyOutput()};
-    if (call.fault == Fault::Crash)
-        result.status = SIGSEGV;
-    else if (call.fault == Fault::Refused)
-        result.status = TaskResult::launchRefused;
-    else if (call.fault == Fault::Endless)
-        result = {SIGKILL, std::nullopt};
     // A repeating timer follows the uptime clock, as a child process does.
-    if (call.fault != Fault::Hang)
-        child->timer =
-            runLoop_.scheduleRepeating(Seconds(std::max(call.delay, 0.001)),
-                                       [child = std::weak_ptr(child), result] { Child::end(child.lock(), result); });
+    if (call.fault != TmutilScript::Fault::Hang)
+        child->timer = runLoop_.scheduleRepeating(
+            Seconds(std::max(call.delay, 0.001)),
+            [child = std::weak_ptr(child), result = resultOf(call)] { Child::end(child.lock(), result); });
     return std::make_unique<Handle>(child);
 }
 
