@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QEventLoop>
+#include <QtCore/qtestsupport_core.h>
 
 namespace quillon {
 
@@ -10,10 +8,7 @@ namespace quillon {
 template<typename Condition>
 bool runUntil(Condition condition, int boundSeconds = 240)
 {
-    QDeadlineTimer deadline(boundSeconds * qint64{1000});
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-    return condition();
+    return QTest::qWaitFor(condition, boundSeconds * 1000);
 }
 
 } // namespace quillon

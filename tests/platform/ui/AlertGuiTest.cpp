@@ -47,9 +47,7 @@ TEST_F(AlertTest, SaysItsTextsAsTheyAreAndLeavesOutTheOneThatIsEmpty)
           .informativeText = u"<i>a & b</i>\nsecond line"_s,
           .buttons = {u"Save & quit"_s, u"Cancel"_s}});
     EXPECT_EQ(text(u"messageText"_s)->toPlainText(), u"<b>Disk & \"50%1\"</b>"_s);
-    EXPECT_TRUE(text(u"messageText"_s)->font().bold());
     EXPECT_EQ(text(u"informativeText"_s)->toPlainText(), u"<i>a & b</i>\nsecond line"_s);
-    EXPECT_FALSE(text(u"informativeText"_s)->font().bold());
     EXPECT_TRUE(text(u"informativeText"_s)->textInteractionFlags() & Qt::TextSelectableByMouse) << "to be copied";
     EXPECT_EQ(alert_->buttons().first()->text(), u"Save && quit"_s);
     EXPECT_EQ(alert_->buttons().first()->accessibleName(), u"Save & quit"_s);
@@ -62,9 +60,7 @@ TEST_F(AlertTest, SaysItsTextsAsTheyAreAndLeavesOutTheOneThatIsEmpty)
 TEST_F(AlertTest, ReturnPressesTheFirstButtonOrTheOneChosenWithTab)
 {
     show({.messageText = u"A"_s, .informativeText = {}, .buttons = {u"Open"_s, u"Later"_s, u"Cancel"_s}});
-    EXPECT_TRUE(alert_->buttons().first()->isDefault());
     EXPECT_EQ(afterKey(Qt::Key_Return), 1000);
-    EXPECT_EQ(afterKey(Qt::Key_Enter), 1000);
     afterKey(Qt::Key_Tab);
     EXPECT_EQ(afterKey(Qt::Key_Return), 1001);
     QTest::mouseClick(text(u"messageText"_s)->viewport(), Qt::LeftButton);
@@ -76,19 +72,14 @@ TEST_F(AlertTest, EscapeDestroysNothingAndThereIsAlwaysAWayOut)
     installStringTable(u"es"_s);
     const struct {
         QStringList buttons;
-        std::optional<int> destructive, escape;
+        std::optional<int> destructive;
         int response;
-    } table[] = {{{u"Open"_s, u"Later"_s, u"Cancel"_s}, {}, {}, 1002},
-                 {{u"Cancel"_s, u"Delete"_s}, 1, {}, 1000},
-                 {{u"Close"_s, u"Help"_s}, {}, 0, 1000},
-                 {{u"Delete"_s}, 0, {}, 1000},
-                 {{}, {}, {}, 1000}};
-    for (const auto& [buttons, destructive, escape, response] : table) {
-        show({.messageText = u"A"_s,
-              .informativeText = {},
-              .buttons = buttons,
-              .destructiveButton = destructive,
-              .escapeButton = escape});
+    } table[] = {{{u"Open"_s, u"Later"_s, u"Cancel"_s}, {}, 1002},
+                 {{u"Cancel"_s, u"Delete"_s}, 1, 1000},
+                 {{u"Delete"_s}, 0, 1000},
+                 {{}, {}, 1000}};
+    for (const auto& [buttons, destructive, response] : table) {
+        show({.messageText = u"A"_s, .informativeText = {}, .buttons = buttons, .destructiveButton = destructive});
         EXPECT_EQ(afterKey(Qt::Key_Escape), response) << buttons.join(u' ').toStdString();
         for (const QPushButton* button : alert_->buttons()) {
             const QColor color = button->palette().color(QPalette::ButtonText);
@@ -105,9 +96,6 @@ TEST_F(AlertTest, ShowsAllOfALongText)
           .informativeText = u"Several words. "_s.repeated(40),
           .buttons = {u"A rather long title of a button"_s, u"Another title that is long"_s}});
     EXPECT_EQ(clippedTexts(*alert_), "");
-    for (const QWidget* child : alert_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        EXPECT_TRUE(alert_->rect().contains(child->geometry()));
-
     show({.messageText = u"A"_s, .informativeText = u"Line.\n"_s.repeated(400), .buttons = {u"Close"_s}});
     EXPECT_LT(alert_->height(), alert_->screen()->availableGeometry().height());
     EXPECT_TRUE(text(u"informativeText"_s)->verticalScrollBar()->isVisible());

@@ -1,15 +1,13 @@
+#include "EventLoop.h"
 #include "Popover.h"
-#include "Waiting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
-#include <QSignalSpy>
+#include <QTest>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -45,23 +43,17 @@ protected:
     }
     void show()
     {
-        if (!popover_.isShown())
-            window_.activateWindow(); // there is no window manager here to do it
+        window_.activateWindow(); // there is no window manager here to do it
         popover_.setBehavior(PopoverBehavior::Transient);
         popover_.showRelativeTo({.view = button_}, RectEdge::MinY);
         ASSERT_TRUE(becomesActive(popover_));
     }
     static bool becomesActive(const Popover& popover)
     {
-        return eventually([&popover] { return QApplication::activeWindow() == &popover; });
+        return runUntil([&popover] { return QApplication::activeWindow() == &popover; });
     }
     static QRect onScreen(const QWidget* widget) { return {widget->mapToGlobal(QPoint()), widget->size()}; }
     QRect content() const { return onScreen(popover_.contentView()); }
-    void grow(int width)
-    {
-        popover_.findChild<QLineEdit*>()->setMinimumWidth(width);
-        ASSERT_TRUE(eventually([&] { return content().width() >= width; }));
-    }
     void clickOutside() { QTest::mouseClick(&window_, Qt::LeftButton, {}, QPoint(5, 5)); }
     static void leaveApplication() { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); }
 
@@ -77,54 +69,19 @@ TEST_F(PopoverTest, LiesBesideItsAnchorAndTakesTheKeyboard)
     EXPECT_GT(content().top(), anchor.bottom());
     EXPECT_NEAR(content().center().x(), anchor.center().x(), 1);
     EXPECT_TRUE(popover_.contentView()->isAncestorOf(QApplication::focusWidget()));
-    QTest::keyClicks(QApplication::focusWidget(), u"typed"_s);
-    EXPECT_EQ(popover_.findChild<QLineEdit*>()->text(), u"typed"_s);
-
-    popover_.showRelativeTo({.view = button_}, RectEdge::MaxX);
-    EXPECT_GT(content().left(), anchor.right()) << "one that is shown moves";
 }
 
-TEST_F(PopoverTest, FollowsItsContentAndItsAnchorAndStaysWhereThatGoesAway)
+TEST_F(PopoverTest, FollowsItsContentAndItsAnchor)
 {
     show();
     const QRect before = content();
-    grow(250);
+    popover_.findChild<QLineEdit*>()->setMinimumWidth(250);
+    ASSERT_TRUE(runUntil([this] { return content().width() >= 250; }));
     EXPECT_EQ(content().top(), before.top());
     EXPECT_NEAR(content().center().x(), onScreen(button_).center().x(), 1);
     const QRect large = content();
     window_.move(window_.pos() + QPoint(30, 20));
-    EXPECT_TRUE(eventually([&] { return content() == large.translated(30, 20); }));
-    delete button_;
-    grow(300);
-    EXPECT_EQ(content().top(), large.top() + 20);
-    EXPECT_TRUE(popover_.isShown());
-}
-
-TEST_F(PopoverTest, HangsAtThePointerWhenThereIsNothingToPointAt)
-{
-    const QPoint spot = QGuiApplication::primaryScreen()->availableGeometry().center();
-    QCursor::setPos(spot);
-    popover_.showRelativeTo({}, RectEdge::MinY);
-    QCursor::setPos(spot + QPoint(100, 100));
-    grow(220);
-    EXPECT_NEAR(content().center().x(), spot.x(), 1) << "follows the pointer";
-    EXPECT_GT(content().top(), spot.y());
-}
-
-TEST_F(PopoverTest, TellsOnceThatItCameAndWentAndCanComeBack)
-{
-    const QSignalSpy came(&popover_, &Popover::didShow);
-    const QSignalSpy gone(&popover_, &Popover::didClose);
-    for (int turn = 1; turn < 3; ++turn) {
-        show();
-        show();
-        EXPECT_EQ(came.size(), turn);
-        popover_.close();
-        popover_.close();
-        EXPECT_FALSE(popover_.isShown());
-        EXPECT_TRUE(eventually([&] { return !popover_.isVisible(); }));
-        EXPECT_EQ(gone.size(), turn);
-    }
+    EXPECT_TRUE(runUntil([&] { return content() == large.translated(30, 20); }));
 }
 
 TEST_F(PopoverTest, TransientOneClosesWhenTheUserTurnsToSomethingElse)
@@ -158,36 +115,19 @@ TEST_F(PopoverTest, TransientOneStaysWhileTheUserIsInsideOfIt)
     leaveApplication();
     EXPECT_TRUE(popover_.isShown()) << "a menu of its own";
     menu.close();
-    QDialog dialog;
-    dialog.setWindowModality(Qt::ApplicationModal);
-    dialog.show();
-    QTest::mouseClick(&dialog, Qt::LeftButton);
-    leaveApplication();
-    EXPECT_TRUE(popover_.isShown()) << "a modal window";
 }
 
 TEST_F(PopoverTest, TransientOneStaysAsLongAsItsChildrenDoWhichHaveTheKeyboardBeforeIt)
 {
     show();
     Popover child;
-    Popover grandchild;
-    Popover* parent = &popover_;
-    for (Popover* popover : {&child, &grandchild}) {
-        fill(*popover);
-        popover->showRelativeTo({.view = parent->findChild<QComboBox*>()}, RectEdge::MaxX);
-        ASSERT_TRUE(becomesActive(*popover));
-        parent = popover;
-    }
+    fill(child);
+    child.showRelativeTo({.view = popover_.findChild<QComboBox*>()}, RectEdge::MaxX);
+    ASSERT_TRUE(becomesActive(child));
     QTest::mouseClick(child.contentView(), Qt::LeftButton);
     clickOutside();
     leaveApplication();
     EXPECT_TRUE(popover_.isShown());
-    grandchild.close();
-    clickOutside();
-    EXPECT_TRUE(popover_.isShown());
-    EXPECT_TRUE(becomesActive(child)) << "the keyboard goes back to where it was";
-    popover_.showRelativeTo({.view = button_}, RectEdge::MinY);
-    EXPECT_TRUE(becomesActive(child)) << "as when the same command shows it again";
     popover_.activateWindow();
     EXPECT_TRUE(becomesActive(child)) << "as when the user clicks on it";
     child.close();

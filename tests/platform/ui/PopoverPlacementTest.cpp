@@ -2,16 +2,8 @@
 
 #include <array>
 #include <gtest/gtest.h>
-#include <ostream>
 
 namespace quillon {
-
-static void PrintTo(const PopoverPlacement& placement, std::ostream* out) // NOLINT: name of GoogleTest
-{
-    const QRect& body = placement.body;
-    *out << body.x() << ',' << body.y() << ' ' << body.width() << 'x' << body.height() << " edge "
-         << static_cast<int>(placement.arrow.edge) << " tip " << placement.arrow.tip;
-}
 
 namespace {
 
@@ -38,19 +30,13 @@ const std::array cases{
     Case{"hangs from a bar that windows keep off", {700, 0, 80, 28}, MinY, {{590, 37, 300, 200}, {MinY, 150}}},
     Case{"slides off the right side, arrow on the anchor", {900, 0, 60, 28}, MinY, {{694, 37, 300, 200}, {MinY, 236}}},
     Case{"slides off the left side, arrow on the anchor", {30, 0, 60, 28}, MinY, {{6, 37, 300, 200}, {MinY, 54}}},
-    Case{"slides down from the bar", {100, 40, 30, 30}, MaxX, {{139, 34, 300, 200}, {MaxX, 21}}},
     Case{"slides up from the lower side", {100, 760, 30, 30}, MaxX, {{139, 594, 300, 200}, {MaxX, 181}}},
     Case{"arrow keeps off the corner", {996, 0, 4, 28}, MinY, {{694, 37, 300, 200}, {MinY, 300 - corner}}},
     Case{"no room below", {480, 700, 40, 20}, MinY, {{350, 491, 300, 200}, {MaxY, 150}}},
-    Case{"room below to the last pixel", {480, 565, 40, 20}, MinY, {{350, 594, 300, 200}, {MinY, 150}}},
     Case{"one pixel too few below", {480, 566, 40, 20}, MinY, {{350, 357, 300, 200}, {MaxY, 150}}},
-    Case{"no room above", {480, 100, 40, 20}, MaxY, {{350, 129, 300, 200}, {MinY, 150}}},
-    Case{"no room to the right", {900, 390, 40, 20}, MaxX, {{591, 300, 300, 200}, {MinX, 100}}},
     Case{"no room to the left", {100, 390, 40, 20}, MinX, {{149, 300, 300, 200}, {MaxX, 100}}},
     Case{"neither below nor above", {100, 100, 40, 600}, MinY, {{149, 300, 300, 200}, {MaxX, 100}}},
-    Case{"neither to the right nor to the left", {100, 300, 800, 40}, MaxX, {{350, 349, 300, 200}, {MinY, 150}}},
     Case{"no room at all covers the anchor", {10, 40, 980, 700}, MinY, {{350, 594, 300, 200}, {MinY, 150}}},
-    Case{"points at a spot", {500, 400, 0, 0}, MinY, {{350, 409, 300, 200}, {MinY, 150}}},
     Case{"anchor beyond the screen", {500, 2000, 10, 10}, MinY, {{355, 594, 300, 200}, {MaxY, 150}}},
 };
 
@@ -60,13 +46,12 @@ TEST(PopoverPlacementTest, KeepsThePopoverOnTheScreenAndItsArrowOnTheAnchor)
         EXPECT_EQ(popoverPlacement(example.anchor, size, screen, example.preferred), example.expected) << example.name;
 }
 
-TEST(PopoverPlacementTest, KnowsOtherScreensAndContentsThatAreVerySmallOrLargerThanTheScreen)
+TEST(PopoverPlacementTest, KnowsOtherScreensAndContentsThatAreLargerThanTheScreen)
 {
     constexpr QRect leftOfAndAbovePrimary(-1280, -200, 1280, 1024);
     constexpr PopoverPlacement expected{{-306, -163, 300, 200}, {MinY, 276}};
     EXPECT_EQ(popoverPlacement({-40, -192, 20, 20}, size, leftOfAndAbovePrimary, MinY), expected);
     EXPECT_EQ(popoverPlacement(amid, {1200, 900}, screen, MaxX).body, QRect(6, 34, 1200, 900));
-    EXPECT_EQ(popoverPlacement(amid, {20, 12}, screen, MinY).arrow.tip, 10) << "no room for the arrow between corners";
 }
 
 } // namespace

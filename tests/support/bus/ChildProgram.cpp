@@ -1,6 +1,6 @@
 #include "ChildProgram.h"
 
-#include "Waiting.h"
+#include "EventLoop.h"
 
 #include <csignal>
 #include <stdexcept>
@@ -48,7 +48,7 @@ void ChildProgram::crash()
 
 QString ChildProgram::readLine()
 {
-    if (!eventually([this] { return process_.canReadLine() || process_.state() == QProcess::NotRunning; }) ||
+    if (!runUntil([this] { return process_.canReadLine() || process_.state() == QProcess::NotRunning; }) ||
         !process_.canReadLine())
         throw std::runtime_error(process_.program().toStdString() + " says nothing");
     return QString::fromUtf8(process_.readLine()).trimmed();
@@ -58,7 +58,7 @@ QString outputOf(const QString& program, const QStringList& arguments, const QSt
 {
     QProcess process;
     start(process, program, arguments, extra);
-    if (!eventually([&process] { return process.state() == QProcess::NotRunning; }) || process.exitCode() != 0)
+    if (!runUntil([&process] { return process.state() == QProcess::NotRunning; }) || process.exitCode() != 0)
         throw std::runtime_error(program.toStdString() + " failed");
     return QString::fromUtf8(process.readAllStandardOutput());
 }

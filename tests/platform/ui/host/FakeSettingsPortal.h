@@ -18,12 +18,11 @@ class FakeSettingsPortal final : public QObject, protected QDBusContext {
 public:
     static constexpr uint dark = 1;
     static constexpr uint light = 2;
-    enum class Version { Old, Current };
 
-    FakeSettingsPortal(const QDBusConnection& bus, uint colorScheme, Version version = Version::Current)
+    FakeSettingsPortal(const QDBusConnection& bus, uint colorScheme, bool isOld = false)
         : bus_(bus)
         , colorScheme_(colorScheme)
-        , version_(version)
+        , isOld_(isOld)
     {
         EXPECT_TRUE(bus_.registerObject(path_, this, QDBusConnection::ExportAllContents) &&
                     bus_.registerService(service_));
@@ -34,29 +33,23 @@ public:
         bus_.unregisterObject(path_);
     }
 
-    void setColorScheme(uint value)
+    void announce(const char* key, uint value)
     {
-        colorScheme_ = value;
-        announce(group_, key_, value);
-    }
-    /// Announces a change of some setting without making it.
-    void announce(const QString& group, const QString& key, uint value)
-    {
-        Q_EMIT SettingChanged(group, key, QDBusVariant(value));
+        Q_EMIT SettingChanged(QStringLiteral("org.freedesktop.appearance"), QString::fromLatin1(key),
+                              QDBusVariant(value));
     }
 
 public Q_SLOTS:
     QDBusVariant ReadOne(const QString& group, const QString& key) // NOLINT: names of the portal
     {
-        if (version_ == Version::Old)
+        if (isOld_)
             sendErrorReply(QDBusError::UnknownMethod, QStringLiteral("no such method"));
         return Read(group, key).variant().value<QDBusVariant>();
     }
     QDBusVariant Read(const QString& group, const QString& key)
     {
-        if (group != group_ || key != key_)
-            sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"), QStringLiteral("no such setting"));
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(colorScheme_)));
+        const bool isKnown = group + u' ' + key == u"org.freedesktop.appearance color-scheme";
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(isKnown ? colorScheme_ : 0)));
     }
 
 Q_SIGNALS:
@@ -65,11 +58,9 @@ Q_SIGNALS:
 private:
     const QString service_ = QStringLiteral("org.freedesktop.portal.Desktop");
     const QString path_ = QStringLiteral("/org/freedesktop/portal/desktop");
-    const QString group_ = QStringLiteral("org.freedesktop.appearance");
-    const QString key_ = QStringLiteral("color-scheme");
     QDBusConnection bus_;
     uint colorScheme_;
-    Version version_;
+    bool isOld_;
 };
 
 } // namespace quillon

@@ -17,28 +17,23 @@ class FakeStatusNotifierTray final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
     Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost)
-    Q_PROPERTY(QStringList RegisteredStatusNotifierItems READ items)
-    Q_PROPERTY(int ProtocolVersion READ protocolVersion)
 
 public:
-    /// Puts the watcher on the bus, its host with it unless that comes later. Where there is a watcher, this one waits
-    /// to take its place.
+    /// Puts the watcher on the bus, its host with it unless that comes later.
     explicit FakeStatusNotifierTray(const QDBusConnection& bus, bool withHost = true);
     ~FakeStatusNotifierTray() override;
 
     void setHost(bool present);
-    /// The host is there, and nobody has been told yet.
-    void setHostSilently() { host_ = true; }
 
     /// Bus names of the items in the tray.
     QStringList items() const { return items_; }
-    /// A property of the item, of that D-Bus type.
-    QVariant property(const QString& name, const QString& signature);
-    QString text(const QString& name) { return property(name, QStringLiteral("s")).toString(); }
-    NotifierToolTip toolTip();
-    NotifierPixmaps pixmaps(const QString& name);
-    /// Names of the signals of items since the last call.
-    QStringList takeSignals() { return std::exchange(signals_, {}); }
+    /// A property of the item.
+    QVariant property(const QString& name);
+    QString text(const QString& name) { return property(name).toString(); }
+    QString toolTip() { return qdbus_cast<NotifierToolTip>(property(QStringLiteral("ToolTip"))).text; }
+    NotifierPixmaps pixmaps(const QString& name) { return qdbus_cast<NotifierPixmaps>(property(name)); }
+    /// Names of the signals of items so far.
+    QStringList signalsOfItems() const { return signals_; }
 
     /// The items of the menu, top level.
     QList<MenuLayout> menu();
@@ -49,11 +44,8 @@ public:
 
 public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString& service); // NOLINT: names of the protocol
-    void RegisterStatusNotifierHost(const QString& /*service*/) {}
 
 Q_SIGNALS:
-    void StatusNotifierItemRegistered(const QString& service);
-    void StatusNotifierItemUnregistered(const QString& service);
     void StatusNotifierHostRegistered();
     void StatusNotifierHostUnregistered();
 
@@ -62,7 +54,6 @@ private Q_SLOTS:
 
 private:
     bool hasHost() const { return host_; }
-    int protocolVersion() const { return 0; }
     QDBusMessage call(const QString& path, const QString& interface, const QString& method,
                       const QVariantList& arguments);
     QDBusMessage callMenu(const QString& method, const QVariantList& arguments);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ChildProgram.h"
-#include "Waiting.h"
+#include "EventLoop.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -30,7 +30,7 @@ public:
     QJsonValue state(const QString& key) { return tell(QStringLiteral("state"))[key]; }
     bool becomes(const QString& key, const QJsonValue& value)
     {
-        return eventually([&] { return state(key) == value; });
+        return runUntil([&] { return state(key) == value; });
     }
     /// Where something is, in logical pixels; nothing when there is none or nobody knows.
     std::optional<QRect> place(const QString& key)

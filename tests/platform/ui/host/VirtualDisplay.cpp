@@ -1,6 +1,6 @@
 #include "VirtualDisplay.h"
 
-#include "Waiting.h"
+#include "EventLoop.h"
 
 #include <QFile>
 
@@ -32,14 +32,6 @@ VirtualDisplay::VirtualDisplay()
 {
 }
 
-QImage VirtualDisplay::screenshot() const
-{
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(u"screen.png"_s);
-    outputOf(u"import"_s, {u"-window"_s, u"root"_s, file}, {variable_});
-    return QImage(file).convertToFormat(QImage::Format_RGB32);
-}
-
 void VirtualDisplay::click(QPoint position) const
 {
     ask(u"xdotool"_s,
@@ -61,7 +53,7 @@ XEmbedTray::XEmbedTray(const VirtualDisplay& display)
     , windowManager_(u"openbox"_s, {}, {display.variable()})
 {
     // The panel takes the tray only where it finds a window manager.
-    if (!eventually([&display] {
+    if (!runUntil([&display] {
             return display.ask(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s}).contains("window id"_L1);
         }))
         throw std::runtime_error("the window manager does not come up");
@@ -74,22 +66,12 @@ void XEmbedTray::takeDown()
     panel_.reset();
 }
 
-bool XEmbedTray::isUp() const
-{
-    return panelWindows().contains("\"tint2\""_L1);
-}
-
 bool XEmbedTray::holds(const QString& windowName) const
 {
-    return panelWindows().contains(windowName);
-}
-
-QString XEmbedTray::panelWindows() const
-{
     try {
-        return display_.ask(u"xwininfo"_s, {u"-name"_s, u"tint2"_s, u"-tree"_s});
+        return display_.ask(u"xwininfo"_s, {u"-name"_s, u"tint2"_s, u"-tree"_s}).contains(windowName);
     } catch (const std::runtime_error&) {
-        return {}; // there is no panel, or one of its windows went away while they were listed
+        return false; // there is no panel, or one of its windows went away while they were listed
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "ChildProgram.h"
 
-#include <QImage>
+#include <QPoint>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -18,8 +18,6 @@ public:
     QString variable() const { return variable_; }
     /// The environment of its clients that use Qt.
     QStringList variables() const { return {QStringLiteral("QT_QPA_PLATFORM=xcb"), variable_}; }
-    /// What is on the screen now.
-    QImage screenshot() const;
     void click(QPoint position) const;
     void pressKey(const QString& name) const;
     /// Output of an X11 client that tells something about the display.
@@ -36,14 +34,10 @@ public:
     explicit XEmbedTray(const VirtualDisplay& display);
 
     void takeDown();
-    /// Whether the panel has taken the tray's place on the display.
-    bool isUp() const;
     /// Whether a window of that name sits in the tray.
     bool holds(const QString& windowName) const;
 
 private:
-    QString panelWindows() const;
-
     const VirtualDisplay& display_;
     QTemporaryDir folder_;
     ChildProgram windowManager_;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ChildProgram.h"
-#include "Waiting.h"
+#include "EventLoop.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -16,7 +16,7 @@ class WaylandCompositor {
 public:
     WaylandCompositor()
     {
-        EXPECT_TRUE(eventually([this] { return QFile::exists(socket()); }));
+        EXPECT_TRUE(runUntil([this] { return QFile::exists(socket()); }));
     }
 
     /// The environment of its clients that use Qt.

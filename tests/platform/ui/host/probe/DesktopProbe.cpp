@@ -67,7 +67,9 @@ public:
         else if (command == "press"_L1)
             QTest::keyClick(item_->anchor().view, Qt::Key_Space);
 
-        QJsonObject state{{u"menuOpen"_s, menu_.isVisible()}, {u"chosen"_s, chosen_}};
+        QJsonObject state{{u"menuOpen"_s, menu_.isVisible()},
+                          {u"chosen"_s, chosen_},
+                          {u"isDark"_s, QApplication::palette().window().color().lightness() < 60}};
         if (const QWidget* alert = QApplication::activeModalWidget())
             state[u"alertMinimized"_s] = alert->isMinimized();
         if (const QRect icon = item_->anchor().screenRect; !icon.isNull())
@@ -91,8 +93,6 @@ class PopoverScene {
 public:
     PopoverScene()
     {
-        backdrop_.setPalette(Qt::white);
-        backdrop_.setWindowFlags(Qt::FramelessWindowHint);
         backdrop_.setGeometry(0, 0, 1280, 800);
         backdrop_.show();
         text_->setFixedSize(200, 40);
@@ -112,13 +112,10 @@ public:
             QTest::keyClick(text_, Qt::Key_Space); // as a window system does that leaves the keyboard with the parent
         else if (command == "dismiss"_L1)
             child_.windowHandle()->close();
-        else if (command == "close"_L1)
-            popover_.close();
         return {{u"shown"_s, popover_.isShown()},
                 {u"visible"_s, popover_.isVisible()},
                 {u"active"_s, text_->hasFocus()},
                 {u"text"_s, text_->text()},
-                {u"window"_s, QString::number(popover_.winId())},
                 {u"childPressed"_s, button_->isChecked()},
                 {u"content"_s, toJson({text_->mapToGlobal(QPoint()), text_->size()})}};
     }
