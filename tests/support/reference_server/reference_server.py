@@ -12,12 +12,8 @@
 #                                            bytes dripped, and how many clients have left before their answer was whole
 
 import argparse
-import gzip
 import json
-import os
-import socket
 import ssl
-import struct
 import sys
 import threading
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
@@ -72,10 +68,6 @@ class Handler(BaseHTTPRequestHandler):
         self.end_headers()
         self.wfile.write(body)
 
-    def _hang(self):
-        while not self._is_left():
-            pass
-
     def _drip(self):
         try:
             self._send(b"", length=ENDLESS)
@@ -97,37 +89,16 @@ class Handler(BaseHTTPRequestHandler):
         self.server.service.left += left
         return left
 
-    def _reset(self):
-        self.connection.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
-        os.close(self.connection.detach())  # ahead of the orderly end that the server would make
-
     def _half(self):
         self._send(b'{"result": {"type": "Str', self.server.service.status, length=60)
         self.close_connection = True
-
-    def _notUtf8(self):
-        self._send(b'{"result": {"type": "String", "value": "\xff"}}')
-
-    def _compressed(self):
-        body = gzip.compress(b'{"result": true}')
-        self.send_response(200)
-        self.send_header("Content-Encoding", "gzip")
-        self.send_header("Content-Length", str(len(body)))
-        self.end_headers()
-        self.wfile.write(body)
 
     def _long(self):
         self._send(b" " * int(self.server.service.detail))
 
     def _redirect(self):
-        self._go_to(self.server.service.detail)
-
-    def _circle(self):
-        self._go_to(self.path)
-
-    def _go_to(self, address):
         self.send_response(307)
-        self.send_header("Location", address)
+        self.send_header("Location", self.server.service.detail)
         self.send_header("Content-Length", "0")
         self.end_headers()
 
