@@ -89,13 +89,17 @@ TEST_F(Commands, AClickAndAScheduledStartAtATimeMakeOneBackup)
     after(20, "startbackup -r; startbackup -r; 2, 6.7% 56s, Skip This Backup, next 24 12:00");
 }
 
-TEST_F(Commands, AScheduledStartIsDroppedWhenTheScheduleIsPausedBeforeTheAnswer)
+TEST_F(Commands, AScheduledStartIsDroppedWhenTheScheduleIsPausedOrSwitchedOffBeforeTheAnswer)
 {
     launch();
     machine.callDuration = 1;
     until(today(12) + 500ms);
     controller->pauseForClicked(3600);
     after(60, "1, Next: 23h 59m, Back Up Now, next 22 12:00");
+    controller->resumeScheduleClicked();
+    until(today(36) + 500ms);
+    manager->setIsScheduleEnabled(false);
+    after(60, "1, Next: Disabled, Back Up Now, next never");
 }
 
 TEST_F(Commands, AScheduledStartThatIsRefusedIsSilentAndAQuestionThatCannotBeReadChangesNothing)

@@ -34,7 +34,7 @@ protected:
     QTemporaryDir settings;
     QTemporaryDir runtime;
     const QString folder = settings.filePath(u"Quillon"_s);
-    const QString refusal = u"refused: another instance holds "_s + folder + u"/instance"_s;
+    const QString refusal = u"refused: another instance runs on the folder "_s + folder;
     ScopedEnvironment runtimeFolder{"XDG_RUNTIME_DIR", QFile::encodeName(runtime.path())};
 };
 

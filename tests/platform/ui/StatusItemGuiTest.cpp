@@ -232,15 +232,17 @@ TEST_F(StatusItemTest, ClicksOpenAndCloseTheMenuUnderTheBarWhichFollowsTheColour
 TEST_F(StatusItemTest, TheBarKeepsOtherWindowsOffItsStrip)
 {
     const XEmbedTray panel(display_);
-    const auto workAreaBegins = [this](int top) {
-        const QString area = u"_NET_WORKAREA(CARDINAL) = 0, %1, 1280, "_s.arg(top);
-        return runUntil([&] { return display_.ask(u"xprop"_s, {u"-root"_s, u"_NET_WORKAREA"_s}).startsWith(area); });
+    const auto workAreaBegins = [this](const auto& top) {
+        const QString area = u"_NET_WORKAREA(CARDINAL) = 0, %1, 1280, "_s;
+        return runUntil([&] {
+            return display_.ask(u"xprop"_s, {u"-root"_s, u"_NET_WORKAREA"_s}).startsWith(area.arg(top()));
+        });
     };
-    ASSERT_TRUE(workAreaBegins(0)) << "nobody's strip";
+    ASSERT_TRUE(workAreaBegins([] { return 0; })) << "nobody's strip";
     constexpr int scale = 2;
     start(u"bar"_s, {u"QT_SCALE_FACTOR=2"_s});
     ASSERT_TRUE(barIsUp(true));
-    EXPECT_TRUE(workAreaBegins((probe_->place(u"bar"_s)->bottom() + 1) * scale));
+    EXPECT_TRUE(workAreaBegins([&] { return (probe_->place(u"bar"_s)->bottom() + 1) * scale; }));
     EXPECT_EQ(probe_->place(u"bar"_s)->top(), 0) << "its own strip does not push the bar down";
     EXPECT_TRUE(alertComesBack([&] { clickInBar(scale); }));
 }
