@@ -54,6 +54,7 @@ TEST(CommandLine, RefusesEverythingElse)
                                  u"recoverykey --kept"_s,
                                  u"recoverykey -X --kept KEYID"_s,
                                  u"excludename -X *.iso"_s,
+                                 u"listfiles --rotation /b"_s,
                                  u"restore one"_s}) {
         try {
             parsed(words);

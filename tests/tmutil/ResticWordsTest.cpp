@@ -254,6 +254,7 @@ TEST(Paths, AreShownOnOneLineAndKeptAsTheyAre)
     EXPECT_EQ(encodePath(decodePath(odd)), odd);
     EXPECT_EQ(shownPath(decodePath(odd)), u"/a\\\\ü\U0001F5FF\\n\\x1B[2J\\xFC \\x202E"_s);
     EXPECT_EQ(Restic::literalPattern(decodePath("/*?[]\\\xFC\xF0\x9F\x97\xBF")), u"/\\*\\?\\[]\\\\?\U0001F5FF"_s);
+    EXPECT_EQ(Restic::literalPattern(u"/\uFFFD"_s), u"/?"_s) << "as restic tells a byte";
     EXPECT_TRUE(covers(u"/"_s, u"/a"_s) && covers(u"/a"_s, u"/a"_s) && covers(u"/a"_s, u"/a/b"_s));
     EXPECT_FALSE(covers(u"/a"_s, u"/ab"_s) || covers(u"/a/b"_s, u"/a"_s));
 }

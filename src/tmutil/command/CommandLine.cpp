@@ -31,7 +31,8 @@ constexpr std::array syntaxes{
     Syntax{"startbackup"_L1, Command::StartBackup, "bdr"_L1, "[-b | --block] [-d ID | -r | --rotation]"_L1, 0, 0},
     Syntax{"stopbackup"_L1, Command::StopBackup, ""_L1, ""_L1, 0, 0},
     Syntax{"latestbackup"_L1, Command::LatestBackup, ""_L1, ""_L1, 0, 0},
-    Syntax{"listbackups"_L1, Command::ListBackups, ""_L1, ""_L1, 0, 0},
+    Syntax{"listbackups"_L1, Command::ListBackups, "X"_L1, "[-X]"_L1, 0, 0},
+    Syntax{"listfiles"_L1, Command::ListFiles, "RJ"_L1, "[-r] [--json] BACKUP[PATH]"_L1, 1, 1},
     Syntax{"restore"_L1, Command::Restore, ""_L1, "SRC DST"_L1, 2, 2},
     Syntax{"addsource"_L1, Command::AddSource, ""_L1, "PATH"_L1, 1, 1},
     Syntax{"removesource"_L1, Command::RemoveSource, ""_L1, "PATH"_L1, 1, 1},
@@ -76,10 +77,10 @@ const Syntax& syntaxOf(const QString& name)
 /// The letter of an option that the command takes; anything else is refused.
 char optionLetter(const QString& argument, const Syntax& syntax)
 {
-    static constexpr std::array spellings{std::pair{"--block"_L1, 'b'}, std::pair{"--rotation"_L1, 'r'},
-                                          std::pair{"--all"_L1, 'A'},   std::pair{"--hourly"_L1, 'H'},
-                                          std::pair{"--daily"_L1, 'D'}, std::pair{"--weekly"_L1, 'W'},
-                                          std::pair{"--try"_L1, 'T'},   std::pair{"--kept"_L1, 'K'}};
+    static constexpr std::array spellings{
+        std::pair{"--block"_L1, 'b'},  std::pair{"--rotation"_L1, 'r'}, std::pair{"--all"_L1, 'A'},
+        std::pair{"--hourly"_L1, 'H'}, std::pair{"--daily"_L1, 'D'},    std::pair{"--weekly"_L1, 'W'},
+        std::pair{"--try"_L1, 'T'},    std::pair{"--kept"_L1, 'K'},     std::pair{"--json"_L1, 'J'}};
     // Capital letters but X stand for what is spelled out only.
     char letter =
         argument.size() == 2 && (argument == "-X"_L1 || !argument[1].isUpper()) ? argument[1].toLatin1() : '\0';
@@ -87,6 +88,8 @@ char optionLetter(const QString& argument, const Syntax& syntax)
         if (argument == spelling)
             letter = meaning;
     }
+    if (letter == 'r' && syntax.options.contains(u'R'))
+        letter = argument.size() == 2 ? 'R' : '\0'; // down the folders, no rotation of disks
     if (letter == '\0' || !syntax.options.contains(QLatin1Char(letter)))
         refuse(u"\"%1\" takes no option \"%2\"."_s.arg(syntax.name, argument));
     return letter;
@@ -146,6 +149,12 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             break;
         case 'r':
             line.rotate = true;
+            break;
+        case 'R':
+            line.recursive = true;
+            break;
+        case 'J':
+            line.json = true;
             break;
         case 'A':
             line.all = true;

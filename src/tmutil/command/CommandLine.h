@@ -15,6 +15,7 @@ enum class Command {
     StopBackup,
     LatestBackup,
     ListBackups,
+    ListFiles,
     Restore,
     RemoveDestination,
     AddSource,
@@ -48,6 +49,8 @@ struct CommandLine {
     bool rotate = false;           ///< -r, --rotation
     bool all = false;              ///< --all
     bool trial = false;            ///< --try
+    bool json = false;             ///< --json
+    bool recursive = false;        ///< listfiles -r
     QString destination;           ///< -d ID; empty when absent
     QString keptKey;               ///< --kept KEYID; empty when absent
     KeepRules keep = {-1, -1, -1}; ///< --hourly, --daily, --weekly; -1 where absent

@@ -237,50 +237,6 @@ void runBackup(const Folders& folders, const QString& destinationId)
     }
 }
 
-/// The backups on all disks present, oldest first.
-std::vector<Snapshot> snapshots(const Folders& folders)
-{
-    const Configuration configuration(folders);
-    if (configuration.destinations().empty())
-        throw Failure(ExitStatus::NoDestination, u"No backup disk is set. Set one with \"tmutil setdestination\"."_s);
-    std::vector<Snapshot> all;
-    std::optional<Failure> unreadable;
-    bool isAnyThere = false;
-    for (const Destination& destination : configuration.destinations()) {
-        const auto repository = RepositoryFolder::open(destination);
-        if (!repository)
-            continue;
-        isAnyThere = true;
-        try {
-            const auto some = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
-            all.insert(all.end(), some.begin(), some.end());
-        } catch (const Failure& failure) {
-            unreadable = Failure(failure.status(), u"%1: %2"_s.arg(destination.name, failure.message()));
-            printError(unreadable->message());
-        }
-    }
-    if (!isAnyThere)
-        throw Failure(ExitStatus::DestinationMissing, u"No backup disk is there."_s);
-    if (all.empty())
-        throw unreadable.value_or(Failure(ExitStatus::NoBackup, u"There are no backups."_s));
-    std::ranges::stable_sort(all, {}, &Snapshot::time);
-    return all;
-}
-
-void latestBackup(const Folders& folders)
-{
-    const auto all = snapshots(folders);
-    print(QStringList(latestOf(all, QDateTime::currentDateTimeUtc())->name()));
-}
-
-void listBackups(const Folders& folders)
-{
-    QStringList names;
-    for (const Snapshot& snapshot : snapshots(folders))
-        names.append(snapshot.name());
-    print(names);
-}
-
 } // namespace
 
 void runCommand(const CommandLine& line)
@@ -302,7 +258,9 @@ void runCommand(const CommandLine& line)
     case Command::LatestBackup:
         return latestBackup(folders);
     case Command::ListBackups:
-        return listBackups(folders);
+        return listBackups(folders, line.xml);
+    case Command::ListFiles:
+        return listFiles(folders, line);
     case Command::Restore:
         return restore(line.operands[0], line.operands[1], Configuration(folders).destinations(), folders);
     case Command::AddSource:

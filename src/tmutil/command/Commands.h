@@ -23,6 +23,13 @@ void isExcluded(const Folders& folders, const QStringList& paths);
 void excludeNames(const Folders& folders, const QStringList& patterns, bool trial, bool xml);
 void excludeLarger(const Folders& folders, const QString& megabytes, bool trial, bool xml);
 
+/// `listbackups` and `latestbackup`. A disk that cannot be read is named on standard error.
+void listBackups(const Folders& folders, bool xml);
+void latestBackup(const Folders& folders);
+
+/// `listfiles`.
+void listFiles(const Folders& folders, const CommandLine& line);
+
 struct Destination;
 
 /// `setdestination`: sets the disk, makes a repository and a recovery key where there is none, and says what to do with

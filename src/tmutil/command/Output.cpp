@@ -1,10 +1,15 @@
 #include "Output.h"
 
 #include "Failure.h"
+#include "ListedFile.h"
+#include "Paths.h"
 #include "PropertyList.h"
 #include "ShownText.h"
 
+#include <QJsonDocument>
+
 #include <cstdio>
+#include <map>
 #include <sys/socket.h>
 
 namespace quillon {
@@ -53,6 +58,41 @@ void printXml(const QVariant& value)
     if (!list)
         throw Failure(ExitStatus::Configuration, u"A path cannot be written as XML."_s);
     print(*list);
+}
+
+void printJson(const QJsonObject& object)
+{
+    print(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
+}
+
+QJsonObject jsonOf(const ListedFile& file)
+{
+    static const std::map<ListedFile::Kind, QString> types{{ListedFile::Kind::File, u"file"_s},
+                                                           {ListedFile::Kind::Folder, u"folder"_s},
+                                                           {ListedFile::Kind::Link, u"link"_s},
+                                                           {ListedFile::Kind::Other, u"other"_s}};
+    QJsonObject object{{u"path"_s, file.path},
+                       {u"type"_s, types.at(file.kind)},
+                       {u"modified"_s, file.modified.toString(Qt::ISODateWithMs)},
+                       {u"mode"_s, static_cast<qint64>(file.mode)}};
+    if (file.kind == ListedFile::Kind::File)
+        object.insert(u"size"_s, file.size);
+    if (file.kind == ListedFile::Kind::Link)
+        object.insert(u"target"_s, file.target);
+    return object;
+}
+
+QByteArray lineOf(const ListedFile& file, const QString& name)
+{
+    constexpr int widthOfSize = 12;
+    const bool isFile = file.kind == ListedFile::Kind::File;
+    QString line = (isFile ? QString::number(file.size) : QString()).rightJustified(widthOfSize) + "  "_L1 +
+                   file.modified.toLocalTime().toString(u"yyyy-MM-dd HH:mm:ss"_s) + "  "_L1 + shownPath(name);
+    if (file.kind == ListedFile::Kind::Folder)
+        line += u'/';
+    else if (file.kind == ListedFile::Kind::Link)
+        line += " -> "_L1 + shownPath(file.target);
+    return line.toUtf8() + '\n';
 }
 
 void printError(const QString& sentence)

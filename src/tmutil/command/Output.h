@@ -3,6 +3,7 @@
 #include "Failure.h"
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -31,6 +32,16 @@ void print(const QStringList& lines);
 
 /// As an XML property list, for programs. Throws Failure also where it holds what no property list can.
 void printXml(const QVariant& value);
+
+/// An object on a line of its own, for programs.
+void printJson(const QJsonObject& object);
+
+struct ListedFile;
+
+/// A file of a backup for programs: what is known of it, each where it applies.
+QJsonObject jsonOf(const ListedFile& file);
+/// The same for people, by that name: size, time of the last change, name.
+QByteArray lineOf(const ListedFile& file, const QString& name);
 
 /// Sentences and the like, which may hold names from a disk: each on one line, without what a terminal would obey.
 void printForPeople(const QStringList& lines);

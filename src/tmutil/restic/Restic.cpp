@@ -53,13 +53,15 @@ void prepareChild(int folder, pid_t parent)
     std::signal(SIGINT, SIG_DFL); // a shell's background jobs inherit it ignored
 }
 
-void readOutput(QProcess& process, const Restic::LineHandler& onOutput, ResticOutcome& outcome)
+void readOutput(QProcess& process, const Restic::LineHandler& onOutput, bool inPieces, ResticOutcome& outcome)
 {
     process.setReadChannel(QProcess::StandardOutput);
     if (!onOutput) {
         outcome.output += process.readAll();
         return;
     }
+    if (inPieces)
+        return onOutput(process.readAll());
     while (process.canReadLine())
         onOutput(process.readLine());
 }
@@ -159,7 +161,7 @@ ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOut
     process.setChildProcessModifier(
         [folder = repository_.descriptor(), parent = getpid()] { prepareChild(folder, parent); });
     QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
-                     [&] { readOutput(process, onOutput, outcome); });
+                     [&] { readOutput(process, onOutput, inPieces_, outcome); });
     QObject::connect(&process, &QProcess::readyReadStandardError, &process,
                      [&] { readMessages(process, onMessage, outcome); });
     QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
@@ -189,7 +191,7 @@ ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOut
     if (process.state() != QProcess::NotRunning)
         loop.exec();
 
-    readOutput(process, onOutput, outcome);
+    readOutput(process, onOutput, inPieces_, outcome);
     readMessages(process, onMessage, outcome);
     outcome.workFolder = workFolder_;
     outcome.diskGone = outcome.diskGone || !repository_.isStillThere();
@@ -235,6 +237,13 @@ Restic Restic::endedWhen(const std::function<bool()>& isStuck) const
     return other;
 }
 
+Restic Restic::readInPieces() const
+{
+    Restic other = *this;
+    other.inPieces_ = true;
+    return other;
+}
+
 Restic Restic::withFeature(const QString& name) const
 {
     Restic other = *this;
@@ -250,7 +259,8 @@ QString Restic::literalPattern(const QString& path)
             pattern += u'\\';
         // A byte that is no UTF-8, as decodePath() gives it, cannot be passed on; restic takes each for one character.
         const bool isByte = character.unicode() >= 0xDC80 && character.unicode() <= 0xDCFF;
-        pattern += isByte && !(pattern.size() > 0 && pattern.back().isHighSurrogate()) ? QChar(u'?') : character;
+        const bool isPair = pattern.size() > 0 && pattern.back().isHighSurrogate();
+        pattern += (isByte && !isPair) || character == QChar::ReplacementCharacter ? QChar(u'?') : character;
     }
     return pattern;
 }

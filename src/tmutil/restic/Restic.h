@@ -64,7 +64,11 @@ public:
     /// The same restic, ended where it is found to wait for room that does not come. It is looked twice a second.
     Restic endedWhen(const std::function<bool()>& isStuck) const;
 
-    /// A path as a pattern that matches it and, unless it has bytes that are no UTF-8, nothing else.
+    /// The same restic, whose standard output is handed on in pieces as they come, for output without line breaks.
+    Restic readInPieces() const;
+
+    /// A path as a pattern that matches it and, unless it has bytes that are no UTF-8, or what restic tells in their
+    /// place, nothing else.
     static QString literalPattern(const QString& path);
 
     static QString cacheFolder(const Folders& folders);
@@ -79,6 +83,7 @@ private:
     QString workFolder_;
     const StopRequest* stop_;
     std::function<bool()> isStuck_;
+    bool inPieces_ = false;
 };
 
 } // namespace quillon

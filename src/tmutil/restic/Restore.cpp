@@ -2,10 +2,9 @@
 
 #include "Failure.h"
 #include "FolderTree.h"
+#include "Listing.h"
 #include "Paths.h"
-#include "RepositoryFolder.h"
 #include "Restic.h"
-#include "Snapshot.h"
 #include "StopRequest.h"
 
 #include <QDir>
@@ -98,38 +97,6 @@ QStringList RestoreErrors::damaged() const
 }
 
 namespace {
-
-/// What is to be restored from where.
-struct Wanted {
-    RepositoryFolder repository;
-    Snapshot snapshot;
-    QString path; ///< absolute; empty for everything
-};
-
-Wanted find(const QString& source, const std::vector<Destination>& destinations, const Folders& folders)
-{
-    const QString clean = QDir::cleanPath(source);
-    QString absence;
-    for (const Destination& destination : destinations) {
-        if (!covers(destination.path, clean))
-            continue;
-        auto repository = RepositoryFolder::open(destination);
-        if (!repository) {
-            absence = destination.absence();
-            continue;
-        }
-        const auto found = holdersOf(snapshotsIn(*repository, Restic(*repository, folders, nullptr)), clean);
-        if (found.empty())
-            continue;
-        const qsizetype length = found.front().name().size();
-        if (found.size() > 1)
-            throw Failure(ExitStatus::NoBackup, u"\"%1\" names more than one backup."_s.arg(clean.left(length)));
-        return {std::move(*repository), found.front(), clean.mid(length)};
-    }
-    if (!absence.isEmpty())
-        throw Failure(ExitStatus::DestinationMissing, absence);
-    throw Failure(ExitStatus::NoBackup, u"\"%1\" is not in any backup. See \"tmutil listbackups\"."_s.arg(source));
-}
 
 QString freeTarget(const QString& target)
 {
@@ -275,7 +242,7 @@ QString partsLost(const RestoreErrors& errors, const QStringList& unmarked)
     return sentences.join(u' ');
 }
 
-QStringList argumentsFor(const Wanted& wanted, const QString& path, const QString& tree)
+QStringList argumentsFor(const PlaceInBackup& wanted, const QString& path, const QString& tree)
 {
     QStringList arguments{u"restore"_s, wanted.snapshot.id, u"--target"_s, tree};
     if (!path.isEmpty())
@@ -291,12 +258,11 @@ void restore(const QString& source, const QString& target, const std::vector<Des
              const Folders& folders)
 {
     const QString free = freeTarget(target);
-    const Wanted wanted = find(source, destinations, folders);
+    BackupFinder finder(destinations, folders);
+    const PlaceInBackup wanted = finder.find(source);
     const StopRequest stop; // while there is a folder to be cleared away
     const WorkFolder work(free);
-    // A backup knows its files by paths without links; people know them by others.
-    QStringList paths{wanted.path, resolvedPath(wanted.path)};
-    paths.removeDuplicates();
+    const QStringList paths = wanted.paths();
     for (const QString& path : paths) {
         const QString tree = work.path() + "/tree"_L1 + QString::number(paths.indexOf(path));
         QByteArrayList lines;

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Destination.h"
+#include "Folders.h"
+#include "ListedFile.h"
+#include "RepositoryFolder.h"
+#include "Snapshot.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <deque>
+#include <vector>
+
+namespace quillon {
+
+class Restic;
+
+/// A disk that can be read, with its backups, oldest first.
+struct ReadableDisk {
+    RepositoryFolder repository;
+    std::vector<Snapshot> snapshots;
+};
+
+/// Something in a backup, or all of it.
+struct PlaceInBackup {
+    const RepositoryFolder& repository;
+    Snapshot snapshot;
+    QString path; ///< absolute; empty for everything
+
+    /// A backup knows its files by paths without links, people know them by others: the path, and where it leads to on
+    /// this computer if that is another one.
+    QStringList paths() const;
+};
+
+/// Finds what people name. It reads the list of a disk's backups once.
+class BackupFinder {
+public:
+    /// Both must outlive this object.
+    BackupFinder(const std::vector<Destination>& destinations, const Folders& folders);
+
+    /// `name` is a backup's name as `listbackups` prints it, followed by an absolute path in it, or by nothing. The
+    /// place is good as long as this object lives. Throws Failure where there is no such backup, or more than one.
+    PlaceInBackup find(const QString& name);
+
+private:
+    const ReadableDisk* disk(const Destination& destination);
+
+    const std::vector<Destination>& destinations_;
+    const Folders& folders_;
+    std::deque<ReadableDisk> disks_; ///< places refer to them
+};
+
+using FileHandler = FindOutput::FileHandler;
+
+/// What is directly in a folder of the backup, as restic tells it, file by file; of a file that itself. Without a path
+/// the folders that the backup was made of. False where the backup has nothing at that path. Throws Failure.
+bool listFolder(const Restic& restic, const Snapshot& snapshot, const QString& path, const FileHandler& onFile);
+
+/// The same with all that is below, folders ahead of what they hold.
+bool listTree(const Restic& restic, const Snapshot& snapshot, const QString& path, const FileHandler& onFile);
+
+/// All that `restic find` finds with such options for patterns, backup by backup, in no order of theirs; each is named
+/// after what was found in it. What lies in a folder that matches is found, too. Throws Failure, also where a part of a
+/// backup cannot be read.
+void findFiles(
+    const Restic& restic, const QStringList& options, const QStringList& patterns, const FileHandler& onFile,
+    const FindOutput::BackupHandler& onBackup = [](const QString&) {});
+
+} // namespace quillon
