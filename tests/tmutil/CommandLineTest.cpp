@@ -27,6 +27,9 @@ TEST(CommandLine, TakesWhatTheSystemToolTakes)
     }
     EXPECT_EQ(parsed(u"startbackup -d ID"_s).destination, u"ID"_s);
     EXPECT_EQ(parsed(u"isexcluded /a /b -- -c"_s).operands, (QStringList{u"/a"_s, u"/b"_s, u"-c"_s}));
+    const auto restore = parsed(u"restore --replace --json /b/a /b/c /d"_s);
+    EXPECT_TRUE(restore.rule == RestoreRule::Replace && restore.json && restore.operands.size() == 3);
+    EXPECT_TRUE(parsed(u"restore --in-place /b/a"_s).inPlace);
     const auto rules = parsed(u"retention --weekly 0 --hourly 48"_s).keep;
     EXPECT_TRUE(rules.hourly == 48 && rules.daily == -1 && rules.weekly == 0);
 }
@@ -55,7 +58,10 @@ TEST(CommandLine, RefusesEverythingElse)
                                  u"recoverykey -X --kept KEYID"_s,
                                  u"excludename -X *.iso"_s,
                                  u"listfiles --rotation /b"_s,
-                                 u"restore one"_s}) {
+                                 u"restore one"_s,
+                                 u"restore one two three"_s,
+                                 u"restore --skip one"_s,
+                                 u"restore --skip --replace one two"_s}) {
         try {
             parsed(words);
             ADD_FAILURE() << words.toStdString();

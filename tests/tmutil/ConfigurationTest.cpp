@@ -2,10 +2,10 @@
 #include "Destination.h"
 #include "History.h"
 #include "KeyStore.h"
+#include "Listing.h"
 #include "Output.h"
 #include "PropertyListFile.h"
 #include "Reports.h"
-#include "Restore.h"
 #include "SourceSet.h"
 
 #include <tuple>
@@ -195,7 +195,8 @@ TEST_F(ConfigurationTest, TheUsualDiskIsTheLastUsedOrTheFirstPresentAndRotationT
     EXPECT_EQ(statusOf(usual), ExitStatus::DestinationMissing);
     const auto restoreFrom = [&](const QString& disk) {
         const QString backup = disk + "/host/2026-11-21-072258/file"_L1;
-        return statusOf([&] { restore(backup, path(u"x"_s), destinations(), folders_); });
+        const auto disks = destinations();
+        return statusOf([&] { BackupFinder(disks, folders_).find(backup); });
     };
     EXPECT_EQ(restoreFrom(first.path), ExitStatus::DestinationMissing);
     EXPECT_EQ(restoreFrom(root_.path()), ExitStatus::NoBackup) << "no disk was ever there";

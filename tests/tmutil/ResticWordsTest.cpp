@@ -2,7 +2,7 @@
 #include "Paths.h"
 #include "Restic.h"
 #include "ResticDiagnosis.h"
-#include "Restore.h"
+#include "RestoreErrors.h"
 #include "Verification.h"
 
 #include <gtest/gtest.h>

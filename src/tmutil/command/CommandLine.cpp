@@ -33,7 +33,8 @@ constexpr std::array syntaxes{
     Syntax{"latestbackup"_L1, Command::LatestBackup, ""_L1, ""_L1, 0, 0},
     Syntax{"listbackups"_L1, Command::ListBackups, "X"_L1, "[-X]"_L1, 0, 0},
     Syntax{"listfiles"_L1, Command::ListFiles, "RJ"_L1, "[-r] [--json] BACKUP[PATH]"_L1, 1, 1},
-    Syntax{"restore"_L1, Command::Restore, ""_L1, "SRC DST"_L1, 2, 2},
+    Syntax{"restore"_L1, Command::Restore, "JBPSI"_L1,
+           "[--json] [--keep-both | --replace | --skip] [--in-place] SRC... [DST]"_L1, 1, any},
     Syntax{"addsource"_L1, Command::AddSource, ""_L1, "PATH"_L1, 1, 1},
     Syntax{"removesource"_L1, Command::RemoveSource, ""_L1, "PATH"_L1, 1, 1},
     Syntax{"listsources"_L1, Command::ListSources, "X"_L1, "[-X]"_L1, 0, 0},
@@ -78,9 +79,11 @@ const Syntax& syntaxOf(const QString& name)
 char optionLetter(const QString& argument, const Syntax& syntax)
 {
     static constexpr std::array spellings{
-        std::pair{"--block"_L1, 'b'},  std::pair{"--rotation"_L1, 'r'}, std::pair{"--all"_L1, 'A'},
-        std::pair{"--hourly"_L1, 'H'}, std::pair{"--daily"_L1, 'D'},    std::pair{"--weekly"_L1, 'W'},
-        std::pair{"--try"_L1, 'T'},    std::pair{"--kept"_L1, 'K'},     std::pair{"--json"_L1, 'J'}};
+        std::pair{"--block"_L1, 'b'},     std::pair{"--rotation"_L1, 'r'}, std::pair{"--all"_L1, 'A'},
+        std::pair{"--hourly"_L1, 'H'},    std::pair{"--daily"_L1, 'D'},    std::pair{"--weekly"_L1, 'W'},
+        std::pair{"--try"_L1, 'T'},       std::pair{"--kept"_L1, 'K'},     std::pair{"--json"_L1, 'J'},
+        std::pair{"--keep-both"_L1, 'B'}, std::pair{"--replace"_L1, 'P'},  std::pair{"--skip"_L1, 'S'},
+        std::pair{"--in-place"_L1, 'I'}};
     // Capital letters but X stand for what is spelled out only.
     char letter =
         argument.size() == 2 && (argument == "-X"_L1 || !argument[1].isUpper()) ? argument[1].toLatin1() : '\0';
@@ -114,6 +117,23 @@ QString identifierAfter(QStringList::const_iterator& option, QStringList::const_
     if (++option == end || option->isEmpty())
         refuse(u"\"%1\" wants an identifier."_s.arg(name));
     return *option;
+}
+
+/// One at most: two would contradict each other.
+void chooseRule(CommandLine& line, const QString& option)
+{
+    if (line.rule != RestoreRule::Refuse)
+        refuse(u"\"%1\" goes with no other rule."_s.arg(option));
+    line.rule = option == "--replace"_L1 ? RestoreRule::Replace
+                : option == "--skip"_L1  ? RestoreRule::Skip
+                                         : RestoreRule::KeepBoth;
+}
+
+/// Without a rule one thing is restored under a name of its own; with one, any number into a folder.
+bool isRestoreWhole(const CommandLine& line)
+{
+    const qsizetype operands = line.operands.size();
+    return line.inPlace || (line.rule == RestoreRule::Refuse ? operands == 2 : operands >= 2);
 }
 
 } // namespace
@@ -150,6 +170,14 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         case 'r':
             line.rotate = true;
             break;
+        case 'B':
+        case 'P':
+        case 'S':
+            chooseRule(line, *argument);
+            break;
+        case 'I':
+            line.inPlace = true;
+            break;
         case 'R':
             line.recursive = true;
             break;
@@ -180,7 +208,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         }
     }
     if (line.operands.size() < syntax.leastOperands || line.operands.size() > syntax.mostOperands ||
-        line.operands.contains(QString()) || (line.rotate && !line.destination.isEmpty()) ||
+        line.operands.contains(QString()) || (line.command == Command::Restore && !isRestoreWhole(line)) ||
+        (line.rotate && !line.destination.isEmpty()) ||
         (line.xml && (!line.keptKey.isEmpty() || (syntax.options.contains(u'T') && !line.trial))))
         refuse(syntax);
     return line;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Placement.h"
 #include "Retention.h"
 
 #include <QString>
@@ -51,6 +52,8 @@ struct CommandLine {
     bool trial = false;            ///< --try
     bool json = false;             ///< --json
     bool recursive = false;        ///< listfiles -r
+    RestoreRule rule = {};         ///< --keep-both, --replace, --skip
+    bool inPlace = false;          ///< --in-place
     QString destination;           ///< -d ID; empty when absent
     QString keptKey;               ///< --kept KEYID; empty when absent
     KeepRules keep = {-1, -1, -1}; ///< --hourly, --daily, --weekly; -1 where absent

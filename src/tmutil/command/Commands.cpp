@@ -11,7 +11,6 @@
 #include "Reports.h"
 #include "RepositoryFolder.h"
 #include "Restic.h"
-#include "Restore.h"
 #include "Room.h"
 #include "RunLog.h"
 #include "RunState.h"
@@ -262,7 +261,7 @@ void runCommand(const CommandLine& line)
     case Command::ListFiles:
         return listFiles(folders, line);
     case Command::Restore:
-        return restore(line.operands[0], line.operands[1], Configuration(folders).destinations(), folders);
+        return restore(folders, line);
     case Command::AddSource:
         return Configuration(folders).addSource(line.operands.first());
     case Command::RemoveSource:

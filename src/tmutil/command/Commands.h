@@ -30,6 +30,10 @@ void latestBackup(const Folders& folders);
 /// `listfiles`.
 void listFiles(const Folders& folders, const CommandLine& line);
 
+/// `restore`: one thing under a name that is free; or, with a rule for what is in the way, any number into a folder or
+/// each to where it was. What could not be restored is named, and the others are.
+void restore(const Folders& folders, const CommandLine& line);
+
 struct Destination;
 
 /// `setdestination`: sets the disk, makes a repository and a recovery key where there is none, and says what to do with

@@ -101,7 +101,7 @@ void tellLinks(const Restic& restic, const Snapshot& snapshot, QStringList links
     }
 }
 
-/// Those that lie in the tree already stand for all below them where there is nothing else.
+/// A backup made by hand may have other paths for what it was made of; then what is at its top counts.
 void listRoots(const Restic& restic, const Snapshot& snapshot, const FileHandler& onFile)
 {
     std::vector<ListedFile> roots;
@@ -155,6 +155,18 @@ bool listTree(const Restic& restic, const Snapshot& snapshot, const QString& pat
                       onFile(file);
               });
     return isThere;
+}
+
+std::vector<ListedFile> describe(const Restic& restic, const Snapshot& snapshot, const QStringList& paths)
+{
+    std::vector<ListedFile> known;
+    if (paths.isEmpty())
+        return known;
+    runLs(restic, snapshot, paths, [&](const ListedFile& file) {
+        if (paths.contains(file.path))
+            known.push_back(file);
+    });
+    return known;
 }
 
 void findFiles(const Restic& restic, const QStringList& options, const QStringList& patterns, const FileHandler& onFile,

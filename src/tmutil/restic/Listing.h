@@ -60,6 +60,9 @@ bool listFolder(const Restic& restic, const Snapshot& snapshot, const QString& p
 /// The same with all that is below, folders ahead of what they hold.
 bool listTree(const Restic& restic, const Snapshot& snapshot, const QString& path, const FileHandler& onFile);
 
+/// Of those paths the ones that the backup has, each by itself. Throws Failure.
+std::vector<ListedFile> describe(const Restic& restic, const Snapshot& snapshot, const QStringList& paths);
+
 /// All that `restic find` finds with such options for patterns, backup by backup, in no order of theirs; each is named
 /// after what was found in it. What lies in a folder that matches is found, too. Throws Failure, also where a part of a
 /// backup cannot be read.

@@ -149,6 +149,12 @@ bool MountTable::haveOneFileSystem(const QString& one, const QString& other) con
     return first != nullptr && second != nullptr && first->device == second->device;
 }
 
+QString MountTable::firstIn(const QString& folder) const
+{
+    const auto found = std::ranges::find_if(mounts_, [&](const Mount& mount) { return covers(folder, mount.point); });
+    return found == mounts_.end() ? QString() : found->point;
+}
+
 QStringList MountTable::foreignMountPointsIn(const QString& folder) const
 {
     const Mount* const around = this->around(folder);

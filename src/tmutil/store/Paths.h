@@ -38,6 +38,9 @@ public:
     /// that are mounted by themselves, as subvolumes are, are not among them.
     QStringList foreignMountPointsIn(const QString& folder) const;
 
+    /// The first mount point at that path or below it, of whatever file system; empty where there is none.
+    QString firstIn(const QString& folder) const;
+
     /// Whether two paths lie on one file system. Neither is looked at, for a disk that hangs would block that.
     bool haveOneFileSystem(const QString& one, const QString& other) const;
 

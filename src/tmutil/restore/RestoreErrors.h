@@ -1,14 +1,10 @@
 #pragma once
 
-#include "Destination.h"
-#include "Folders.h"
-
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
-#include <vector>
 
 namespace quillon {
 
@@ -40,11 +36,5 @@ private:
     bool lackAttributes_ = false;
     QString targetProblem_;
 };
-
-/// Gives a file or a tree back. `source` is a backup's name as `listbackups` prints it, followed by the absolute path
-/// of what is wanted; the name alone stands for everything. `target` must not exist, but its folder must: nothing is
-/// ever overwritten, and it appears whole or not at all. Throws Failure.
-void restore(const QString& source, const QString& target, const std::vector<Destination>& destinations,
-             const Folders& folders);
 
 } // namespace quillon
