@@ -52,4 +52,35 @@ all
         "/source/f\uFFFD\n/source/f\uFFFD/in\n/source/o\uFFFD\\n[*]\\\\\n2\nodd\n1\n1\nlistfiles: 6\nlistfiles: 6\n");
 }
 
+TEST_F(BrowseIntegration, WhatIsLookedForIsFoundInEveryBackup)
+{
+    expect(words_ + R"sh(
+for time in 10 11; do by_hand disk backup --tag quillon --time "2020-01-01 $time:00:00" $PWD/source; done
+rm -r source/folder/deep/file; echo new >source/folder/new
+by_hand disk backup --tag quillon --time '2020-01-01 12:00:00' $PWD/source; tmutil deletebackup $latest
+set -- $(tmutil listbackups); first=$1 second=$2 third=$3
+told_in() { sed "s,$first,1,;s,$second,2,;s,$third,3,;s,$PWD,,g" | sed 's/.*"backup":"\([^"]*\)".*"path":"\([^"]*\)".*/\1 \2/'; }
+tmutil findfiles --json FILE | told_in | sort
+tmutil findfiles --json -b $third deep 'N?w' | told_in
+echo none; tmutil findfiles 'fi?'; tmutil findfiles -b $third/ file
+tmutil versions --json $PWD/source/folder/deep/file | told_in
+mkdir other; ln -s ../source/folder other/way; tmutil versions --json $PWD/other/way/link | told_in
+tmutil versions --json $PWD/source/folder | told_in
+tmutil versions source/folder 2>said; tmutil versions /nothing 2>said
+)sh",
+           "1 /source/folder/deep/file\n2 /source/folder/deep/file\n3 /source/folder/deep\n3 /source/folder/new\nnone\n"
+           "2 /source/folder/deep/file\n3 /source/folder/link\n3 /source/folder\n2 /source/folder\n"
+           "versions: 64\nversions: 6\n");
+}
+
+TEST_F(BrowseIntegration, APartThatCannotBeReadIsTold)
+{
+    expect(words_ + R"sh(
+for pack in $(find $(repository disk)/data -type f); do chmod u+w $pack; dd if=/dev/zero of=$pack bs=1 count=400 conv=notrunc; done 2>said
+rm -r cache; for command in 'listfiles' 'listfiles -r'; do tmutil $command $here/folder 2>said; grep -c tmutil said; done
+tmutil findfiles file 2>said; grep -c 'Not all' said
+)sh",
+           "listfiles: 1\n1\nlistfiles: 1\n1\nfindfiles: 1\n1\n");
+}
+
 } // namespace quillon

@@ -27,6 +27,7 @@ TEST(CommandLine, TakesWhatTheSystemToolTakes)
     }
     EXPECT_EQ(parsed(u"startbackup -d ID"_s).destination, u"ID"_s);
     EXPECT_EQ(parsed(u"isexcluded /a /b -- -c"_s).operands, (QStringList{u"/a"_s, u"/b"_s, u"-c"_s}));
+    EXPECT_EQ(parsed(u"findfiles -b /b *.c"_s).backup, u"/b"_s);
     const auto restore = parsed(u"restore --replace --json /b/a /b/c /d"_s);
     EXPECT_TRUE(restore.rule == RestoreRule::Replace && restore.json && restore.operands.size() == 3);
     EXPECT_TRUE(parsed(u"restore --in-place /b/a"_s).inPlace);
@@ -58,6 +59,7 @@ TEST(CommandLine, RefusesEverythingElse)
                                  u"recoverykey -X --kept KEYID"_s,
                                  u"excludename -X *.iso"_s,
                                  u"listfiles --rotation /b"_s,
+                                 u"findfiles --block /b x"_s,
                                  u"restore one"_s,
                                  u"restore one two three"_s,
                                  u"restore --skip one"_s,

@@ -73,4 +73,22 @@ TEST(NamePattern, MatchesWholeNamesWithWildcardsAndPartsWithout)
     }
 }
 
+TEST(Versions, AreNamedOnceWhileTheyDoNotChange)
+{
+    const QDateTime first = QDateTime::fromString(u"2026-11-20T10:00:00Z"_s, Qt::ISODate);
+    const auto version = [&first](int day, qint64 size, int changed, const QString& target = {}) {
+        ListedFile file;
+        file.size = size;
+        file.modified = first.addSecs(changed);
+        file.target = target;
+        return Version{first.addDays(day), QString::number(day), file};
+    };
+    QString named;
+    // From the last on: a longer one, twice the same, a touched one, another link, and one that was there before.
+    for (const Version& one : distinctVersions({version(2, 5, 0), version(0, 5, 0), version(1, 6, 0), version(5, 5, 9),
+                                                version(4, 5, 9), version(6, 5, 9, u"x"_s), version(3, 5, 0)}))
+        named += one.backup;
+    EXPECT_EQ(named, u"65310"_s);
+}
+
 } // namespace quillon

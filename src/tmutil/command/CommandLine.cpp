@@ -33,6 +33,8 @@ constexpr std::array syntaxes{
     Syntax{"latestbackup"_L1, Command::LatestBackup, ""_L1, ""_L1, 0, 0},
     Syntax{"listbackups"_L1, Command::ListBackups, "X"_L1, "[-X]"_L1, 0, 0},
     Syntax{"listfiles"_L1, Command::ListFiles, "RJ"_L1, "[-r] [--json] BACKUP[PATH]"_L1, 1, 1},
+    Syntax{"findfiles"_L1, Command::FindFiles, "JN"_L1, "[--json] [-b BACKUP] PATTERN..."_L1, 1, any},
+    Syntax{"versions"_L1, Command::Versions, "J"_L1, "[--json] PATH"_L1, 1, 1},
     Syntax{"restore"_L1, Command::Restore, "JBPSI"_L1,
            "[--json] [--keep-both | --replace | --skip] [--in-place] SRC... [DST]"_L1, 1, any},
     Syntax{"addsource"_L1, Command::AddSource, ""_L1, "PATH"_L1, 1, 1},
@@ -91,8 +93,11 @@ char optionLetter(const QString& argument, const Syntax& syntax)
         if (argument == spelling)
             letter = meaning;
     }
-    if (letter == 'r' && syntax.options.contains(u'R'))
-        letter = argument.size() == 2 ? 'R' : '\0'; // down the folders, no rotation of disks
+    // These letters mean something else where they are not spelled out: down the folders, in one backup.
+    for (const auto& [usual, own] : {std::pair{'r', 'R'}, std::pair{'b', 'N'}}) {
+        if (letter == usual && syntax.options.contains(QLatin1Char(own)))
+            letter = argument.size() == 2 ? own : '\0';
+    }
     if (letter == '\0' || !syntax.options.contains(QLatin1Char(letter)))
         refuse(u"\"%1\" takes no option \"%2\"."_s.arg(syntax.name, argument));
     return letter;
@@ -110,7 +115,7 @@ int numberAfter(QStringList::const_iterator& option, QStringList::const_iterator
     return number;
 }
 
-/// The identifier that follows an option, which is stepped over.
+/// The identifier or the name that follows an option, which is stepped over.
 QString identifierAfter(QStringList::const_iterator& option, QStringList::const_iterator end)
 {
     const QString name = *option;
@@ -201,6 +206,9 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             break;
         case 'd':
             line.destination = identifierAfter(argument, arguments.cend());
+            break;
+        case 'N':
+            line.backup = identifierAfter(argument, arguments.cend());
             break;
         case 'K':
             line.keptKey = identifierAfter(argument, arguments.cend());

@@ -17,6 +17,8 @@ enum class Command {
     LatestBackup,
     ListBackups,
     ListFiles,
+    FindFiles,
+    Versions,
     Restore,
     RemoveDestination,
     AddSource,
@@ -54,6 +56,7 @@ struct CommandLine {
     bool recursive = false;        ///< listfiles -r
     RestoreRule rule = {};         ///< --keep-both, --replace, --skip
     bool inPlace = false;          ///< --in-place
+    QString backup;                ///< findfiles -b BACKUP; empty for all
     QString destination;           ///< -d ID; empty when absent
     QString keptKey;               ///< --kept KEYID; empty when absent
     KeepRules keep = {-1, -1, -1}; ///< --hourly, --daily, --weekly; -1 where absent

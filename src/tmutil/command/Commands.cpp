@@ -260,6 +260,10 @@ void runCommand(const CommandLine& line)
         return listBackups(folders, line.xml);
     case Command::ListFiles:
         return listFiles(folders, line);
+    case Command::FindFiles:
+        return findFiles(folders, line);
+    case Command::Versions:
+        return versions(folders, line);
     case Command::Restore:
         return restore(folders, line);
     case Command::AddSource:

@@ -30,6 +30,10 @@ void latestBackup(const Folders& folders);
 /// `listfiles`.
 void listFiles(const Folders& folders, const CommandLine& line);
 
+/// `findfiles`, and `versions`: the backups that hold one path, newest first, the same content once.
+void findFiles(const Folders& folders, const CommandLine& line);
+void versions(const Folders& folders, const CommandLine& line);
+
 /// `restore`: one thing under a name that is free; or, with a rule for what is in the way, any number into a folder or
 /// each to where it was. What could not be restored is named, and the others are.
 void restore(const Folders& folders, const CommandLine& line);

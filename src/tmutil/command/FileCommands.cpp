@@ -4,9 +4,13 @@
 #include "History.h"
 #include "Listing.h"
 #include "Output.h"
+#include "Paths.h"
 #include "Restic.h"
 
+#include <QDir>
+
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <optional>
 
@@ -61,6 +65,53 @@ std::vector<OnDisk> allBackups(const Folders& folders)
     return all;
 }
 
+void tellFile(const ListedFile& file, const QString& backup, bool json)
+{
+    if (!json)
+        return print(lineOf(file, backup + file.path));
+    QJsonObject object = jsonOf(file);
+    object.insert(u"backup"_s, backup);
+    printJson(object);
+}
+
+/// Calls for the files of one backup after the other.
+using FoundHandler = std::function<void(const Snapshot& snapshot, const std::vector<ListedFile>& files)>;
+
+/// What restic finds in the backups of a disk and counts. A backup is known only once all in it has been found.
+void findOnDisk(const ReadableDisk& disk, const Folders& folders, const QStringList& options,
+                const QStringList& patterns, const std::function<bool(const ListedFile&)>& counts,
+                const FoundHandler& onFound)
+{
+    std::vector<ListedFile> found;
+    const auto keep = [&](const ListedFile& file) {
+        if (counts(file))
+            found.push_back(file);
+    };
+    findFiles(Restic(disk.repository, folders, nullptr), options, patterns, keep, [&](const QString& id) {
+        const auto snapshot = std::ranges::find(disk.snapshots, id, &Snapshot::id);
+        if (snapshot != disk.snapshots.end())
+            onFound(*snapshot, found);
+        found.clear();
+    });
+}
+
+/// Does it for each disk; one that cannot be read is named. Throws Failure in the end where there was any.
+void onEachDisk(const Folders& folders, const std::function<void(const ReadableDisk& disk)>& work)
+{
+    std::optional<Failure> unreadable;
+    for (const ReadableDisk& disk : readableDisks(folders)) {
+        try {
+            work(disk);
+        } catch (const Failure& failure) {
+            unreadable =
+                Failure(failure.status(), u"%1: %2"_s.arg(disk.repository.destination().name, failure.message()));
+            printError(unreadable->message());
+        }
+    }
+    if (unreadable)
+        throw Failure(unreadable->status(), u"Not all backups could be searched."_s);
+}
+
 } // namespace
 
 void latestBackup(const Folders& folders)
@@ -112,6 +163,71 @@ void listFiles(const Folders& folders, const CommandLine& line)
             return;
     }
     throw Failure(ExitStatus::NoBackup, u"The backup has nothing at that path."_s);
+}
+
+void findFiles(const Folders& folders, const CommandLine& line)
+{
+    std::vector<NamePattern> patterns;
+    QStringList forRestic{};
+    for (const QString& operand : line.operands) {
+        if (operand.contains(u'/'))
+            throw Failure(ExitStatus::Usage, u"\"%1\" is no name, but a path."_s.arg(operand));
+        forRestic.append(patterns.emplace_back(toldPath(operand)).forRestic());
+    }
+    const auto counts = [&patterns](const ListedFile& file) {
+        return std::ranges::any_of(patterns,
+                                   [name = file.name()](const NamePattern& pattern) { return pattern.matches(name); });
+    };
+    const QStringList options{u"--ignore-case"_s};
+    if (line.backup.isEmpty())
+        return onEachDisk(folders, [&](const ReadableDisk& disk) {
+            findOnDisk(disk, folders, options, forRestic, counts, [&](const Snapshot& snapshot, const auto& files) {
+                for (const ListedFile& file : files)
+                    tellFile(file, snapshot.name(), line.json);
+            });
+        });
+    const auto destinations = Configuration(folders).destinations();
+    BackupFinder finder(destinations, folders);
+    const PlaceInBackup place = finder.find(line.backup);
+    findFiles(Restic(place.repository, folders, nullptr), options + QStringList{u"--snapshot"_s, place.snapshot.id},
+              forRestic, [&](const ListedFile& file) {
+                  if (covers(toldPath(place.path), file.path) && counts(file))
+                      tellFile(file, place.snapshot.name(), line.json);
+              });
+}
+
+void versions(const Folders& folders, const CommandLine& line)
+{
+    const QString path = QDir::cleanPath(line.operands.first());
+    if (!QDir::isAbsolutePath(path) || path == "/"_L1)
+        throw Failure(ExitStatus::Usage, u"\"%1\" is no absolute path of a file or folder."_s.arg(path));
+    QStringList paths{path, resolvedPath(path)};
+    paths.removeDuplicates();
+    QStringList told;
+    QStringList patterns;
+    std::ranges::transform(paths, std::back_inserter(told), toldPath);
+    std::ranges::transform(paths, std::back_inserter(patterns), Restic::literalPattern);
+    std::vector<Version> all;
+    const auto tell = [&] {
+        for (const Version& version : distinctVersions(all))
+            tellFile(version.file, version.backup, line.json);
+    };
+    try {
+        onEachDisk(folders, [&](const ReadableDisk& disk) {
+            findOnDisk(
+                disk, folders, {}, patterns, [&told](const ListedFile& file) { return told.contains(file.path); },
+                [&all](const Snapshot& snapshot, const auto& files) {
+                    for (const ListedFile& file : files)
+                        all.push_back({snapshot.time, snapshot.name(), file});
+                });
+        });
+    } catch (const Failure&) {
+        tell(); // what the others have
+        throw;
+    }
+    if (all.empty())
+        throw Failure(ExitStatus::NoBackup, u"No backup has \"%1\"."_s.arg(path));
+    tell();
 }
 
 } // namespace quillon

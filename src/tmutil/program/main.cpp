@@ -18,10 +18,10 @@ namespace {
 /// Whether the command runs restic and so needs an event loop; `status`, run every few seconds, must not pay for one.
 bool needsEventLoop(Command command)
 {
-    static constexpr std::array commands{Command::RunBackup,      Command::LatestBackup, Command::ListBackups,
-                                         Command::ListFiles,      Command::Restore,      Command::Verify,
-                                         Command::SetDestination, Command::Adopt,        Command::RecoveryKey,
-                                         Command::DeleteBackup,   Command::DiskUsage};
+    static constexpr std::array commands{
+        Command::RunBackup,   Command::LatestBackup, Command::ListBackups, Command::ListFiles,      Command::FindFiles,
+        Command::Versions,    Command::Restore,      Command::Verify,      Command::SetDestination, Command::Adopt,
+        Command::RecoveryKey, Command::DeleteBackup, Command::DiskUsage};
     return std::ranges::find(commands, command) != commands.end();
 }
 

@@ -3,9 +3,12 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
+#include <functional>
 #include <sys/stat.h>
+#include <tuple>
 
 namespace quillon {
 
@@ -58,11 +61,6 @@ std::optional<ListedFile> ListedFile::fromJson(const QByteArray& object)
                       .target = node.value("linktarget"_L1).toString()};
 }
 
-bool ListedFile::isLike(const ListedFile& other) const
-{
-    return kind == other.kind && size == other.size && modified == other.modified && target == other.target;
-}
-
 QString toldPath(const QString& path)
 {
     QString told = path;
@@ -96,6 +94,20 @@ NamePattern::NamePattern(const QString& pattern)
         QRegularExpression(QRegularExpression::anchoredPattern(expression),
                            QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption |
                                QRegularExpression::UseUnicodePropertiesOption);
+}
+
+std::vector<Version> distinctVersions(std::vector<Version> all)
+{
+    std::ranges::stable_sort(all, std::greater(), &Version::date);
+    const auto isLike = [](const Version& a, const Version& b) {
+        const auto content = [](const ListedFile& file) {
+            return std::tuple(file.kind, file.size, file.modified, file.target);
+        };
+        return content(a.file) == content(b.file);
+    };
+    const auto repeated = std::ranges::unique(all, isLike);
+    all.erase(repeated.begin(), repeated.end());
+    return all;
 }
 
 FindOutput::FindOutput(FileHandler onFile, BackupHandler onBackup)

@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 #include <sys/types.h>
+#include <vector>
 
 namespace quillon {
 
@@ -29,9 +30,6 @@ struct ListedFile {
 
     QString name() const { return path.section(u'/', -1); }
     QString parent() const { return path.section(u'/', 0, -2); }
-
-    /// Whether two backups may be taken to hold the same there, going by size and time of the last change.
-    bool isLike(const ListedFile& other) const;
 };
 
 /// A path as restic tells it in JSON: each byte that is no UTF-8 is U+FFFD.
@@ -54,6 +52,17 @@ private:
     QRegularExpression expression_;
     QString forRestic_;
 };
+
+/// A file as one backup has it.
+struct Version {
+    QDateTime date; ///< of the backup
+    QString backup; ///< its name
+    ListedFile file;
+};
+
+/// Newest first; of those in a row that may be taken for the same, going by kind, size, target and time of the last
+/// change, the newest alone.
+std::vector<Version> distinctVersions(std::vector<Version> all);
 
 /// Reads the output of `restic find --json`, which is a single line of any length, piece by piece.
 class FindOutput {
