@@ -34,11 +34,13 @@ restore_all --in-place 2>&1 | tail -n 2 | sed "s,$PWD,,"
 restore_all --in-place --replace >said; cat source/a.txt beside; ls source/folder
 chmod 750 gone; rm -r source/folder; mv gone source/folder; touch source/folder/later; back_up; rm -r source/folder
 tmutil restore --in-place "$(there folder/in)" >said; ls source/folder; stat -c %a source/folder
+mkdir way; echo precious >way/a.txt; ln -s "$PWD/source/a.txt" way/b; tmutil restore --replace "$(tmutil latestbackup)$PWD/way/b" way >said
+cat way/a.txt; [ -f way/b ] && [ ! -h way/b ] && echo replaced
 tmutil restore --in-place --replace "$(tmutil latestbackup)" 2>said; find . -name '.tmutil-restore*'
 )sh",
         "3\na.txt\nfolder\nup\n3\nnew\na (restored DATE).txt\na.txt\nfolder\nfolder (restored DATE)\nup\nup (restored "
         "DATE)\nold\nin\n..\n6\nin place\ntmutil: 1 of 3 were restored.\nrestore: "
-        "13\nold\nprecious\nin\nin\n750\n"
+        "13\nold\nprecious\nin\nin\n750\nprecious\nreplaced\n"
         "restore: 64\n");
 }
 

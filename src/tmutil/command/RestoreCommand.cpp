@@ -123,7 +123,7 @@ private:
 using Source = std::pair<QString, PlaceInBackup>;
 
 /// The files and bytes in all of them, as far as their backups can be read.
-TreeSize sizeOf(const std::vector<Source>& sources, const Folders& folders)
+TreeSize sizeOf(const std::vector<Source>& sources, const Folders& folders, const StopRequest& stop)
 {
     constexpr qsizetype mostPatterns = 200; // of the longest paths they fit into a command line
     TreeSize size;
@@ -137,7 +137,7 @@ TreeSize sizeOf(const std::vector<Source>& sources, const Folders& folders)
                 patterns.append(path.isEmpty() ? u"*"_s : Restic::literalPattern(path));
         }
         try {
-            findFiles(Restic(first.repository, folders, nullptr), {u"--snapshot"_s, first.snapshot.id}, patterns,
+            findFiles(Restic(first.repository, folders, &stop), {u"--snapshot"_s, first.snapshot.id}, patterns,
                       [&size](const ListedFile& file) {
                           size.files += file.kind == ListedFile::Kind::Folder ? 0 : 1;
                           size.bytes += file.size;
@@ -159,7 +159,8 @@ RestoreTarget takeTarget(QStringList& operands, RestoreRule rule)
     return {folder, rule == RestoreRule::Refuse ? file.fileName() : QString(), rule};
 }
 
-Restored restoreInPlace(const Restore& restore, const PlaceInBackup& place, RestoreRule rule, const Folders& folders)
+Restored restoreInPlace(const Restore& restore, const PlaceInBackup& place, RestoreRule rule, const Folders& folders,
+                        const StopRequest& stop)
 {
     if (place.path.isEmpty())
         throw Failure(ExitStatus::Usage, u"All of a backup cannot be restored in its place; name folders of it."_s);
@@ -170,7 +171,7 @@ Restored restoreInPlace(const Restore& restore, const PlaceInBackup& place, Rest
                       u"It cannot be told which folder \"%1\" was in; restore it to another."_s.arg(place.path));
     const QString folder = found.value(0, parent);
     MissingFolders missing(folder);
-    const auto known = describe(Restic(place.repository, folders, nullptr), place.snapshot, missing.paths());
+    const auto known = describe(Restic(place.repository, folders, &stop), place.snapshot, missing.paths());
     missing.make();
     const Restored restored = restore.run(place, {folder.isEmpty() ? u"/"_s : folder, {}, rule});
     missing.keep(known);
@@ -196,17 +197,21 @@ void restore(const Folders& folders, const CommandLine& line)
     }
     const StopRequest stop; // while there is something to be cleared away
     if (line.json)
-        report.setTotal(sizeOf(sources, folders));
+        report.setTotal(sizeOf(sources, folders, stop));
     const auto tellProgress = [&report](const TreeSize& size) { report.tellProgress(size); };
     const Restore restore(destinations, folders, stop, line.json ? Restore::ProgressHandler(tellProgress) : nullptr);
     for (const auto& [name, place] : sources) {
         try {
-            report.tell(name,
-                        line.inPlace ? restoreInPlace(restore, place, line.rule, folders) : restore.run(place, target));
+            report.tell(name, line.inPlace ? restoreInPlace(restore, place, line.rule, folders, stop)
+                                           : restore.run(place, target));
         } catch (const Failure& failure) {
-            report.tellFailure(name, line.inPlace ? place.path : target.folder, failure);
-            if (stop.isMade())
-                break;
+            const QString path = line.inPlace ? place.path : target.folder;
+            if (!stop.isMade()) {
+                report.tellFailure(name, path, failure);
+                continue;
+            }
+            report.tellFailure(name, path, Failure(ExitStatus::Stopped, u"The restore was stopped."_s));
+            break;
         }
     }
     report.end(stop.isMade());

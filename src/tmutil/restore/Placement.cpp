@@ -84,7 +84,7 @@ QString freeName(const QString& name, bool isFile, const QString& date,
         while (encodePath(begin + rest).size() > NAME_MAX)
             begin.chop(
                 begin.back().isLowSurrogate() && begin.size() > 1 && begin[begin.size() - 2].isHighSurrogate() ? 2 : 1);
-        if (const QString free = begin + rest; !isTaken(free))
+        if (QString free = begin + rest; !isTaken(free))
             return free;
     }
 }

@@ -122,11 +122,12 @@ Restored Restore::run(const PlaceInBackup& place, const RestoreTarget& target) c
         digHoles(tree, [this] { return isStopped(stop_); });
         requireUnstopped(stop_);
         const QString suffix = isItselfDamaged ? u".incomplete"_s : QString();
+        // Where a link led to it, the name that was asked for is the one that was looked for in the target.
+        const QString wanted = targetFor(isTold(place.path) ? place.path : itsPath);
         const bool isFree = target.rule == RestoreRule::Refuse || damaged.isEmpty();
         const TreeSize size = onProgress_ ? sizeOfTree(item + suffix) : TreeSize();
-        const QString there =
-            put(item + suffix, targetFor(itsPath) + suffix, isFree ? target.rule : RestoreRule::KeepBoth, date);
-        return {.path = there.isEmpty() ? targetFor(itsPath) : there,
+        const QString there = put(item + suffix, wanted + suffix, isFree ? target.rule : RestoreRule::KeepBoth, date);
+        return {.path = there.isEmpty() ? wanted : there,
                 .skipped = there.isEmpty(),
                 .isDamaged = !damaged.isEmpty(),
                 .lost = partsLost(errors, unmarked),
