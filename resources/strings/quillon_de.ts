@@ -943,5 +943,54 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Die Volumes konnten nicht aufgelistet werden</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>Diese Woche</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>LLLL y</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>Beschädigt</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>Unvollständig</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>Wird wiederhergestellt …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1 von %2 Dateien, %3 von %4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>Gestoppt. Was noch nicht wiederhergestellt war, bleibt, wie es war.</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>Wiederhergestellt: %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>Übersprungen: %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>Nicht wiederhergestellt: %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>„%1“ ist schon vorhanden.</translation>
+    </message>
 </context>
 </TS>

@@ -943,5 +943,54 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>The disks could not be listed</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>This Week</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>LLLL y</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>Damaged</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>Incomplete</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>Restoring …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1 of %2 files, %3 of %4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>Stopped. What was not restored yet is left as it was.</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>Restored: %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>Skipped: %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>Not restored: %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>“%1” is there already.</translation>
+    </message>
 </context>
 </TS>

@@ -943,5 +943,54 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>No se han podido enumerar los discos</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>Esta semana</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>LLLL y</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>Dañada</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>Incompleta</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>Restaurando …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1 de %2 archivos, %3 de %4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>Detenido. Lo que aún no se había restaurado queda como estaba.</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>Restaurados: %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>Omitidos: %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>No restaurados: %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>“%1” ya existe.</translation>
+    </message>
 </context>
 </TS>

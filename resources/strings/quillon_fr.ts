@@ -943,5 +943,54 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>Les disques n’ont pas pu être énumérés</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>Cette semaine</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>LLLL y</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>Endommagée</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>Incomplète</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>Restauration …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1 fichiers sur %2, %3 sur %4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>Arrêté. Ce qui n’était pas encore restauré reste en l’état.</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>Restaurés : %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>Ignorés : %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>Non restaurés : %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>« %1 » existe déjà.</translation>
+    </message>
 </context>
 </TS>

@@ -943,5 +943,54 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>Impossibile elencare i dischi</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>Questa settimana</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>LLLL y</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>Danneggiato</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>Incompleto</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>Ripristino …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1 di %2 file, %3 di %4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>Interrotto. Ciò che non era ancora ripristinato resta com’era.</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>Ripristinati: %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>Ignorati: %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>Non ripristinati: %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>“%1” esiste già.</translation>
+    </message>
 </context>
 </TS>

@@ -943,5 +943,54 @@
         <source></source>
         <translation>ディスクを一覧表示できませんでした</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>今週</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>y年M月</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>損傷あり</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>不完全</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>復元中 …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1/%2ファイル、%3/%4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>停止しました。まだ復元されていないものは元のままです。</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>復元済み: %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>スキップ: %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>復元できず: %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>“%1”はすでにあります。</translation>
+    </message>
 </context>
 </TS>

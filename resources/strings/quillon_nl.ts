@@ -943,5 +943,54 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>De schijven konden niet worden opgesomd</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>Deze week</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>LLLL y</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>Beschadigd</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>Onvolledig</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>Terugzetten …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1 van %2 bestanden, %3 van %4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>Gestopt. Wat nog niet was teruggezet, blijft zoals het was.</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>Teruggezet: %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>Overgeslagen: %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>Niet teruggezet: %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>‘%1’ bestaat al.</translation>
+    </message>
 </context>
 </TS>

@@ -943,5 +943,54 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>Não foi possível listar os discos</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>Esta semana</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>LLLL y</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>Danificado</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>Incompleto</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>Restaurando …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1 de %2 arquivos, %3 de %4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>Interrompido. O que ainda não havia sido restaurado fica como estava.</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>Restaurados: %1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>Ignorados: %1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>Não restaurados: %1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>“%1” já existe.</translation>
+    </message>
 </context>
 </TS>

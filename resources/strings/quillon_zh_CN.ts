@@ -943,5 +943,54 @@
         <source></source>
         <translation>无法列出磁盘</translation>
     </message>
+    <!-- Window of the backups on Linux -->
+    <message id="browseThisWeek">
+        <source></source>
+        <translation>本周</translation>
+    </message>
+    <message id="browseDayAndTime">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="browseMonthPattern">
+        <source></source>
+        <translation>y年M月</translation>
+    </message>
+    <message id="browseDamaged">
+        <source></source>
+        <translation>已损坏</translation>
+    </message>
+    <message id="browseIncomplete">
+        <source></source>
+        <translation>不完整</translation>
+    </message>
+    <message id="browseRestoring">
+        <source></source>
+        <translation>正在恢复 …</translation>
+    </message>
+    <message id="browseRestoreProgress">
+        <source></source>
+        <translation>%1/%2 个文件，%3/%4</translation>
+    </message>
+    <message id="browseRestoreStopped">
+        <source></source>
+        <translation>已停止。尚未恢复的内容保持原样。</translation>
+    </message>
+    <message id="browseRestoredCount">
+        <source></source>
+        <translation>已恢复：%1</translation>
+    </message>
+    <message id="browseSkippedCount">
+        <source></source>
+        <translation>已跳过：%1</translation>
+    </message>
+    <message id="browseLostCount">
+        <source></source>
+        <translation>未恢复：%1</translation>
+    </message>
+    <message id="browseConflictMessage">
+        <source></source>
+        <translation>“%1”已存在。</translation>
+    </message>
 </context>
 </TS>
