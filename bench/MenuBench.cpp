@@ -17,6 +17,7 @@ public:
     {
         class Silent final : public RunningTask {
             void kill() override {}
+            void terminate() override {}
         };
         return std::make_unique<Silent>();
     }

@@ -32,6 +32,7 @@ public:
     {
         class Ended final : public RunningTask {
             void kill() override {}
+            void terminate() override {}
         };
         runLoop_.enqueue([completion = std::move(completion), answer = answer_] { completion({0, answer}); });
         return std::make_unique<Ended>();

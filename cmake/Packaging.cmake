@@ -40,9 +40,10 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # Libraries by what the programs link; programs by what they call: restic(1), xdg-open(1), and lsblk(8) of util-linux,
-# which is essential and so must not be named. Certificates are what HTTPS is checked against.
+# which is essential and so must not be named. Certificates are what HTTPS is checked against; Qt loads what reads
+# SQLite's files at run time.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "ca-certificates, restic (>= 0.14), xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "ca-certificates, libqt6sql6-sqlite, restic (>= 0.14), xdg-utils")
 # Texts of Qt's own buttons, native Wayland windows, the session bus that trays need, and the green mark in the menu bar
 # and the menu.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, fonts-noto-color-emoji, \

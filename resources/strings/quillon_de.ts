@@ -992,5 +992,45 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>„%1“ ist schon vorhanden.</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>Größe</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>Geändert</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>Später</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>Ordner</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>Backup</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>Geändert</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>Gelöscht</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>Ordner</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>Verweis auf %1</translation>
+    </message>
 </context>
 </TS>

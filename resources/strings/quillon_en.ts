@@ -992,5 +992,45 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>“%1” is there already.</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>Size</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>Modified</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>Later</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>Folder</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>Backup</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>Changed</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>Deleted</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>Folder</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>Link to %1</translation>
+    </message>
 </context>
 </TS>

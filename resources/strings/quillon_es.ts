@@ -992,5 +992,45 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>“%1” ya existe.</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>Nombre</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>Tamaño</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>Modificación</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>Después</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>Carpeta</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>Copia</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>Cambió</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>Eliminado</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>Carpeta</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>Enlace a %1</translation>
+    </message>
 </context>
 </TS>

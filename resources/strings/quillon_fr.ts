@@ -992,5 +992,45 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>« %1 » existe déjà.</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>Taille</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>Modification</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>Ensuite</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>Dossier</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>Sauvegarde</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>Modifié</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>Supprimé</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>Dossier</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>Lien vers %1</translation>
+    </message>
 </context>
 </TS>

@@ -992,5 +992,45 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>“%1” esiste già.</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>Nome</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>Dimensioni</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>Modifica</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>In seguito</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>Cartella</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>Backup</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>Modificato</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>Eliminato</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>Cartella</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>Collegamento a %1</translation>
+    </message>
 </context>
 </TS>

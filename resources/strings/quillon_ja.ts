@@ -992,5 +992,45 @@
         <source></source>
         <translation>“%1”はすでにあります。</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>名前</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>サイズ</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>変更日</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>その後</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>フォルダ</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>バックアップ</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>変更</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>削除</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>フォルダ</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>%1へのリンク</translation>
+    </message>
 </context>
 </TS>

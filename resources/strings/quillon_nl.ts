@@ -992,5 +992,45 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>‘%1’ bestaat al.</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>Naam</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>Grootte</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>Gewijzigd</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>Later</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>Map</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>Reservekopie</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>Gewijzigd</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>Verwijderd</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>Map</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>Koppeling naar %1</translation>
+    </message>
 </context>
 </TS>

@@ -992,5 +992,45 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>“%1” já existe.</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>Nome</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>Tamanho</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>Modificação</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>Depois</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>Pasta</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>Backup</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>Mudou</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>Apagado</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>Pasta</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>Link para %1</translation>
+    </message>
 </context>
 </TS>

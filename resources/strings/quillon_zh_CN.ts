@@ -992,5 +992,45 @@
         <source></source>
         <translation>“%1”已存在。</translation>
     </message>
+    <message id="browseNameColumn">
+        <source></source>
+        <translation>名称</translation>
+    </message>
+    <message id="browseSizeColumn">
+        <source></source>
+        <translation>大小</translation>
+    </message>
+    <message id="browseModifiedColumn">
+        <source></source>
+        <translation>修改日期</translation>
+    </message>
+    <message id="browseSinceColumn">
+        <source></source>
+        <translation>之后</translation>
+    </message>
+    <message id="browseFolderColumn">
+        <source></source>
+        <translation>文件夹</translation>
+    </message>
+    <message id="browseBackupColumn">
+        <source></source>
+        <translation>备份</translation>
+    </message>
+    <message id="browseChanged">
+        <source></source>
+        <translation>已更改</translation>
+    </message>
+    <message id="browseGone">
+        <source></source>
+        <translation>已删除</translation>
+    </message>
+    <message id="browseFolderKind">
+        <source></source>
+        <translation>文件夹</translation>
+    </message>
+    <message id="browseLinkTo">
+        <source></source>
+        <translation>指向 %1 的链接</translation>
+    </message>
 </context>
 </TS>

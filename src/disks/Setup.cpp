@@ -24,18 +24,20 @@ void TmutilClient::call(const QStringList& arguments, const Handler& handler)
                    .ended =
                        [this, handler](const TaskResult& result, bool tooSlow) {
                            const bool success = result.status == 0 && result.output;
-                           handler({success, result.output.value_or(QByteArray()),
-                                    success ? QString() : complaintOf(result, tooSlow)});
+                           QString complaint;
+                           if (tooSlow)
+                               complaint = localizedString("disksToolHangs");
+                           else if (!success)
+                               complaint = toolComplaint(result, executable_);
+                           handler({success, result.output.value_or(QByteArray()), complaint});
                        },
                    .longest = longestCall_});
 }
 
-QString TmutilClient::complaintOf(const TaskResult& result, bool tooSlow) const
+QString toolComplaint(const TaskResult& result, const QString& executable)
 {
-    if (tooSlow)
-        return localizedString("disksToolHangs");
     if (result.status == TaskResult::launchRefused)
-        return localizedString("disksToolMissing").arg(executable_);
+        return localizedString("disksToolMissing").arg(executable);
     QString line = QString::fromUtf8(result.errors).section(u'\n', 0, 0, QString::SectionSkipEmpty).trimmed();
     if (constexpr auto prefix = "tmutil: "_L1; line.startsWith(prefix))
         line.remove(0, prefix.size());

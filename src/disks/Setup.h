@@ -18,6 +18,9 @@ struct TmutilAnswer {
     QString complaint; ///< one line for people, tmutil's own where it had one; empty after a success
 };
 
+/// What went wrong with a call that failed, in a line for people: tmutil's own first line where it has one.
+QString toolComplaint(const TaskResult& result, const QString& executable);
+
 /// Calls tmutil, one call after the other, and says in a line for people what went wrong. Calls that
 /// wait or run when this goes away are given up.
 class TmutilClient {
@@ -36,8 +39,6 @@ public:
     void call(const QStringList& arguments, const Handler& handler);
 
 private:
-    QString complaintOf(const TaskResult& result, bool tooSlow) const;
-
     QString executable_;
     Seconds longestCall_;
     TMUtilQueue queue_;

@@ -10,6 +10,7 @@ namespace quillon {
 struct VirtualLauncher::Child {
     VirtualRunLoop& runLoop;
     Completion completion;
+    std::function<void(const QByteArray&)> takeOutput;
     Timer timer{};
     bool hasEnded = false;
 
@@ -19,6 +20,8 @@ struct VirtualLauncher::Child {
         if (std::exchange(child->hasEnded, true))
             return;
         child->runLoop.enqueue([child, result] {
+            if (child->completion && child->takeOutput && result.output)
+                child->takeOutput(*result.output);
             // Which may do away with the handle.
             if (const auto completion = std::exchange(child->completion, nullptr))
                 completion(result);
@@ -37,6 +40,7 @@ public:
     ~Handle() override { child_->completion = nullptr; }
 
     void kill() override { Child::end(child_, {SIGKILL, QByteArray()}); }
+    void terminate() override { Child::end(child_, {SIGTERM, QByteArray()}); }
 
 private:
     std::shared_ptr<Child> child_;
@@ -77,7 +81,8 @@ VirtualLauncher::~VirtualLauncher() = default;
 std::unique_ptr<RunningTask> VirtualLauncher::launch(const TaskRequest& request, Completion completion)
 {
     launched_.append(request);
-    const auto child = children_.emplace_back(std::make_shared<Child>(runLoop_, std::move(completion)));
+    const auto child =
+        children_.emplace_back(std::make_shared<Child>(runLoop_, std::move(completion), request.takeOutput));
     const auto call = behaviour(request);
     // A repeating timer follows the uptime clock, as a child process does.
     if (call.fault != TmutilScript::Fault::Hang)

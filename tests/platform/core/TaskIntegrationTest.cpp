@@ -119,6 +119,26 @@ TEST_F(TaskIntegrationTest, KillEndsTheChildAndReportsItsEnd)
     running->kill();
 }
 
+TEST_F(TaskIntegrationTest, OutputThatIsTakenAsItComesHasNoBoundAndTheChildCanBeAskedToEnd)
+{
+    Task task;
+    int status = -1;
+    qsizetype taken = 0;
+    const auto launch = [&](const QString& script) {
+        TaskRequest request = shell(script);
+        request.takeOutput = [&taken](const QByteArray& bytes) { taken += bytes.size(); };
+        return task.launch(request, [&status](const TaskResult& result) { status = result.status; });
+    };
+    const auto large = launch(u"/usr/bin/head -c %1 /dev/zero"_s.arg(QString::number(Task::outputBound + 1)));
+    ASSERT_TRUE(runUntil([&status] { return status == 0; }));
+    EXPECT_EQ(taken, Task::outputBound + 1);
+    taken = 0;
+    const auto running = launch(u"trap 'kill $!; exit 8' TERM; /usr/bin/sleep 600 & echo begun; wait"_s);
+    ASSERT_TRUE(runUntil([&taken] { return taken > 0; })) << "while it runs";
+    running->terminate();
+    EXPECT_TRUE(runUntil([&status] { return status == 8; }));
+}
+
 TEST_F(TaskIntegrationTest, AChildRunsToItsEndUnreportedWithoutItsHandleOrItsLauncher)
 {
     for (const bool hasLauncher : {true, false}) {

@@ -56,6 +56,8 @@ private:
 ChildProcess::ChildProcess(const TaskRequest& request, TaskLauncher::Completion completion, QObject* parent)
     : QProcess(parent)
     , completion_(std::move(completion))
+    , takeOutput_(request.takeOutput)
+    , streamed_(request.takeOutput)
 {
     setProgram(request.executable);
     setInputChannelMode(ForwardedInputChannel);
@@ -84,6 +86,12 @@ ChildProcess::~ChildProcess()
 
 void ChildProcess::collectOutput()
 {
+    if (streamed_) {
+        const QByteArray bytes = readAllStandardOutput();
+        if (takeOutput_)
+            takeOutput_(bytes);
+        return;
+    }
     output_ += readAllStandardOutput();
     if (outputBoundExceeded_ || output_.size() > Task::outputBound) {
         outputBoundExceeded_ = true;
@@ -132,6 +140,12 @@ public:
     {
         if (child_)
             child_->kill();
+    }
+
+    void terminate() override
+    {
+        if (child_)
+            child_->terminate();
     }
 
 private:

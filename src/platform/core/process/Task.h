@@ -23,6 +23,8 @@ struct TaskRequest {
     bool captureOutput = true;
     /// Standard error is collected, for a program that shows what the child complains of.
     bool captureErrors = false;
+    /// Takes standard output as it comes, which is then neither collected nor bounded; called on the main thread.
+    std::function<void(const QByteArray& bytes)> takeOutput = {};
 };
 
 /// How a child process ended.
@@ -47,6 +49,9 @@ public:
 
     /// Ends the child at once; the completion follows as for any end.
     virtual void kill() = 0;
+
+    /// Asks the child to end (SIGTERM); the completion follows once it has. Later ends of the handle do not hinder it.
+    virtual void terminate() = 0;
 };
 
 /// Starts child processes at utility priority; the seam at which tests play processes.
@@ -73,8 +78,12 @@ public:
     ChildProcess(const TaskRequest& request, TaskLauncher::Completion completion, QObject* parent);
     ~ChildProcess() override;
 
-    /// The completion will not be called; the child runs on and is still waited for.
-    void forgetCompletion() { completion_ = nullptr; }
+    /// Nothing is told any more; the child runs on and is still waited for.
+    void forgetCompletion()
+    {
+        completion_ = nullptr;
+        takeOutput_ = nullptr;
+    }
 
 private:
     void collectOutput();
@@ -82,9 +91,11 @@ private:
     void reportLater(int status);
 
     TaskLauncher::Completion completion_;
+    std::function<void(const QByteArray& bytes)> takeOutput_;
     QByteArray output_;
     QByteArray errors_;
     bool outputBoundExceeded_ = false;
+    const bool streamed_; ///< output goes to takeOutput_, or nowhere once that is forgotten
 };
 
 /// Runs child processes for real. Destroying it leaves the children to themselves: they live on, no completion is

@@ -1,0 +1,102 @@
+#include "BackupReader.h"
+
+#include <chrono>
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// Who only passes through the timeline does not set the disk to work.
+constexpr auto pauseBeforeFilling = 1s;
+
+constexpr qint64 toldEvery = 5000; // entries
+
+} // namespace
+
+BackupReader::BackupReader(const Setup::Services& services, const ListingCacheFolder& kept, Backup backup)
+    : services_(services)
+    , folder_(kept)
+    , backup_(std::move(backup))
+    , kept_(folder_.listing(backup_.disk + backup_.name))
+{
+}
+
+void BackupReader::list(const QString& folder, const FilesTaker& taker)
+{
+    listing_.reset();
+    if (kept_->isWhole()) {
+        if (auto files = kept_->folder(folder)) {
+            sortForPeople(*files);
+            return taker(*files, {});
+        }
+    }
+    listed_.clear();
+    listing_ =
+        std::make_unique<ToolCall>(services_, QStringList{u"listfiles"_s, u"--json"_s, u"--"_s, backup_.name + folder},
+                                   ToolCall::Handlers{.line = [this](const QByteArray& line) { return take(line); },
+                                                      .ended =
+                                                          [this, taker](const QString& complaint) {
+                                                              listing_.reset();
+                                                              auto files = std::exchange(listed_, {});
+                                                              sortForPeople(files);
+                                                              taker(files, complaint);
+                                                          }});
+}
+
+bool BackupReader::take(const QByteArray& line)
+{
+    auto entry = readFileLine(line);
+    if (entry)
+        listed_.push_back(std::move(*entry));
+    return entry.has_value();
+}
+
+void BackupReader::fill(const FillWatcher& watcher)
+{
+    if (kept_->isWhole() || watcher_)
+        return;
+    watcher_ = watcher;
+    delay_ = services_.runLoop.scheduleAfter(pauseBeforeFilling, [this] { startFilling(); });
+}
+
+void BackupReader::startFilling()
+{
+    if (!kept_->begin())
+        return;
+    filling_ = std::make_unique<ToolCall>(
+        services_, QStringList{u"listfiles"_s, u"-r"_s, u"--json"_s, u"--"_s, backup_.name},
+        ToolCall::Handlers{.line = [this](const QByteArray& line) { return keep(line); },
+                           .ended = [this](const QString& complaint) { endFilling(complaint); }});
+}
+
+bool BackupReader::keep(const QByteArray& line)
+{
+    const auto entry = readFileLine(line);
+    if (!entry || !kept_->add(*entry))
+        return false;
+    if (++filled_ % toldEvery == 0)
+        watcher_(filled_, false);
+    return true;
+}
+
+void BackupReader::endFilling(const QString& complaint)
+{
+    filling_.reset();
+    // Without it the tool is asked each time; nobody needs to know.
+    if (complaint.isEmpty() && kept_->finish())
+        folder_.trim();
+    else
+        kept_->discard();
+    watcher_(filled_, true);
+}
+
+ListingCache::Page BackupReader::search(const NamePattern& pattern, qint64 behind, int most)
+{
+    return kept_->search(pattern, behind, most).value_or(ListingCache::Page());
+}
+
+} // namespace quillon
