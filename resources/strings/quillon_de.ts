@@ -944,6 +944,10 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <translation>Die Volumes konnten nicht aufgelistet werden</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Time Machine-Backups</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>Diese Woche</translation>
@@ -1031,6 +1035,162 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
     <message id="browseLinkTo">
         <source></source>
         <translation>Verweis auf %1</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>Backup-Volume</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>Backups</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>Dateien im Backup</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>Ordner im Backup</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>Übergeordneter Ordner</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>Namen suchen</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>In allen Backups</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>Versionen</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>Wähle eine Datei, um ihre Versionen zu sehen.</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>Kein Backup enthält sie.</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>Vorschau</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>Dieser Ordner ist leer.</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>Nichts mit diesem Namen gefunden.</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>Suche läuft …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>Backup wird für die Suche ganz gelesen: %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>Das konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>Es ist kein Backup-Volume eingerichtet. Wähle eines in den Time Machine-Einstellungen, dann werden deine Dateien darauf gesichert.</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>Es gibt kein Backup zum Durchsehen. Schließe ein Backup-Volume an oder warte auf das erste Backup darauf.</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Time Machine-Einstellungen</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>„%1“ wird geholt …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>„%1“ kann nicht angezeigt werden.</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>Dafür konnte kein Programm geöffnet werden.</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>„%1“ wiederherstellen</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>%1 Objekte wiederherstellen</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>Aus dem Backup vom %1</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>An den alten Ort</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>In einen anderen Ordner</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>Nichts wird überschrieben, ohne dass du gefragt wirst.</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>Überspringen</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>Für alle weiteren ebenso</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>Stoppen</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>Wird gestoppt …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>Was nicht zurückkam</translation>
     </message>
 </context>
 </TS>

@@ -944,6 +944,10 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <translation>The disks could not be listed</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Time Machine Backups</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>This Week</translation>
@@ -1031,6 +1035,162 @@ Backup disks are added and removed in the Time Machine settings.</translation>
     <message id="browseLinkTo">
         <source></source>
         <translation>Link to %1</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>Backup disk</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>Backups</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>Files in the backup</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>Folder in the backup</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>Enclosing Folder</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>Search for names</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>In all backups</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>Versions</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>Choose a file to see its versions.</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>No backup holds it.</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>Preview</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>Restore</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>Reading …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>This folder is empty.</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>Nothing of that name was found.</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>Searching …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>Reading all of this backup for the search: %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>This could not be read: %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>No backup disk is set up. Choose one in the Time Machine settings, and your files are backed up to it.</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>There is no backup to look into. Connect a backup disk, or wait for the first backup on it.</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Time Machine Settings</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>Fetching “%1” …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>“%1” can’t be shown.</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>No program could be opened for it.</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>Restore “%1”</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>Restore %1 items</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>From the backup of %1</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>To where it was</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>To another folder</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>Choose Folder</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>Nothing is overwritten without asking you.</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>Keep Both</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>Replace</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>Skip</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>Do the same for all others</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>Stop</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>Stopping …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>What did not come back</translation>
     </message>
 </context>
 </TS>

@@ -944,6 +944,10 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <translation>No se han podido enumerar los discos</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Copias de Time Machine</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>Esta semana</translation>
@@ -1031,6 +1035,162 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
     <message id="browseLinkTo">
         <source></source>
         <translation>Enlace a %1</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>Disco de copia</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>Copias</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>Archivos de la copia</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>Carpeta de la copia</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>Atrás</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>Carpeta superior</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>Buscar nombres</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>En todas las copias</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>Versiones</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>Elige un archivo para ver sus versiones.</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>Ninguna copia lo contiene.</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>Previsualizar</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>Restaurar</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>Leyendo …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>Esta carpeta está vacía.</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>No se encontró nada con ese nombre.</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>Buscando …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>Leyendo toda la copia para la búsqueda: %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>No se pudo leer: %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>No hay ningún disco de copia configurado. Elige uno en los ajustes de Time Machine para copiar en él tus archivos.</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>No hay ninguna copia que ver. Conecta un disco de copia o espera a la primera copia en él.</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Ajustes de Time Machine</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>Obteniendo “%1” …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>No se puede mostrar “%1”.</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>No se pudo abrir ningún programa para ello.</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>Restaurar “%1”</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>Restaurar %1 elementos</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>De la copia del %1</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>A donde estaba</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>A otra carpeta</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>Elegir carpeta</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>No se sobrescribe nada sin preguntarte.</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>Conservar ambos</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>Omitir</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>Hacer lo mismo con los demás</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>Detener</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>Deteniendo …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>Lo que no se restauró</translation>
     </message>
 </context>
 </TS>

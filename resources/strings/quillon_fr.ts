@@ -944,6 +944,10 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <translation>Les disques n’ont pas pu être énumérés</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Sauvegardes Time Machine</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>Cette semaine</translation>
@@ -1031,6 +1035,162 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
     <message id="browseLinkTo">
         <source></source>
         <translation>Lien vers %1</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>Disque de sauvegarde</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>Sauvegardes</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>Fichiers de la sauvegarde</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>Dossier de la sauvegarde</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>Précédent</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>Dossier parent</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>Rechercher des noms</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>Dans toutes les sauvegardes</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>Versions</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>Choisissez un fichier pour voir ses versions.</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>Aucune sauvegarde ne le contient.</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>Aperçu</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>Restaurer</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>Lecture …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>Ce dossier est vide.</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>Rien de ce nom n’a été trouvé.</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>Recherche …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>Lecture de toute la sauvegarde pour la recherche : %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>Lecture impossible : %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>Aucun disque de sauvegarde n’est configuré. Choisissez-en un dans les réglages de Time Machine pour y sauvegarder vos fichiers.</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>Il n’y a aucune sauvegarde à parcourir. Connectez un disque de sauvegarde ou attendez sa première sauvegarde.</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Réglages Time Machine</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>Récupération de « %1 » …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>Impossible d’afficher « %1 ».</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>Aucun programme n’a pu être ouvert.</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>Restaurer « %1 »</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>Restaurer %1 éléments</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>Depuis la sauvegarde du %1</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>À son emplacement d’origine</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>Dans un autre dossier</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>Rien n’est remplacé sans vous le demander.</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>Conserver les deux</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>Remplacer</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>Ignorer</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>Faire de même pour tous les autres</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>Arrêter</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>Arrêt …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>Ce qui n’est pas revenu</translation>
     </message>
 </context>
 </TS>

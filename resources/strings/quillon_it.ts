@@ -944,6 +944,10 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <translation>Impossibile elencare i dischi</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Backup di Time Machine</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>Questa settimana</translation>
@@ -1031,6 +1035,162 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
     <message id="browseLinkTo">
         <source></source>
         <translation>Collegamento a %1</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>Disco di backup</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>Backup</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>File nel backup</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>Cartella nel backup</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>Indietro</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>Cartella superiore</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>Cerca nomi</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>In tutti i backup</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>Versioni</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>Scegli un file per vederne le versioni.</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>Nessun backup lo contiene.</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>Anteprima</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>Ripristina</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>Lettura …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>Questa cartella è vuota.</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>Nessun elemento con questo nome.</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>Ricerca …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>Lettura dell’intero backup per la ricerca: %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>Impossibile leggere: %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>Nessun disco di backup è configurato. Scegline uno nelle impostazioni di Time Machine per salvarvi i tuoi file.</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>Non c’è nessun backup da esplorare. Collega un disco di backup o attendi il suo primo backup.</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Impostazioni di Time Machine</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>Recupero di “%1” …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>Impossibile mostrare “%1”.</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>Non è stato possibile aprire un programma adatto.</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>Ripristina “%1”</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>Ripristina %1 elementi</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>Dal backup del %1</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>Dove si trovava</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>In un’altra cartella</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>Scegli cartella</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>Nulla viene sovrascritto senza chiedertelo.</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>Conserva entrambi</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>Ignora</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>Fai lo stesso per tutti gli altri</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>Interrompi</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>Interruzione …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>Ciò che non è tornato</translation>
     </message>
 </context>
 </TS>

@@ -944,6 +944,10 @@
         <translation>ディスクを一覧表示できませんでした</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Time Machineバックアップ</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>今週</translation>
@@ -1031,6 +1035,162 @@
     <message id="browseLinkTo">
         <source></source>
         <translation>%1へのリンク</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>バックアップディスク</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>バックアップ</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>バックアップ内のファイル</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>バックアップ内のフォルダ</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>戻る</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>上位のフォルダ</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>名前で検索</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>すべてのバックアップ</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>バージョン</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>ファイルを選択すると、そのバージョンが表示されます。</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>どのバックアップにもありません。</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>プレビュー</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>復元</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>読み込み中 …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>このフォルダは空です。</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>その名前のものは見つかりませんでした。</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>検索中 …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>検索のためバックアップ全体を読み込み中: %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>読み込めませんでした: %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>バックアップディスクが設定されていません。Time Machineの設定で選択すると、ファイルがバックアップされます。</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>見られるバックアップがありません。バックアップディスクを接続するか、最初のバックアップをお待ちください。</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Time Machineの設定</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>“%1”を取り出し中 …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>“%1”を表示できません。</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>開けるプログラムがありません。</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>“%1”を復元</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>%1項目を復元</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>%1のバックアップから</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>元の場所へ</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>別のフォルダへ</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>フォルダを選択</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>確認なしに上書きされることはありません。</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>両方を残す</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>置き換える</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>スキップ</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>残りすべてに適用</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>停止</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>停止中 …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>復元できなかったもの</translation>
     </message>
 </context>
 </TS>

@@ -944,6 +944,10 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <translation>De schijven konden niet worden opgesomd</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Time Machine-reservekopieën</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>Deze week</translation>
@@ -1031,6 +1035,162 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
     <message id="browseLinkTo">
         <source></source>
         <translation>Koppeling naar %1</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>Reservekopieschijf</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>Reservekopieën</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>Bestanden in de reservekopie</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>Map in de reservekopie</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>Terug</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>Bovenliggende map</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>Zoek naar namen</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>In alle reservekopieën</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>Versies</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>Kies een bestand om de versies ervan te zien.</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>Geen reservekopie bevat het.</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>Voorvertoning</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>Zet terug</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>Lezen …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>Deze map is leeg.</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>Niets met die naam gevonden.</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>Zoeken …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>De hele reservekopie wordt voor het zoeken gelezen: %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>Dit kon niet worden gelezen: %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>Er is geen reservekopieschijf ingesteld. Kies er een in de Time Machine-instellingen, dan worden je bestanden erop bewaard.</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>Er is geen reservekopie om te bekijken. Sluit een reservekopieschijf aan of wacht op de eerste reservekopie.</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Time Machine-instellingen</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>‘%1’ wordt opgehaald …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>‘%1’ kan niet worden getoond.</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>Er kon geen programma voor worden geopend.</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>‘%1’ terugzetten</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>%1 onderdelen terugzetten</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>Uit de reservekopie van %1</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>Naar de oude plaats</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>Naar een andere map</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>Kies map</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>Niets wordt overschreven zonder het je te vragen.</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>Bewaar beide</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>Vervang</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>Sla over</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>Doe hetzelfde voor alle andere</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>Stop</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>Stoppen …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>Wat niet is teruggekomen</translation>
     </message>
 </context>
 </TS>

@@ -944,6 +944,10 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <translation>Não foi possível listar os discos</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>Backups do Time Machine</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>Esta semana</translation>
@@ -1031,6 +1035,162 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
     <message id="browseLinkTo">
         <source></source>
         <translation>Link para %1</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>Disco de backup</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>Backups</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>Arquivos do backup</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>Pasta do backup</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>Voltar</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>Pasta superior</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>Buscar nomes</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>Em todos os backups</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>Versões</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>Escolha um arquivo para ver as versões.</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>Nenhum backup o contém.</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>Pré-visualizar</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>Restaurar</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>Lendo …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>Esta pasta está vazia.</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>Nada com esse nome foi encontrado.</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>Buscando …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>Lendo todo o backup para a busca: %1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>Não foi possível ler: %1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>Nenhum disco de backup está configurado. Escolha um nos ajustes do Time Machine para copiar seus arquivos nele.</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>Não há backup para explorar. Conecte um disco de backup ou espere o primeiro backup nele.</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>Ajustes do Time Machine</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>Obtendo “%1” …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>Não é possível mostrar “%1”.</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>Nenhum programa pôde ser aberto para isso.</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>Restaurar “%1”</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>Restaurar %1 itens</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>Do backup de %1</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>Para onde estava</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>Para outra pasta</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>Escolher pasta</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>Nada é substituído sem perguntar a você.</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>Manter ambos</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>Substituir</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>Ignorar</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>Fazer o mesmo com os demais</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>Parar</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>Parando …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>O que não voltou</translation>
     </message>
 </context>
 </TS>

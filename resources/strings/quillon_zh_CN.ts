@@ -944,6 +944,10 @@
         <translation>无法列出磁盘</translation>
     </message>
     <!-- Window of the backups on Linux -->
+    <message id="browseWindowTitle">
+        <source></source>
+        <translation>时间机器备份</translation>
+    </message>
     <message id="browseThisWeek">
         <source></source>
         <translation>本周</translation>
@@ -1031,6 +1035,162 @@
     <message id="browseLinkTo">
         <source></source>
         <translation>指向 %1 的链接</translation>
+    </message>
+    <message id="browseDiskLabel">
+        <source></source>
+        <translation>备份磁盘</translation>
+    </message>
+    <message id="browseTimelineName">
+        <source></source>
+        <translation>备份</translation>
+    </message>
+    <message id="browseFilesName">
+        <source></source>
+        <translation>备份中的文件</translation>
+    </message>
+    <message id="browsePathLabel">
+        <source></source>
+        <translation>备份中的文件夹</translation>
+    </message>
+    <message id="browseBackTitle">
+        <source></source>
+        <translation>后退</translation>
+    </message>
+    <message id="browseUpTitle">
+        <source></source>
+        <translation>上层文件夹</translation>
+    </message>
+    <message id="browseSearchPrompt">
+        <source></source>
+        <translation>按名称搜索</translation>
+    </message>
+    <message id="browseAllBackups">
+        <source></source>
+        <translation>在所有备份中</translation>
+    </message>
+    <message id="browseVersionsName">
+        <source></source>
+        <translation>版本</translation>
+    </message>
+    <message id="browseVersionsHint">
+        <source></source>
+        <translation>选择一个文件以查看其版本。</translation>
+    </message>
+    <message id="browseNoVersions">
+        <source></source>
+        <translation>没有备份包含它。</translation>
+    </message>
+    <message id="browsePreviewTitle">
+        <source></source>
+        <translation>预览</translation>
+    </message>
+    <message id="browseRestoreTitle">
+        <source></source>
+        <translation>恢复</translation>
+    </message>
+    <message id="browseReading">
+        <source></source>
+        <translation>正在读取 …</translation>
+    </message>
+    <message id="browseEmptyFolder">
+        <source></source>
+        <translation>此文件夹为空。</translation>
+    </message>
+    <message id="browseNothingFound">
+        <source></source>
+        <translation>未找到该名称的内容。</translation>
+    </message>
+    <message id="browseSearching">
+        <source></source>
+        <translation>正在搜索 …</translation>
+    </message>
+    <message id="browseFilling">
+        <source></source>
+        <translation>正在读取整个备份以供搜索：%1</translation>
+    </message>
+    <message id="browseReadFailed">
+        <source></source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message id="browseNoDiskMessage">
+        <source></source>
+        <translation>尚未设置备份磁盘。请在时间机器设置中选择一个，以备份您的文件。</translation>
+    </message>
+    <message id="browseNoBackupMessage">
+        <source></source>
+        <translation>没有可浏览的备份。请连接备份磁盘，或等待首次备份完成。</translation>
+    </message>
+    <message id="browseSettingsTitle">
+        <source></source>
+        <translation>时间机器设置</translation>
+    </message>
+    <message id="browsePreviewing">
+        <source></source>
+        <translation>正在提取“%1” …</translation>
+    </message>
+    <message id="browsePreviewFailed">
+        <source></source>
+        <translation>无法显示“%1”。</translation>
+    </message>
+    <message id="browseNoProgram">
+        <source></source>
+        <translation>无法打开用于显示它的程序。</translation>
+    </message>
+    <message id="browseRestoreHeading">
+        <source></source>
+        <translation>恢复“%1”</translation>
+    </message>
+    <message id="browseRestoreManyHeading">
+        <source></source>
+        <translation>恢复 %1 个项目</translation>
+    </message>
+    <message id="browseFromBackup">
+        <source></source>
+        <translation>来自 %1 的备份</translation>
+    </message>
+    <message id="browseToItsPlace">
+        <source></source>
+        <translation>到原来的位置</translation>
+    </message>
+    <message id="browseToFolder">
+        <source></source>
+        <translation>到其他文件夹</translation>
+    </message>
+    <message id="browseChooseFolderTitle">
+        <source></source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message id="browseNothingOverwritten">
+        <source></source>
+        <translation>未经询问不会覆盖任何内容。</translation>
+    </message>
+    <message id="browseKeepBothTitle">
+        <source></source>
+        <translation>保留两者</translation>
+    </message>
+    <message id="browseReplaceTitle">
+        <source></source>
+        <translation>替换</translation>
+    </message>
+    <message id="browseSkipTitle">
+        <source></source>
+        <translation>跳过</translation>
+    </message>
+    <message id="browseForAll">
+        <source></source>
+        <translation>对其余项目执行相同操作</translation>
+    </message>
+    <message id="browseStopTitle">
+        <source></source>
+        <translation>停止</translation>
+    </message>
+    <message id="browseStopping">
+        <source></source>
+        <translation>正在停止 …</translation>
+    </message>
+    <message id="browseLossesName">
+        <source></source>
+        <translation>未能恢复的内容</translation>
     </message>
 </context>
 </TS>

@@ -29,7 +29,7 @@ void TmutilClient::call(const QStringList& arguments, const Handler& handler)
                                complaint = localizedString("disksToolHangs");
                            else if (!success)
                                complaint = toolComplaint(result, executable_);
-                           handler({success, result.output.value_or(QByteArray()), complaint});
+                           handler({success, result.output.value_or(QByteArray()), complaint, result.status});
                        },
                    .longest = longestCall_});
 }

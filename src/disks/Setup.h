@@ -16,6 +16,7 @@ struct TmutilAnswer {
     bool success = false;
     QByteArray output;
     QString complaint; ///< one line for people, tmutil's own where it had one; empty after a success
+    int status = 0;    ///< tmutil(1), EXIT STATUS
 };
 
 /// What went wrong with a call that failed, in a line for people: tmutil's own first line where it has one.

@@ -1,6 +1,6 @@
+#include "AnsweringLauncher.h"
 #include "BackupReader.h"
 #include "FakeServices.h"
-#include "VirtualLauncher.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -142,23 +142,6 @@ TEST_F(KeptListings, GoOldestFirstBeyondTheBoundAndNoneIsLargerThanIt)
 }
 
 namespace {
-
-/// Answers each call with what was put down for it; what was not is refused.
-class AnsweringLauncher final : public VirtualLauncher {
-public:
-    using VirtualLauncher::VirtualLauncher;
-    std::map<QString, QByteArray> answers;
-
-protected:
-    TmutilScript::Call behaviour(const TaskRequest& request) override
-    {
-        const auto answer = answers.find(request.arguments.join(u' '));
-        TmutilScript::Call call;
-        call.status = answer == answers.end() ? 1 : 0;
-        call.output = answer == answers.end() ? QByteArray() : answer->second;
-        return call;
-    }
-};
 
 class ReaderOfABackup : public testing::Test {
 protected:

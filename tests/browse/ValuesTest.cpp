@@ -59,7 +59,7 @@ TEST(BackupsInATimeline, StandUnderTheDayTheWeekOrTheMonthOfTheClockOnTheWall)
     ASSERT_EQ(groups.size(), 2U);
     EXPECT_EQ(groups[0].entries[0].title, u"12:10\u202fAM – desk"_s);
     EXPECT_EQ(groups[0].entries[0].remark, u"Incomplete"_s);
-    EXPECT_EQ(groups[1].entries[0].details, u"November 18, 2026 at 9:05\u202fAM, lap, Damaged"_s);
+    EXPECT_EQ(groups[1].entries[0].details, u"Nov 18, 2026, 9:05\u202fAM, lap, Damaged"_s);
 }
 
 TEST(BackupsAsListed, AreReadWholeOrNotAtAllAndNewestFirst)

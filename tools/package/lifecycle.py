@@ -151,7 +151,8 @@ def install(machine, package):
     machine.apt_get("install", machine.bring(package))
     version = machine.run("quillon", "--version").split()[1]
     for answer in (machine.version().split("-")[0], machine.run("quillonctl", "--version").split()[1],
-                   machine.run("quillon-disks", "--version").split()[1]):
+                   machine.run("quillon-disks", "--version").split()[1],
+                   machine.run("quillon-browse", "--version").split()[1]):
         if answer != version:
             raise Failed(f"quillon {version} came with {answer}")
 
@@ -187,17 +188,17 @@ def tell_the_schedule(machine):
         raise Failed("quillonctl does not find the backup disk")
 
 
-def open_the_disks_window(machine):
-    program = machine.start("quillon-disks")
+def open_window(machine, name):
+    program = machine.start(name)
 
     def is_shown():
         if program.poll() is not None:
-            raise Failed(f"quillon-disks ended with status {program.returncode}")
+            raise Failed(f"{name} ended with status {program.returncode}")
         windows = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True)
-        return '"quillon-disks"' in windows.stdout
+        return f'"{name}"' in windows.stdout
 
-    wait_until(is_shown, "the window of the disks")
-    quit_in_order(program, "quillon-disks")
+    wait_until(is_shown, f"the window of {name}")
+    quit_in_order(program, name)
 
 
 def upgrade_under_way(machine, newer):
@@ -243,7 +244,8 @@ def main():
         "installs with nothing but what it depends on": lambda: install(machine, package),
         "backs up and restores": lambda: back_up_and_restore(machine),
         "tells the schedule": lambda: tell_the_schedule(machine),
-        "shows the window of the disks": lambda: open_the_disks_window(machine),
+        "shows the window of the disks": lambda: open_window(machine, "quillon-disks"),
+        "shows the window of the backups": lambda: open_window(machine, "quillon-browse"),
         "is upgraded while it runs and backs up": lambda: upgrade_under_way(machine, newer),
         "is removed and purged without a trace, and the user's files stay": lambda: remove(machine, newer),
     }

@@ -138,7 +138,7 @@ std::vector<TimelineGroup> timeline(const std::vector<Backup>& backups, Date now
 
 QString backupTitle(const Backup& backup)
 {
-    return DateFormatter::string(backup.date, DateFormatterStyle::Long, DateFormatterStyle::Short);
+    return DateFormatter::string(backup.date, DateFormatterStyle::Medium, DateFormatterStyle::Short);
 }
 
 } // namespace quillon

@@ -187,7 +187,7 @@ QString summaryOf(const RestorePlan& plan)
 
 QString conflictText(const RestorePlan::Conflict& conflict)
 {
-    return localizedString("browseConflictMessage").arg(shownName(conflict.path), shownLongText(conflict.path));
+    return localizedString("browseConflictMessage").arg(shownName(conflict.path));
 }
 
 } // namespace quillon

@@ -116,7 +116,7 @@ QVariant FilesModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return shownLongText(entry(index.row()).path).toHtmlEscaped();
     case Qt::AccessibleTextRole:
-        return column == Name ? description(index.row()) : text(index.row(), column);
+        return spokenText(index.row(), column);
     case Qt::DecorationRole:
         if (column != Name)
             return {};
@@ -150,9 +150,13 @@ QString FilesModel::text(int row, Column column) const
     return backupTitles_.value(file.backup, shownName(file.backup));
 }
 
-/// What those hear who do not see the symbol.
-QString FilesModel::description(int row) const
+/// What those hear who do not see the symbol, and that a cell is empty.
+QString FilesModel::spokenText(int row, Column column) const
 {
+    if (column != Name) {
+        const QString shown = text(row, column);
+        return shown.isEmpty() ? u"–"_s : shown;
+    }
     const FileEntry& file = entry(row);
     QStringList parts{text(row, Name)};
     if (file.kind == FileKind::Folder)

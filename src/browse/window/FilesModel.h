@@ -46,7 +46,7 @@ public:
 private:
     static Column columnAt(Kind kind, int section);
     QString text(int row, Column column) const;
-    QString description(int row) const;
+    QString spokenText(int row, Column column) const;
 
     Kind kind_ = Kind::Folder;
     QString folder_;

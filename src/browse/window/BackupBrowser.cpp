@@ -1,0 +1,249 @@
+#include "BackupBrowser.h"
+
+#include "LocalizedString.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::size_t longestHistory = 100;
+
+// Of what is kept a search takes moments; the tool is asked once somebody pauses.
+constexpr auto typingPause = 400ms;
+constexpr int page = 500; // names that are found at a time
+
+} // namespace
+
+BackupBrowser::BackupBrowser(const Setup::Services& services, const ListingCacheFolder& kept, FilesModel& model)
+    : services_(services)
+    , kept_(kept)
+    , model_(model)
+{
+}
+
+void BackupBrowser::setBackups(const std::vector<Backup>& backups)
+{
+    backups_ = backups;
+    if (reader_ && std::ranges::find(backups_, reader_->backup().name, &Backup::name) == backups_.end()) {
+        later_.reset();
+        reader_.reset();
+    }
+    std::erase_if(history_, [this](const Place& place) {
+        return std::ranges::find(backups_, place.backup, &Backup::name) == backups_.end();
+    });
+}
+
+QString BackupBrowser::backupOf(const FileEntry& file) const
+{
+    return file.backup.isEmpty() && reader_ ? reader_->backup().name : file.backup;
+}
+
+void BackupBrowser::openBackup(const QString& name)
+{
+    if (reader_ && reader_->backup().name == name)
+        return;
+    remember();
+    read(name);
+    if (typed_.isEmpty())
+        list();
+    else
+        search(typed_, everywhere_);
+}
+
+void BackupBrowser::openFolder(const QString& folder, const QString& selected)
+{
+    if (!reader_)
+        return;
+    if (folder != folder_)
+        remember();
+    if (const int row = model_.rowOf(folder); row >= 0 && model_.since(row) == Since::Gone)
+        gone_ = folder;
+    if (folder_.isEmpty() && !folderAround(folder).isEmpty())
+        root_ = folder;
+    folder_ = folder;
+    selected_ = selected;
+    list();
+}
+
+void BackupBrowser::reveal(const FileEntry& file)
+{
+    remember();
+    const QString backup = backupOf(file);
+    if (!reader_ || reader_->backup().name != backup)
+        read(backup);
+    folder_ = file.path == root_ ? QString() : folderAround(file.path);
+    selected_ = file.path;
+    list();
+}
+
+void BackupBrowser::goBack()
+{
+    if (history_.empty())
+        return;
+    const Place place = history_.back();
+    history_.pop_back();
+    selected_ = std::exchange(folder_, place.folder);
+    if (!reader_ || reader_->backup().name != place.backup)
+        read(place.backup);
+    list();
+}
+
+void BackupBrowser::goUp()
+{
+    if (folder_.isEmpty())
+        return;
+    const QString left = folder_;
+    openFolder(left == root_ ? QString() : folderAround(left), left);
+}
+
+void BackupBrowser::refresh()
+{
+    if (reader_)
+        read(reader_->backup().name);
+    if (typed_.isEmpty())
+        list();
+    else
+        search(typed_, everywhere_);
+}
+
+void BackupBrowser::read(const QString& backup)
+{
+    const auto found = std::ranges::find(backups_, backup, &Backup::name);
+    if (found == backups_.end())
+        return;
+    reader_ = std::make_unique<BackupReader>(services_, kept_, *found);
+    gone_.clear();
+    const Backup* const later = nextLater(backups_, *found);
+    later_ = later ? std::make_unique<BackupReader>(services_, kept_, *later) : nullptr;
+    Q_EMIT progressed({});
+}
+
+void BackupBrowser::remember()
+{
+    if (!reader_)
+        return;
+    history_.push_back({reader_->backup().name, folder_});
+    if (history_.size() > longestHistory)
+        history_.erase(history_.begin());
+}
+
+void BackupBrowser::list()
+{
+    searching_.reset();
+    delay_.invalidate();
+    typed_.clear();
+    if (!reader_)
+        return;
+    files_.clear();
+    model_.showFolder(folder_, {});
+    Q_EMIT told(localizedString("browseReading"));
+    Q_EMIT moved();
+    reader_->list(folder_, [this](const std::vector<FileEntry>& files, const QString& complaint) {
+        if (typed_.isEmpty()) // else a search has taken its place
+            take(files, complaint);
+    });
+}
+
+void BackupBrowser::take(std::vector<FileEntry> files, const QString& complaint)
+{
+    files_ = std::move(files);
+    Q_EMIT told(complaint.isEmpty() ? localizedString("browseEmptyFolder")
+                                    : localizedString("browseReadFailed").arg(complaint));
+    if (!complaint.isEmpty())
+        return;
+    model_.showFolder(folder_, files_);
+    Q_EMIT arrived(std::exchange(selected_, {}));
+    askWhatBecame();
+    reader_->fill([this](qint64 entries, bool done) { showFilling(entries, done); });
+}
+
+void BackupBrowser::askWhatBecame()
+{
+    if (!later_ || files_.empty())
+        return;
+    if (!gone_.isEmpty() && (folder_ + u'/').startsWith(gone_ + u'/'))
+        return model_.setChanges(std::vector(files_.size(), Since::Gone));
+    later_->list(folder_, [this](const std::vector<FileEntry>& later, const QString& complaint) {
+        if (complaint.isEmpty() && typed_.isEmpty())
+            model_.setChanges(changesSince(files_, later));
+    });
+}
+
+void BackupBrowser::showFilling(qint64 entries, bool done)
+{
+    Q_EMIT progressed(done ? QString() : localizedString("browseFilling").arg(QLocale().toString(entries)));
+}
+
+void BackupBrowser::search(const QString& typed, bool everywhere)
+{
+    searching_.reset();
+    delay_.invalidate();
+    if (typed.trimmed().isEmpty()) {
+        if (!typed_.isEmpty())
+            list();
+        return;
+    }
+    if (!reader_)
+        return;
+    typed_ = typed;
+    everywhere_ = everywhere;
+    if (!everywhere && reader_->isWhole())
+        return searchKept(typed);
+    model_.showFound(everywhere ? FilesModel::Kind::FoundEverywhere : FilesModel::Kind::FoundHere);
+    Q_EMIT told(localizedString("browseSearching"));
+    delay_ =
+        services_.runLoop.scheduleAfter(typingPause, [this, typed, everywhere] { askForNames(typed, everywhere); });
+}
+
+void BackupBrowser::searchKept(const QString& typed)
+{
+    Q_EMIT told(localizedString("browseNothingFound"));
+    model_.showFound(FilesModel::Kind::FoundHere, [this, pattern = namePattern(typed), behind = qint64{0}]() mutable {
+        auto [files, next] = reader_->search(pattern, behind, page);
+        behind = next;
+        return files;
+    });
+    model_.fetchMore({});
+    Q_EMIT arrived({});
+}
+
+void BackupBrowser::askForNames(const QString& typed, bool everywhere)
+{
+    QStringList arguments{u"findfiles"_s, u"--json"_s};
+    if (!everywhere)
+        arguments << u"-b"_s << reader_->backup().name;
+    found_.clear();
+    searching_ = std::make_unique<ToolCall>(
+        services_, arguments << u"--"_s << typed.trimmed(),
+        ToolCall::Handlers{.line =
+                               [this](const QByteArray& line) {
+                                   auto entry = readFileLine(line);
+                                   if (!entry)
+                                       return false;
+                                   found_.push_back(std::move(*entry));
+                                   if (found_.size() >= page)
+                                       model_.append(std::exchange(found_, {}));
+                                   return true;
+                               },
+                           .ended = [this](const QString& complaint) { endSearch(complaint); }});
+}
+
+void BackupBrowser::endSearch(const QString& complaint)
+{
+    searching_.reset();
+    model_.append(std::exchange(found_, {}));
+    Q_EMIT told(complaint.isEmpty() ? localizedString("browseNothingFound")
+                                    : localizedString("browseReadFailed").arg(complaint));
+    Q_EMIT arrived({});
+}
+
+} // namespace quillon

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "BackupReader.h"
+#include "FilesModel.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// Moves through the backups: fills the model with a folder as it was then, with what became of its files since, or
+/// with what a search finds.
+class BackupBrowser final : public QObject {
+    Q_OBJECT
+
+public:
+    /// All outlive this object.
+    BackupBrowser(const Setup::Services& services, const ListingCacheFolder& kept, FilesModel& model);
+
+    /// Newest first. What is shown stays as it is.
+    void setBackups(const std::vector<Backup>& backups);
+    const std::vector<Backup>& backups() const { return backups_; }
+    /// The backup that is shown; null where there is none.
+    const Backup* current() const { return reader_ ? &reader_->backup() : nullptr; }
+    /// The backup that an entry of the model is in.
+    QString backupOf(const FileEntry& file) const;
+    QString folder() const { return folder_; }
+    bool canGoBack() const { return !history_.empty(); }
+
+    /// Shows that backup at the folder that is shown now.
+    void openBackup(const QString& name);
+    /// Shows the folder; once it is there, `selected` is told by arrived().
+    void openFolder(const QString& folder, const QString& selected = {});
+    /// Shows where that entry lies, in its own backup.
+    void reveal(const FileEntry& file);
+    void goBack();
+    void goUp();
+    /// Asks anew for what is shown.
+    void refresh();
+
+    /// Names in this backup or in all; an empty text shows the folder again.
+    void search(const QString& typed, bool everywhere);
+
+Q_SIGNALS:
+    /// Another backup or folder is shown from now on.
+    void moved();
+    /// A sentence to stand where there are no rows.
+    void told(const QString& sentence);
+    /// The rows are there; the path is to be selected, if it is among them.
+    void arrived(const QString& selected);
+    /// A line on what goes on behind, or nothing.
+    void progressed(const QString& line);
+
+private:
+    struct Place {
+        QString backup;
+        QString folder;
+    };
+
+    void read(const QString& backup);
+    void remember();
+    void list();
+    void take(std::vector<FileEntry> files, const QString& complaint);
+    void askWhatBecame();
+    void showFilling(qint64 entries, bool done);
+    void searchKept(const QString& typed);
+    void askForNames(const QString& typed, bool everywhere);
+    void endSearch(const QString& complaint);
+
+    const Setup::Services& services_;
+    const ListingCacheFolder& kept_;
+    FilesModel& model_;
+    std::vector<Backup> backups_;
+    std::unique_ptr<BackupReader> reader_;
+    std::unique_ptr<BackupReader> later_; ///< of the next later backup; null where there is none
+    QString folder_;
+    QString selected_;
+    QString root_;                 ///< a folder that stands in the outermost one although it lies deeper
+    QString gone_;                 ///< a folder that the later backup has no more
+    std::vector<FileEntry> files_; ///< as in the model
+    std::vector<Place> history_;
+    std::vector<FileEntry> found_; ///< not in the model yet
+    QString typed_;
+    bool everywhere_ = false;
+    Timer delay_;
+    std::unique_ptr<ToolCall> searching_;
+};
+
+} // namespace quillon

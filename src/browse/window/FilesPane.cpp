@@ -1,0 +1,161 @@
+#include "FilesPane.h"
+
+#include "LocalizedString.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QToolButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto backKeys = Qt::ALT | Qt::Key_Left;
+constexpr auto upKeys = Qt::ALT | Qt::Key_Up;
+
+QToolButton* makeArrow(Qt::ArrowType arrow, const char* key, const QKeySequence& keys)
+{
+    auto* button = new QToolButton;
+    button->setArrowType(arrow);
+    button->setAccessibleName(localizedString(key));
+    button->setToolTip(localizedString(key) + " ("_L1 + keys.toString(QKeySequence::NativeText) + u')');
+    return button;
+}
+
+} // namespace
+
+FilesPane::FilesPane(FilesModel& model, QWidget* parent)
+    : QWidget(parent)
+    , model_(model)
+    , back_(makeArrow(Qt::LeftArrow, "browseBackTitle", backKeys))
+    , up_(makeArrow(Qt::UpArrow, "browseUpTitle", upKeys))
+    , path_(new QLineEdit)
+    , view_(new QTreeView)
+    , sentence_(new QLabel)
+{
+    back_->setObjectName(u"back"_s);
+    up_->setObjectName(u"up"_s);
+    path_->setObjectName(u"path"_s);
+    path_->setAccessibleName(localizedString("browsePathLabel"));
+    view_->setObjectName(u"files"_s);
+    view_->setAccessibleName(localizedString("browseFilesName"));
+    view_->setModel(&model_);
+    view_->setRootIsDecorated(false);
+    view_->setUniformRowHeights(true);
+    view_->setAllColumnsShowFocus(true);
+    view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view_->header()->setSectionsMovable(false);
+    sentence_->setTextFormat(Qt::PlainText);
+    sentence_->setWordWrap(true);
+    sentence_->setAlignment(Qt::AlignCenter);
+    auto* overlay = new QVBoxLayout(view_->viewport());
+    overlay->addWidget(sentence_);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(back_);
+    row->addWidget(up_);
+    row->addWidget(path_, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addLayout(row);
+    column->addWidget(view_, 1);
+
+    connect(back_, &QToolButton::clicked, this, &FilesPane::backAsked);
+    connect(up_, &QToolButton::clicked, this, &FilesPane::upAsked);
+    connect(path_, &QLineEdit::returnPressed, this, [this] { Q_EMIT folderTyped(path_->text()); });
+    connect(view_, &QTreeView::activated, this, [this](const QModelIndex& index) { Q_EMIT opened(index.row()); });
+    connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FilesPane::selectionChanged);
+    connect(&model_, &QAbstractItemModel::modelReset, this, [this] {
+        updateSentence();
+        Q_EMIT selectionChanged();
+    });
+    connect(&model_, &QAbstractItemModel::rowsInserted, this, &FilesPane::updateSentence);
+    addKeys();
+}
+
+void FilesPane::addKeys()
+{
+    // A button would only act once it has shown itself pressed.
+    connect(new QShortcut(backKeys, this), &QShortcut::activated, this, &FilesPane::backAsked);
+    connect(new QShortcut(upKeys, this), &QShortcut::activated, this, &FilesPane::upAsked);
+    const auto inView = [this](Qt::Key key, auto&& then) {
+        auto* shortcut = new QShortcut(QKeySequence(key), view_);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, then);
+    };
+    inView(Qt::Key_Backspace, [this] { Q_EMIT upAsked(); });
+    inView(Qt::Key_Space, [this] { Q_EMIT previewAsked(); });
+}
+
+void FilesPane::setFolder(const QString& folder)
+{
+    path_->setText(folder.isEmpty() ? u"/"_s : folder);
+    up_->setEnabled(!folder.isEmpty());
+}
+
+void FilesPane::setBackEnabled(bool enabled)
+{
+    back_->setEnabled(enabled);
+}
+
+void FilesPane::tell(const QString& sentence)
+{
+    sentence_->setText(sentence);
+    updateSentence();
+}
+
+void FilesPane::updateSentence()
+{
+    sentence_->setVisible(model_.rowCount() == 0);
+    view_->setAccessibleDescription(model_.rowCount() == 0 ? sentence_->text() : QString());
+}
+
+void FilesPane::select(const QString& path)
+{
+    const int row = model_.rowOf(path);
+    if (model_.rowCount() == 0 || (row < 0 && view_->currentIndex().isValid()))
+        return;
+    const QModelIndex index = model_.index(std::max(row, 0), 0);
+    view_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    view_->scrollTo(index);
+}
+
+void FilesPane::fitColumns()
+{
+    const int text = view_->fontMetrics().averageCharWidth();
+    constexpr int nameColumns = 30;
+    constexpr int otherColumns = 26;
+    view_->setColumnWidth(0, nameColumns * text);
+    for (int column = 1; column < model_.columnCount(); ++column) {
+        view_->resizeColumnToContents(column);
+        view_->setColumnWidth(column, std::min(view_->columnWidth(column), otherColumns * text));
+    }
+}
+
+void FilesPane::takeKeyboard()
+{
+    view_->setFocus();
+    if (!view_->currentIndex().isValid() && model_.rowCount() > 0)
+        view_->setCurrentIndex(model_.index(0, 0));
+}
+
+std::vector<int> FilesPane::selectedRows() const
+{
+    std::vector<int> rows;
+    for (const QModelIndex& index : view_->selectionModel()->selectedRows())
+        rows.push_back(index.row());
+    std::ranges::sort(rows);
+    return rows;
+}
+
+} // namespace quillon
