@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QTreeView>
+#include <QTreeWidget>
 
 #include <array>
 
@@ -79,6 +81,28 @@ void addExclusion(Stage& stage, const char* key)
 {
     stage.openDisks(Exclusions).findChild<QAction*>(QLatin1StringView(key))->trigger();
     stage.program().runLoop.advance(Seconds(1));
+}
+
+/// The home folder as it was forty days ago, with the file chosen that was changed since.
+BrowseWindow& chooseOldFile(Stage& stage)
+{
+    BrowseWindow& window = stage.openBackups();
+    auto* const timeline = window.findChild<QTreeWidget*>(u"timeline"_s);
+    timeline->setCurrentItem(timeline->topLevelItem(timeline->topLevelItemCount() - 2)->child(0));
+    stage.program().runLoop.advance(Seconds(1));
+    auto* const files = window.findChild<QTreeView*>(u"files"_s);
+    files->setCurrentIndex(files->model()->index(2, 0));
+    stage.program().runLoop.advance(Seconds(1));
+    return window;
+}
+
+void restoreOldFile(Stage& stage, std::initializer_list<const char*> buttons)
+{
+    chooseOldFile(stage);
+    for (const char* button : buttons) {
+        stage.press(button);
+        stage.program().runLoop.advance(Seconds(1));
+    }
 }
 
 constexpr std::array scenes{
@@ -173,6 +197,25 @@ constexpr std::array scenes{
               stage.program().runLoop.advance(Seconds(1));
           }},
     Scene{"disks-size", [](Stage& stage) { addExclusion(stage, "disksAddSizeTitle"); }},
+    Scene{"backups", [](Stage& stage) { chooseOldFile(stage); }},
+    Scene{"backups-search",
+          [](Stage& stage) {
+              BrowseWindow& window = stage.openBackups();
+              stage.press("everywhere");
+              window.findChild<QLineEdit*>(u"search"_s)->setText(u"budget"_s);
+              stage.program().runLoop.advance(Seconds(1));
+          }},
+    Scene{"backups-small", [](Stage& stage) { stage.openBackups().resize(0, 0); }},
+    Scene{"backups-none", [](Stage& stage) { stage.openBackups(false); }},
+    Scene{"backups-restore", [](Stage& stage) { restoreOldFile(stage, {"restoreSelected"}); }},
+    Scene{"backups-restore-in-the-way",
+          [](Stage& stage) {
+              restoreOldFile(stage, {"restoreSelected", "start"});
+          }},
+    Scene{"backups-restore-end",
+          [](Stage& stage) {
+              restoreOldFile(stage, {"restoreSelected", "start", "keepBoth"});
+          }},
     Scene{"alert-first-launch", launchForTheFirstTime},
     Scene{"alert-first-launch-no-disk",
           [](Stage& stage) {

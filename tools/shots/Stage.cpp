@@ -21,6 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int besideBar = 100;
+
 QWidgetList visibleWindows()
 {
     QWidgetList windows = QApplication::topLevelWidgets();
@@ -108,10 +110,16 @@ void Stage::openMenu(QAction* const StatusMenu::*submenuOf)
 DisksWindow& Stage::openDisks(int page)
 {
     disks_.emplace(program_.runLoop, alerts_);
-    constexpr int besideBar = 100;
     disks_->window().move(besideBar, besideBar);
     disks_->window().findChild<QTabWidget*>()->setCurrentIndex(page);
     return disks_->window();
+}
+
+BrowseWindow& Stage::openBackups(bool withBackups)
+{
+    backups_.emplace(program_.runLoop, alerts_, withBackups);
+    backups_->window().move(besideBar, besideBar);
+    return backups_->window();
 }
 
 void Stage::press(const char* button)

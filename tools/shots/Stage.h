@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ModalAlertPresenter.h"
+#include "PlayedBackups.h"
 #include "PlayedDisks.h"
 #include "PlayedProgram.h"
 #include "ScopedEnvironment.h"
@@ -27,6 +28,8 @@ public:
     void openMenu(QAction* const StatusMenu::*submenuOf = nullptr);
     /// Opens the window of disks, with the page of that place in front.
     DisksWindow& openDisks(int page);
+    /// Opens the window of backups at the home folder; without backups it says what to do.
+    BrowseWindow& openBackups(bool withBackups = true);
     /// Presses the visible button of that object name; of several the one that stands highest.
     void press(const char* button);
     /// Chooses an item of the visible combo box of that object name.
@@ -46,6 +49,7 @@ private:
     ModalAlertPresenter alerts_;
     PlayedProgram program_;
     std::optional<PlayedDisks> disks_;
+    std::optional<PlayedBackups> backups_;
 };
 
 } // namespace quillon
