@@ -334,30 +334,6 @@
         <translation>Abbrechen</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>Aus Backups wiederherstellen</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>Letztes Backup auf jedem Volume:
-%1
-
-Alle Backups auflisten:
-%2
-
-Einen Ordner aus dem letzten Backup als Kopie im Benutzerordner wiederherstellen:
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>Es wurde noch kein Backup abgeschlossen. Falls ein Backup-Volume ältere enthält, listet dieser Befehl sie auf:
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>Wiederhergestellt</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

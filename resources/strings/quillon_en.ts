@@ -334,30 +334,6 @@
         <translation>Cancel</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>Restoring from Your Backups</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>Latest backup of each disk:
-%1
-
-List all backups:
-%2
-
-Restore a folder from the latest one, as a copy in your home folder:
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>No backup has been completed yet. If a backup disk holds earlier ones, this command lists them:
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>Restored</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

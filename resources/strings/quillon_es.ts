@@ -334,30 +334,6 @@
         <translation>Cancelar</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>Restaurar desde tus copias de seguridad</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>Última copia de cada disco:
-%1
-
-Ver la lista de todas las copias:
-%2
-
-Restaurar una carpeta de la última copia, duplicándola en tu carpeta de inicio:
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>Aún no se ha completado ninguna copia de seguridad. Si un disco contiene copias anteriores, este comando las muestra:
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>Restaurado</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

@@ -334,30 +334,6 @@
         <translation>Annuler</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>Restaurer à partir de vos sauvegardes</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>Dernière sauvegarde de chaque disque :
-%1
-
-Lister toutes les sauvegardes :
-%2
-
-Restaurer un dossier de la dernière sauvegarde, en copie dans votre dossier personnel :
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>Aucune sauvegarde n’a encore été terminée. Si un disque de sauvegarde en contient d’anciennes, cette commande les liste :
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>Restauration</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

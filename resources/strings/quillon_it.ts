@@ -334,30 +334,6 @@
         <translation>Annulla</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>Ripristinare dai backup</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>Ultimo backup di ogni disco:
-%1
-
-Elencare tutti i backup:
-%2
-
-Ripristinare una cartella dall’ultimo backup, come copia nella cartella Inizio:
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>Non è stato ancora completato alcun backup. Se un disco di backup ne contiene di precedenti, questo comando li elenca:
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>Ripristino</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

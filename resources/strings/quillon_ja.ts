@@ -334,30 +334,6 @@
         <translation>キャンセル</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>バックアップからの復元</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>各ディスクの最新のバックアップ：
-%1
-
-すべてのバックアップの一覧：
-%2
-
-最新のバックアップからフォルダを復元（ホームフォルダにコピーを作成）：
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>完了したバックアップはまだありません。バックアップディスクに以前のバックアップがある場合は、次のコマンドで一覧を表示できます：
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>復元</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

@@ -334,30 +334,6 @@
         <translation>Annuleer</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>Herstellen vanuit reservekopieën</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>Laatste reservekopie op elke schijf:
-%1
-
-Alle reservekopieën tonen:
-%2
-
-Een map uit de laatste reservekopie herstellen, als kopie in je thuismap:
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>Er is nog geen reservekopie voltooid. Als op een schijf oudere reservekopieën staan, toont deze opdracht ze:
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>Hersteld</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

@@ -334,30 +334,6 @@
         <translation>Cancelar</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>Restauração a Partir dos Backups</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>Último backup de cada disco:
-%1
-
-Listar todos os backups:
-%2
-
-Restaurar uma pasta do último backup, como cópia na sua pasta pessoal:
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>Nenhum backup foi concluído ainda. Se um disco de backup contém backups anteriores, este comando os lista:
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>Restaurado</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

@@ -334,30 +334,6 @@
         <translation>取消</translation>
     </message>
     <!-- Where there is no Time Machine application -->
-    <message id="restoreGuideTitle">
-        <source></source>
-        <translation>从备份恢复</translation>
-    </message>
-    <message id="restoreGuideMessage">
-        <source></source>
-        <translation>每个磁盘的最近一次备份：
-%1
-
-列出所有备份：
-%2
-
-从最近一次备份中恢复文件夹，拷贝到个人文件夹：
-%3</translation>
-    </message>
-    <message id="restoreGuideEmptyMessage">
-        <source></source>
-        <translation>尚未完成任何备份。如果备份磁盘上有较早的备份，可用此命令列出：
-%1</translation>
-    </message>
-    <message id="restoreFolderName">
-        <source></source>
-        <translation>已恢复</translation>
-    </message>
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">
         <source></source>

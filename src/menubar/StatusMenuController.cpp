@@ -4,7 +4,7 @@
 #include "DataHelper.h"
 #include "LocalizedString.h"
 #include "StoredAndSentNames.h"
-#include "SystemAdvice.h"
+#include "TimeMachineSettings.h"
 
 namespace quillon {
 
@@ -158,17 +158,7 @@ void StatusMenuController::skipRetryAttemptClicked()
 
 void StatusMenuController::enterTimeMachineClicked()
 {
-    services_.workspace.openApplication(u"com.apple.backup.launcher"_s, [this](bool opened) {
-        if (opened)
-            return;
-        QStringList latestBackups;
-        if (!services_.dataManager.latestBackupInfo().isEmpty()) {
-            for (const auto& row : disks_.historyRows())
-                latestBackups.append(row.title());
-        }
-        if (const auto guide = restoreGuide(latestBackups))
-            services_.alerts.present(*guide, {});
-    });
+    services_.workspace.openApplication(TimeMachineSettings::browser(), {});
 }
 
 void StatusMenuController::openSystemPreferences()

@@ -21,6 +21,11 @@ QUrl TimeMachineSettings::address()
     return QUrl(u"x-apple.systempreferences:com.apple.Time-Machine-Settings.extension"_s);
 }
 
+QString TimeMachineSettings::browser()
+{
+    return u"com.apple.backup.launcher"_s;
+}
+
 void TimeMachineSettings::open(const QString& applicationName)
 {
     if (systemIsAtLeast(u"13.0")) {

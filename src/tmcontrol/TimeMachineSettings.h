@@ -25,6 +25,9 @@ public:
     /// Address of the settings, from version 13 on.
     static QUrl address();
 
+    /// Identifier of the application that looks through the backups.
+    static QString browser();
+
 private:
     void presentPermissionAlert(const QString& applicationName);
 

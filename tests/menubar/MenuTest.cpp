@@ -1,9 +1,6 @@
 #include "ApplicationIdentity.h"
 #include "ControllerFixture.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -126,42 +123,13 @@ TEST_F(Menu, AToolThatFailsOrHangsLeavesAPlainMenuThatRecovers)
     }
 }
 
-TEST_F(Menu, TimeMachineIsOpenedOrTheCommandsThatTakeItsPlaceAreShown)
-{
-    const ScopedEnvironment tool("QUILLON_TMUTIL", "/opt/it's/tmutil");
-    const ScopedEnvironment home("HOME", "/nowhere");
-    launch();
-    menu().enterTimeMachineMenuItem->trigger();
-    EXPECT_EQ(workspace.openedApplications, QStringList{u"com.apple.backup.launcher"_s});
-    workspace.opens = false;
-    menu().enterTimeMachineMenuItem->trigger();
-    EXPECT_EQ(takeAlert().first.informativeText,
-              u"No backup has been completed yet. If a backup disk holds earlier ones, this command lists them:\n"
-              "'/opt/it'\\''s/tmutil' listbackups"_s);
-    machine.start(u"A"_s);
-    wait(120);
-    menu().enterTimeMachineMenuItem->trigger();
-    const auto guide = takeAlert().first;
-    EXPECT_EQ(guide.messageText + guide.buttons.join(u' '), u"Restoring from Your BackupsClose"_s);
-    for (const auto& line :
-         {u"\nFirst: Today, 10:01 (4.9 MB)\nSecond: N/A\n"_s, u"'/opt/it'\\''s/tmutil' listbackups"_s,
-          u"'/opt/it'\\''s/tmutil' restore \"$('/opt/it'\\''s/tmutil' latestbackup)\"'/nowhere' "
-          "~/'Restored'"_s})
-        EXPECT_TRUE(guide.informativeText.contains(line)) << guide.informativeText.toStdString();
-    const QTemporaryDir folder;
-    ASSERT_TRUE(QFile::link(u"/bin/true"_s, folder.filePath(u"tmutil"_s)));
-    const ScopedEnvironment path("PATH", folder.path().toUtf8());
-    const ScopedEnvironment found("QUILLON_TMUTIL", folder.filePath(u"tmutil"_s).toUtf8());
-    menu().enterTimeMachineMenuItem->trigger();
-    EXPECT_TRUE(
-        takeAlert().first.informativeText.contains(u"\ntmutil restore \"$(tmutil latestbackup)\"'/nowhere' "_s));
-}
-
-TEST_F(Menu, SettingsAndQuittingAreReachedAndAnUpdateOpensItsPageAndThenQuits)
+TEST_F(Menu, TimeMachineSettingsAndQuittingAreReachedAndAnUpdateOpensItsPageAndThenQuits)
 {
     int terminations = 0;
     launch();
     QObject::connect(controller.get(), &StatusMenuController::terminate, &workspace, [&] { ++terminations; });
+    menu().enterTimeMachineMenuItem->trigger();
+    EXPECT_EQ(workspace.openedApplications, QStringList{u"com.apple.backup.launcher"_s});
     menu().openSystemPreferencesMenuItem->trigger();
     EXPECT_EQ(workspace.opened, QList<QUrl>{TimeMachineSettings::address()});
     menu().quitMenuItem->trigger();

@@ -67,13 +67,6 @@ void failToStart(Stage& stage, int status)
     stage.showAlert();
 }
 
-void browseBackups(Stage& stage)
-{
-    stage.program().workspace.opens = false;
-    stage.program().controller->enterTimeMachineClicked();
-    stage.showAlert();
-}
-
 enum DisksPages { Disks, Sources, Exclusions };
 
 /// Chooses from the menu with which things are added to what is left out.
@@ -243,12 +236,6 @@ constexpr std::array scenes{
               stage.program().controller->updateAvailableClicked();
               stage.showAlert();
           }},
-    Scene{"alert-restore",
-          [](Stage& stage) {
-              completeABackup(stage);
-              browseBackups(stage);
-          }},
-    Scene{"alert-restore-nothing", browseBackups},
     Scene{"alert-permission",
           [](Stage& stage) {
               const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6");

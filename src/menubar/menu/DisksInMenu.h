@@ -102,7 +102,6 @@ public:
     void withdrawSubmenus();
     /// Enables the disks to choose from, which may be on the screen at this moment.
     void setChoiceEnabled(bool enabled);
-    QList<HistoryMenu::Row> historyRows() const;
 
 Q_SIGNALS:
     void listed();
@@ -111,6 +110,7 @@ Q_SIGNALS:
     void helpButtonPressed();
 
 private:
+    QList<HistoryMenu::Row> historyRows() const;
     void take(const QList<BackupDestination>& disks);
     void refreshMenu();
     void offerBackupDisks();

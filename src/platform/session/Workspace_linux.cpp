@@ -144,6 +144,7 @@ private:
 LinuxWorkspace::LinuxWorkspace(RunLoop& runLoop, const QDBusConnection& systemBus, WorkspaceNeeds needs)
     : runLoop_(runLoop)
     , ownPrograms_(std::move(needs.ownPrograms))
+    , ownApplications_(std::move(needs.ownApplications))
     , sleepWatch_(systemBus, std::move(needs.sleepReason))
 {
     connect(&sleepWatch_, &LogindSleepWatch::willSleep, this, &Workspace::willSleep);
@@ -165,9 +166,10 @@ void LinuxWorkspace::openURL(const QUrl& url, Completion completion)
     }
 }
 
-void LinuxWorkspace::openApplication(const QString& /*bundleIdentifier*/, Completion completion)
+void LinuxWorkspace::openApplication(const QString& bundleIdentifier, Completion completion)
 {
-    report(false, std::move(completion));
+    const QString program = ownApplications_.value(bundleIdentifier);
+    report(!program.isEmpty() && QProcess::startDetached(program, {}), std::move(completion));
 }
 
 void LinuxWorkspace::report(bool opened, Completion completion)

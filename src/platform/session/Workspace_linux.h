@@ -61,6 +61,7 @@ private:
 
     RunLoop& runLoop_;
     const OwnPrograms ownPrograms_;
+    const OwnApplications ownApplications_;
     LogindSleepWatch sleepWatch_;
 };
 

@@ -58,7 +58,9 @@ protected:
     ScopedEnvironment path{"PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin"};
     ScopedEnvironment noteFile{"NOTE", QFile::encodeName(folder.filePath(u"note"_s))};
     VirtualRunLoop runLoop{Date{}};
-    const WorkspaceNeeds needs{{{QUrl(u"x-settings:disks"_s), folder.filePath(u"disks"_s)}}, {}};
+    const WorkspaceNeeds needs{.ownPrograms = {{QUrl(u"x-settings:disks"_s), folder.filePath(u"disks"_s)}},
+                               .ownApplications = {{u"com.example.ours"_s, folder.filePath(u"disks"_s)}},
+                               .sleepReason = {}};
     std::unique_ptr<Workspace> workspace =
         std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection(u"no such connection"_s), needs);
     std::optional<bool> result;
@@ -76,9 +78,13 @@ TEST_F(WorkspaceIntegrationTest, AnAddressReachesTheOpenerUnchangedOrStartsAProg
     writeScript(folder.filePath(u"disks"_s), u"printf '%s' \"$#\" >\"$NOTE\""_s);
     EXPECT_EQ(open(u"x-settings:disks"_s), true);
     EXPECT_TRUE(notes(u"0"_s));
+    writeScript(folder.filePath(u"disks"_s), u"printf '%s again' \"$#\" >\"$NOTE\""_s);
+    workspace->openApplication(u"com.example.ours"_s, keepResult());
+    EXPECT_EQ(reported(), true);
+    EXPECT_TRUE(notes(u"0 again"_s));
 }
 
-TEST_F(WorkspaceIntegrationTest, WhatIsNoAddressIsNotHandedToTheOpenerAndApplicationsByIdentifierAreUnknown)
+TEST_F(WorkspaceIntegrationTest, WhatIsNoAddressIsNotHandedToTheOpenerAndOtherApplicationsAreUnknown)
 {
     playOpener(u": >\"$NOTE\""_s);
     for (const auto& address : {u"--version"_s, u"https://[bad"_s})

@@ -21,7 +21,7 @@ public:
     virtual void openURL(const QUrl& url, Completion completion) = 0;
 
     /// Opens the application of that bundle identifier, without asking the user for anything; the completion may be
-    /// empty. Only macOS knows such identifiers; elsewhere nothing is opened.
+    /// empty. Only macOS knows such identifiers; elsewhere a program of our own may stand for one.
     virtual void openApplication(const QString& bundleIdentifier, Completion completion) = 0;
 
 Q_SIGNALS:
@@ -35,9 +35,13 @@ class RunLoop;
 /// Programs, by their paths, that open addresses for which a desktop has none.
 using OwnPrograms = QMap<QUrl, QString>;
 
+/// Programs, by their paths, that stand for applications that a desktop does not have.
+using OwnApplications = QMap<QString, QString>;
+
 /// What a desktop on Linux has to be told; macOS has a program for every address and asks nobody why sleep waits.
 struct WorkspaceNeeds {
     OwnPrograms ownPrograms;
+    OwnApplications ownApplications = {};
     QString sleepReason; ///< why sleep waits for the slots of willSleep(), for users who ask: English
 };
 
