@@ -61,7 +61,7 @@ std::optional<RestoreEvent> readRestoreEvent(const QByteArray& line)
                         .totalBytes = object["totalBytes"_L1].toInteger(),
                         .source = object["source"_L1].toString(),
                         .path = object["path"_L1].toString(),
-                        .reason = object["reason"_L1].toString()};
+                        .reason = object[*kind == RestoreEvent::Kind::Restored ? "remark"_L1 : "reason"_L1].toString()};
 }
 
 RestorePlan::RestorePlan(const QStringList& sources, QString folder)
@@ -97,8 +97,8 @@ void RestorePlan::take(const RestoreEvent& event)
     case RestoreEvent::Kind::Restored:
         settle(event.source);
         ++restored_;
-        if (firstPlace_.isEmpty())
-            firstPlace_ = event.path;
+        if (!event.reason.isEmpty())
+            losses_.push_back({event.path, shownLongText(event.reason)});
         break;
     case RestoreEvent::Kind::Skipped:
         settle(event.source);
@@ -106,7 +106,7 @@ void RestorePlan::take(const RestoreEvent& event)
         break;
     case RestoreEvent::Kind::Failed:
         settle(event.source);
-        losses_.push_back({event.path.isEmpty() ? event.source : event.path, shownLongText(event.reason)});
+        lose(event.path.isEmpty() ? event.source : event.path, shownLongText(event.reason));
         break;
     case RestoreEvent::Kind::Done:
         break;
@@ -117,7 +117,7 @@ void RestorePlan::endCall(const QString& complaint)
 {
     for (const QString& source : std::exchange(untold_, {})) {
         if (!stopped_)
-            losses_.push_back({source, complaint.isEmpty() ? localizedString("disksToolUnreadable") : complaint});
+            lose(source, complaint.isEmpty() ? localizedString("disksToolUnreadable") : complaint);
     }
 }
 
@@ -161,6 +161,12 @@ void RestorePlan::settle(const QString& source)
     untold_.removeOne(source);
 }
 
+void RestorePlan::lose(const QString& path, const QString& reason)
+{
+    ++lost_;
+    losses_.push_back({path, reason});
+}
+
 QString progressText(const RestoreEvent& progress)
 {
     if (progress.totalFiles == 0)
@@ -180,8 +186,8 @@ QString summaryOf(const RestorePlan& plan)
     lines.append(localizedString("browseRestoredCount").arg(locale.toString(plan.restored())));
     if (plan.skipped() > 0)
         lines.append(localizedString("browseSkippedCount").arg(locale.toString(plan.skipped())));
-    if (!plan.losses().empty())
-        lines.append(localizedString("browseLostCount").arg(locale.toString(plan.losses().size())));
+    if (plan.lost() > 0)
+        lines.append(localizedString("browseLostCount").arg(locale.toString(plan.lost())));
     return lines.join(u'\n');
 }
 

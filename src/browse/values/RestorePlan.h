@@ -25,7 +25,7 @@ struct RestoreEvent {
     qint64 totalBytes = 0;
     QString source = {}; ///< as it was asked for
     QString path = {};   ///< where it is, or was to be
-    QString reason = {}; ///< of a failure, in tmutil's words
+    QString reason = {}; ///< of a failure, or what a restored thing lacks, in tmutil's words
 };
 std::optional<RestoreEvent> readRestoreEvent(const QByteArray& line);
 
@@ -65,13 +65,14 @@ public:
     bool isDone() const;
     int restored() const { return restored_; }
     int skipped() const { return skipped_; }
+    int lost() const { return lost_; }
+    /// What is lost, and what of the restored lacks something.
     const std::vector<Loss>& losses() const { return losses_; }
-    /// Where the first of what came back is; empty where nothing did.
-    QString firstPlace() const { return firstPlace_; }
 
 private:
     bool isTried() const;
     void settle(const QString& source);
+    void lose(const QString& path, const QString& reason);
 
     QString folder_;
     std::map<ConflictRule, QStringList> due_; ///< sources by the rule they are to be restored with
@@ -82,8 +83,8 @@ private:
     bool stopped_ = false;
     int restored_ = 0;
     int skipped_ = 0;
+    int lost_ = 0;
     std::vector<Loss> losses_;
-    QString firstPlace_;
 };
 
 /// What is shown of a restore that runs, and at its end.
