@@ -28,7 +28,8 @@ BackupReader::BackupReader(const Setup::Services& services, const ListingCacheFo
 void BackupReader::list(const QString& folder, const FilesTaker& taker)
 {
     listing_.reset();
-    if (kept_->isWhole()) {
+    // tmutil alone knows which folders the backup was made of; what is kept has those around them, too.
+    if (kept_->isWhole() && !folder.isEmpty()) {
         if (auto files = kept_->folder(folder)) {
             sortForPeople(*files);
             return taker(*files, {});
