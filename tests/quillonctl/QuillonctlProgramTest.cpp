@@ -24,6 +24,7 @@ public:
     {
         struct Child final : RunningTask {
             void kill() override {}
+            void terminate() override {}
         };
         asked = request.arguments.join(u' ');
         QTimer::singleShot(0, [this, completion = std::move(completion)] { completion(answer); });
