@@ -76,7 +76,7 @@ tmutil versions source/folder 2>said; tmutil versions /nothing 2>said
 TEST_F(BrowseIntegration, APartThatCannotBeReadIsTold)
 {
     expect(words_ + R"sh(
-for pack in $(find $(repository disk)/data -type f); do chmod u+w $pack; dd if=/dev/zero of=$pack bs=1 count=400 conv=notrunc; done 2>said
+for pack in $(find $(repository disk)/data -type f); do chmod u+w $pack; dd if=/dev/zero of=$pack bs=$(stat -c %s $pack) count=1 conv=notrunc; done 2>said
 rm -r cache; for command in 'listfiles' 'listfiles -r'; do tmutil $command $here/folder 2>said; grep -c tmutil said; done
 tmutil findfiles file 2>said; grep -c 'Not all' said
 )sh",
