@@ -20,7 +20,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-LINUX_ONLY_FOLDERS = ("tmutil", "disks")
+LINUX_ONLY_FOLDERS = ("tmutil", "disks", "browse")
 # <mach-o/loader.h>: MH_MAGIC_64, CPU_TYPE_ARM64, any subtype, MH_OBJECT
 MACH_O_OBJECT = struct.Struct("<IIxxxxI")
 ARM64_OBJECT = (0xFEEDFACF, 0x0100000C, 1)
