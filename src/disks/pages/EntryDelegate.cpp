@@ -1,5 +1,6 @@
 #include "ListPage.h"
 #include "Symbol_linux.h"
+#include "SystemColor.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QTextLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quillon {
 
@@ -30,21 +30,6 @@ int symbolSide(const QStyleOptionViewItem& option)
     return 2 * QFontMetrics(option.font).height();
 }
 
-/// WCAG 2.1, "relative luminance" and "contrast ratio".
-double luminance(const QColor& color)
-{
-    const auto linear = [](float part) {
-        return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 QColor mixed(const QColor& text, const QColor& ground, qreal share)
 {
     return QColor::fromRgbF(static_cast<float>(text.redF() * share + ground.redF() * (1 - share)),
@@ -56,7 +41,7 @@ QColor mixed(const QColor& text, const QColor& ground, qreal share)
 QColor groundFor(const QColor& text, QColor ground)
 {
     constexpr double room = 1.1;
-    const QColor away = luminance(text) > luminance(ground) ? Qt::black : Qt::white;
+    const QColor away = contrast(text, Qt::black) > contrast(ground, Qt::black) ? Qt::black : Qt::white;
     for (int step = 0; step < 20 && contrast(text, ground) < leastContrast * room; ++step)
         ground = mixed(away, ground, 0.05);
     return ground;
