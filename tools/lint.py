@@ -20,6 +20,8 @@ CLOCK = re.compile(r"\b(QDateTime::current\w*|QDate::currentDate|QTime::currentT
 SYSTEM_SWITCH = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(Q_OS_\w+|__APPLE__|__linux__)\b")
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 COMMENTS_AND_TEXTS = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
+CLASS = re.compile(r"^(?:class|struct|enum class) ([\w:]+)(?: final)?(?:\s*:[^;{]*)?(?:\s*\{|$)")
+NAMESPACE = re.compile(r"^(?:inline )?namespace(?: ([\w:]+))? \{$")
 LONG_FILE = 420
 
 
@@ -57,6 +59,9 @@ class Layers:
                     waiting.append(link)
         return reached
 
+    def in_one_program(self, *layers):
+        return any(set(layers) <= self.allowed(program) for program in self._folders)
+
     def allowed(self, layer):
         return {self._targets[link] for link in self.linked(layer) if link in self._targets} | {layer}
 
@@ -84,6 +89,18 @@ class Tree:
                 found.append(f"{self._name(path)}: its folder belongs to no target")
                 continue
             found += [f"{self._name(path)}:{line}: {what}" for line, what in self._in_file(path, layer, text)]
+        return found
+
+    def classes_of_one_name(self):
+        """Classes that one program may hold and that have one name: the linker takes functions of either for both."""
+        known, found = {}, []
+        for path in self._files:
+            layer = self._layer(path)
+            for name in classes(path.read_text(encoding="utf-8")) if layer else ():
+                for other, there in known.setdefault(name, []):
+                    if self._layers.in_one_program(layer, there):
+                        found.append(f"{self._name(path)}: {name} is a class in {self._name(other)} as well")
+                known[name].append((path, layer))
         return found
 
     def _in_file(self, path, layer, text):
@@ -115,9 +132,21 @@ class Tree:
         return path.relative_to(self._source.parent).as_posix()
 
 
+def classes(text):
+    """Those that other files can see, by their whole names."""
+    inside = []
+    for line in text.split("\n"):
+        if namespace := NAMESPACE.match(line):
+            inside.append(namespace[1])
+        elif line.startswith("} // namespace"):
+            inside.pop()
+        elif (found := CLASS.match(line)) and None not in inside:
+            yield "::".join([*inside, found[1]])
+
+
 def main():
     tree = Tree(Path(sys.argv[1]))
-    found = tree.findings()
+    found = tree.findings() + tree.classes_of_one_name()
     for warning in tree.warnings:
         print(f"warning: {warning}")
     for finding in found:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StatusItemFace_linux.h"
+#include "ShownStatusItem_linux.h"
 
 #include <QPointer>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StatusItemFace_linux.h"
+#include "ShownStatusItem_linux.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -22,7 +22,7 @@ class MenuBarButton;
 
 /// The item in a slim bar of our own at the top of the primary screen, for desktops without a tray. Where clients
 /// cannot place windows (Wayland) it is a normal small window with a title.
-class MenuBarWindow final : public QWidget, public StatusItemFace {
+class MenuBarWindow final : public QWidget, public ShownStatusItem {
     Q_OBJECT
 
 public:

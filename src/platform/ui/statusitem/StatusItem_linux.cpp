@@ -30,7 +30,7 @@ public:
 
 private:
     void choose();
-    StatusItemFace* chosenFace();
+    ShownStatusItem* preferred();
 
     const StatusItemPlacement placement_;
     ColorScheme colorScheme_{QDBusConnection::sessionBus()};
@@ -43,7 +43,7 @@ private:
     std::unique_ptr<NotifierStatusItem> notifier_; ///< kept once it was made, as is the next
     std::unique_ptr<XEmbedStatusItem> xembed_;
     std::unique_ptr<MenuBarWindow> bar_; ///< there while it is shown
-    StatusItemFace* face_ = nullptr;     ///< the one of them that is shown
+    ShownStatusItem* shown_ = nullptr;   ///< the one of them that is shown
     QTimer barDelay_;
 };
 
@@ -67,8 +67,8 @@ void LinuxStatusItem::setAttributedTitle(const AttributedTitle& title)
     if (content_.title == title)
         return;
     content_.title = title;
-    if (face_)
-        face_->setContent(content_);
+    if (shown_)
+        shown_->setContent(content_);
 }
 
 void LinuxStatusItem::setImage(const std::optional<SymbolImage>& image)
@@ -76,20 +76,20 @@ void LinuxStatusItem::setImage(const std::optional<SymbolImage>& image)
     if (content_.image == image)
         return;
     content_.image = image;
-    if (face_)
-        face_->setContent(content_);
+    if (shown_)
+        shown_->setContent(content_);
 }
 
 void LinuxStatusItem::setMenu(QMenu* menu)
 {
     menu_ = menu;
-    if (face_)
-        face_->setMenu(menu_);
+    if (shown_)
+        shown_->setMenu(menu_);
 }
 
 PopoverAnchor LinuxStatusItem::anchor() const
 {
-    return face_ ? face_->anchor() : PopoverAnchor();
+    return shown_ ? shown_->anchor() : PopoverAnchor();
 }
 
 void LinuxStatusItem::choose()
@@ -98,22 +98,22 @@ void LinuxStatusItem::choose()
         return; // a bar that gives way at once would only flash
     if (!colorScheme_.isKnown())
         return;
-    StatusItemFace* const chosen = chosenFace();
-    if (face_ == chosen)
+    ShownStatusItem* const chosen = preferred();
+    if (shown_ == chosen)
         return;
-    face_ = chosen;
-    if (xembed_ && face_ != xembed_.get())
+    shown_ = chosen;
+    if (xembed_ && shown_ != xembed_.get())
         xembed_->hide();
-    if (face_ != bar_.get())
+    if (shown_ != bar_.get())
         bar_.reset();
-    if (!face_)
+    if (!shown_)
         return;
-    face_->setContent(content_);
-    face_->setMenu(menu_);
+    shown_->setContent(content_);
+    shown_->setMenu(menu_);
 }
 
 /// Nothing where there is no tray and the bar is unwanted.
-StatusItemFace* LinuxStatusItem::chosenFace()
+ShownStatusItem* LinuxStatusItem::preferred()
 {
     const bool trayIsWanted = placement_ != StatusItemPlacement::Bar;
     if (trayIsWanted && statusNotifierHost_.isPresent()) {
@@ -131,7 +131,7 @@ StatusItemFace* LinuxStatusItem::chosenFace()
     if (placement_ == StatusItemPlacement::Tray)
         return nullptr;
     // A host that is started anew is back soon, and a window that comes up meanwhile would take the keyboard.
-    if (face_ && face_ != bar_.get())
+    if (shown_ && shown_ != bar_.get())
         barDelay_.start(hostReturns);
     if (barDelay_.isActive())
         return nullptr;

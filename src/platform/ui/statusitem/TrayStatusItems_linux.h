@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DBusMenu_linux.h"
-#include "StatusItemFace_linux.h"
+#include "ShownStatusItem_linux.h"
 #include "StatusNotifierItem_linux.h"
 #include "TrayProtocols_linux.h"
 
@@ -23,7 +23,7 @@ namespace quillon {
 NotifierContent notifierContent(const StatusItemContent& content, const QDir& share);
 
 /// The item as StatusNotifier hosts show it, which tint the icon, draw the menu and may show the title beside it.
-class NotifierStatusItem final : public QObject, public StatusItemFace {
+class NotifierStatusItem final : public QObject, public ShownStatusItem {
     Q_OBJECT
 
 public:
@@ -80,7 +80,7 @@ private:
 /// Qt looks for a StatusNotifier host when the first tray icon of a process is made, and stays with XEmbed or with
 /// StatusNotifier for good. So this is made only once an XEmbed tray is there and no host, and then kept: hidden while
 /// the tray is away, shown again when one returns.
-class XEmbedStatusItem final : public QObject, public StatusItemFace {
+class XEmbedStatusItem final : public QObject, public ShownStatusItem {
     Q_OBJECT
 
 public:

@@ -21,12 +21,12 @@ struct StatusItemContent {
 };
 
 /// One way of showing the status item.
-class StatusItemFace {
+class ShownStatusItem {
 public:
-    StatusItemFace() = default;
-    StatusItemFace(const StatusItemFace&) = delete;
-    StatusItemFace& operator=(const StatusItemFace&) = delete;
-    virtual ~StatusItemFace() = default;
+    ShownStatusItem() = default;
+    ShownStatusItem(const ShownStatusItem&) = delete;
+    ShownStatusItem& operator=(const ShownStatusItem&) = delete;
+    virtual ~ShownStatusItem() = default;
 
     virtual void setContent(const StatusItemContent& content) = 0;
     /// The menu stays the caller's.
