@@ -190,6 +190,9 @@ TEST_F(FileUserDefaultsTest, WhatAnotherProgramsLockKeepsInMemoryFollowsOnceItIs
         letGo();
         runLoop_.advance(Seconds(2));
         EXPECT_EQ(stored(), (QVariantMap{{u"b"_s, 2LL}}));
+        write("{ theirs = 1; }");
+        runLoop_.advance(Seconds(10));
+        EXPECT_EQ(contents(path()), "{ theirs = 1; }") << "what is saved is not saved again";
         other = holdLock(); // beyond the end
         defaults.setObject(u"c"_s, 3);
         write("{ theirs = 2; }");

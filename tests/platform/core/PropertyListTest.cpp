@@ -54,6 +54,23 @@ std::optional<QVariant> inBinary(const QVariant& value)
     return propertylist::parse(propertylist::toBinary(value).value_or(""));
 }
 
+/// Arrays in one another, each with the next one twice: few bytes that come to 2^levels entries.
+QByteArray sharedWithoutEnd(char levels)
+{
+    QByteArray list = "bplist00";
+    QByteArray offsets;
+    for (char level = 0; level < levels; ++level) {
+        offsets += static_cast<char>(list.size());
+        list += QByteArray{"\xA2"} + QByteArray(2, static_cast<char>(level + 1));
+    }
+    offsets += static_cast<char>(list.size());
+    list += '\x09';
+    const QByteArray trailer = QByteArray(6, '\0') + QByteArray(2, '\x01') + QByteArray(7, '\0') +
+                               static_cast<char>(offsets.size()) + QByteArray(15, '\0') +
+                               static_cast<char>(list.size());
+    return list + offsets + trailer;
+}
+
 using Place = std::pair<qsizetype, qsizetype>; // line and column
 
 Place refusal(QByteArrayView text)
@@ -129,6 +146,8 @@ TEST(PropertyList, DamagedListsAreRefusedAndNeverGuessedAt)
     EXPECT_EQ(error.line, 3);
     EXPECT_FALSE(error.message.isEmpty());
 
+    EXPECT_TRUE(propertylist::parse(sharedWithoutEnd(2)));
+    EXPECT_FALSE(propertylist::parse(sharedWithoutEnd(40)));
     constexpr int tooDeep = 200'000;
     EXPECT_FALSE(
         propertylist::parse(xml(QByteArray("<array>").repeated(tooDeep) + QByteArray("</array>").repeated(tooDeep))));
