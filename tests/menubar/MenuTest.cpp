@@ -39,6 +39,11 @@ TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
     EXPECT_EQ(row(menu().openSystemPreferencesMenuItem), u"Open Time Machine Preferences..."_s);
     runElsewhere(15);
     EXPECT_EQ(row(menu().backupNowMenuItem), u"Skip This Backup"_s);
+    for (const bool enabled : {false, true}) {
+        controller->enableMenuButtons(enabled);
+        EXPECT_EQ(menu().backupNowMenuItem->isEnabled(), enabled);
+        EXPECT_EQ(menu().preferencesMenuItem->isEnabled(), enabled);
+    }
 }
 
 TEST_F(Menu, TwoDisksAreOfferedAndTheirLatestBackupsListedWhileASingleOneNeedsNeither)
@@ -53,6 +58,7 @@ TEST_F(Menu, TwoDisksAreOfferedAndTheirLatestBackupsListedWhileASingleOneNeedsNe
     openMenuAndWait();
     EXPECT_EQ(disks(), (QStringList{u"Let Time Machine Choose"_s, u"-"_s, u"First"_s, u"Second (most recent)"_s}));
     EXPECT_EQ(history(), (QStringList{u"Second: Today, 10:01 (4.9 MB)"_s, u"First: N/A"_s}));
+    EXPECT_EQ(menu().backupNowMenuItem->menu()->actions().at(2)->menuRole(), QAction::NoRole) << "it would move";
     EXPECT_TRUE(menu().phaseMenuItem->isEnabled());
     EXPECT_EQ(menu().phaseMenuItem->menu()->actions().at(2)->data(), u"B"_s);
     machine.destinations.removeLast();

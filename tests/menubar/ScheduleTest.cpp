@@ -1,5 +1,7 @@
 #include "ControllerFixture.h"
 
+#include <functional>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -160,11 +162,14 @@ TEST_F(Pause, FollowsSleepAndASetClock)
     EXPECT_EQ(paused(), twoHours) << "one that outlasts a sleep goes on";
     sleepUntil(today(12, 5));
     EXPECT_EQ(paused(), over);
-    controller->pauseForClicked(3600);
-    wait(3603);
-    manager->scheduleNextBackup(); // forgets the pause before its timer has run
-    sleepUntil(runLoop.now() + 1s);
-    EXPECT_EQ(paused(), over);
+    const std::function<void()> moments[] = {[this] { sleepUntil(runLoop.now() + 1s); }, [this] { wait(10); }};
+    for (const auto& pass : moments) {
+        controller->pauseForClicked(3600);
+        wait(3603);
+        manager->scheduleNextBackup(); // forgets the pause before its timer has run
+        pass();
+        EXPECT_EQ(paused(), over);
+    }
 }
 
 } // namespace quillon

@@ -117,9 +117,9 @@ TEST_F(StatusMenuGui, TheHistorysHelpIsOpenedInEveryWay)
     for (const auto& open : ways) {
         launchAndOpen();
         open();
-        controller->allBackupInfoHelpButtonPressed(); // pressed again while it is there
-        EXPECT_FALSE(menu().isVisible()) << "it would hold the pointer";
         ASSERT_TRUE(runUntil([] { return alertButton(u"Close"_s); }));
+        EXPECT_FALSE(menu().isVisible()) << "it would hold the pointer";
+        controller->allBackupInfoHelpButtonPressed(); // pressed again while it is there
         EXPECT_TRUE(shownAlertText().startsWith(u"This list shows the latest backup"_s));
         answerAlert(u"Close"_s);
         EXPECT_FALSE(popover());

@@ -81,7 +81,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // What xdg-open(1) cannot open it refuses within moments; whatever runs for longer is the program that shows the page.
-constexpr Seconds patience = 10s;
+constexpr Seconds longestRefusal = 10s;
 
 // QProcess ends its child when it is destroyed. With a shell in between, that is the shell: a browser that xdg-open
 // runs in the foreground outlives this program.
@@ -115,7 +115,7 @@ public:
 
     void start(const QUrl& url)
     {
-        patience_ = runLoop_.scheduleAfter(patience, [this] { report(true); });
+        patience_ = runLoop_.scheduleAfter(longestRefusal, [this] { report(true); });
         process_.start(u"/bin/sh"_s, {u"-c"_s, openInBackground, u"sh"_s, url.toString(QUrl::FullyEncoded)});
     }
 

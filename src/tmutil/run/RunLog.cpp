@@ -34,7 +34,7 @@ QString folderOf(const QString& stateFolder)
 }
 
 /// Names begin with the date, so that they sort by it.
-QStringList namesIn(const QString& folder)
+QStringList logFilesIn(const QString& folder)
 {
     return QDir(folder).entryList({u"*.plist"_s}, QDir::Files, QDir::Name);
 }
@@ -93,7 +93,7 @@ bool RunLog::write(const QString& stateFolder) const
                                                                         {u"BytesAdded"_s, bytesAdded},
                                                                         {u"Unread"_s, paths},
                                                                         {u"Words"_s, storable(words)}});
-    QStringList names = namesIn(folder);
+    QStringList names = logFilesIn(folder);
     for (; names.size() > keptRuns; names.removeFirst())
         QFile::remove(folder + u'/' + names.first());
     return written;
@@ -102,7 +102,7 @@ bool RunLog::write(const QString& stateFolder) const
 std::vector<RunLog> RunLog::all(const QString& stateFolder)
 {
     std::vector<RunLog> runs;
-    for (const QString& name : namesIn(folderOf(stateFolder))) {
+    for (const QString& name : logFilesIn(folderOf(stateFolder))) {
         if (const auto contents = readPropertyListFile(folderOf(stateFolder) + u'/' + name); contents)
             runs.push_back(fromDictionary(*contents));
     }
