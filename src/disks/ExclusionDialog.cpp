@@ -27,7 +27,7 @@ constexpr auto typingPause = 400ms;
 // Every file of the sources is looked at, which may be a disk full of them.
 constexpr auto longestCount = 10min;
 
-QLabel* makeSentence(const QString& text)
+QLabel* makeWrappedLabel(const QString& text)
 {
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
@@ -40,7 +40,7 @@ QLabel* makeSentence(const QString& text)
 ExclusionDialog::ExclusionDialog(Kind kind, const Setup& setup, QWidget* parent)
     : QDialog(parent)
     , setup_(setup)
-    , preview_(makeSentence({}))
+    , preview_(makeWrappedLabel({}))
 {
     setObjectName(u"exclusion"_s);
     setWindowTitle(localizedString(kind == Kind::Name ? "disksAddNameTitle" : "disksAddSizeTitle"));
@@ -58,14 +58,15 @@ ExclusionDialog::ExclusionDialog(Kind kind, const Setup& setup, QWidget* parent)
     leaveOut_->setDefault(true);
 
     auto* column = new QVBoxLayout(this);
-    QLabel* prompt = makeSentence(localizedString(kind == Kind::Name ? "disksNamePrompt" : "disksSizePrompt") + u':');
+    QLabel* prompt =
+        makeWrappedLabel(localizedString(kind == Kind::Name ? "disksNamePrompt" : "disksSizePrompt") + u':');
     column->addWidget(prompt);
     QWidget* field = makeField(kind);
     prompt->setBuddy(field);
     field->setAccessibleName(prompt->text());
     column->addWidget(field);
     if (kind == Kind::Name)
-        column->addWidget(makeSentence(localizedString("disksNameHint")));
+        column->addWidget(makeWrappedLabel(localizedString("disksNameHint")));
     column->addWidget(preview_, 1);
     column->addWidget(buttons);
     constexpr int width = 48; // characters

@@ -92,8 +92,7 @@ void ScheduleWatch::checkClock()
 bool ScheduleWatch::takeClockAsItIs()
 {
     const auto change = clock_.look();
-    if (change.step < std::chrono::milliseconds(0))
-        services_.dataManager.clockWasSetBack(-change.step);
+    services_.dataManager.clockWasSet(change.step);
     return change.isAny();
 }
 

@@ -224,9 +224,9 @@ void DataManager::makeScheduledStart()
     scheduleNextBackup();
 }
 
-void DataManager::clockWasSetBack(std::chrono::milliseconds step)
+void DataManager::clockWasSet(std::chrono::milliseconds step)
 {
-    if (step > largestStepBackWithoutRepeat)
+    if (-step > largestStepBackWithoutRepeat)
         lastFiredDate_.reset();
 }
 

@@ -72,8 +72,9 @@ public:
     void setRetryBackupDate(std::optional<Date> date);
     /// Disarms the start timer before the system sleeps; the date stays.
     void pauseBackupSchedule();
-    /// The wall clock was set back. After a large step the dates that have fired already count again.
-    void clockWasSetBack(std::chrono::milliseconds step);
+    /// The wall clock was set by so much, negative for back. After a large step back the dates that have fired already
+    /// count again.
+    void clockWasSet(std::chrono::milliseconds step);
     /// What becomes of the next start.
     startdecision::Decision startDecision(startdecision::Occasion occasion, bool isMarkedAsMissed) const;
     /// Tells the program to start a backup, and plans the one after it.

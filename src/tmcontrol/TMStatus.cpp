@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace quillon::backupphase {
 
@@ -13,46 +14,47 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Phase {
-    QLatin1StringView raw;
-    QLatin1StringView phrase;
-    const char* key;
+// The raw words are the system tool's; several of them are one step to a user.
+constexpr std::array phrases = {
+    std::pair{""_L1, "N/A"_L1},
+    std::pair{"FindingBackupVol"_L1, "Looking For Backup Disk"_L1},
+    std::pair{"MountingBackupVol"_L1, "Connecting To Backup Disk"_L1},
+    std::pair{"MountingDiskImage"_L1, "Connecting To Backup Disk"_L1},
+    std::pair{"ThinningPreBackup"_L1, "Preparing Backup"_L1},
+    std::pair{"PreparingSourceVolumes"_L1, "Preparing Backup"_L1},
+    std::pair{"FindingChanges"_L1, "Preparing Backup"_L1},
+    std::pair{"ThinningPostBackup"_L1, "Cleaning Up"_L1},
+    std::pair{"MountingBackupVolForHealthCheck"_L1, "Performing Health Check"_L1},
+    std::pair{"HealthCheckCopyHFSMeta"_L1, "Performing Health Check"_L1},
+    std::pair{"HealthCheckFsck"_L1, "Performing Health Check"_L1},
 };
 
-// The raw words are the system tool's; several of them are one step to a user.
-constexpr std::array phases = {
-    Phase{""_L1, "N/A"_L1, "notAvailableAbbreviation"},
-    Phase{"Starting"_L1, "Starting"_L1, "tmPhaseStarting"},
-    Phase{"FindingBackupVol"_L1, "Looking For Backup Disk"_L1, "tmPhaseLookingForDisk"},
-    Phase{"MountingBackupVol"_L1, "Connecting To Backup Disk"_L1, "tmPhaseConnectingToDisk"},
-    Phase{"MountingDiskImage"_L1, "Connecting To Backup Disk"_L1, "tmPhaseConnectingToDisk"},
-    Phase{"ThinningPreBackup"_L1, "Preparing Backup"_L1, "tmPhasePreparingBackup"},
-    Phase{"PreparingSourceVolumes"_L1, "Preparing Backup"_L1, "tmPhasePreparingBackup"},
-    Phase{"FindingChanges"_L1, "Preparing Backup"_L1, "tmPhasePreparingBackup"},
-    Phase{"Copying"_L1, "Copying"_L1, "tmPhaseCopying"},
-    Phase{"ThinningPostBackup"_L1, "Cleaning Up"_L1, "tmPhaseCleaningUp"},
-    Phase{"MountingBackupVolForHealthCheck"_L1, "Performing Health Check"_L1, "tmPhaseHealthCheck"},
-    Phase{"HealthCheckCopyHFSMeta"_L1, "Performing Health Check"_L1, "tmPhaseHealthCheck"},
-    Phase{"HealthCheckFsck"_L1, "Performing Health Check"_L1, "tmPhaseHealthCheck"},
-    Phase{"Finishing"_L1, "Finishing"_L1, "tmPhaseFinishing"},
-    Phase{"Not Running"_L1, "Not Running"_L1, "tmPhaseDefault"},
-    Phase{"Unknown"_L1, "Unknown"_L1, "tmPhaseUnknown"},
+constexpr std::array keys = {
+    std::pair{"N/A"_L1, "notAvailableAbbreviation"},
+    std::pair{"Starting"_L1, "tmPhaseStarting"},
+    std::pair{"Looking For Backup Disk"_L1, "tmPhaseLookingForDisk"},
+    std::pair{"Connecting To Backup Disk"_L1, "tmPhaseConnectingToDisk"},
+    std::pair{"Preparing Backup"_L1, "tmPhasePreparingBackup"},
+    std::pair{"Copying"_L1, "tmPhaseCopying"},
+    std::pair{"Cleaning Up"_L1, "tmPhaseCleaningUp"},
+    std::pair{"Performing Health Check"_L1, "tmPhaseHealthCheck"},
+    std::pair{"Finishing"_L1, "tmPhaseFinishing"},
+    std::pair{"Not Running"_L1, "tmPhaseDefault"},
+    std::pair{"Unknown"_L1, "tmPhaseUnknown"},
 };
 
 } // namespace
 
 QString phrase(const QString& rawPhase)
 {
-    const auto found =
-        std::find_if(phases.begin(), phases.end(), [&](const Phase& phase) { return rawPhase == phase.raw; });
-    return found == phases.end() ? rawPhase : QString(found->phrase);
+    const auto found = std::ranges::find(phrases, rawPhase, &decltype(phrases)::value_type::first);
+    return found == phrases.end() ? rawPhase : QString(found->second);
 }
 
 const char* localizationKey(const QString& phrase)
 {
-    const auto found =
-        std::find_if(phases.begin(), phases.end(), [&](const Phase& phase) { return phrase == phase.phrase; });
-    return found == phases.end() ? nullptr : found->key;
+    const auto found = std::ranges::find(keys, phrase, &decltype(keys)::value_type::first);
+    return found == keys.end() ? nullptr : found->second;
 }
 
 } // namespace quillon::backupphase

@@ -41,6 +41,7 @@ TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
     EXPECT_EQ(row(menu().backupNowMenuItem), u"Skip This Backup"_s);
     for (const bool enabled : {false, true}) {
         controller->enableMenuButtons(enabled);
+        wait(20); // and it stays so
         EXPECT_EQ(menu().backupNowMenuItem->isEnabled(), enabled);
         EXPECT_EQ(menu().preferencesMenuItem->isEnabled(), enabled);
     }

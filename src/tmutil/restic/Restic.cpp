@@ -39,7 +39,7 @@ constexpr auto lockInterval = 1s;
 
 QStringList searchPath()
 {
-    return {u"/usr/local/bin"_s, u"/usr/bin"_s, u"/bin"_s};
+    return u"" QUILLON_RESTIC_FOLDERS ""_s.split(u':');
 }
 
 /// Runs in the child, between fork and exec.

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isLetterOrDigit(QChar c)
+bool isBareCharacter(QChar c)
 {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9');
 }
@@ -131,7 +131,7 @@ bool OldStylePropertyListWriter::writeString(const QString& string)
 {
     if (!string.isValidUtf16())
         return false;
-    if (!string.isEmpty() && std::all_of(string.begin(), string.end(), isLetterOrDigit)) {
+    if (!string.isEmpty() && std::all_of(string.begin(), string.end(), isBareCharacter)) {
         text_.append(string.toLatin1());
         return true;
     }
