@@ -114,7 +114,7 @@ void AboutViewController::arrangeForFont()
     constexpr qreal larger = 1.6;
     heading.setPointSizeF(font().pointSizeF() * larger);
     ui_->nameLabel->setFont(heading);
-    constexpr int lineDigits = 54; // and not average characters, which are ideographs in fonts that have them
+    constexpr int lineDigits = 54; // in a font that has ideographs the average character is as wide as one of them
     for (QLabel* text : {ui_->supportDetailsLabel, ui_->creditsLabel, ui_->privacyPolicyLabel})
         text->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * lineDigits);
 }

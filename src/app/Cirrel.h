@@ -19,8 +19,7 @@ namespace quillon {
 /// named events.
 ///
 /// One for the whole process; there are no objects of this class. Completions may be empty; they are called once at
-/// most, on the main thread. Every failure reaches them as an error: of errorDomain(), of the HTTP client or of the
-/// JSON reader.
+/// most. Every failure reaches them as an error: of errorDomain(), of the HTTP client or of the JSON reader.
 class Cirrel {
 public:
     /// What the client stands on. Main makes one; while there is none the client is not initialised. Requests that are

@@ -12,8 +12,8 @@
 
 namespace quillon {
 
-/// What `quillonctl doctor` has found out. It holds nothing that a user would not want to publish: no path below the
-/// home folder but with ~ for it, no name of a file or folder that is backed up, no key.
+/// What `quillonctl doctor` has found out. It is fit to be published: paths have ~ for the home folder, and names of
+/// files and folders that are backed up are left out, as are keys.
 struct Diagnosis {
     /// How the tool answered one of its reading commands.
     struct Answer {

@@ -240,7 +240,7 @@ void Doctor::examineDisks(Diagnosis& found, const ToolAnswer& answer) const
     const auto details = detailsIn(answer.output);
     for (const auto& disk : disks.value_or(QList<BackupDestination>())) {
         const QVariantMap detail = details.value(disk.id);
-        // The disk may have backups that this program has not seen; nothing is less than any date.
+        // The disk may have backups that this program has not seen. An empty optional compares as less than any date.
         std::optional<Date> latest = dateIn(detail, u"LastBackup"_s);
         if (const auto record = records.find(disk.id); record != records.end()) {
             latest = std::max(latest, record->date());

@@ -37,7 +37,7 @@ void RunProgress::update(const TMStatus& status, Date now)
 
 namespace {
 
-// A run that has not been reported for so long is not about to be.
+// A run that follows a start is reported sooner than that.
 constexpr std::chrono::minutes closelyWatchedStart{1};
 
 /// A start that was accepted takes a while to show. A command has to know what is true: the run may have come and gone.

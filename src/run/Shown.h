@@ -44,7 +44,7 @@ struct ItemTitle {
 /// Nothing where it stays as it is.
 std::optional<ItemTitle> itemTitle(const Snapshot& snapshot);
 
-/// The icon that no run is shown by; nothing where it stays as it is.
+/// The icon between runs; nothing where it stays as it is.
 std::optional<MenuBarIconState> idleIcon(const Snapshot& snapshot);
 /// Whether a new icon replaces the current one: an idle one replaces no mark of a failure or of a missed schedule.
 bool iconReplaces(MenuBarIconState wanted, MenuBarIconState current);
@@ -58,7 +58,7 @@ struct Menu {
     bool skipRetryIsShown = false;
     QString backupNow;
     bool backupNowIsEnabled = true;
-    bool offersToStop = false;   ///< the items that a run leaves no use for have no submenus
+    bool offersToStop = false;   ///< the disks' submenus are withdrawn then
     bool disksAreEnabled = true; ///< the entries of the backup-now item's submenu
     bool updateIsShown = false;
 

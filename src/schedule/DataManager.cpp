@@ -100,7 +100,7 @@ void DataManager::saveAndBackupCalendarIntervalSettings()
     defaults_.setObject(settingskeys::calendarIntervals,
                         CalendarIntervalRule::listToArray(calendarIntervalSettings_, foreignEntries_));
     const auto next = getNextBackupDate();
-    // Without rules there is nothing that could come before the retry, so it is kept.
+    // Without rules the retry is the next start.
     if (retryBackupDate_ && (!next || *retryBackupDate_ <= *next)) {
         setNextScheduledBackupDate(retryBackupDate_);
         return;
@@ -121,7 +121,7 @@ void DataManager::recordLatestBackup(const QString& diskIdentifier, const QStrin
     info.setTotalBytes(totalBytes);
     info.setDate(date);
     if (!isNew) {
-        // Nothing is less than any date, so a record without one comes last.
+        // An empty optional compares as less than any date, so a record without one comes last.
         std::stable_sort(latestBackupInfo_.begin(), latestBackupInfo_.end(),
                          [](const BackupInfo& a, const BackupInfo& b) { return a.date() > b.date(); });
     }

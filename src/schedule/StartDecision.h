@@ -30,9 +30,9 @@ struct Situation {
     bool isMarkedAsMissed = false; ///< an earlier start was missed, and no backup has come since
 };
 
-/// How late a start is still made. A retry is never too late: it is there because a start was missed.
-/// Nothing counts as missed ahead of a first backup. A mark of an earlier miss earns a fresh retry at each wake-up;
-/// setting a clock is no reason to give a retry up.
+/// While the system is awake a start is made up to a minute after its date, and a retry however late its timer runs.
+/// Nothing counts as missed ahead of a first backup. A mark of an earlier miss earns a fresh retry at each wake-up; a
+/// retry outlives a clock that is set.
 Decision decide(Occasion occasion, const Situation& situation);
 
 } // namespace quillon::startdecision

@@ -55,7 +55,7 @@ enum class MenuBarIconState : std::int64_t {
     Completed = 3, ///< a run ended, completed or stopped by the user
     UpdateAvailable = 4,
     Failed = 5,         ///< a run ended without completing and without a user's stop
-    MissedSchedule = 6, ///< a scheduled backup was found missed on wake
+    MissedSchedule = 6, ///< a scheduled backup was missed
 };
 
 } // namespace quillon
@@ -68,7 +68,7 @@ using namespace Qt::StringLiterals;
 /// The next scheduled date is reached: a backup is to be started.
 inline const QString scheduledBackupShouldStart = u"scheduledBackupShouldStartNotification"_s;
 
-/// The start timer found its date past by a minute or more: the start counts as missed.
+/// The start timer ran a minute or more after its date: what becomes of the start is to be decided.
 inline const QString scheduledBackupFoundLate = u"scheduledBackupFoundLateNotification"_s;
 
 /// A setting that the menu bar shows has changed.

@@ -78,7 +78,7 @@ void CalendarIntervalTable::scrollRowToVisible(int row)
     ensureWidgetVisible(viewAtRow(row), 0, 0);
 }
 
-/// Of a row that never was shown where there is none: the table keeps its size when the last rule goes.
+/// Without rows that of a new one: the table keeps its size when the last rule goes.
 QSize CalendarIntervalTable::sizeOfRow() const
 {
     if (!rows_.isEmpty())

@@ -30,7 +30,8 @@ struct SetupAdvice;
 /// The settings panel. Every control acts and is stored the moment the user changes it; there is nothing to apply or to
 /// cancel.
 ///
-/// One file per concern: _schedule (rules, interval, next backup), _options (retry, menu bar, disks, log-in), _alerts.
+/// What its two pages and its options show and take is in SettingsViewController_pages.cpp; the rest, alerts included,
+/// in SettingsViewController.cpp.
 class SettingsViewController final : public QWidget {
     Q_OBJECT
 

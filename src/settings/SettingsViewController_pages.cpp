@@ -38,7 +38,7 @@ void SettingsViewController::connectScheduleControls()
             value <= ui_->scheduleIntervalValueStepper->maximum())
             scheduleIntervalValueDidChange(value);
     });
-    // What was typed last may have been no such number.
+    // What was typed last may lie outside of the range.
     connect(ui_->scheduleIntervalValueTextField, &QLineEdit::editingFinished, this,
             &SettingsViewController::updateScheduleIntervalValueControls);
 }

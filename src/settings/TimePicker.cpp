@@ -89,7 +89,7 @@ QSize Stepper::minimumSizeHint() const
     return sizeHint();
 }
 
-/// What is left of the arrows lies outside.
+/// The text field, to the left of the arrows, is drawn outside of the widget.
 void Stepper::paintEvent(QPaintEvent* /*event*/)
 {
     QStylePainter painter(this);

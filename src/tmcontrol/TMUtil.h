@@ -10,9 +10,8 @@ namespace quillon {
 
 /// Time Machine control: reads what Time Machine does, starts and stops backups, opens its settings.
 ///
-/// Nothing here blocks; results travel in handlers, which are called on the main thread. A request that fails may be
-/// reported twice: once for the tool's exit status and once by the parser of its output. It lives as long as the
-/// program: answers still under way refer to it.
+/// Results travel in handlers. A request that fails may be reported twice: once for the tool's exit status and once by
+/// the parser of its output. It lives as long as the program: answers still under way refer to it.
 class TMUtil {
 public:
     TMUtil(TMUtilQueue& queue, TimeMachineSettings& settings);

@@ -44,8 +44,7 @@ public:
     virtual ~FormPoster() = default;
 
     /// Returns at once. A connection that breaks ahead of any answer is tried again, so the form may arrive more than
-    /// once. The completion is called exactly once, in a later turn, on the main thread; never when this
-    /// object is destroyed before.
+    /// once. The completion is called exactly once, in a later turn; never when this object is destroyed before.
     virtual void post(const FormRequest& request, Completion completion) = 0;
 };
 

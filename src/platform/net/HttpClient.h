@@ -58,7 +58,7 @@ private:
 ///
 /// Redirects are followed within one host, never to plain HTTP. An answer longer than maximumAnswer is an error. Codes
 /// of errors are those of QNetworkReply::NetworkError. Any number of requests may be under way. A proxy is the one
-/// that the environment names, see EnvironmentProxy.h; a desktop's own setting is not asked, since Qt waits for the
+/// that the environment names, see environmentProxy(); a desktop's own setting is not asked, since Qt waits for the
 /// answer.
 class HttpClient final : public QObject, public FormPoster {
     Q_OBJECT

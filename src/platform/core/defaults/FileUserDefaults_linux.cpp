@@ -75,7 +75,8 @@ FileUserDefaults::FileUserDefaults(const QString& path, DefaultsAccess access, R
 
 FileUserDefaults::~FileUserDefaults()
 {
-    // Without the lock at worst a change that another program makes in this very instant is lost, not ours for certain.
+    // Written without the lock, this may undo a change that another program makes at this very instant; unwritten, ours
+    // would be lost for certain.
     if (!unsaved_.isEmpty())
         write();
 }

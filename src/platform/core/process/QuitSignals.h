@@ -7,7 +7,7 @@
 namespace quillon {
 
 /// Makes the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) an orderly quit of the application. One object
-/// per program, on the main thread, for as long as the event loop runs.
+/// per program, for as long as the event loop runs.
 class QuitSignals {
 public:
     QuitSignals();

@@ -23,7 +23,7 @@ struct TaskRequest {
     bool captureOutput = true;
     /// Standard error is collected, for a program that shows what the child complains of.
     bool captureErrors = false;
-    /// Takes standard output as it comes, which is then neither collected nor bounded; called on the main thread.
+    /// Takes standard output as it comes, which is then neither collected nor bounded.
     std::function<void(const QByteArray& bytes)> takeOutput = {};
 };
 
@@ -64,8 +64,8 @@ public:
     TaskLauncher& operator=(const TaskLauncher&) = delete;
     virtual ~TaskLauncher() = default;
 
-    /// Starts the child and returns at once. The completion is called exactly once, in a later turn, on the main
-    /// thread, also when the launch was refused.
+    /// Starts the child and returns at once. The completion is called exactly once, in a later turn, also when the
+    /// launch was refused.
     [[nodiscard]] virtual std::unique_ptr<RunningTask> launch(const TaskRequest& request, Completion completion) = 0;
 };
 

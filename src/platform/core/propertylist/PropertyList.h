@@ -35,8 +35,7 @@ std::optional<QVariant> parse(const QByteArray& bytes, ParseError* error = nullp
 /// Reads the old-style text format only.
 std::optional<QVariant> parseOldStyle(QByteArrayView bytes, ParseError* error = nullptr);
 
-/// Both give nothing when a value is of a kind that property lists do not have. XML has no fractions of a second: they
-/// are cut off.
+/// Both give nothing for a value that the format cannot hold. XML has no fractions of a second: they are cut off.
 std::optional<QByteArray> toXml(const QVariant& value);
 std::optional<QByteArray> toBinary(const QVariant& value);
 

@@ -38,7 +38,7 @@ using OwnPrograms = QMap<QUrl, QString>;
 /// Programs, by their paths, that stand for applications that a desktop does not have.
 using OwnApplications = QMap<QString, QString>;
 
-/// What a desktop on Linux has to be told; macOS has a program for every address and asks nobody why sleep waits.
+/// What a desktop on Linux has to be told; macOS has a program for every address and tells no user why sleep waits.
 struct WorkspaceNeeds {
     OwnPrograms ownPrograms;
     OwnApplications ownApplications = {};

@@ -93,7 +93,7 @@ std::unique_ptr<icu::TimeZone> fixedZone(Date date)
     return std::make_unique<icu::SimpleTimeZone>(Calendar().offsetFromUtc(date) * 1000, icu::UnicodeString());
 }
 
-/// Nothing where the pattern is none.
+/// Null where ICU cannot read the pattern.
 std::unique_ptr<icu::SimpleDateFormat> patternFormat(const QString& pattern)
 {
     keepIcuFromSearchingTheHostsZone();
@@ -102,7 +102,7 @@ std::unique_ptr<icu::SimpleDateFormat> patternFormat(const QString& pattern)
     return U_SUCCESS(status) ? std::move(format) : nullptr;
 }
 
-/// Nothing where both styles are None.
+/// Null where both styles are None.
 std::unique_ptr<icu::DateFormat> styledFormat(DateFormatterStyle dateStyle, DateFormatterStyle timeStyle)
 {
     if (dateStyle == DateFormatterStyle::None && timeStyle == DateFormatterStyle::None)

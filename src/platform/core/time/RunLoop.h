@@ -47,10 +47,10 @@ private:
 /// The rules for timers live here, so that the real run loop and the virtual one of the tests share them; what differs
 /// is the clock and the way of being woken.
 ///
-/// - A one-shot timer is due when its time on the uptime clock has come, and its block runs only once now() is later
-///   than its date by at least 1 ms: whoever looks for "the next date that is not earlier than now" inside the block
-///   cannot find the same date again. A wall clock that jumps forward does not make a timer run early; noticing
-///   jumps is ClockWatch's business.
+/// - A timer for a date is due when its time on the uptime clock has come, and its block runs only once now() is later
+///   than its date by at least 1 ms: whoever looks for "the next date from now on" inside the block finds a later one.
+///   A wall clock that jumps forward does not make a timer run early; who plans by dates holds now() against uptime()
+///   to notice jumps.
 /// - The other timers follow the uptime clock alone, so that no step of the wall clock stalls them. A tick of a
 ///   repeating one that was missed is made up once, not once for every period.
 class RunLoop {

@@ -67,7 +67,7 @@ void AlertText::fitToText()
 {
     const std::unique_ptr<QTextDocument> measured(document()->clone());
     measured->setDefaultFont(font());
-    // Not the average character: that is as wide as an ideograph in a font that has them.
+    // Counted in digits: in a font that has ideographs the average character is as wide as one of them.
     const int column = fontMetrics().horizontalAdvance(u'0') * columnDigits;
     measured->setTextWidth(column);
     int width = std::min(column, static_cast<int>(std::ceil(measured->idealWidth())));

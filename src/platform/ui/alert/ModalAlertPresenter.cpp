@@ -77,7 +77,7 @@ void AlertWindow::reject()
 
 void AlertWindow::closeEvent(QCloseEvent* event)
 {
-    // The program's end closes every window, and that is no spontaneous event: what nobody has read is not answered.
+    // The program's end closes every window too, by an event that is not spontaneous: it answers nothing for the user.
     if (event->spontaneous())
         QDialog::closeEvent(event);
 }

@@ -31,7 +31,7 @@ QRect pointerOrCorner()
     return primary ? QRect(primary->availableGeometry().topRight(), QSize(1, 1)) : QRect();
 }
 
-/// Of where the user has put it away: a window cannot be seen whose owner cannot.
+/// Brings back a window that the user has put away: a popover is hidden with the window that it belongs to.
 void takeOut(QWidget& window)
 {
     if (window.isMinimized())

@@ -18,7 +18,7 @@ struct xcb_connection_t;
 namespace quillon {
 
 /// What a host is told of the item, but for the pixels of its icon. A host that finds an icon by its name looks at no
-/// pixels: one that shows a colour or a progress has none.
+/// pixels: the name stays empty where the icon shows a colour or a progress.
 /// @param share where `icons/` lies that the program was installed with
 NotifierContent notifierContent(const StatusItemContent& content, const QDir& share);
 
