@@ -178,6 +178,11 @@ TEST_F(BrowseWindowTest, AFolderOnTheCommandLineIsShownFromInside)
     open(u"/home"_s);
     EXPECT_EQ(path(), u"/home"_s);
     EXPECT_EQ(rows().size(), 2);
+    chooseBackup(1);
+    window_->lookAt(u"/home/a.txt"_s);
+    runLoop_.advance(1s);
+    EXPECT_EQ(rows().size(), 2) << "as the newest has it";
+    EXPECT_EQ(files()->currentIndex().row(), 1);
 }
 
 TEST_F(BrowseWindowTest, SaysWhatToDoWhereThereIsNothingToLookInto)

@@ -26,6 +26,8 @@ namespace {
 using namespace quillon;
 using namespace Qt::StringLiterals;
 
+constexpr auto show = "show"; // what a second start asks of the first
+
 int runWindow(const SingleInstance& instance, const QString& wanted)
 {
     QtRunLoop runLoop;
@@ -42,11 +44,17 @@ int runWindow(const SingleInstance& instance, const QString& wanted)
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
     BrowseWindow window({launcher, runLoop, alerts, tmutilPath()}, workspace,
                         {.cache = cache + "/quillon-browse"_L1, .wanted = wanted});
-    QObject::connect(&instance, &SingleInstance::presentRequested, &window, [&window] {
+    const auto present = [&window] {
         window.showNormal();
         window.raise();
         window.activateWindow();
-    });
+    };
+    QObject::connect(&instance, &SingleInstance::presentRequested, &window, present);
+    QObject::connect(&instance, &SingleInstance::requested, &window,
+                     [&window, present](const QByteArray& /*show*/, const QString& path) {
+                         present();
+                         window.lookAt(path);
+                     });
     window.show();
     return QApplication::exec();
 }
@@ -79,11 +87,12 @@ int main(int argc, char** argv)
     const QString wanted =
         paths.isEmpty() ? QString() : QDir::cleanPath(QDir::current().absoluteFilePath(paths.first()));
 
-    // A second start brings the first window to the front.
+    // A second start brings the first window to the front, and has it show the path.
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                            "/quillon-browse/instance"_L1);
+                                "/quillon-browse/instance"_L1,
+                            {show});
     if (!instance.acquire()) {
-        if (instance.askFirstToPresent())
+        if (wanted.isEmpty() ? instance.askFirstToPresent() : instance.askFirst(show, wanted))
             return 0;
         if (!instance.acquire()) {
             std::fputs(u"quillon-browse: %1\n"_s.arg(instance.errorString()).toLocal8Bit().constData(), stderr);

@@ -281,13 +281,28 @@ void BrowseWindow::showBackups()
     if (!first)
         return browser_.refresh();
     filesPane_->takeKeyboard();
-    if (!wanted_.isEmpty()) {
-        browser_.openFolder(folderAround(wanted_), wanted_);
-        versions_->want(wanted_);
-    }
+    openWanted();
+}
+
+void BrowseWindow::lookAt(const QString& path)
+{
+    wanted_ = path;
+    if (!browser_.current())
+        return; // it is shown with the first backups
+    timeline_->choose(backups_.front().name);
+    filesPane_->takeKeyboard();
+    openWanted();
 }
 
 /// What the command line names is shown where it lies, a folder from inside.
+void BrowseWindow::openWanted()
+{
+    if (wanted_.isEmpty())
+        return;
+    browser_.openFolder(folderAround(wanted_), wanted_);
+    versions_->want(wanted_);
+}
+
 void BrowseWindow::openIfWanted(const QString& path)
 {
     if (path.isEmpty() || path != wanted_)

@@ -38,6 +38,9 @@ public:
     /// Services and workspace must outlive this object.
     BrowseWindow(const Setup::Services& services, Workspace& workspace, const Places& places);
 
+    /// Shows an absolute path as the newest backup has it.
+    void lookAt(const QString& path);
+
 private:
     QWidget* makeSearchRow();
     QWidget* makePanes();
@@ -52,6 +55,7 @@ private:
     void takeBackups(const TmutilAnswer& answer);
     void showTrouble(const QString& complaint);
     void showBackups();
+    void openWanted();
     void openIfWanted(const QString& path);
     void showMove();
     void open(int row);

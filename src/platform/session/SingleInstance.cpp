@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QUrl>
 
 #include <chrono>
 
@@ -25,7 +26,7 @@ constexpr auto patience = 2s;
 constexpr auto pauseBetweenTries = 20ms;
 
 constexpr auto present = "present";
-constexpr qint64 longestRequest = 64;
+constexpr qint64 longestRequest = qint64{16} * 1024; // with a path of 4096 bytes, three characters each
 constexpr qint64 longestToken = 512;
 constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
 constexpr QByteArrayView confirmation("presenting\n");
@@ -141,7 +142,10 @@ void SingleInstance::answer(QLocalSocket& client)
 {
     if (!client.canReadLine() && client.bytesAvailable() < longestRequest)
         return;
-    const QByteArray request = client.readLine(longestRequest).trimmed();
+    const QByteArray line = client.readLine(longestRequest).trimmed();
+    const qsizetype end = line.indexOf(' ');
+    const QByteArray request = line.first(end < 0 ? line.size() : end);
+    const QString subject = QUrl::fromPercentEncoding(line.mid(request.size() + 1));
     const QByteArray token = client.canReadLine() ? client.readLine(longestToken).trimmed() : QByteArray();
     if (request != present && !requests_.contains(request)) {
         client.abort();
@@ -155,7 +159,7 @@ void SingleInstance::answer(QLocalSocket& client)
     if (request == present)
         Q_EMIT presentRequested();
     else
-        Q_EMIT requested(request);
+        Q_EMIT requested(request, subject);
 }
 
 bool SingleInstance::askFirstToPresent()
@@ -163,10 +167,11 @@ bool SingleInstance::askFirstToPresent()
     return askFirst(present);
 }
 
-bool SingleInstance::askFirst(const QByteArray& request)
+bool SingleInstance::askFirst(const QByteArray& request, const QString& subject)
 {
     const QDeadlineTimer deadline(patience);
-    while (!ask(request, deadline)) {
+    const QByteArray line = subject.isEmpty() ? request : request + ' ' + QUrl::toPercentEncoding(subject);
+    while (!ask(line, deadline)) {
         if (deadline.hasExpired())
             return false;
         QThread::msleep(pauseBetweenTries.count());

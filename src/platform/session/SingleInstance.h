@@ -49,8 +49,8 @@ public:
     /// seconds at most and is meant for start-up, ahead of the event loop. After a false the first instance may just
     /// have ended: acquire() is worth another try.
     [[nodiscard]] bool askFirstToPresent();
-    /// The same for any request, which the first instance has to know.
-    [[nodiscard]] bool askFirst(const QByteArray& request);
+    /// The same for any request, which the first instance has to know, with what it is about: a path, for example.
+    [[nodiscard]] bool askFirst(const QByteArray& request, const QString& subject = {});
 
     /// Why the last acquire() returned false: one line in English.
     QString errorString() const { return errorString_; }
@@ -59,7 +59,7 @@ Q_SIGNALS:
     /// Another start on the same file, or of the same application, asks this one to come to the front.
     void presentRequested();
     /// The same for one of the requests that the constructor was given.
-    void requested(const QByteArray& request);
+    void requested(const QByteArray& request, const QString& subject);
 
 private:
     FileLock::Outcome claim();

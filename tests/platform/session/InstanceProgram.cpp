@@ -24,13 +24,16 @@ int main(int argc, char** argv)
     quillon::SingleInstance instance(application.arguments().value(1) + QStringLiteral("/instance"), {"back-up-now"});
     const QByteArray request = application.arguments().value(2, u"present"_s).toUtf8();
     if (!instance.acquire()) {
-        say(instance.askFirst(request) ? u"presented"_s : u"refused: "_s + instance.errorString());
+        say(instance.askFirst(request, application.arguments().value(3)) ? u"presented"_s
+                                                                         : u"refused: "_s + instance.errorString());
         return 0;
     }
     QObject::connect(&instance, &quillon::SingleInstance::presentRequested,
                      [] { say((u"present "_s + qEnvironmentVariable("XDG_ACTIVATION_TOKEN")).trimmed()); });
     QObject::connect(&instance, &quillon::SingleInstance::requested,
-                     [](const QByteArray& wanted) { say(QString::fromUtf8(wanted)); });
+                     [](const QByteArray& wanted, const QString& subject) {
+                         say((QString::fromUtf8(wanted) + u' ' + subject).trimmed());
+                     });
     say(u"first"_s);
     return QCoreApplication::exec();
 }

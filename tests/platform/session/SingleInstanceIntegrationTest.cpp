@@ -44,6 +44,9 @@ TEST_F(SingleInstanceIntegrationTest, LaterStartsHaveTheFirstDoWhatTheyAreForAnd
     ASSERT_EQ(first.readLine(), u"first"_s);
     EXPECT_EQ(Instance(folder, {u"back-up-now"_s}).readLine(), u"presented"_s);
     EXPECT_EQ(first.readLine(), u"back-up-now"_s);
+    const QString path = u"/"_s + QString(2000, u'ä') + u" b"_s;
+    EXPECT_EQ(Instance(folder, {u"back-up-now"_s, path}).readLine(), u"presented"_s);
+    EXPECT_EQ(first.readLine(), u"back-up-now "_s + path);
     EXPECT_EQ(Instance(folder, {u"erase-everything"_s}).readLine(), refusal);
     // A start from elsewhere (cron, another login) has another environment and means the same folder.
     const ScopedEnvironment elsewhere("XDG_RUNTIME_DIR", QFile::encodeName(settings.path()));
