@@ -19,7 +19,7 @@ class Browsing(installation.InstalledProgramsTest):
         self.press("Return", "push button", "Keep Both")
         self.press("Return", "push button", "Close")
         self.press("Return", "tree", "Files in the backup")
-        self.screen.press("ctrl+w")
+        window.terminate()
         self.assertEqual(window.wait(PATIENCE), 0)
 
         beside, = self.letter.parent.glob("letter (restored *).txt")
