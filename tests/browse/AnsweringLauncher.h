@@ -13,6 +13,7 @@ public:
     using VirtualLauncher::VirtualLauncher;
 
     std::map<QString, QByteArray> answers; ///< by the arguments, joined with blanks
+    QString hanging;                       ///< a call that never ends
     std::function<void(const QStringList& arguments)> effect;
 
     /// The last call of that command, as in `answers`.
@@ -35,6 +36,8 @@ protected:
         TmutilScript::Call call;
         call.status = answer == answers.end() ? 1 : 0;
         call.output = answer == answers.end() ? QByteArray() : answer->second;
+        if (request.arguments.join(u' ') == hanging)
+            call.fault = TmutilScript::Fault::Hang;
         return call;
     }
 };

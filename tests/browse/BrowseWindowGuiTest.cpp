@@ -29,14 +29,14 @@ namespace {
 
 constexpr auto plistHead = R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0">)";
 
-QByteArray file(const char* path, int size)
+QByteArray file(const QByteArray& path, int size)
 {
-    return R"({"path":")" + QByteArray(path) + R"(","type":"file","size":)" + QByteArray::number(size) + "}\n";
+    return R"({"path":")" + path + R"(","type":"file","size":)" + QByteArray::number(size) + "}\n";
 }
 
-QByteArray folder(const char* path)
+QByteArray folder(const QByteArray& path)
 {
-    return R"({"path":")" + QByteArray(path) + R"(","type":"folder"})" + '\n';
+    return R"({"path":")" + path + R"(","type":"folder"})" + '\n';
 }
 
 /// The window over two backups: in the older one a file has other contents, and one is there that was deleted.
@@ -148,6 +148,38 @@ TEST_F(BrowseWindowTest, IsUsedWithTheKeyboardAlone)
     runLoop_.advance(1s);
     EXPECT_EQ(rows(), QStringList({u"sub, Folder"_s, u"a.txt"_s}));
     EXPECT_EQ(files()->currentIndex().row(), 1);
+}
+
+TEST_F(BrowseWindowTest, GivesUpAListingThatHangsAndTriesAgain)
+{
+    launcher_.hanging = u"listfiles --json -- /b/21/home"_s;
+    open(u"/home/a.txt"_s);
+    files()->setFocus();
+    EXPECT_FALSE(find<QPushButton>("readAgain")->isVisible());
+    runLoop_.advance(5min);
+    EXPECT_EQ(launcher_.liveChildren(), 0);
+    ASSERT_TRUE(find<QPushButton>("readAgain")->hasFocus());
+    launcher_.hanging.clear();
+    press("readAgain");
+    EXPECT_EQ(rows().size(), 2);
+    EXPECT_FALSE(find<QPushButton>("readAgain")->isVisible());
+    EXPECT_TRUE(files()->hasFocus());
+}
+
+TEST_F(BrowseWindowTest, NamesThatPretendAreShownOnOneLineInTheirOrderAndOpenedAsTheyAre)
+{
+    const QString name = u"/home/a\nb\u202etxt.exe"_s;
+    const QByteArray told = R"(/home/a\nb\u202etxt.exe)";
+    launcher_.answers[u"listfiles --json -- /b/21/home"_s] = folder(told);
+    launcher_.answers["listfiles --json -- /b/21"_L1 + name] = file(told + "/c", 1);
+    open(u"/home"_s);
+    EXPECT_EQ(rows(), QStringList(u"a btxt.exe, Folder"_s));
+    key(Qt::Key_Return);
+    EXPECT_EQ(path(), u"/home/a btxt.exe"_s);
+    EXPECT_EQ(rows(), QStringList(u"c"_s));
+    window_->findChild<QLineEdit*>(u"path"_s)->setFocus();
+    key(Qt::Key_Return);
+    EXPECT_EQ(rows(), QStringList(u"c"_s)) << "what was shown is not taken for the path";
 }
 
 TEST_F(BrowseWindowTest, SearchesThisBackupOrAllAndLeadsToWhatIsFound)

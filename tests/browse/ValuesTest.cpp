@@ -100,7 +100,9 @@ TEST(LinesOfFiles, AreReadAndWhatIsNoneIsTold)
     ASSERT_TRUE(link);
     EXPECT_TRUE(link->kind == FileKind::Link && link->target == u"../b"_s && link->backup == u"/m/d/h/x"_s);
     EXPECT_FALSE(link->size || link->modified);
-    for (const char* line : {"", "{", "[]", R"({"path":"a","type":"file"})", R"({"path":"/a","type":"door"})"})
+    for (const char* line : {"", "{", "[]", R"({"path":"a","type":"file"})", R"({"path":"/a","type":"door"})",
+                             R"({"path":"/a/..","type":"folder"})", R"({"path":"/a/../b","type":"file"})",
+                             R"({"path":"/a/./b","type":"file"})", R"({"path":"//a","type":"file"})"})
         EXPECT_FALSE(readFileLine(line)) << line;
 }
 

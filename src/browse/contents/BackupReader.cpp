@@ -13,6 +13,9 @@ namespace {
 // Who only passes through the timeline does not set the disk to work.
 constexpr auto pauseBeforeFilling = 1s;
 
+// A disk may have to spin up, and restic to read its index.
+constexpr auto longestSilence = 2min;
+
 constexpr qint64 toldEvery = 5000; // entries
 
 } // namespace
@@ -45,7 +48,8 @@ void BackupReader::list(const QString& folder, const FilesTaker& taker)
                                                               auto files = std::exchange(listed_, {});
                                                               sortForPeople(files);
                                                               taker(files, complaint);
-                                                          }});
+                                                          }},
+                                   longestSilence);
 }
 
 bool BackupReader::take(const QByteArray& line)
@@ -71,7 +75,8 @@ void BackupReader::startFilling()
     filling_ = std::make_unique<ToolCall>(
         services_, QStringList{u"listfiles"_s, u"-r"_s, u"--json"_s, u"--"_s, backup_.name},
         ToolCall::Handlers{.line = [this](const QByteArray& line) { return keep(line); },
-                           .ended = [this](const QString& complaint) { endFilling(complaint); }});
+                           .ended = [this](const QString& complaint) { endFilling(complaint); }},
+        longestSilence);
 }
 
 bool BackupReader::keep(const QByteArray& line)

@@ -15,9 +15,12 @@ constexpr qsizetype longestLine = qsizetype{256} * 1024;
 
 } // namespace
 
-ToolCall::ToolCall(const Setup::Services& services, const QStringList& arguments, Handlers handlers)
+ToolCall::ToolCall(const Setup::Services& services, const QStringList& arguments, Handlers handlers,
+                   std::optional<Seconds> longestSilence)
     : handlers_(std::move(handlers))
+    , runLoop_(services.runLoop)
     , executable_(services.tmutil)
+    , longestSilence_(longestSilence)
 {
     child_ = services.launcher.launch({.executable = executable_,
                                        .arguments = arguments,
@@ -25,6 +28,7 @@ ToolCall::ToolCall(const Setup::Services& services, const QStringList& arguments
                                        .captureErrors = true,
                                        .takeOutput = [this](const QByteArray& bytes) { take(bytes); }},
                                       [this](const TaskResult& result) { end(result); });
+    awaitMore();
 }
 
 ToolCall::~ToolCall()
@@ -39,8 +43,24 @@ void ToolCall::stop()
         child_->terminate();
 }
 
+void ToolCall::awaitMore()
+{
+    if (longestSilence_)
+        silence_ = runLoop_.scheduleAfter(*longestSilence_, [this] { giveUp(); });
+}
+
+/// A tool that waits for a disk may not even end when it is asked to, so that its end is not waited for.
+void ToolCall::giveUp()
+{
+    child_->terminate();
+    child_.reset();
+    const auto ended = handlers_.ended;
+    ended(localizedString("disksToolHangs"));
+}
+
 void ToolCall::take(const QByteArray& bytes)
 {
+    awaitMore();
     rest_ += bytes;
     qsizetype begin = 0;
     for (qsizetype end = rest_.indexOf('\n'); readable_ && end >= 0; end = rest_.indexOf('\n', begin)) {
@@ -59,6 +79,7 @@ void ToolCall::take(const QByteArray& bytes)
 void ToolCall::end(const TaskResult& result)
 {
     child_.reset();
+    silence_.invalidate();
     // A last line without its end is half of one.
     const bool whole = readable_ && rest_.isEmpty();
     const auto ended = handlers_.ended;

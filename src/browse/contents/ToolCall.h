@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RunLoop.h"
 #include "Setup.h"
 #include "Task.h"
 
@@ -9,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quillon {
 
@@ -25,7 +27,9 @@ public:
         std::function<void(const QString& complaint)> ended;
     };
 
-    ToolCall(const Setup::Services& services, const QStringList& arguments, Handlers handlers);
+    /// A call that tells nothing for longer than `longestSilence` is given up.
+    ToolCall(const Setup::Services& services, const QStringList& arguments, Handlers handlers,
+             std::optional<Seconds> longestSilence = {});
     ToolCall(const ToolCall&) = delete;
     ToolCall& operator=(const ToolCall&) = delete;
     ~ToolCall();
@@ -36,9 +40,14 @@ public:
 private:
     void take(const QByteArray& bytes);
     void end(const TaskResult& result);
+    void awaitMore();
+    void giveUp();
 
     Handlers handlers_;
+    RunLoop& runLoop_;
     QString executable_;
+    std::optional<Seconds> longestSilence_;
+    Timer silence_;
     QByteArray rest_; ///< of the output: a line that is not whole yet
     bool readable_ = true;
     std::unique_ptr<RunningTask> child_;

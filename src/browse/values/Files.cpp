@@ -2,6 +2,7 @@
 
 #include <QCollator>
 #include <QDateTime>
+#include <QDir>
 #include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -58,7 +59,7 @@ std::optional<FileEntry> readFileLine(const QByteArray& line)
                     .target = object["target"_L1].toString(),
                     .content = object["content"_L1].toString(),
                     .backup = object["backup"_L1].toString()};
-    if (!kind || !entry.path.startsWith(u'/'))
+    if (!kind || !entry.path.startsWith(u'/') || QDir::cleanPath(entry.path) != entry.path)
         return std::nullopt;
     if (const QJsonValue size = object["size"_L1]; size.isDouble())
         entry.size = size.toInteger();

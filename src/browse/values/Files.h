@@ -25,7 +25,8 @@ struct FileEntry {
     bool operator==(const FileEntry&) const = default;
 };
 
-/// Reads a line that tmutil's commands on files print with --json; nothing when it is none.
+/// Reads a line that tmutil's commands on files print with --json; nothing when it is none. A path has no "." or "..":
+/// it could lie elsewhere than where it is shown.
 std::optional<FileEntry> readFileLine(const QByteArray& line);
 
 /// The name of what is listed in a folder: behind the folder's path, or the whole path of what lies elsewhere.

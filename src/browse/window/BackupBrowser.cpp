@@ -156,14 +156,21 @@ void BackupBrowser::list()
 void BackupBrowser::take(std::vector<FileEntry> files, const QString& complaint)
 {
     files_ = std::move(files);
-    Q_EMIT told(complaint.isEmpty() ? localizedString("browseEmptyFolder")
-                                    : localizedString("browseReadFailed").arg(complaint));
+    tellEnd("browseEmptyFolder", complaint);
     if (!complaint.isEmpty())
         return;
     model_.showFolder(folder_, files_);
     Q_EMIT arrived(std::exchange(selected_, {}));
     askWhatBecame();
     reader_->fill([this](qint64 entries, bool done) { showFilling(entries, done); });
+}
+
+void BackupBrowser::tellEnd(const char* sentence, const QString& complaint)
+{
+    if (complaint.isEmpty())
+        Q_EMIT told(localizedString(sentence));
+    else
+        Q_EMIT told(localizedString("browseReadFailed").arg(complaint), true);
 }
 
 void BackupBrowser::askWhatBecame()
@@ -241,8 +248,7 @@ void BackupBrowser::endSearch(const QString& complaint)
 {
     searching_.reset();
     model_.append(std::exchange(found_, {}));
-    Q_EMIT told(complaint.isEmpty() ? localizedString("browseNothingFound")
-                                    : localizedString("browseReadFailed").arg(complaint));
+    tellEnd("browseNothingFound", complaint);
     Q_EMIT arrived({});
 }
 

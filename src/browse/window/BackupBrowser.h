@@ -48,8 +48,8 @@ public:
 Q_SIGNALS:
     /// Another backup or folder is shown from now on.
     void moved();
-    /// A sentence to stand where there are no rows.
-    void told(const QString& sentence);
+    /// A sentence to stand where there are no rows, and whether it says what went wrong.
+    void told(const QString& sentence, bool hasFailed = false);
     /// The rows are there; the path is to be selected, if it is among them.
     void arrived(const QString& selected);
     /// A line on what goes on behind, or nothing.
@@ -65,6 +65,7 @@ private:
     void remember();
     void list();
     void take(std::vector<FileEntry> files, const QString& complaint);
+    void tellEnd(const char* sentence, const QString& complaint);
     void askWhatBecame();
     void showFilling(qint64 entries, bool done);
     void searchKept(const QString& typed);

@@ -212,6 +212,7 @@ void BrowseWindow::connectPanes()
     });
     connect(filesPane_, &FilesPane::backAsked, &browser_, &BackupBrowser::goBack);
     connect(filesPane_, &FilesPane::upAsked, &browser_, &BackupBrowser::goUp);
+    connect(filesPane_, &FilesPane::againAsked, &browser_, &BackupBrowser::refresh);
     connect(filesPane_, &FilesPane::opened, this, &BrowseWindow::open);
     connect(filesPane_, &FilesPane::previewAsked, this, &BrowseWindow::preview);
     connect(filesPane_, &FilesPane::selectionChanged, this, &BrowseWindow::updateSelection);

@@ -1,12 +1,14 @@
 #include "FilesPane.h"
 
 #include "LocalizedString.h"
+#include "ShownText.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
 #include <QTreeView>
@@ -42,6 +44,7 @@ FilesPane::FilesPane(FilesModel& model, QWidget* parent)
     , path_(new QLineEdit)
     , view_(new QTreeView)
     , sentence_(new QLabel)
+    , again_(new QPushButton(localizedString("disksTryAgainTitle")))
 {
     back_->setObjectName(u"back"_s);
     up_->setObjectName(u"up"_s);
@@ -58,8 +61,13 @@ FilesPane::FilesPane(FilesModel& model, QWidget* parent)
     sentence_->setTextFormat(Qt::PlainText);
     sentence_->setWordWrap(true);
     sentence_->setAlignment(Qt::AlignCenter);
+    again_->setObjectName(u"readAgain"_s);
+    again_->hide();
     auto* overlay = new QVBoxLayout(view_->viewport());
+    overlay->addStretch();
     overlay->addWidget(sentence_);
+    overlay->addWidget(again_, 0, Qt::AlignHCenter);
+    overlay->addStretch();
 
     auto* row = new QHBoxLayout;
     row->addWidget(back_);
@@ -72,7 +80,9 @@ FilesPane::FilesPane(FilesModel& model, QWidget* parent)
 
     connect(back_, &QToolButton::clicked, this, &FilesPane::backAsked);
     connect(up_, &QToolButton::clicked, this, &FilesPane::upAsked);
-    connect(path_, &QLineEdit::returnPressed, this, [this] { Q_EMIT folderTyped(path_->text()); });
+    connect(again_, &QPushButton::clicked, this, &FilesPane::againAsked);
+    connect(path_, &QLineEdit::returnPressed, this,
+            [this] { Q_EMIT folderTyped(path_->isModified() ? path_->text() : folder_); });
     connect(view_, &QTreeView::activated, this, [this](const QModelIndex& index) { Q_EMIT opened(index.row()); });
     connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FilesPane::selectionChanged);
     connect(&model_, &QAbstractItemModel::modelReset, this, [this] {
@@ -99,7 +109,8 @@ void FilesPane::addKeys()
 
 void FilesPane::setFolder(const QString& folder)
 {
-    path_->setText(folder.isEmpty() ? u"/"_s : folder);
+    folder_ = folder;
+    path_->setText(folder.isEmpty() ? u"/"_s : shownLongText(folder));
     up_->setEnabled(!folder.isEmpty());
 }
 
@@ -108,9 +119,14 @@ void FilesPane::setBackEnabled(bool enabled)
     back_->setEnabled(enabled);
 }
 
-void FilesPane::tell(const QString& sentence)
+void FilesPane::tell(const QString& sentence, bool hasFailed)
 {
     sentence_->setText(sentence);
+    if (again_->hasFocus()) // or it goes elsewhere with the button
+        view_->setFocus();
+    again_->setVisible(hasFailed);
+    if (hasFailed && view_->hasFocus())
+        again_->setFocus();
     updateSentence();
 }
 

@@ -9,6 +9,7 @@
 
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QToolButton;
 class QTreeView;
 
@@ -27,7 +28,7 @@ public:
     void setFolder(const QString& folder);
     void setBackEnabled(bool enabled);
     /// Where there are no rows: what is read, or why there are none.
-    void tell(const QString& sentence);
+    void tell(const QString& sentence, bool hasFailed);
     /// Something is selected in any case, so that the keyboard has where to begin.
     void select(const QString& path);
     /// Columns have the widths that fit what is in them.
@@ -41,6 +42,7 @@ Q_SIGNALS:
     void folderTyped(const QString& folder);
     void backAsked();
     void upAsked();
+    void againAsked();
     void opened(int row);
     void previewAsked();
     void selectionChanged();
@@ -50,11 +52,13 @@ private:
     void updateSentence();
 
     FilesModel& model_;
+    QString folder_;
     QToolButton* back_;
     QToolButton* up_;
     QLineEdit* path_;
     QTreeView* view_;
     QLabel* sentence_;
+    QPushButton* again_;
 };
 
 } // namespace quillon
