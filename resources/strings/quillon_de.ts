@@ -996,6 +996,10 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Backup</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>Nach dieser Spalte sortieren (%1)</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>Geändert</translation>

@@ -996,6 +996,10 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>Backup</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>Sort by this column (%1)</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>Changed</translation>

@@ -996,6 +996,10 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>Copia</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>Ordenar por esta columna (%1)</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>Cambió</translation>

@@ -996,6 +996,10 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>Sauvegarde</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>Trier selon cette colonne (%1)</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>Modifié</translation>

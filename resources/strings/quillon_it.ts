@@ -996,6 +996,10 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>Backup</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>Ordina per questa colonna (%1)</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>Modificato</translation>

@@ -996,6 +996,10 @@
         <source></source>
         <translation>バックアップ</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>この列で並べ替え（%1）</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>変更</translation>

@@ -996,6 +996,10 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>Reservekopie</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>Sorteer op deze kolom (%1)</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>Gewijzigd</translation>

@@ -996,6 +996,10 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>Backup</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>Ordenar por esta coluna (%1)</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>Mudou</translation>

@@ -996,6 +996,10 @@
         <source></source>
         <translation>备份</translation>
     </message>
+    <message id="browseSortTip">
+        <source></source>
+        <translation>按此列排序（%1）</translation>
+    </message>
     <message id="browseChanged">
         <source></source>
         <translation>已更改</translation>

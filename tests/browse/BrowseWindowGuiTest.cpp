@@ -150,6 +150,21 @@ TEST_F(BrowseWindowTest, IsUsedWithTheKeyboardAlone)
     EXPECT_EQ(files()->currentIndex().row(), 1);
 }
 
+TEST_F(BrowseWindowTest, IsSortedByKeysAndStaysSoInOtherFolders)
+{
+    open(u"/home/a.txt"_s);
+    chooseBackup(1);
+    ASSERT_EQ(rows(), QStringList({u"sub, Folder"_s, u"a.txt, Changed"_s, u"gone.txt, Deleted"_s}));
+    files()->setCurrentIndex(files()->model()->index(1, 0));
+    key(Qt::Key_2, Qt::ControlModifier);
+    key(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(rows(), QStringList({u"sub, Folder"_s, u"gone.txt, Deleted"_s, u"a.txt, Changed"_s}));
+    EXPECT_EQ(files()->currentIndex().row(), 2) << "still the same file";
+    key(Qt::Key_Backspace);
+    key(Qt::Key_Return);
+    EXPECT_EQ(rows(), QStringList({u"sub, Folder"_s, u"gone.txt, Deleted"_s, u"a.txt, Changed"_s}));
+}
+
 TEST_F(BrowseWindowTest, GivesUpAListingThatHangsAndTriesAgain)
 {
     launcher_.hanging = u"listfiles --json -- /b/21/home"_s;

@@ -145,13 +145,30 @@ TEST(PathsInABackup, AreNamedSortedAndMatched)
     EXPECT_EQ(nameIn({}, u"/home/me"_s), u"/home/me"_s) << "a root of the backup";
     EXPECT_EQ(folderAround(u"/home/me"_s), u"/home"_s);
     EXPECT_EQ(folderAround(u"/home"_s), QString());
-    std::vector<FileEntry> files{
-        fileOf(u"/h/b"_s, 1), fileOf(u"/h/a"_s, 1), {.path = u"/h/zoo"_s, .kind = FileKind::Folder}};
-    sortForPeople(files);
-    EXPECT_EQ(files[0].path, u"/h/zoo"_s);
-    EXPECT_EQ(files[1].path, u"/h/a"_s);
     EXPECT_EQ(namePattern(u" ÄRGER "_s), (NamePattern{u"ärger"_s, false}));
     EXPECT_EQ(namePattern(u"[a]*.TXT"_s), (NamePattern{u"[[]a]*.txt"_s, true}));
+}
+
+TEST(FilesInAFolder, StandBehindTheFoldersByNameSizeOrDate)
+{
+    using By = FileOrder::By;
+    const auto at = [](FileEntry entry, int seconds) {
+        entry.modified = Date(std::chrono::seconds(seconds));
+        return entry;
+    };
+    const std::vector<FileEntry> files{
+        at(fileOf(u"/h/c"_s, 1), 2), at(fileOf(u"/h/b"_s, 7), 2), at(fileOf(u"/h/A"_s, 7), 3),
+        at({.path = u"/h/zoo"_s, .kind = FileKind::Folder}, 1), at({.path = u"/h/yak"_s, .kind = FileKind::Folder}, 2)};
+    const struct {
+        FileOrder order;
+        std::vector<std::size_t> places;
+    } rows[] = {
+        {{By::Name, false}, {4, 3, 2, 1, 0}},     {{By::Name, true}, {3, 4, 0, 1, 2}},
+        {{By::Size, false}, {4, 3, 0, 2, 1}},     {{By::Size, true}, {4, 3, 2, 1, 0}},
+        {{By::Modified, false}, {3, 4, 1, 0, 2}}, {{By::Modified, true}, {4, 3, 2, 1, 0}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(sortedPlaces(files, row.order), row.places);
 }
 
 namespace {

@@ -33,10 +33,8 @@ void BackupReader::list(const QString& folder, const FilesTaker& taker)
     listing_.reset();
     // tmutil alone knows which folders the backup was made of; what is kept has those around them, too.
     if (kept_->isWhole() && !folder.isEmpty()) {
-        if (auto files = kept_->folder(folder)) {
-            sortForPeople(*files);
+        if (const auto files = kept_->folder(folder))
             return taker(*files, {});
-        }
     }
     listed_.clear();
     listing_ =
@@ -45,8 +43,7 @@ void BackupReader::list(const QString& folder, const FilesTaker& taker)
                                                       .ended =
                                                           [this, taker](const QString& complaint) {
                                                               listing_.reset();
-                                                              auto files = std::exchange(listed_, {});
-                                                              sortForPeople(files);
+                                                              const auto files = std::exchange(listed_, {});
                                                               taker(files, complaint);
                                                           }},
                                    longestSilence);

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 #include <chrono>
-#include <utility>
+#include <numeric>
 
 namespace quillon {
 
@@ -81,24 +81,31 @@ QString folderAround(const QString& path)
     return path.left(qMax(path.lastIndexOf(u'/'), 0));
 }
 
-void sortForPeople(std::vector<FileEntry>& files)
+std::vector<std::size_t> sortedPlaces(const std::vector<FileEntry>& files, const FileOrder& order)
 {
     QCollator collator;
     collator.setNumericMode(true);
-    std::vector<std::pair<QCollatorSortKey, std::size_t>> keys;
-    keys.reserve(files.size());
-    for (std::size_t place = 0; place < files.size(); ++place)
-        keys.emplace_back(collator.sortKey(nameIn(folderAround(files[place].path), files[place].path)), place);
-    std::ranges::stable_sort(keys, [&](const auto& one, const auto& other) {
-        const bool oneIsFolder = files[one.second].kind == FileKind::Folder;
-        const bool otherIsFolder = files[other.second].kind == FileKind::Folder;
-        return oneIsFolder != otherIsFolder ? oneIsFolder : one.first.compare(other.first) < 0;
+    std::vector<QCollatorSortKey> names;
+    names.reserve(files.size());
+    for (const FileEntry& file : files)
+        names.push_back(collator.sortKey(nameIn(folderAround(file.path), file.path)));
+    std::vector<std::size_t> places(files.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
+    std::ranges::stable_sort(places, [&](std::size_t one, std::size_t other) {
+        const bool oneIsFolder = files[one].kind == FileKind::Folder;
+        if (oneIsFolder != (files[other].kind == FileKind::Folder))
+            return oneIsFolder;
+        const std::size_t lower = order.descending ? other : one;
+        const std::size_t higher = order.descending ? one : other;
+        if (order.by == FileOrder::By::Size && !oneIsFolder && files[one].size != files[other].size)
+            return files[lower].size < files[higher].size;
+        if (order.by == FileOrder::By::Modified && files[one].modified != files[other].modified)
+            return files[lower].modified < files[higher].modified;
+        if (order.by == FileOrder::By::Name)
+            return names[lower].compare(names[higher]) < 0;
+        return names[one].compare(names[other]) < 0;
     });
-    std::vector<FileEntry> sorted;
-    sorted.reserve(files.size());
-    for (const auto& [key, place] : keys)
-        sorted.push_back(std::move(files[place]));
-    files = std::move(sorted);
+    return places;
 }
 
 std::vector<Since> changesSince(const std::vector<FileEntry>& files, const std::vector<FileEntry>& later)

@@ -35,8 +35,16 @@ QString nameIn(const QString& folder, const QString& path);
 /// The folder around a path; empty for what lies in the outermost one.
 QString folderAround(const QString& path);
 
-/// Folders first, then by name as people sort in their language, numbers by their value.
-void sortForPeople(std::vector<FileEntry>& files);
+struct FileOrder {
+    enum class By { Name, Size, Modified };
+
+    By by = By::Name;
+    bool descending = false;
+};
+
+/// The places of the files in that order: folders first, what is equal by name as people sort in their language,
+/// numbers by their value.
+std::vector<std::size_t> sortedPlaces(const std::vector<FileEntry>& files, const FileOrder& order);
 
 /// What became of something by the next later backup.
 enum class Since { Unknown, Same, Changed, Gone };

@@ -143,7 +143,6 @@ void BackupBrowser::list()
     typed_.clear();
     if (!reader_)
         return;
-    files_.clear();
     model_.showFolder(folder_, {});
     Q_EMIT told(localizedString("browseReading"));
     Q_EMIT moved();
@@ -155,11 +154,10 @@ void BackupBrowser::list()
 
 void BackupBrowser::take(std::vector<FileEntry> files, const QString& complaint)
 {
-    files_ = std::move(files);
     tellEnd("browseEmptyFolder", complaint);
     if (!complaint.isEmpty())
         return;
-    model_.showFolder(folder_, files_);
+    model_.showFolder(folder_, std::move(files));
     Q_EMIT arrived(std::exchange(selected_, {}));
     askWhatBecame();
     reader_->fill([this](qint64 entries, bool done) { showFilling(entries, done); });
@@ -175,13 +173,13 @@ void BackupBrowser::tellEnd(const char* sentence, const QString& complaint)
 
 void BackupBrowser::askWhatBecame()
 {
-    if (!later_ || files_.empty())
+    if (!later_ || model_.files().empty())
         return;
     if (!gone_.isEmpty() && (folder_ + u'/').startsWith(gone_ + u'/'))
-        return model_.setChanges(std::vector(files_.size(), Since::Gone));
+        return model_.setChanges(std::vector(model_.files().size(), Since::Gone));
     later_->list(folder_, [this](const std::vector<FileEntry>& later, const QString& complaint) {
         if (complaint.isEmpty() && typed_.isEmpty())
-            model_.setChanges(changesSince(files_, later));
+            model_.setChanges(changesSince(model_.files(), later));
     });
 }
 

@@ -80,9 +80,8 @@ private:
     std::unique_ptr<BackupReader> later_; ///< of the next later backup; null where there is none
     QString folder_;
     QString selected_;
-    QString root_;                 ///< a folder that stands in the outermost one although it lies deeper
-    QString gone_;                 ///< a folder that the later backup has no more
-    std::vector<FileEntry> files_; ///< as in the model
+    QString root_; ///< a folder that stands in the outermost one although it lies deeper
+    QString gone_; ///< a folder that the later backup has no more
     std::vector<Place> history_;
     std::vector<FileEntry> found_; ///< not in the model yet
     QString typed_;

@@ -39,6 +39,7 @@ void FilesModel::showFolder(const QString& folder, std::vector<FileEntry> files)
     folder_ = folder;
     files_ = std::move(files);
     changes_.clear();
+    applyOrder();
     more_ = {};
     endResetModel();
 }
@@ -170,9 +171,52 @@ QString FilesModel::spokenText(int row, Column column) const
 
 QVariant FilesModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    const Column column = columnAt(kind_, section);
+    if (orientation != Qt::Horizontal)
         return {};
-    return localizedString(titleKey(columnAt(kind_, section)));
+    if (role == Qt::ToolTipRole && isFolder() && column <= Modified)
+        return localizedString("browseSortTip").arg(sortKeys(column).toString(QKeySequence::NativeText));
+    return role == Qt::DisplayRole ? localizedString(titleKey(column)) : QVariant();
+}
+
+void FilesModel::sort(int column, Qt::SortOrder order)
+{
+    static constexpr std::array by{FileOrder::By::Name, FileOrder::By::Size, FileOrder::By::Modified};
+    order_ = {.by = by.at(static_cast<std::size_t>(column)), .descending = order == Qt::DescendingOrder};
+    if (!isFolder())
+        return;
+    Q_EMIT layoutAboutToBeChanged();
+    const std::vector<int> rows = applyOrder();
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    for (const QModelIndex& old : before)
+        after.append(index(rows.at(static_cast<std::size_t>(old.row())), old.column()));
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged();
+}
+
+QKeySequence FilesModel::sortKeys(Column column)
+{
+    return {Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(column))};
+}
+
+/// Returns the new row of each old one.
+std::vector<int> FilesModel::applyOrder()
+{
+    const auto places = sortedPlaces(files_, order_);
+    std::vector<FileEntry> files;
+    std::vector<Since> changes;
+    std::vector<int> rows(files_.size());
+    files.reserve(files_.size());
+    for (const std::size_t place : places) {
+        rows[place] = static_cast<int>(files.size());
+        files.push_back(std::move(files_[place]));
+        if (!changes_.empty())
+            changes.push_back(changes_[place]);
+    }
+    files_ = std::move(files);
+    changes_ = std::move(changes);
+    return rows;
 }
 
 bool FilesModel::canFetchMore(const QModelIndex& parent) const

@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QKeySequence>
 
 #include <functional>
 #include <vector>
@@ -22,7 +23,11 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// In the order of the last sort().
     void showFolder(const QString& folder, std::vector<FileEntry> files);
+    /// Whether a folder is shown, which can be sorted; what is found stays in the order in which it comes.
+    bool isFolder() const { return kind_ == Kind::Folder; }
+    const std::vector<FileEntry>& files() const { return files_; }
     /// What became of the files of the folder, in their order.
     void setChanges(std::vector<Since> changes);
     /// Nothing at first; `more` is asked as far as somebody looks.
@@ -40,15 +45,21 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// By one of the first three columns.
+    void sort(int column, Qt::SortOrder order) override;
+    /// What sorts by one of these, and the other way round when it is pressed again.
+    static QKeySequence sortKeys(Column column);
     bool canFetchMore(const QModelIndex& parent) const override;
     void fetchMore(const QModelIndex& parent) override;
 
 private:
     static Column columnAt(Kind kind, int section);
+    std::vector<int> applyOrder();
     QString text(int row, Column column) const;
     QString spokenText(int row, Column column) const;
 
     Kind kind_ = Kind::Folder;
+    FileOrder order_;
     QString folder_;
     std::vector<FileEntry> files_;
     std::vector<Since> changes_; ///< empty while they are not known

@@ -58,6 +58,7 @@ FilesPane::FilesPane(FilesModel& model, QWidget* parent)
     view_->setAllColumnsShowFocus(true);
     view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view_->header()->setSectionsMovable(false);
+    view_->header()->setSortIndicator(FilesModel::Name, Qt::AscendingOrder);
     sentence_->setTextFormat(Qt::PlainText);
     sentence_->setWordWrap(true);
     sentence_->setAlignment(Qt::AlignCenter);
@@ -85,8 +86,11 @@ FilesPane::FilesPane(FilesModel& model, QWidget* parent)
             [this] { Q_EMIT folderTyped(path_->isModified() ? path_->text() : folder_); });
     connect(view_, &QTreeView::activated, this, [this](const QModelIndex& index) { Q_EMIT opened(index.row()); });
     connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FilesPane::selectionChanged);
+    connect(view_->header(), &QHeaderView::sortIndicatorChanged, this, &FilesPane::sortBy);
     connect(&model_, &QAbstractItemModel::modelReset, this, [this] {
         updateSentence();
+        view_->header()->setSectionsClickable(model_.isFolder());
+        view_->header()->setSortIndicatorShown(model_.isFolder());
         Q_EMIT selectionChanged();
     });
     connect(&model_, &QAbstractItemModel::rowsInserted, this, &FilesPane::updateSentence);
@@ -103,6 +107,15 @@ void FilesPane::addKeys()
         shortcut->setContext(Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, then);
     };
+    QHeaderView* header = view_->header();
+    for (const auto column : {FilesModel::Name, FilesModel::Size, FilesModel::Modified}) {
+        connect(new QShortcut(FilesModel::sortKeys(column), this), &QShortcut::activated, this, [this, header, column] {
+            const bool reverse =
+                header->sortIndicatorSection() == column && header->sortIndicatorOrder() == Qt::AscendingOrder;
+            if (model_.isFolder())
+                header->setSortIndicator(column, reverse ? Qt::DescendingOrder : Qt::AscendingOrder);
+        });
+    }
     inView(Qt::Key_Backspace, [this] { Q_EMIT upAsked(); });
     inView(Qt::Key_Space, [this] { Q_EMIT previewAsked(); });
 }
@@ -128,6 +141,17 @@ void FilesPane::tell(const QString& sentence, bool hasFailed)
     if (hasFailed && view_->hasFocus())
         again_->setFocus();
     updateSentence();
+}
+
+void FilesPane::sortBy(int column, Qt::SortOrder order)
+{
+    if (column <= FilesModel::Modified) {
+        sorted_ = {column, order};
+        model_.sort(column, order);
+        view_->scrollTo(view_->currentIndex());
+    } else {
+        view_->header()->setSortIndicator(sorted_.first, sorted_.second);
+    }
 }
 
 void FilesPane::updateSentence()

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include <optional>
+#include <utility>
 #include <vector>
 
 class QLabel;
@@ -49,10 +49,12 @@ Q_SIGNALS:
 
 private:
     void addKeys();
+    void sortBy(int column, Qt::SortOrder order);
     void updateSentence();
 
     FilesModel& model_;
     QString folder_;
+    std::pair<int, Qt::SortOrder> sorted_{FilesModel::Name, Qt::AscendingOrder};
     QToolButton* back_;
     QToolButton* up_;
     QLineEdit* path_;
