@@ -81,7 +81,9 @@ def run(chosen, disk, runtime):
     try:
         if chosen.once:
             return prove_first(backup, quillon)
-        return watch(backup if chosen.shots else None, quillon)
+        return watch(backup, quillon, lambda: subprocess.Popen(
+            [chosen.programs / "bin" / "quillon-browse", disk.documents],
+            env=environment, stdin=subprocess.DEVNULL, start_new_session=True))
     finally:
         quillon.terminate()
         if backup.pictures:
@@ -99,11 +101,16 @@ def prove_first(backup, quillon):
     raise PracticeFailed(f"Quillon ended by itself, with status {quillon.wait()}, before the backup completed")
 
 
-def watch(backup, quillon):
+def watch(backup, quillon, browse):
+    """Until Quillon is quit. Once there is a backup, a window to look into it comes up besides."""
     for line in processes.lines(quillon):
         print(line, end="", flush=True)
-        if backup and backup.follow(line):
-            backup = None
+        try:
+            if backup and backup.follow(line):
+                backup = None
+                browse()
+        except PracticeFailed as failure:  # by what was tried out with it, maybe: a later one may complete
+            say(failure)
     return quillon.wait()
 
 

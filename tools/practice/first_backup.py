@@ -94,8 +94,14 @@ class FirstBackup:
         return json.loads(done.stdout)
 
     def _restored(self):
-        documents, restored = self._disk.documents, self._disk.restored
-        self._disk.tmutil("restore", self._disk.tmutil("latestbackup") + str(documents), str(restored))
+        """Asks as the window of the backups does."""
+        documents, restored = self._disk.documents, self._disk.restored / self._disk.documents.name
+        latest = plistlib.loads(self._disk.tmutil("listbackups", "-X").encode())[-1]["Name"]
+        self._disk.restored.mkdir()
+        events = self._disk.tmutil("restore", "--json", "--keep-both", latest + str(documents),
+                                   str(self._disk.restored)).splitlines()
+        if json.loads(events[-1]) != {"event": "done", "restored": 1, "skipped": 0, "failed": 0}:
+            raise PracticeFailed("it was not restored:\n" + "\n".join(events))
         compared = subprocess.run(["diff", "-r", "--no-dereference", documents, restored], capture_output=True,
                                   text=True, errors="replace")
         if compared.returncode != 0:
