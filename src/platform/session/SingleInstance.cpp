@@ -1,6 +1,7 @@
 #include "SingleInstance.h"
 
 #include "FileLock.h"
+#include "InstanceCall.h"
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
@@ -11,6 +12,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 #include <QUrl>
 
 #include <chrono>
@@ -24,12 +26,14 @@ namespace {
 
 constexpr auto patience = 2s;
 constexpr auto pauseBetweenTries = 20ms;
+constexpr auto timeForRequest = 5s;
 
 constexpr auto present = "present";
+constexpr char beginOfQuestion = '{';                // no other request begins so
 constexpr qint64 longestRequest = qint64{16} * 1024; // with a path of 4096 bytes, three characters each
 constexpr qint64 longestToken = 512;
 constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
-constexpr QByteArrayView confirmation("presenting\n");
+constexpr QByteArrayView confirmation("presenting");
 
 /// The user's own folder for sockets, which the session's end empties; empty where the session has none.
 QString runtimeFolder()
@@ -38,14 +42,6 @@ QString runtimeFolder()
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
         return {};
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-}
-
-/// What the desktop has given this start, so that a window of it may come to the front: xdg-activation under Wayland.
-/// Desktops that don't know it yet take the identifier of the startup notification for one.
-QByteArray activationToken()
-{
-    const QByteArray token = qgetenv(tokenVariable);
-    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }
 
 /// Qt shows the token to the compositor with the next window that it brings to the front. A token serves once, and is
@@ -65,6 +61,12 @@ QString socketName(const QString& lockFile)
     const QByteArray path = QFileInfo(lockFile).canonicalFilePath().toUtf8();
     const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex().first(16);
     return "instance-"_L1 + QLatin1StringView(hash);
+}
+
+/// A line, or as much as a line may be.
+bool holdsRequest(const QLocalSocket& client)
+{
+    return client.canReadLine() || client.bytesAvailable() >= longestRequest;
 }
 
 } // namespace
@@ -135,27 +137,40 @@ void SingleInstance::answerNextClient()
         return;
     }
     connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
-    connect(client, &QLocalSocket::readyRead, this, [this, client] { answer(*client); });
+    client->setReadBufferSize(longestRequest + longestToken);
+    auto* limit = new QTimer(client);
+    limit->setSingleShot(true);
+    connect(limit, &QTimer::timeout, client, &QLocalSocket::abort);
+    connect(client, &QLocalSocket::readyRead, this, [this, client, limit] {
+        if (!holdsRequest(*client))
+            return;
+        client->disconnect(this); // one request a connection
+        limit->stop();
+        answer(*client);
+    });
+    limit->start(timeForRequest);
 }
 
 void SingleInstance::answer(QLocalSocket& client)
 {
-    if (!client.canReadLine() && client.bytesAvailable() < longestRequest)
-        return;
     const QByteArray line = client.readLine(longestRequest).trimmed();
+    const QByteArray token = client.canReadLine() ? client.readLine(longestToken).trimmed() : QByteArray();
+    const TokenInEnvironment shown(token);
+    if (line.startsWith(beginOfQuestion)) {
+        Q_EMIT asked(line, std::make_shared<Caller>(client));
+        return;
+    }
     const qsizetype end = line.indexOf(' ');
     const QByteArray request = line.first(end < 0 ? line.size() : end);
     const QString subject = QUrl::fromPercentEncoding(line.mid(request.size() + 1));
-    const QByteArray token = client.canReadLine() ? client.readLine(longestToken).trimmed() : QByteArray();
     if (request != present && !requests_.contains(request)) {
         client.abort();
         return;
     }
     // Confirmed before the slots run, which may open a menu and wait for the user.
-    client.write(confirmation.data(), confirmation.size());
+    client.write(confirmation.toByteArray() + '\n');
     client.flush();
     client.disconnectFromServer();
-    const TokenInEnvironment shown(token);
     if (request == present)
         Q_EMIT presentRequested();
     else
@@ -181,21 +196,8 @@ bool SingleInstance::askFirst(const QByteArray& request, const QString& subject)
 
 bool SingleInstance::ask(const QByteArray& request, const QDeadlineTimer& deadline) const
 {
-    const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
-    QFile address(lock_.path());
-    if (!address.open(QIODevice::ReadOnly))
-        return false;
-    QLocalSocket first;
-    first.connectToServer(QFile::decodeName(address.readAll()));
-    if (!first.waitForConnected(remaining()) || !isPeerOwnUser(first.socketDescriptor()))
-        return false;
-    // In a line of its own, which earlier versions leave unread.
-    first.write(request + '\n' + activationToken() + '\n');
-    while (first.bytesAvailable() < confirmation.size()) {
-        if (!first.waitForReadyRead(remaining()))
-            return false;
-    }
-    return first.readAll() == confirmation;
+    InstanceCall call;
+    return call.ask(lock_.path(), request, deadline) && call.nextLine(deadline) == confirmation;
 }
 
 } // namespace quillon

@@ -17,6 +17,8 @@ class QLocalSocket;
 
 namespace quillon {
 
+class Caller;
+
 /// Whether the process at the other end of a connected local socket belongs to this one's user.
 bool isPeerOwnUser(qintptr socket);
 
@@ -30,6 +32,7 @@ std::unique_ptr<QObject> makeReopenWatch(const std::function<void()>& reopened);
 /// which a later start of the same user asks the first instance to present itself. Where the system turns a second
 /// start into a message to the first instance, that message counts as the same request. With the request comes the
 /// token by which the later start could have come to the front; while the signal's slots run it is the first's.
+/// Over the same socket other programs of the user ask questions, one JSON object a call (InstanceCall).
 class SingleInstance final : public QObject {
     Q_OBJECT
 
@@ -60,6 +63,8 @@ Q_SIGNALS:
     void presentRequested();
     /// The same for one of the requests that the constructor was given.
     void requested(const QByteArray& request, const QString& subject);
+    /// A question in one line, which is a JSON object or means to be one. It is answered until nobody keeps the caller.
+    void asked(const QByteArray& question, const std::shared_ptr<quillon::Caller>& caller);
 
 private:
     FileLock::Outcome claim();

@@ -1,5 +1,6 @@
 // A program that runs once for each folder: the first instance stays, any other asks it to present itself.
 
+#include "InstanceCall.h"
 #include "SingleInstance.h"
 
 #include <QCoreApplication>
@@ -33,6 +34,10 @@ int main(int argc, char** argv)
     QObject::connect(&instance, &quillon::SingleInstance::requested,
                      [](const QByteArray& wanted, const QString& subject) {
                          say((QString::fromUtf8(wanted) + u' ' + subject).trimmed());
+                     });
+    QObject::connect(&instance, &quillon::SingleInstance::asked,
+                     [](const QByteArray& question, const std::shared_ptr<quillon::Caller>& caller) {
+                         caller->tell("heard " + question);
                      });
     say(u"first"_s);
     return QCoreApplication::exec();

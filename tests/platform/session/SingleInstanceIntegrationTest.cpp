@@ -1,5 +1,6 @@
 #include "ChildProgram.h"
 #include "EventLoop.h"
+#include "InstanceCall.h"
 #include "ScopedEnvironment.h"
 #include "SessionTestSupport.h"
 #include "SingleInstance.h"
@@ -67,6 +68,29 @@ TEST_F(SingleInstanceIntegrationTest, ACrashLeavesNothingInTheWayAndAHangKeepsTh
     EXPECT_EQ(Instance(folder).readLine(), u"presented"_s);
     kill(static_cast<pid_t>(next.process().processId()), SIGSTOP);
     EXPECT_EQ(Instance(folder).readLine(), refusal);
+}
+
+TEST_F(SingleInstanceIntegrationTest, AnswersAQuestionALongOneTooAndHangsUpOnWhoAsksNothing)
+{
+    const auto ask = [this](const QByteArray& question) {
+        InstanceCall call;
+        return call.ask(folder + u"/instance"_s, question, QDeadlineTimer::Forever)
+                   ? call.nextLine(QDeadlineTimer::Forever)
+                   : std::nullopt;
+    };
+    EXPECT_FALSE(ask("{}")) << "nobody is there";
+    Instance first(folder);
+    ASSERT_EQ(first.readLine(), u"first"_s);
+    EXPECT_EQ(ask(R"({"a":1})"), R"(heard {"a":1})");
+    const auto heard = ask('{' + QByteArray(100'000, 'x'));
+    EXPECT_TRUE(heard && heard->startsWith("heard {xxx") && heard->size() < 5000) << "it is cut off";
+    EXPECT_FALSE(ask("unknown"));
+    QLocalSocket silent;
+    silent.connectToServer(runtime.filePath(QDir(runtime.path()).entryList(QDir::Files | QDir::System).value(0)));
+    silent.write("{");
+    EXPECT_TRUE(runUntil([&] { return silent.state() == QLocalSocket::UnconnectedState; }));
+    first.crash();
+    EXPECT_FALSE(ask("{}"));
 }
 
 TEST_F(SingleInstanceIntegrationTest, FoldersDoNotShareAnInstance)
