@@ -68,9 +68,9 @@ void DataManager::setIsScheduleEnabled(bool enabled)
     scheduleNextBackup();
 }
 
-void DataManager::addNewSchedule()
+void DataManager::addNewSchedule(const CalendarIntervalRule& rule)
 {
-    calendarIntervalSettings_.append(CalendarIntervalRule());
+    calendarIntervalSettings_.append(rule);
     saveAndBackupCalendarIntervalSettings();
 }
 
@@ -178,7 +178,33 @@ std::optional<Date> DataManager::getNextBackupDate()
         defaults_.setObject(settingskeys::pauseUntilTag, 0LL);
     }
     const Date reference = nextbackup::referenceDate(now, pauseUntil, lastFiredDate_);
-    return nextbackup::nextBackupDate(calendarIntervalSettings_, reference, Calendar());
+    return nextbackup::nextStart(calendarIntervalSettings_, changedStarts(), reference, Calendar());
+}
+
+QList<ChangedStart> DataManager::changedStarts() const
+{
+    return ChangedStart::listFromArray(defaults_.array(settingskeys::changedStarts));
+}
+
+std::optional<Date> DataManager::startAfterNext() const
+{
+    if (!nextScheduledBackupDate_)
+        return std::nullopt;
+    return nextbackup::nextStart(calendarIntervalSettings_, changedStarts(), *nextScheduledBackupDate_ + 1ms,
+                                 Calendar());
+}
+
+bool DataManager::changeNextStart(std::optional<Date> instead)
+{
+    if (!nextScheduledBackupDate_)
+        return false;
+    const auto changes = nextbackup::changesWith(calendarIntervalSettings_, changedStarts(), *nextScheduledBackupDate_,
+                                                 instead, runLoop_.now(), Calendar());
+    if (!changes)
+        return false;
+    defaults_.setObject(settingskeys::changedStarts, ChangedStart::listToArray(*changes));
+    scheduleNextBackup();
+    return true;
 }
 
 void DataManager::scheduleNextBackup()

@@ -2,6 +2,7 @@
 
 #include "BackupInfo.h"
 #include "CalendarIntervalRule.h"
+#include "ChangedStart.h"
 #include "LoginItem.h"
 #include "NextBackup.h"
 #include "NotificationCenter.h"
@@ -21,8 +22,8 @@ namespace quillon {
 /// The model of settings and schedule: the rules, the date of the next backup with the timer that starts it, and the
 /// latest backup of each disk.
 ///
-/// It is the only writer of the rules and of the latest-backup list; every other setting is written by the control that
-/// changes it and read where it is needed.
+/// It is the only writer of the rules, of changed starts and of the latest-backup list; every other setting is written
+/// by the control that changes it and read where it is needed.
 class DataManager {
 public:
     struct Services {
@@ -53,7 +54,7 @@ public:
     /// Does not store the switch: whoever changes the control writes it. An equal value changes nothing.
     void setIsScheduleEnabled(bool enabled);
 
-    void addNewSchedule();
+    void addNewSchedule(const CalendarIntervalRule& rule = {});
     /// `key` is "day" or "time"; the index must be that of a rule.
     void updateBackupScheduleAtIndex(std::size_t index, qlonglong value, const QString& key);
     /// The index must be that of a rule.
@@ -68,6 +69,11 @@ public:
     void scheduleNextBackup();
     /// Arms the start timer for the date, or disarms it.
     void setNextScheduledBackupDate(std::optional<Date> date);
+    /// The start behind the next one.
+    std::optional<Date> startAfterNext() const;
+    /// Passes the next start over, or makes it at a later date; those behind it stay. False, and nothing is changed,
+    /// where too many are changed already. A retry is no start of this kind.
+    bool changeNextStart(std::optional<Date> instead);
     /// Plans a retry in place of the next regular start, unless that comes first; nothing cancels a pending retry.
     void setRetryBackupDate(std::optional<Date> date);
     /// Disarms the start timer before the system sleeps; the date stays.
@@ -90,6 +96,7 @@ public:
 
 private:
     void registerUserDefaults();
+    QList<ChangedStart> changedStarts() const;
     void startTimerFired();
 
     RunLoop& runLoop_;

@@ -7,7 +7,8 @@ namespace quillon {
 QVariantMap registeredDefaults()
 {
     using namespace settingskeys;
-    // The pause, the remembered backups and the icon state have no default: absent is what their readers look for.
+    // The pause, the changed starts, the remembered backups and the icon state have no default: absent is what their
+    // readers look for.
     return {
         {firstLaunch, true},
         {enableSchedule, 1LL},

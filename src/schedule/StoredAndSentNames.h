@@ -28,6 +28,9 @@ inline const QString launchAtSystemStart = u"userSettingsLaunchAtSystemStart"_s;
 /// Array of rule dictionaries.
 inline const QString calendarIntervals = u"userSettingsCalendarIntervals"_s;
 
+/// Array of the starts that the user wants passed over or postponed.
+inline const QString changedStarts = u"userSettingsChangedStarts"_s;
+
 /// Date until which the schedule is paused, and the chosen length in seconds, 0 when it is not.
 inline const QString pauseUntilDate = u"userSettingsPauseUntilDate"_s;
 inline const QString pauseUntilTag = u"userSettingsPauseUntilTag"_s;

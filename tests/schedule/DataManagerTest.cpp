@@ -120,6 +120,49 @@ TEST_F(Model, ARetryReplacesTheRegularStartUnlessThatComesFirst)
     EXPECT_EQ(started.size(), 1);
 }
 
+TEST_F(Model, AChangedStartIsThatOfItsRuleAndOfItsDayAlone)
+{
+    make().addNewSchedule({7, 14 * 3600});
+    EXPECT_TRUE(manager->changeNextStart({})); // of noon
+    expect(today(14));
+    EXPECT_TRUE(manager->changeNextStart(today(16)));
+    EXPECT_EQ(manager->startAfterNext(), today(24 + 12));
+    make();
+    expect(today(16));
+    manager->updateBackupScheduleAtIndex(1, 13 * 3600, u"time"_s);
+    expect(today(13)); // another start; the postponed one is none of the rules any more
+    manager->updateBackupScheduleAtIndex(1, 14 * 3600, u"time"_s);
+    expect(today(16));
+    const Date postponed = today(16);
+    {
+        const ScopedEnvironment west("TZ", "America/New_York");
+        manager->scheduleNextBackup();
+        expect(postponed); // an instant, like the end of a pause
+        runLoop.stepWallClock(-24h);
+        manager->scheduleNextBackup();
+        expect(local(2026, 11, 20, 12)); // no other day is meant
+        runLoop.stepWallClock(24h);
+    }
+    manager->scheduleNextBackup();
+    EXPECT_TRUE(manager->changeNextStart({}));
+    expect(today(24 + 12));
+    for (int more = 0; more < 18; ++more)
+        EXPECT_TRUE(manager->changeNextStart({}));
+    const auto next = manager->nextScheduledBackupDate();
+    EXPECT_FALSE(manager->changeNextStart({})) << "there are twenty";
+    expect(next);
+    runLoop.stepWallClock(30 * 24h);
+    manager->scheduleNextBackup();
+    EXPECT_TRUE(manager->changeNextStart({}));
+    EXPECT_EQ(defaults.array(settingskeys::changedStarts).size(), 1) << "what is over is dropped";
+    defaults.stored[settingskeys::changedStarts] = QVariantList{7LL, QVariantMap{{u"start"_s, u"noon"_s}}};
+    manager->scheduleNextBackup(); // rubbish changes nothing
+    manager->deleteBackupScheduleAtIndex(0);
+    manager->deleteBackupScheduleAtIndex(0);
+    expect({});
+    EXPECT_FALSE(manager->changeNextStart({}));
+}
+
 TEST_F(Model, SwitchingTheScheduleOffStopsTheTimerAndLeavesTheRetryDate)
 {
     make().setRetryBackupDate(today(11));

@@ -26,6 +26,7 @@ TEST(StoredAndSent, NamesAndDefaultsAreThese)
         {rotateBackupDisks, u"userSettingsRotateBackupDisks"_s, 1LL},
         {launchAtSystemStart, u"userSettingsLaunchAtSystemStart"_s, 1LL},
         {calendarIntervals, u"userSettingsCalendarIntervals"_s, rules},
+        {changedStarts, u"userSettingsChangedStarts"_s, {}},
         {pauseUntilDate, u"userSettingsPauseUntilDate"_s, {}},
         {pauseUntilTag, u"userSettingsPauseUntilTag"_s, {}},
         {lastBackupDate, u"appSettingsLastBackupDate"_s, {}},
