@@ -26,36 +26,39 @@ BackupCommands::ScheduleSwitches BackupCommands::switchesNow() const
     return {services_.dataManager.isScheduleEnabled(), end && *end > services_.runLoop.now() ? end : std::nullopt};
 }
 
-void BackupCommands::begin()
+void BackupCommands::begin(CommandResultHandler told)
 {
     isUnderWay_ = true;
+    told_ = std::move(told);
     Q_EMIT began();
 }
 
-void BackupCommands::settle()
+void BackupCommands::settle(const CommandResult& result)
 {
     isUnderWay_ = false;
     services_.follower.updateStatusBar();
+    if (const auto told = std::exchange(told_, {}))
+        told(result);
     if (const auto waiting = std::exchange(waitingStart_, std::nullopt))
         askForScheduledStart(*waiting);
 }
 
-void BackupCommands::backupNowClicked()
+void BackupCommands::backupNowClicked(CommandResultHandler told)
 {
     if (isUnderWay_)
         return;
     const bool offeredToStop = services_.follower.run().isActive();
-    begin();
+    begin(std::move(told));
     services_.follower.askForStatus(
         [this, offeredToStop](const TMStatus& status) { answerBackupNow(status, offeredToStop); });
 }
 
-void BackupCommands::backupNowRequested()
+void BackupCommands::backupNowRequested(CommandResultHandler told)
 {
     const BackupRun& run = services_.follower.run();
     if (isUnderWay_ || run.isActive())
         return;
-    begin();
+    begin(std::move(told));
     services_.follower.askForStatus([this, &run](const TMStatus& status) {
         if (status.state != TMState::Running && status.state != TMState::Stopping && !run.isActive()) {
             answerBackupNow(status, false);
@@ -69,7 +72,7 @@ void BackupCommands::backupNowRequested()
 void BackupCommands::answerBackupNow(const TMStatus& status, bool offeredToStop)
 {
     if (offeredToStop && status.state == TMState::Unknown) { // the next poll may know more
-        settle();
+        settle({CommandResult::Outcome::Unreadable});
         return;
     }
     const bool mayBeAboutToRun = services_.follower.run().tmState() == TMState::Starting;
@@ -83,11 +86,11 @@ void BackupCommands::answerBackupNow(const TMStatus& status, bool offeredToStop)
         requestStart({}, rotateBackupDisks());
 }
 
-void BackupCommands::backupNowSubMenuItemClicked(const QString& identifier)
+void BackupCommands::backupNowSubMenuItemClicked(const QString& identifier, CommandResultHandler told)
 {
     if (isUnderWay_)
         return;
-    begin();
+    begin(std::move(told));
     requestStart(identifier, false);
 }
 
@@ -96,7 +99,7 @@ void BackupCommands::requestStop()
     services_.tmutil.stopBackupWithCompletionHandler([this](bool, bool success) {
         if (success)
             services_.follower.stopAccepted();
-        settle();
+        settle({success ? CommandResult::Outcome::Accepted : CommandResult::Outcome::Refused});
     });
 }
 
@@ -107,10 +110,10 @@ void BackupCommands::requestStart(const QString& identifier, bool rotateBackupDi
             if (success) {
                 waitingStart_.reset(); // the backup that it was to start begins now
                 services_.follower.startAccepted();
-            } else {
+            } else if (!told_) {
                 services_.runLoop.enqueue([this, exitStatus] { tellOfFailedStart(exitStatus); });
             }
-            settle();
+            settle({success ? CommandResult::Outcome::Accepted : CommandResult::Outcome::Refused, exitStatus});
         });
 }
 

@@ -9,9 +9,25 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace quillon {
+
+/// What became of a command.
+struct CommandResult {
+    enum class Outcome {
+        Accepted,
+        NothingToDo, ///< there is a run already, or no more
+        Unreadable,  ///< what Time Machine does cannot be told
+        Refused,
+    };
+    Outcome outcome = Outcome::NothingToDo;
+    std::int32_t exitStatus = 0; ///< of the tool, where it refused a start
+};
+
+/// For whoever gave a command from elsewhere than the menu: is told in place of an alert.
+using CommandResultHandler = std::function<void(const CommandResult&)>;
 
 /// Starts and stops backups, for the user and for the schedule, one command at a time: a second click would take effect
 /// twice, and a scheduled start waits until the command that is under way has been answered.
@@ -32,11 +48,13 @@ public:
 
     bool isUnderWay() const { return isUnderWay_; }
 
+    // While a command is under way another one has no effect, and its giver is told nothing.
+
     /// Starts a backup, or stops the one that runs.
-    void backupNowClicked();
+    void backupNowClicked(CommandResultHandler told = {});
     /// Starts a backup, and leaves alone one that runs.
-    void backupNowRequested();
-    void backupNowSubMenuItemClicked(const QString& identifier);
+    void backupNowRequested(CommandResultHandler told = {});
+    void backupNowSubMenuItemClicked(const QString& identifier, CommandResultHandler told = {});
     void startScheduledBackup();
 
 Q_SIGNALS:
@@ -56,8 +74,8 @@ private:
 
     bool rotateBackupDisks() const;
     ScheduleSwitches switchesNow() const;
-    void begin();
-    void settle();
+    void begin(CommandResultHandler told = {});
+    void settle(const CommandResult& result = {});
     void answerBackupNow(const TMStatus& status, bool offeredToStop);
     void requestStop();
     void requestStart(const QString& identifier, bool rotateBackupDisks);
@@ -67,6 +85,7 @@ private:
 
     Services services_;
     bool isUnderWay_ = false;
+    CommandResultHandler told_;
     std::optional<ScheduleSwitches> waitingStart_;
 };
 

@@ -31,7 +31,11 @@ void SchedulePause::restore()
 
 void SchedulePause::pauseForClicked(std::int64_t tag)
 {
-    const Date end = services_.runLoop.now() + std::chrono::seconds(tag);
+    pauseUntil(services_.runLoop.now() + std::chrono::seconds(tag), tag);
+}
+
+void SchedulePause::pauseUntil(Date end, std::int64_t tag)
+{
     services_.defaults.setDate(settingskeys::pauseUntilDate, end);
     services_.defaults.setObject(settingskeys::pauseUntilTag, static_cast<qlonglong>(tag));
     services_.dataManager.setRetryBackupDate(std::nullopt);

@@ -28,6 +28,8 @@ public:
     void restore();
     /// Pauses the schedule for a length in seconds, replacing a pause that runs.
     void pauseForClicked(std::int64_t tag);
+    /// The same until a date; the tag is the length in seconds, and not 0.
+    void pauseUntil(Date end, std::int64_t tag);
     void resumeScheduleClicked();
     /// Checks the item of that length and no other.
     void setTogglesForPauseMenuItems(std::int64_t tag);

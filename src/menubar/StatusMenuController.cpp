@@ -43,8 +43,9 @@ void StatusMenuController::connectParts()
             [this] { disks_.request(); }); // behind the first poll: a slow list hides no short run
     });
     connect(&disks_, &DisksInMenu::listed, this, &StatusMenuController::updateBackupDiskMenuItem);
-    connect(&disks_, &DisksInMenu::systemChoiceClicked, this, &StatusMenuController::backupNowClicked);
-    connect(&disks_, &DisksInMenu::diskClicked, this, &StatusMenuController::backupNowSubMenuItemClicked);
+    connect(&disks_, &DisksInMenu::systemChoiceClicked, this, [this] { backupNowClicked(); });
+    connect(&disks_, &DisksInMenu::diskClicked, this,
+            [this](const QString& identifier) { backupNowSubMenuItemClicked(identifier); });
     connect(&disks_, &DisksInMenu::helpButtonPressed, this, &StatusMenuController::allBackupInfoHelpButtonPressed);
     connect(&pause_, &SchedulePause::changed, this, &StatusMenuController::updateStatusBar);
     connect(&schedule_, &ScheduleWatch::looked, this, &StatusMenuController::updateStatusBar);

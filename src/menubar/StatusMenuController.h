@@ -17,6 +17,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 namespace quillon {
 
@@ -54,6 +55,8 @@ public:
     StatusMenu& statusMenu() { return statusMenu_; }
     /// What the item shows: the upper line, and the lower one.
     const shown::ItemTitle& itemTitle() const { return face_.title(); }
+    /// All that what is shown is made of, as it is now.
+    shown::Snapshot snapshot() const;
 
     void startTimerWithInterval(double interval) { follower_.startTimerWithInterval(interval); }
     void stopTimer() { follower_.stopTimer(); }
@@ -76,10 +79,15 @@ public:
     /// Enables or disables the items that change settings or start something.
     void enableMenuButtons(bool enable);
 
-    void backupNowClicked() { commands_.backupNowClicked(); }
+    // Who gives a command from elsewhere than the menu has a handler told what became of it.
+
+    void backupNowClicked(CommandResultHandler told = {}) { commands_.backupNowClicked(std::move(told)); }
     /// What somebody does who sees no item: a run is left alone.
-    void backupNowRequested() { commands_.backupNowRequested(); }
-    void backupNowSubMenuItemClicked(const QString& identifier) { commands_.backupNowSubMenuItemClicked(identifier); }
+    void backupNowRequested(CommandResultHandler told = {}) { commands_.backupNowRequested(std::move(told)); }
+    void backupNowSubMenuItemClicked(const QString& identifier, CommandResultHandler told = {})
+    {
+        commands_.backupNowSubMenuItemClicked(identifier, std::move(told));
+    }
     void skipRetryAttemptClicked();
     void enterTimeMachineClicked();
     void openSystemPreferences();
@@ -90,6 +98,7 @@ public:
     void allBackupInfoHelpButtonPressed() { panels_.showHistoryHelp(); }
 
     void pauseForClicked(std::int64_t tag) { pause_.pauseForClicked(tag); }
+    void pauseUntil(Date end, std::int64_t tag) { pause_.pauseUntil(end, tag); }
     void resumeScheduleClicked() { pause_.resumeScheduleClicked(); }
     void setTogglesForPauseMenuItems(std::int64_t tag) { pause_.setTogglesForPauseMenuItems(tag); }
     void schedulePauseScheduleExpirationTimer() { pause_.schedulePauseScheduleExpirationTimer(); }
@@ -109,7 +118,6 @@ private:
     void connectCommands();
     void registerObservers();
 
-    shown::Snapshot snapshot() const;
     void showStep(const BackupRun::Step& step);
     void beginRun();
     void endRun(const BackupRun::End& end);
