@@ -77,6 +77,9 @@ inline const QString scheduledBackupFoundLate = u"scheduledBackupFoundLateNotifi
 /// A setting that the menu bar shows has changed.
 inline const QString shouldUpdateStatusBar = u"shouldUpdateStatusBarNotification"_s;
 
+/// Somebody outside the settings panel has changed the rules.
+inline const QString rulesChanged = u"rulesChangedNotification"_s;
+
 /// The update check has an answer; user information "latestAppVersion": the newer version, or empty when there is none.
 inline const QString appUpdateAvailable = u"appUpdateAvailableNotification"_s;
 

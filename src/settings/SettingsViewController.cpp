@@ -54,6 +54,8 @@ SettingsViewController::SettingsViewController(const Services& services, QWidget
     connectScheduleControls();
     connectOptionControls();
     connectAlertControls();
+    notifications_.addObserver(notifications::rulesChanged, this,
+                               [this](const QVariantMap&) { reloadCalendarIntervalTableView(); });
     showStoredSchedule();
     showStoredOptions();
     updateScheduleIntervalValueControls();
@@ -246,8 +248,12 @@ void SettingsViewController::deleteButtonPressed(const CalendarIntervalCellView&
     question.informativeText = localizedString("confirmDeleteRuleMessage");
     question.buttons = {localizedString("AlertButtonCancel"), localizedString("AlertButtonDelete")};
     question.destructiveButton = 1;
-    runAlert(question, sender.deleteButton(), RectEdge::MinY, [this, row = sender.row()](int response) {
-        if (response == alertSecondButtonReturn)
+    const int row = sender.row();
+    const CalendarIntervalRule rule = sharedDataManager_.calendarIntervalSettings().at(row);
+    runAlert(question, sender.deleteButton(), RectEdge::MinY, [this, row, rule](int response) {
+        // Meanwhile another rule may have taken its place.
+        const auto& rules = sharedDataManager_.calendarIntervalSettings();
+        if (response == alertSecondButtonReturn && row < rules.size() && rules[row] == rule)
             deleteRule(row);
     });
 }

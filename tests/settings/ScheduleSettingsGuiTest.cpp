@@ -113,6 +113,18 @@ TEST_F(ScheduleSettings, ARuleIsDeletedOnlyWhenTheUserConfirmsItAndTheLastOneGoe
     EXPECT_EQ(rows().size(), 1);
 }
 
+TEST_F(ScheduleSettings, RulesThatAreEditedElsewhereAreShownAtOnceAndNoOtherIsDeletedForOneThatIsGone)
+{
+    open({{2, 3600}, {3, 7200}});
+    click(deleteButton(1));
+    manager_->deleteBackupScheduleAtIndex(0);
+    manager_->addNewSchedule({4, 10800});
+    notifications_.post(notifications::rulesChanged);
+    EXPECT_EQ(dayMenu(1).currentText(), u"every Wednesday"_s);
+    answerAlert(u"Delete"_s);
+    EXPECT_EQ(storedRules(), (QVariantList{rule(3, 7200), rule(4, 10800)}));
+}
+
 TEST_F(ScheduleSettings, TheNextBackupFollowsTheModelAndTheClockWhileThePanelIsOpen)
 {
     open({{0, 10 * 3600 + 60}});
