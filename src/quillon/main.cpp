@@ -5,6 +5,7 @@
 #include "Cirrel.h"
 #include "DataManager.h"
 #include "HttpClient.h"
+#include "InstanceCall.h"
 #include "LocalizedString.h"
 #include "LoginItem.h"
 #include "ModalAlertPresenter.h"
@@ -12,6 +13,7 @@
 #include "Options.h"
 #include "QtRunLoop.h"
 #include "QuitSignals.h"
+#include "RemoteControl.h"
 #include "SingleInstance.h"
 #include "StatusMenuController.h"
 #include "TMUtilQueue.h"
@@ -64,6 +66,7 @@ int runApplication(const Options& options, SingleInstance& instance)
     const auto statusItem = makeStatusItem(options.placement);
     StatusMenuController controller(
         {runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager, *loginItem, *statusItem});
+    RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 
     std::unique_ptr<ChangePrinter> printer;
@@ -78,6 +81,10 @@ int runApplication(const Options& options, SingleInstance& instance)
         if (const auto request = startRequestNamed(name))
             carryOut(*request, controller);
     });
+    QObject::connect(&instance, &SingleInstance::asked, &remoteControl,
+                     [&remoteControl](const QByteArray& question, const std::shared_ptr<Caller>& caller) {
+                         remoteControl.take(question, [caller](const QByteArray& line) { return caller->tell(line); });
+                     });
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [&tmutilQueue] { tmutilQueue.shutDown(); });
     delegate.applicationDidFinishLaunching();
     if (options.request != StartRequest::Present)

@@ -1,10 +1,7 @@
 #include "Arguments.h"
 
-#include "Calendar.h"
-
-#include <QDate>
-#include <QRegularExpression>
-#include <QTime>
+#include "ControlRequest.h"
+#include "PrintedDates.h"
 
 namespace quillon {
 
@@ -13,18 +10,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostDates = 1000;
-
-/// "2026-11-21T12:00", seconds allowed, a blank for the T; on the clock of the current time zone.
-std::optional<Date> readLocalDateTime(const QString& text)
-{
-    static const QRegularExpression form(uR"(^(\d{4}-\d{2}-\d{2})[T ](\d{2}:\d{2}(?::\d{2})?)$)"_s);
-    const auto match = form.match(text);
-    const QDate day = QDate::fromString(match.captured(1), Qt::ISODate);
-    const QTime time = QTime::fromString(match.captured(2), Qt::ISODate);
-    if (!match.hasMatch() || !day.isValid() || !time.isValid())
-        return std::nullopt;
-    return Calendar().date({day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()});
-}
 
 std::optional<Arguments::Command> readCommand(const QString& word)
 {
@@ -72,17 +57,28 @@ QString readOption(const QStringList& words, qsizetype& i, Arguments& arguments)
                : u"--count takes a number from 1 to %1, not \"%2\""_s.arg(QString::number(mostDates), words[i]);
 }
 
+std::optional<Arguments> readRequest(QStringList words, QString* error)
+{
+    Arguments arguments;
+    arguments.command = Arguments::Command::OfRunning;
+    arguments.json = words.removeAll(u"--json"_s) > 0;
+    arguments.request = words;
+    return ControlRequest::parse(words, error) ? std::optional(arguments) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<Arguments> Arguments::parse(const QStringList& words, QString* error)
 {
     if (words.isEmpty()) {
-        *error = u"a command is missing: status, destinations, next or doctor"_s;
+        *error = u"a command is missing; --help lists them"_s;
         return std::nullopt;
     }
+    if (ControlRequest::isMeant(words))
+        return readRequest(words, error);
     const auto command = readCommand(words.first());
     if (!command) {
-        *error = u"unknown command \"%1\": it is status, destinations, next or doctor"_s.arg(words.first());
+        *error = u"unknown command \"%1\"; --help lists them"_s.arg(words.first());
         return std::nullopt;
     }
     Arguments arguments;

@@ -1,7 +1,9 @@
 #include "Program.h"
 
 #include "ApplicationIdentity.h"
+#include "ControlRequest.h"
 #include "Doctor.h"
+#include "InstanceCall.h"
 #include "Report.h"
 #include "StoredAndSentNames.h"
 #include "TMUtilQueue.h"
@@ -16,11 +18,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int exitFailed = 1;
+constexpr int exitNotRunning = 2;
 
 const QString help = u"Usage: quillonctl status [--json]\n"
                      "       quillonctl destinations [--json]\n"
                      "       quillonctl next [--count N] [--from LOCAL-DATE-TIME] [--json]\n"
                      "       quillonctl doctor [--json]\n"
+                     "       quillonctl backup [--disk NAME-OR-ID] [--json]\n"
+                     "       quillonctl stop | retry | skip-retry | settings [--json]\n"
+                     "       quillonctl pause DURATION | pause --until TIME | resume [--json]\n"
+                     "       quillonctl skip | postpone DURATION [--json]\n"
+                     "       quillonctl rules [add DAY TIME | remove N] [--json]\n"
+                     "       quillonctl status --watch [--json]\n"
                      "       quillonctl -h | --help | --version\n\n"
                      "status        what Time Machine is doing right now; exit status 1 when that\n"
                      "              cannot be read\n"
@@ -29,6 +38,19 @@ const QString help = u"Usage: quillonctl status [--json]\n"
                      "              date and time of the current time zone, such as 2026-11-21T12:00\n"
                      "doctor        a page for a report of a fault: program, system, tool, disks,\n"
                      "              schedule; exit status 1 when something is wrong\n\n"
+                     "These ask the running Quillon; exit status 1 when it refuses, 2 when none runs:\n\n"
+                     "backup        start a backup, to a disk where one is named\n"
+                     "stop          stop the running backup\n"
+                     "pause         pause the schedule for 90m, 2h, 1d or 1w, at most 4w, or until\n"
+                     "              18:30, 2026-11-21 or 2026-11-21T18:30\n"
+                     "resume        end the pause\n"
+                     "skip          pass over the next start of the schedule, and no other\n"
+                     "postpone      make the next start later; those behind it stay\n"
+                     "retry         make the pending retry now; skip-retry drops it\n"
+                     "rules         list the rules by their numbers, add one such as Monday 18:30,\n"
+                     "              weekdays 9:00 or every-day 12:00, or remove one\n"
+                     "settings      open the settings\n"
+                     "status --watch  print a line now and at each change, until interrupted\n\n"
                      "Environment: QUILLON_TMUTIL names the tmutil tool to ask, TZ the time zone.\n"_s;
 
 /// False, with a line on standard error, when not all of it could be written.
@@ -97,6 +119,43 @@ int tellDiagnosis(const ProgramServices& services, bool json)
                : exitFailed;
 }
 
+/// An answer on standard output, a refusal on standard error; with --json all of it on standard output.
+bool print(const ControlAnswer& answer, bool json)
+{
+    if (!answer.done)
+        complain(answer.text);
+    if (json)
+        return print(answer.toLine() + '\n');
+    return !answer.done || print((answer.text + u'\n').toUtf8());
+}
+
+/// A tool that hangs is ended after a minute or two, and a start may wait for two more questions.
+constexpr std::chrono::minutes patienceForAnswer{5};
+
+int askRunning(const Arguments& arguments)
+{
+    InstanceCall call;
+    constexpr std::chrono::seconds patienceForCall{2};
+    if (!call.ask(identity::instanceLock(), ControlRequest::toLine(arguments.request),
+                  QDeadlineTimer(patienceForCall))) {
+        print(ControlAnswer::refused(u"Quillon is not running"_s), arguments.json);
+        return exitNotRunning;
+    }
+    const bool watches = arguments.request.first() == "status"_L1;
+    for (bool isFirst = true;; isFirst = false) {
+        const auto line = call.nextLine(isFirst ? QDeadlineTimer(patienceForAnswer) : QDeadlineTimer::Forever);
+        if (!line && !isFirst) {
+            complain(u"Quillon has ended"_s);
+            return exitNotRunning;
+        }
+        const auto answer = ControlAnswer::fromLine(line.value_or(QByteArray()))
+                                .value_or(ControlAnswer::refused(u"the running Quillon gave no answer"_s));
+        const bool isPrinted = print(answer, arguments.json);
+        if (!watches || !answer.done || !isPrinted)
+            return isPrinted && answer.done ? 0 : exitFailed;
+    }
+}
+
 } // namespace
 
 void complain(const QString& trouble)
@@ -119,6 +178,8 @@ int runQuillonctl(const Arguments& arguments, const ProgramServices& services)
         return tellStarts(services.runLoop, arguments);
     case Arguments::Command::Doctor:
         return tellDiagnosis(services, arguments.json);
+    case Arguments::Command::OfRunning:
+        return askRunning(arguments);
     }
     return exitFailed;
 }

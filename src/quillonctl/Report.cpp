@@ -1,6 +1,7 @@
 #include "Report.h"
 
 #include "Calendar.h"
+#include "ChangedStart.h"
 #include "NextBackup.h"
 #include "ShownText.h"
 #include "StoredAndSentNames.h"
@@ -8,9 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <array>
-#include <cstdlib>
 
 namespace quillon {
 
@@ -22,10 +20,11 @@ QList<Date> comingStarts(const UserDefaults& defaults, Date from, int count)
     if (defaults.integer(settingskeys::enableSchedule) != 1)
         return starts;
     const auto rules = CalendarIntervalRule::listFromArray(defaults.array(settingskeys::calendarIntervals));
+    const auto changes = ChangedStart::listFromArray(defaults.array(settingskeys::changedStarts));
     const Calendar calendar;
     Date reference = nextbackup::referenceDate(from, defaults.date(settingskeys::pauseUntilDate), std::nullopt);
     while (starts.size() < count) {
-        const auto next = nextbackup::nextBackupDate(rules, reference, calendar);
+        const auto next = nextbackup::nextStart(rules, changes, reference, calendar);
         if (!next)
             break;
         starts.append(*next);
@@ -48,29 +47,6 @@ QByteArray text(const QString& lines)
 }
 
 } // namespace
-
-QString isoDate(Date date)
-{
-    const LocalTime local = Calendar().localTime(date);
-    return QString::asprintf("%04d-%02d-%02dT%02d:%02d:%02d", local.year, local.month, local.day, local.hour,
-                             local.minute, local.second) +
-           offsetText(Calendar().offsetFromUtc(date));
-}
-
-QString readableDate(Date date)
-{
-    constexpr std::array weekdays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
-    const LocalTime local = Calendar().localTime(date);
-    return QString::asprintf("%s %04d-%02d-%02d %02d:%02d ", weekdays.at(static_cast<std::size_t>(local.weekday - 1)),
-                             local.year, local.month, local.day, local.hour, local.minute) +
-           offsetText(Calendar().offsetFromUtc(date));
-}
-
-QString offsetText(int offset)
-{
-    const int minutes = std::abs(offset) / 60;
-    return QString::asprintf("%c%02d:%02d", offset < 0 ? '-' : '+', minutes / 60, minutes % 60);
-}
 
 QByteArray status(const TMStatus& status, bool json)
 {

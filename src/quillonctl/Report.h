@@ -2,6 +2,7 @@
 
 #include "BackupDestination.h"
 #include "Date.h"
+#include "PrintedDates.h"
 #include "TMStatus.h"
 #include "UserDefaults.h"
 
@@ -18,15 +19,6 @@ QList<Date> comingStarts(const UserDefaults& defaults, Date from, int count);
 
 /// What quillonctl prints: text for people, JSON for scripts; each ends in a line feed unless it is empty.
 namespace quillon::report {
-
-/// ISO 8601 with the offset that holds at that instant, such as "2026-11-21T12:00:00+01:00".
-QString isoDate(Date date);
-
-/// For people, with the weekday: "Sat 2026-11-21 12:00 +01:00".
-QString readableDate(Date date);
-
-/// An offset from UTC in seconds, such as "+01:00".
-QString offsetText(int offset);
 
 QByteArray status(const TMStatus& status, bool json);
 QByteArray destinations(const QList<BackupDestination>& destinations, bool json);

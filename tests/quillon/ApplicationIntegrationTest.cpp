@@ -10,6 +10,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTime>
 
 #include <gtest/gtest.h>
 
@@ -104,6 +105,60 @@ TEST_F(Application, AStartDoesWhatItIsForAndHasTheRunningOneDoIt)
     EXPECT_EQ(second.exitCode(), 0);
     EXPECT_TRUE(runUntil([&] { return settings().integer(settingskeys::pauseUntilTag) == 3600; }));
     EXPECT_FALSE(quillonctl({u"doctor"_s}).contains("not paused")) << "it reads the same settings";
+}
+
+TEST_F(Application, DoesByCommandWhatItsMenuDoesAndTellsWhatCameOfIt)
+{
+    useTool("case $1 in\n"
+            "status) [ ! -e \"$0.runs\" ]; echo \"{ Running = $?; BackupPhase = Copying; }\" ;;\n"
+            "destinationinfo) echo '{ Destinations = ( { ID = A; Name = \"My Disk\"; } ); }' ;;\n"
+            "startbackup) echo \"$*\" > \"$0.runs\" ;;\n"
+            "stopbackup) rm \"$0.runs\" ;;\n"
+            "esac\n");
+    const auto expect = [this](const QStringList& words, int status, const char* expected) {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(QStringLiteral(QUILLONCTL_EXECUTABLE), words);
+        process.waitForFinished(-1);
+        const QByteArray answer = process.readAll();
+        EXPECT_EQ(process.exitCode(), status) << answer.toStdString();
+        EXPECT_TRUE(answer.startsWith(expected)) << answer.toStdString();
+    };
+    expect({u"skip"_s}, 2, "quillonctl: Quillon is not running\n");
+    expect({u"pause"_s}, 64, "quillonctl: pause takes ");
+    settings(DefaultsAccess::ReadWrite).setObject(settingskeys::didShowAlertAtFirstLaunch, true);
+    const qlonglong far = (QTime::currentTime().hour() + 12) % 24 * 3600; // from now, whenever that is
+    settings(DefaultsAccess::ReadWrite)
+        .setObject(settingskeys::calendarIntervals, QVariantList{QVariantMap{{u"day"_s, 0LL}, {u"time"_s, far}}});
+    start(application);
+    ASSERT_TRUE(hasPrinted("Next"));
+
+    QProcess watch;
+    watch.setProcessEnvironment(environment);
+    watch.start(QStringLiteral(QUILLONCTL_EXECUTABLE), {u"status"_s, u"--watch"_s, u"--json"_s});
+    QByteArray watched;
+    const auto hasSeen = [&](const QByteArray& text) {
+        return runUntil([&] { return (watched += watch.readAllStandardOutput()).contains(text); });
+    };
+    EXPECT_TRUE(hasSeen("\"state\":0"));
+    expect({u"rules"_s}, 0, "1  every-day ");
+    expect({u"rules"_s, u"add"_s, u"Monday"_s, u"3:00"_s}, 0, "1  every-day ");
+    expect({u"rules"_s, u"remove"_s, u"2"_s}, 0, "1  every-day ");
+    expect({u"skip"_s}, 0, "the backup of ");
+    expect({u"postpone"_s, u"10m"_s}, 0, "the backup of ");
+    expect({u"pause"_s, u"1h"_s}, 0, "the schedule is paused until ");
+    EXPECT_EQ(settings().integer(settingskeys::pauseUntilTag), 3600);
+    expect({u"resume"_s, u"--json"_s}, 0, "{\"done\":true,");
+    expect({u"retry"_s}, 1, "quillonctl: no retry is pending\n");
+    expect({u"skip-retry"_s, u"--json"_s}, 1, "quillonctl: no retry is pending\n{\"done\":false,");
+    expect({u"settings"_s}, 0, "the settings are open\n");
+    expect({u"backup"_s, u"--disk"_s, u"My Disk"_s}, 0, "the backup starts\n");
+    EXPECT_TRUE(hasSeen("\"phase\":\"Copying\""));
+    expect({u"stop"_s}, 0, "the backup is being stopped\n");
+    application.terminate();
+    EXPECT_TRUE(runUntil([&] { return watch.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(watch.exitCode(), 2);
 }
 
 TEST_F(Application, EndsInOrderWhenItIsToldToAndTakesAReadingChildAlong)

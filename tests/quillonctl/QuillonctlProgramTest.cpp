@@ -67,6 +67,8 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
         {u"destinations"_s, babble, 1, "", isBabble, u"destinationinfo -X"_s},
         {u"destinations"_s, none, 0, "", "quillonctl: no backup disk is set up\n", u"destinationinfo -X"_s},
         {u"destinations"_s, healthy, 0, "A  B\n", "", u"destinationinfo -X"_s},
+        {u"skip --json"_s, missing, 2, "{\"done\":false,\"text\":\"Quillon is not running\"}\n",
+         "quillonctl: Quillon is not running\n"},
         {u"doctor"_s, missing, 1, "Quillon " + version, "", u"destinationinfo -X"_s},
         {u"doctor --json"_s, healthy, 0, "{", "", u"destinationinfo -X"_s},
     };

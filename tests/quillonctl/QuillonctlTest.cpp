@@ -2,6 +2,7 @@
 #include "Arguments.h"
 #include "BackupInfo.h"
 #include "CalendarIntervalRule.h"
+#include "ChangedStart.h"
 #include "Doctor.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
@@ -53,6 +54,8 @@ TEST(QuillonctlArguments, AreRead)
         {u"doctor --json"_s, Command::Doctor, true},
         {u"next --count 1 --json"_s, Command::Next, true, 1},
         {u"next --from 2026-11-21T08:30 --count 1000"_s, Command::Next, false, 1000, local(2026, 11, 21, 8, 30)},
+        {u"status --json --watch"_s, Command::OfRunning, true},
+        {u"pause 1h"_s, Command::OfRunning},
         {u"next --from 2026-11-21T08:30:59"_s, Command::Next, false, 5, local(2026, 11, 21, 8, 30, 59)},
     };
     for (const auto& [words, command, json, count, from] : rows) {
@@ -72,8 +75,9 @@ TEST(QuillonctlArguments, AreRefusedWithOneClearLine)
     const QString form = u"--from takes a local date and time such as 2026-11-21T12:00, not \"%1\""_s;
     const QString range = u"--count takes a number from 1 to 1000, not \"%1\""_s;
     const std::pair<QStringList, QString> rows[] = {
-        {{}, u"a command is missing: status, destinations, next or doctor"_s},
-        {{u"sta"_s}, u"unknown command \"sta\": it is status, destinations, next or doctor"_s},
+        {{}, u"a command is missing; --help lists them"_s},
+        {{u"sta"_s}, u"unknown command \"sta\"; --help lists them"_s},
+        {{u"stop"_s, u"--count"_s}, u"unexpected argument \"--count\""_s},
         {{u"status"_s, u"--count"_s, u"3"_s}, u"unexpected argument \"--count\""_s},
         {{u"next"_s, u"extra"_s}, u"unexpected argument \"extra\""_s},
         {{u"--version"_s, u"--json"_s}, u"unexpected argument \"--json\""_s},
@@ -104,6 +108,11 @@ TEST(ComingStarts, FollowTheRulesEachLaterThanTheOneBefore)
                        CalendarIntervalRule::listToArray({{0, 43200}, {1, 43200}, {1, 50400}}));
     EXPECT_EQ(comingStarts(defaults, local(2026, 11, 22, 0), 3),
               (QList<Date>{local(2026, 11, 22, 12), local(2026, 11, 22, 14), local(2026, 11, 23, 12)}));
+    defaults.setObject(
+        settingskeys::changedStarts,
+        ChangedStart::listToArray({{{2026, 11, 22, 12}}, {{2026, 11, 22, 14}, local(2026, 11, 22, 15)}}));
+    EXPECT_EQ(comingStarts(defaults, local(2026, 11, 22, 0), 2),
+              (QList<Date>{local(2026, 11, 22, 15), local(2026, 11, 23, 12)}));
     defaults.setDate(settingskeys::pauseUntilDate, local(2026, 11, 25, 13));
     EXPECT_EQ(comingStarts(defaults, local(2026, 11, 22, 0), 1), QList<Date>{local(2026, 11, 26, 12)});
     defaults.setObject(settingskeys::enableSchedule, 0LL);
