@@ -70,6 +70,19 @@ class InstallationTest(unittest.TestCase):
                 described = page.split(".SH OPTIONS\n")[1].split(".SH")[0]
                 self.assertEqual(offered, set(OPTION.findall(described)))
 
+    def test_completion_of_quillonctl_offers_its_commands_and_knows_the_disks(self):
+        usage = self.run_program(self.prefix / "bin/quillonctl", "--help").split("\n\n")[0]
+        commands = set(re.findall(r"(?:quillonctl|\|) ([a-z-]{3,})", re.sub(r"\[.*?\]", "", usage)))
+        script = self.share / "bash-completion/completions/quillonctl"
+        offered = subprocess.run(
+            ["bash", "-c", f"source '{script}'; quillonctl() {{ echo 'A1  My Disk  (last used)'; }};"
+             "COMP_WORDS=(quillonctl ''); COMP_CWORD=1; _quillonctl; printf '%s\n' \"${COMPREPLY[@]}\";"
+             "COMP_WORDS=(quillonctl backup --disk M); COMP_CWORD=3; _quillonctl; printf '%s\n' \"${COMPREPLY[@]}\""],
+            stdout=subprocess.PIPE, text=True, check=True).stdout.splitlines()
+        self.assertEqual(commands | {"My\\ Disk"}, set(offered))
+        (zsh,) = self.share.glob("zsh/*/_quillonctl")
+        self.assertEqual(commands, set(re.findall(r"^    '([a-z-]+):", zsh.read_text(), re.MULTILINE)))
+
     def test_the_page_of_tmutil_has_its_commands_options_and_exit_statuses(self):
         page = self.page("tmutil")
         usage = self.run_program(self.tmutil, "help")
