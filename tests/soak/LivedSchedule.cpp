@@ -2,6 +2,7 @@
 
 #include "Calendar.h"
 #include "DateFormatter.h"
+#include "RemoteControl.h"
 
 #include <algorithm>
 #include <array>
@@ -82,7 +83,7 @@ void LivedSchedule::meet(Date due)
     sleepUntil(due - 5min);
     runLoop.advance(20s);
     expectStart(runLoop.now(), false, {});
-    event_ = Event(std::max(between(-10, int(Event::ByHand)), 0)); // most days nothing happens
+    event_ = Event(std::max(between(-10, int(Event::Postponed)), 0)); // most days nothing happens
     play(event_, due);
     look(due);
 }
@@ -149,6 +150,26 @@ void LivedSchedule::play(Event event, Date due)
         ++seen_;
         pass(due, false, u"started by hand"_s);
         break;
+    case Event::Skipped:
+        ask(u"skip"_s);
+        pass(due, false, u"asked to be"_s);
+        return;
+    case Event::Postponed: {
+        const auto by = std::chrono::minutes(between(5, 90));
+        ask(u"postpone %1m"_s.arg(by.count()));
+        if (between(0, 1) == 1)
+            sleepUntil(due - 1min);
+        pass(due, false);
+        if (between(0, 3) == 0) {
+            sleepUntil(due + by + 1min);
+            pass(runLoop.now(), false, u"asleep"_s);
+            expectRetry();
+            return;
+        }
+        sleepUntil(due + by / 2);
+        pass(due + by, true);
+        break;
+    }
     }
     letRunEnd();
 }
@@ -186,6 +207,16 @@ void LivedSchedule::expectRetry()
     expectStart(*retry, true, {});
     tally_.retries += std::exchange(tally_.made, made) - made;
     letRunEnd();
+}
+
+void LivedSchedule::ask(const QString& words)
+{
+    RemoteControl remote({runLoop, notifications, tmutil, *manager, *controller});
+    remote.take(ControlRequest::toLine(words.split(u' ')), [this](const QByteArray& answer) {
+        if (!ControlAnswer::fromLine(answer)->done)
+            tally_.untrue.append(lineAt(runLoop.now()) + QString::fromUtf8(answer));
+        return true;
+    });
 }
 
 void LivedSchedule::letRunEnd()

@@ -46,7 +46,20 @@ public:
 
 private:
     /// What happens around the time of a start.
-    enum class Event { Nothing, RunFails, Asleep, SmallJump, LargeJump, SetBack, Paused, OtherRun, ToolFails, ByHand };
+    enum class Event {
+        Nothing,
+        RunFails,
+        Asleep,
+        SmallJump,
+        LargeJump,
+        SetBack,
+        Paused,
+        OtherRun,
+        ToolFails,
+        ByHand,
+        Skipped,
+        Postponed
+    };
 
     int between(int least, int most);
     QList<Date> dueOn(const LocalTime& day) const;
@@ -57,6 +70,8 @@ private:
     void expectStart(Date from, bool isExpected, const QString& reason);
     void expectRetry();
     void letRunEnd();
+    /// As another program of the user does.
+    void ask(const QString& words);
     void look(Date due);
     QString lineAt(Date date) const;
 
