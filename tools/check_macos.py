@@ -28,7 +28,8 @@ LC_SYMTAB = 2
 NLIST = struct.Struct("<IBBHQ")  # <mach-o/nlist.h>: nlist_64
 N_STAB, N_TYPE, N_EXT, N_UNDF = 0xE0, 0x0E, 0x01, 0x00
 
-HOST_LIBRARIES = ("Qt6Core", "Qt6Gui", "Qt6Widgets", "Qt6Network", "Qt6Svg", "libplist-2.0", "icu-i18n", "icu-uc")
+HOST_LIBRARIES = ("Qt6Core", "Qt6Gui", "Qt6Widgets", "Qt6Network", "Qt6Sql", "Qt6Svg", "libplist-2.0", "icu-i18n",
+                  "icu-uc")
 LIBRARY_FILES = {"libplist-2.0": "plist-2.0", "icu-i18n": "icui18n", "icu-uc": "icuuc"}
 # C++ but for the standard library, whose names differ between libc++ and libstdc++; libplist; ICU with its version.
 COMPARABLE = re.compile(r"__Z(?!.*St3__1)(?!(?:N|NK|T[ISV])?S[ta])(?!T[ISV]?N10__cxxabi)(?!n[aw]|d[al])"

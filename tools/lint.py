@@ -12,7 +12,7 @@ from pathlib import Path
 FORBIDDEN_HEADERS = {"quillonctl": {"DataManager.h"}}
 # Modules that Debian's layout lets an include find although the layer does not link them.
 QT_MODULES = {"QtGui": "Qt6::Widgets", "QtWidgets": "Qt6::Widgets", "QtNetwork": "Qt6::Network", "QtDBus": "Qt6::DBus",
-              "QtSvg": "Qt6::Svg"}
+              "QtSql": "Qt6::Sql", "QtSvg": "Qt6::Svg"}
 # Who may ask a clock: what the run loop stands on, and programs that have none.
 WITH_CLOCK = {"platform/core", "platform/session", "platform/ui", "quillon", "quillonctl", "helper", "tmutil"}
 CLOCK = re.compile(r"\b(QDateTime::current\w*|QDate::currentDate|QTime::currentTime|(?:system|steady)_clock::now"
