@@ -105,16 +105,41 @@ void BackupCommands::requestStop()
 
 void BackupCommands::requestStart(const QString& identifier, bool rotateBackupDisks)
 {
+    const LedgerEntry start{
+        .date = services_.runLoop.now(), .cause = LedgerEntry::Cause::User, .diskIdentifier = identifier};
     services_.tmutil.startBackupOnDiskWithIdentifier(
-        identifier, rotateBackupDisks, [this](std::int32_t exitStatus, bool success) {
+        identifier, rotateBackupDisks, [this, start](std::int32_t exitStatus, bool success) {
             if (success) {
-                waitingStart_.reset(); // the backup that it was to start begins now
+                // The backup that a waiting start was to begin begins now.
+                if (const auto waiting = std::exchange(waitingStart_, std::nullopt))
+                    skip(*waiting, LedgerEntry::Reason::StartedByHand);
                 services_.follower.startAccepted();
-            } else if (!told_) {
-                services_.runLoop.enqueue([this, exitStatus] { tellOfFailedStart(exitStatus); });
+                answer(start, LedgerEntry::Outcome::Running);
+            } else {
+                answerRefusal(start, exitStatus);
+                if (!told_)
+                    services_.runLoop.enqueue([this, exitStatus] { tellOfFailedStart(exitStatus); });
             }
             settle({success ? CommandResult::Outcome::Accepted : CommandResult::Outcome::Refused, exitStatus});
         });
+}
+
+void BackupCommands::answer(LedgerEntry start, LedgerEntry::Outcome outcome, LedgerEntry::Reason reason)
+{
+    start.outcome = outcome;
+    start.reason = reason;
+    Q_EMIT startAnswered(start);
+}
+
+void BackupCommands::answerRefusal(LedgerEntry start, std::int32_t exitStatus)
+{
+    start.exitStatus = exitStatus;
+    answer(start, LedgerEntry::Outcome::Refused, LedgerEntry::Reason::ToolRefused);
+}
+
+void BackupCommands::skip(const ScheduledStart& scheduled, LedgerEntry::Reason reason)
+{
+    answer(scheduled.start, LedgerEntry::Outcome::Skipped, reason);
 }
 
 void BackupCommands::tellOfFailedStart(std::int32_t exitStatus)
@@ -130,40 +155,52 @@ void BackupCommands::tellOfFailedStart(std::int32_t exitStatus)
 
 void BackupCommands::startScheduledBackup()
 {
-    askForScheduledStart(switchesNow());
+    using Cause = LedgerEntry::Cause;
+    const DataManager& model = services_.dataManager;
+    const auto due = model.nextScheduledBackupDate();
+    const Cause cause = due && due == model.retryBackupDate() ? Cause::Retry : Cause::Schedule;
+    askForScheduledStart({switchesNow(), {.date = due.value_or(services_.runLoop.now()), .cause = cause}});
 }
 
-void BackupCommands::askForScheduledStart(const ScheduleSwitches& switches)
+void BackupCommands::askForScheduledStart(const ScheduledStart& scheduled)
 {
-    if (isUnderWay_) {
-        waitingStart_ = switches; // the user is starting or stopping a backup at this moment
+    if (isUnderWay_) { // the user is starting or stopping a backup at this moment
+        if (const auto earlier = std::exchange(waitingStart_, scheduled))
+            skip(*earlier, LedgerEntry::Reason::Overtaken);
         return;
     }
     begin();
     services_.follower.askForStatus(
-        [this, switches](const TMStatus& status) { answerScheduledStart(status, switches); });
+        [this, scheduled](const TMStatus& status) { answerScheduledStart(status, scheduled); });
 }
 
-void BackupCommands::answerScheduledStart(const TMStatus& status, const ScheduleSwitches& switches)
+void BackupCommands::answerScheduledStart(const TMStatus& status, const ScheduledStart& scheduled)
 {
+    using Reason = LedgerEntry::Reason;
     if (status.state == TMState::Unknown) { // which is no reason to do anything, and tells nothing of a run
+        skip(scheduled, Reason::Unreadable);
         settle();
         return;
     }
-    if (status.state != TMState::NotRunning || switches != switchesNow()) {
+    if (status.state != TMState::NotRunning || scheduled.switches != switchesNow()) {
         services_.follower.take(status, BackupRun::Asked::ByPoll);
+        skip(scheduled, status.state != TMState::NotRunning ? Reason::BackupRan : Reason::SettingsChanged);
         settle();
         return;
     }
     // A run that has ended since the last poll is to be recorded before the next one begins.
     services_.follower.take(status, BackupRun::Asked::ByCommand);
-    services_.tmutil.startBackupOnDiskWithIdentifier({}, rotateBackupDisks(), [this](std::int32_t, bool success) {
-        if (success) {
-            services_.follower.startAccepted();
-            Q_EMIT scheduledBackupStarts();
-        }
-        settle();
-    });
+    services_.tmutil.startBackupOnDiskWithIdentifier(
+        {}, rotateBackupDisks(), [this, start = scheduled.start](std::int32_t exitStatus, bool success) {
+            if (success) {
+                services_.follower.startAccepted();
+                answer(start, LedgerEntry::Outcome::Running);
+                Q_EMIT scheduledBackupStarts();
+            } else {
+                answerRefusal(start, exitStatus);
+            }
+            settle();
+        });
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "AlertPresenter.h"
 #include "DataManager.h"
+#include "Ledger.h"
 #include "RunFollower.h"
 #include "UserDefaults.h"
 
@@ -55,6 +56,7 @@ public:
     /// Starts a backup, and leaves alone one that runs.
     void backupNowRequested(CommandResultHandler told = {});
     void backupNowSubMenuItemClicked(const QString& identifier, CommandResultHandler told = {});
+    /// The start that is due now, while the schedule still names it as the next one.
     void startScheduledBackup();
 
 Q_SIGNALS:
@@ -62,6 +64,8 @@ Q_SIGNALS:
     void began();
     /// A scheduled start was accepted.
     void scheduledBackupStarts();
+    /// What has become of a start: why it was to be made, when and where to, and the outcome with its reason.
+    void startAnswered(const quillon::LedgerEntry& start);
 
 private:
     /// What a scheduled start was decided on.
@@ -72,21 +76,29 @@ private:
         bool operator==(const ScheduleSwitches&) const = default;
     };
 
+    struct ScheduledStart {
+        ScheduleSwitches switches;
+        LedgerEntry start;
+    };
+
     bool rotateBackupDisks() const;
     ScheduleSwitches switchesNow() const;
+    void answer(LedgerEntry start, LedgerEntry::Outcome outcome, LedgerEntry::Reason reason = {});
+    void answerRefusal(LedgerEntry start, std::int32_t exitStatus);
+    void skip(const ScheduledStart& scheduled, LedgerEntry::Reason reason);
     void begin(CommandResultHandler told = {});
     void settle(const CommandResult& result = {});
     void answerBackupNow(const TMStatus& status, bool offeredToStop);
     void requestStop();
     void requestStart(const QString& identifier, bool rotateBackupDisks);
     void tellOfFailedStart(std::int32_t exitStatus);
-    void askForScheduledStart(const ScheduleSwitches& switches);
-    void answerScheduledStart(const TMStatus& status, const ScheduleSwitches& switches);
+    void askForScheduledStart(const ScheduledStart& scheduled);
+    void answerScheduledStart(const TMStatus& status, const ScheduledStart& scheduled);
 
     Services services_;
     bool isUnderWay_ = false;
     CommandResultHandler told_;
-    std::optional<ScheduleSwitches> waitingStart_;
+    std::optional<ScheduledStart> waitingStart_;
 };
 
 } // namespace quillon

@@ -105,6 +105,7 @@ void ScheduleWatch::lookAtSchedule(Occasion occasion)
     takeClockAsItIs();
     const Decision first = decide();
     const auto retry = model.retryBackupDate();
+    const auto armed = model.nextScheduledBackupDate();
     if (first == Decision::Start)
         model.makeScheduledStart();
     services_.pause.schedulePauseScheduleExpirationTimer();
@@ -114,6 +115,8 @@ void ScheduleWatch::lookAtSchedule(Occasion occasion)
         model.setRetryBackupDate(std::min(*retry, freshRetryDate()));
     else
         planAfter(decide());
+    if (armed && *armed < services_.runLoop.now() && (first == Decision::Missed || first == Decision::PlanAnew))
+        Q_EMIT startPassed(*armed, armed == retry, occasion);
     Q_EMIT looked();
 }
 

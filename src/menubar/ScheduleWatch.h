@@ -80,6 +80,8 @@ public:
 Q_SIGNALS:
     /// The schedule has been looked at.
     void looked();
+    /// It was found that the start which was armed has passed without being made. What follows it is planned.
+    void startPassed(Date due, bool isRetry, startdecision::Occasion occasion);
 
 private:
     /// Whether the clock or the zone was changed since the last look.

@@ -23,6 +23,7 @@ StatusMenuController::StatusMenuController(const Services& services)
               services.statusItem, statusMenu_)
     , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
     , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
+    , runLedger_({services.runLoop, services.defaults, services.dataManager, follower_, disks_, services.ledger})
 {
     connectParts();
 }
@@ -50,6 +51,12 @@ void StatusMenuController::connectParts()
     connect(&pause_, &SchedulePause::changed, this, &StatusMenuController::updateStatusBar);
     connect(&schedule_, &ScheduleWatch::looked, this, &StatusMenuController::updateStatusBar);
     connect(&face_, &StatusItemFace::menuBarIconStateChanged, this, &StatusMenuController::menuBarIconStateChanged);
+    // Last, so that what each of them leads to has been done.
+    connect(&commands_, &BackupCommands::startAnswered, &runLedger_, &RunLedger::noteStart);
+    connect(&schedule_, &ScheduleWatch::startPassed, &runLedger_, &RunLedger::notePassed);
+    connect(&pause_, &SchedulePause::changed, &runLedger_, &RunLedger::lookAtPause);
+    connect(&follower_, &RunFollower::ticked, &runLedger_, &RunLedger::lookAtPause);
+    connect(&follower_, &RunFollower::stepped, &runLedger_, &RunLedger::noteStep);
 }
 
 void StatusMenuController::awakeFromNib()

@@ -5,6 +5,7 @@
 #include "NotificationCenter.h"
 #include "Panels.h"
 #include "RunFollower.h"
+#include "RunLedger.h"
 #include "SchedulePause.h"
 #include "ScheduleWatch.h"
 #include "StatusItemFace.h"
@@ -38,6 +39,7 @@ public:
         DataManager& dataManager;
         LoginItem& loginItem;
         StatusItem& statusItem;
+        Ledger& ledger;
     };
 
     explicit StatusMenuController(const Services& services);
@@ -135,6 +137,7 @@ private:
     Panels panels_;
     StatusItemFace face_;
     ScheduleWatch schedule_;
+    RunLedger runLedger_;
     const char* enterTimeMachineTitleLocaleKey_ = nullptr;
     const char* skipThisBackupTitleLocaleKey_ = nullptr;
     bool shouldEnableMenuButons_ = true;

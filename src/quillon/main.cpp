@@ -15,6 +15,7 @@
 #include "QuitSignals.h"
 #include "RemoteControl.h"
 #include "SingleInstance.h"
+#include "SqliteLedger.h"
 #include "StatusMenuController.h"
 #include "TMUtilQueue.h"
 #include "Task.h"
@@ -64,8 +65,9 @@ int runApplication(const Options& options, SingleInstance& instance)
     DataManager& dataManager = DataManager::createSharedInstance({runLoop, *defaults, notifications, *loginItem});
     Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
     const auto statusItem = makeStatusItem(options.placement);
+    SqliteLedger ledger(ledgerFile());
     StatusMenuController controller(
-        {runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager, *loginItem, *statusItem});
+        {runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager, *loginItem, *statusItem, ledger});
     RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 

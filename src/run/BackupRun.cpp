@@ -69,6 +69,7 @@ void BackupRun::take(const TMStatus& status, Asked asked, Date now)
     progress_.update(status, now);
     if (!status.destinationID.isEmpty())
         activeBackupDiskIdentifier_ = status.destinationID;
+    lastFailure_ = status.lastFailure;
     markCompletion(status, now);
 }
 
@@ -116,8 +117,11 @@ BackupRun::End BackupRun::end()
 {
     uiState_ = tmState_;
     const RunProgress progress = std::exchange(progress_, {});
-    return {backupCompleteDate_, stopBackupConfirmed_, std::exchange(activeBackupDiskIdentifier_, {}),
+    End end{backupCompleteDate_, stopBackupConfirmed_, std::exchange(activeBackupDiskIdentifier_, {}),
             progress.bytesCopied()};
+    if (end.failed())
+        end.failure = lastFailure_;
+    return end;
 }
 
 } // namespace quillon

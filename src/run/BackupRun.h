@@ -74,6 +74,7 @@ public:
         bool stoppedByUser = false;
         std::optional<QString> disk; ///< identifier of the destination
         std::int64_t bytes = 0;
+        QString failure{}; ///< in the tool's words; empty where it told none, and for a run that did not fail
 
         bool failed() const { return !completed && !stoppedByUser; }
         bool operator==(const End&) const = default;
@@ -124,6 +125,7 @@ private:
     bool stopBackupConfirmed_ = false;
     std::optional<Date> backupCompleteDate_;
     std::optional<QString> activeBackupDiskIdentifier_;
+    QString lastFailure_; ///< as of the last report
     Pace pace_ = Pace::Idle;
     std::chrono::milliseconds startAccepted_{0}; ///< on the uptime clock
 };

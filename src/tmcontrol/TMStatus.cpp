@@ -154,7 +154,12 @@ TMStatus TMStatus::fromOutput(const std::optional<QByteArray>& output)
     const auto running = scalar(status, u"Running"_s);
     if (!running.isValid())
         return failure();
-    return toBoolean(running) ? runningStatus(status) : notRunning();
+    if (toBoolean(running))
+        return runningStatus(status);
+    TMStatus idle = notRunning();
+    if (const auto failure = dictionary(status, u"LastFailure"_s)) // our tool has it
+        idle.lastFailure = scalar(*failure, u"Description"_s).toString();
+    return idle;
 }
 
 } // namespace quillon

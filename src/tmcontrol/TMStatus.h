@@ -57,6 +57,7 @@ struct TMStatus {
     double timeRemaining = 0;            ///< seconds; 0 when unknown
     std::int64_t bytesCopied = 0;        ///< 0 when unknown
     QString destinationID;               ///< empty when not reported
+    QString lastFailure{};               ///< what the last run met with, in the tool's words; empty where it tells none
 
     static TMStatus failure();
     static TMStatus notRunning();

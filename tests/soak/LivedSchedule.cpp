@@ -17,6 +17,20 @@ namespace {
 
 constexpr auto reactionTime = 2s;
 
+/// What the ledger has to say of a start by what happens around it, in the order of events.
+constexpr std::array ledgerLines{
+    "schedule completed",                              // Nothing
+    "schedule failed incomplete, retry completed",     // RunFails
+    "schedule missed asleep, retry completed",         // Asleep
+    "schedule completed",                              // SmallJump
+    "schedule missed clockSet, retry completed",       // LargeJump
+    "schedule completed",                              // SetBack
+    "schedule skipped paused",                         // Paused
+    "elsewhere completed, schedule skipped backupRan", // OtherRun
+    "schedule refused toolRefused",                    // ToolFails
+    "user completed, schedule skipped backupRan",      // ByHand
+};
+
 } // namespace
 
 LivedSchedule::LivedSchedule(Date begin, unsigned seed, Tally& tally)
@@ -73,6 +87,7 @@ void LivedSchedule::travel()
     runLoop.advance(20s);
     if (manager->retryBackupDate())
         expectRetry();
+    newInLedger(); // what was missed depends on where the night was
 }
 
 void LivedSchedule::meet(Date due)
@@ -232,6 +247,22 @@ void LivedSchedule::look(Date due)
                         manager->nextScheduledBackupDate() > runLoop.now();
     if (!isTrue)
         tally_.untrue.append(lineAt(due) + u", "_s + item.title.replace(u'\n', u' '));
+    const QString told = newInLedger();
+    if (told != QLatin1StringView(ledgerLines.at(std::size_t(event_))))
+        tally_.untrue.append(lineAt(due) + u", ledger: "_s + told);
+}
+
+QString LivedSchedule::newInLedger()
+{
+    QStringList lines;
+    const auto entries = ledger.read().value_or(std::vector<LedgerEntry>());
+    for (const LedgerEntry& entry : entries) {
+        if (!read_.contains(entry.id))
+            lines.prepend(
+                u"%1 %2 %3"_s.arg(nameOf(entry.cause), nameOf(entry.outcome), nameOf(entry.reason)).trimmed());
+        read_.insert(entry.id);
+    }
+    return lines.join(u", "_s);
 }
 
 QString LivedSchedule::lineAt(Date date) const

@@ -5,6 +5,7 @@
 #include "ScopedEnvironment.h"
 
 #include <QMap>
+#include <QSet>
 #include <QStringList>
 
 #include <optional>
@@ -73,12 +74,14 @@ private:
     /// As another program of the user does.
     void ask(const QString& words);
     void look(Date due);
+    QString newInLedger();
     QString lineAt(Date date) const;
 
     std::mt19937 random_;
     Tally& tally_;
     Event event_ = Event::Nothing;
-    int seen_ = 0; ///< how many runs have been accounted for
+    int seen_ = 0;      ///< how many runs have been accounted for
+    QSet<qint64> read_; ///< entries of the ledger
 };
 
 } // namespace quillon

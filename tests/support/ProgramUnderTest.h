@@ -5,6 +5,7 @@
 #include "FakeServices.h"
 #include "FakeStatusItem.h"
 #include "MemoryDefaults.h"
+#include "MemoryLedger.h"
 #include "NotificationCenter.h"
 #include "StatusMenuController.h"
 #include "StoredAndSentNames.h"
@@ -37,7 +38,7 @@ struct ProgramUnderTest {
         controller.reset();
         manager = std::make_unique<DataManager>(DataManager::Services{clock_, defaults, notifications, loginItem});
         controller = std::make_unique<StatusMenuController>(StatusMenuController::Services{
-            clock_, defaults, notifications, workspace, tmutil, alerts, *manager, loginItem, statusItem});
+            clock_, defaults, notifications, workspace, tmutil, alerts, *manager, loginItem, statusItem, ledger});
         controller->awakeFromNib();
     }
 
@@ -50,6 +51,7 @@ struct ProgramUnderTest {
     TMUtilQueue queue;
     TimeMachineSettings settings;
     TMUtil tmutil{queue, settings};
+    MemoryLedger ledger;
     std::unique_ptr<DataManager> manager;
     std::unique_ptr<StatusMenuController> controller;
 
