@@ -1172,5 +1172,182 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Was nicht zurückkam</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>Backup-Protokoll</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>Datum</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>Anlass</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>Volume</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>Kopiert</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>Dauer</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>Byte</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>Beginn</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>Ende</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>Grund</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>Läuft</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>Abgeschlossen</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>Gestoppt</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>Nicht gesehen</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>Übersprungen</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>Verpasst</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>Abgelehnt</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>Zeitplan</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>Neuer Versuch</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>Sie</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Außerhalb von Quillon</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>Alle</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>Kein Backup</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>Die letzten %1 Tage: %2 mit Backup, %3 nur mit Problemen</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>Als Text kopieren</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>Als CSV sichern</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>Das Protokoll konnte nicht gesichert werden.</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>Es ist noch nichts verzeichnet.</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>Kein Eintrag passt dazu.</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>Das Protokoll konnte nicht gelesen werden. Backups werden trotzdem erstellt.</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>Danach geplant: %1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>Der Zeitplan war pausiert. Im Menü lässt er sich fortsetzen.</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>Der Computer war im Ruhezustand. Wählen Sie Zeiten, zu denen er wach ist, oder lassen Sie verpasste Backups nachholen.</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>Die Uhr wurde über diese Zeit hinaus gestellt, oder der Computer war zu beschäftigt.</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>Es lief bereits ein anderes Backup. Es trat an die Stelle von diesem.</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>Im selben Moment wurde ein anderes Backup gestartet. Es trat an die Stelle von diesem.</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>Time Machine gab keine Auskunft. Starten Sie den Computer neu, wenn das öfter geschieht.</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>Der Zeitplan wurde genau in diesem Moment pausiert oder umgeschaltet.</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>Das Backup endete, bevor es vollständig war. Prüfen Sie, ob das Volume verbunden ist und Platz hat.</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>Das Backup wurde außerhalb von Quillon gestoppt.</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>Time Machine nahm den Start an, doch es war kein Backup zu sehen. Es war vielleicht zu kurz.</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>Quillon wurde vor dem Backup beendet. Ob es abgeschlossen wurde, zeigen die Backups selbst.</translation>
+    </message>
 </context>
 </TS>

@@ -1172,5 +1172,182 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>What did not come back</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>Backup Log</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>Date</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>Outcome</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>Started by</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>Disk</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>Copied</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>Duration</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>Bytes</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>Began</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>Ended</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>Reason</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>Running</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>Completed</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>Failed</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>Stopped</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>Not seen</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>Skipped</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>Missed</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>Refused</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>Schedule</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>Retry</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>You</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Outside Quillon</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>All</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>No backup</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>The last %1 days: %2 with a backup, %3 with trouble only</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>Copy as Text</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>Save as CSV</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>The log could not be saved.</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>Nothing has been logged yet.</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>No entry matches.</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>The log could not be read. Backups are made all the same.</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>Planned next: %1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>The schedule was paused. Resume it in the menu to have backups made again.</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>The computer was asleep. Choose times when it is awake, or have missed backups retried.</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>The clock was set past this time, or the computer was too busy to keep it.</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>Another backup was running already. It took the place of this one.</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>Another backup was started in the same moment. It took the place of this one.</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>Time Machine did not tell what it was doing. If this happens again, restart the computer.</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>The schedule was paused or switched at that very moment.</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>The backup ended before it was complete. Check that the disk is connected and has room.</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>The backup was stopped outside Quillon.</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>Time Machine accepted the start, but no backup was seen. It may have been too short to be noticed.</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>Quillon ended before the backup did. Browse the backups to see whether it was completed.</translation>
+    </message>
 </context>
 </TS>

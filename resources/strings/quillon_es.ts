@@ -1172,5 +1172,182 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>Lo que no se restauró</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>Registro de copias</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>Fecha</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>Resultado</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>Origen</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>Disco</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>Duración</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>Bytes</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>Inicio</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>Fin</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>Motivo</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>En curso</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>Completada</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>Fallida</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>Detenida</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>No observada</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>Omitida</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>No realizada</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>Rechazada</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>Programación</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>Reintento</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>Usted</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Fuera de Quillon</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>Todo</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>Ninguna copia</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>Los últimos %1 días: %2 con una copia, %3 solo con problemas</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>Copiar como texto</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>Guardar como CSV</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>No se ha podido guardar el registro.</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>Aún no hay nada registrado.</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>Ninguna entrada coincide.</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>No se ha podido leer el registro. Las copias se realizan de todos modos.</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>Programada después: %1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>La programación estaba en pausa. Reanúdela en el menú para volver a hacer copias.</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>El equipo estaba en reposo. Elija horas en las que esté activo o active el reintento de copias no realizadas.</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>El reloj se adelantó más allá de esta hora o el equipo estaba demasiado ocupado.</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>Ya se estaba haciendo otra copia, que sustituyó a esta.</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>En ese mismo momento se inició otra copia, que sustituyó a esta.</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>Time Machine no ha indicado su estado. Si se repite, reinicie el equipo.</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>La programación se pausó o se cambió en ese preciso momento.</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>La copia terminó antes de completarse. Compruebe que el disco esté conectado y tenga espacio.</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>La copia se detuvo fuera de Quillon.</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>Time Machine aceptó el inicio, pero no se observó ninguna copia. Puede que fuera demasiado breve.</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>Quillon se cerró antes que la copia. Explore las copias para ver si se completó.</translation>
+    </message>
 </context>
 </TS>

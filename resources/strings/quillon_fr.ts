@@ -1172,5 +1172,182 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>Ce qui n’est pas revenu</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>Journal des sauvegardes</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>Date</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>Résultat</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>Lancée par</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>Disque</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>Copié</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>Durée</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>Octets</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>Début</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>Fin</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>Raison</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>En cours</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>Terminée</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>Échouée</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>Non observée</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>Ignorée</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>Manquée</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>Refusée</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>Programmation</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>Nouvel essai</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>Vous</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Hors de Quillon</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>Tout</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>Aucune sauvegarde</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>Les %1 derniers jours : %2 avec une sauvegarde, %3 avec seulement des problèmes</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>Copier le texte</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>Enregistrer en CSV</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>Le journal n’a pas pu être enregistré.</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>Le journal est encore vide.</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>Aucune entrée ne correspond.</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>Le journal n’a pas pu être lu. Les sauvegardes ont lieu malgré tout.</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>Prévue ensuite : %1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>La programmation était suspendue. Reprenez-la dans le menu pour relancer les sauvegardes.</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>L’ordinateur était en veille. Choisissez des heures où il est actif ou faites réessayer les sauvegardes manquées.</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>L’horloge a été avancée au-delà de cette heure, ou l’ordinateur était trop occupé.</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>Une autre sauvegarde était déjà en cours et a remplacé celle-ci.</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>Une autre sauvegarde a été lancée au même moment et a remplacé celle-ci.</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>Time Machine n’a pas indiqué son état. Si cela se répète, redémarrez l’ordinateur.</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>La programmation a été suspendue ou modifiée à cet instant précis.</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>La sauvegarde s’est arrêtée avant la fin. Vérifiez que le disque est connecté et a de la place.</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>La sauvegarde a été arrêtée hors de Quillon.</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>Time Machine a accepté le lancement, mais aucune sauvegarde n’a été observée. Elle était peut-être trop courte.</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>Quillon s’est arrêté avant la fin de la sauvegarde. Parcourez les sauvegardes pour savoir si elle est terminée.</translation>
+    </message>
 </context>
 </TS>

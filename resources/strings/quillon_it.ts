@@ -1172,5 +1172,182 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>Ciò che non è tornato</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>Registro backup</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>Data</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>Esito</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>Avviato da</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>Disco</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>Copiato</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>Durata</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>Byte</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>Inizio</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>Fine</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>Motivo</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>In corso</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>Completato</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>Non riuscito</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>Interrotto</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>Non osservato</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>Saltato</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>Mancato</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>Rifiutato</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>Programmazione</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>Nuovo tentativo</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>Utente</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Fuori da Quillon</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>Tutto</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>Nessun backup</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>Gli ultimi %1 giorni: %2 con un backup, %3 solo con problemi</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>Copia come testo</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>Registra come CSV</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>Impossibile registrare il file.</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>Il registro è ancora vuoto.</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>Nessuna voce corrisponde.</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>Impossibile leggere il registro. I backup vengono eseguiti comunque.</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>Programmato in seguito: %1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>La programmazione era sospesa. Riprendila dal menu per eseguire di nuovo i backup.</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>Il computer era in stop. Scegli orari in cui è attivo o fai ritentare i backup mancati.</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>L’orologio è stato spostato oltre quest’ora o il computer era troppo occupato.</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>Era già in corso un altro backup, che ha sostituito questo.</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>Nello stesso momento è stato avviato un altro backup, che ha sostituito questo.</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>Time Machine non ha indicato il suo stato. Se succede di nuovo, riavvia il computer.</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>La programmazione è stata sospesa o modificata proprio in quel momento.</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>Il backup è terminato prima di essere completo. Verifica che il disco sia collegato e abbia spazio.</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>Il backup è stato interrotto fuori da Quillon.</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>Time Machine ha accettato l’avvio, ma non è stato osservato alcun backup. Forse è stato troppo breve.</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>Quillon si è chiuso prima del backup. Sfoglia i backup per vedere se è stato completato.</translation>
+    </message>
 </context>
 </TS>

@@ -1172,5 +1172,182 @@
         <source></source>
         <translation>復元できなかったもの</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>バックアップログ</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>日時</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>結果</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>開始元</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>ディスク</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>コピー量</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>所要時間</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>バイト</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>開始</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>終了</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>理由</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>実行中</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>完了</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>失敗</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>停止</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>未確認</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>スキップ</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>未実行</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>拒否</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>スケジュール</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>再試行</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>ユーザ</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Quillon以外</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>すべて</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>バックアップなし</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>過去%1日間：バックアップあり%2日、問題のみ%3日</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>テキストとしてコピー</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>CSVとして保存</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>ログを保存できませんでした。</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>まだ記録がありません。</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>一致する項目はありません。</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>ログを読み込めませんでした。バックアップは引き続き作成されます。</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>次の予定：%1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>スケジュールが一時停止されていました。再開するにはメニューから操作してください。</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>コンピュータがスリープしていました。起動している時刻を選ぶか、実行できなかったバックアップの再試行を有効にしてください。</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>時計がこの時刻より先に進められたか、コンピュータの負荷が高すぎました。</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>別のバックアップがすでに実行中で、代わりとなりました。</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>同時に別のバックアップが開始され、代わりとなりました。</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>Time Machineの状況を取得できませんでした。繰り返される場合は、コンピュータを再起動してください。</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>ちょうどその時にスケジュールが一時停止または切り替えられました。</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>バックアップが完了前に終了しました。ディスクが接続され、空きがあることを確認してください。</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>バックアップはQuillon以外で停止されました。</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>Time Machineは開始を受け付けましたが、バックアップは確認できませんでした。短すぎた可能性があります。</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>バックアップの終了前にQuillonが終了しました。完了したかどうかはバックアップを表示して確認してください。</translation>
+    </message>
 </context>
 </TS>

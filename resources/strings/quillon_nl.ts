@@ -1172,5 +1172,182 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>Wat niet is teruggekomen</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>Reservekopielogboek</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>Datum</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>Resultaat</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>Gestart door</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>Schijf</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>Gekopieerd</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>Duur</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>Bytes</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>Begin</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>Einde</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>Reden</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>Bezig</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>Voltooid</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>Mislukt</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>Gestopt</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>Niet gezien</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>Overgeslagen</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>Gemist</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>Geweigerd</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>Schema</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>Nieuwe poging</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>U</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Buiten Quillon</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>Alle</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>Geen reservekopie</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>De afgelopen %1 dagen: %2 met een reservekopie, %3 met alleen problemen</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>Kopieer als tekst</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>Bewaar als CSV</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>Het logboek kon niet worden bewaard.</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>Er is nog niets vastgelegd.</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>Geen regel komt overeen.</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>Het logboek kon niet worden gelezen. Reservekopieën worden toch gemaakt.</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>Daarna gepland: %1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>Het schema was onderbroken. Hervat het in het menu om weer reservekopieën te maken.</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>De computer sliep. Kies tijden waarop hij wakker is of laat gemiste reservekopieën opnieuw proberen.</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>De klok is voorbij deze tijd gezet, of de computer had het te druk.</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>Er was al een andere reservekopie bezig. Die kwam in de plaats van deze.</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>Op hetzelfde moment werd een andere reservekopie gestart. Die kwam in de plaats van deze.</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>Time Machine gaf geen status door. Start de computer opnieuw op als dit vaker gebeurt.</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>Het schema werd precies op dat moment onderbroken of omgezet.</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>De reservekopie eindigde voortijdig. Controleer of de schijf is aangesloten en ruimte heeft.</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>De reservekopie is buiten Quillon gestopt.</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>Time Machine accepteerde de start, maar er was geen reservekopie te zien. Mogelijk was die te kort.</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>Quillon stopte eerder dan de reservekopie. Blader door de reservekopieën om te zien of die voltooid is.</translation>
+    </message>
 </context>
 </TS>

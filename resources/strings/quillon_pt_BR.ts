@@ -1172,5 +1172,182 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>O que não voltou</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>Registro de Backups</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>Data</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>Resultado</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>Origem</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>Disco</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>Duração</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>Bytes</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>Início</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>Fim</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>Motivo</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>Em andamento</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>Concluído</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>Falhou</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>Interrompido</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>Não observado</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>Ignorado</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>Não realizado</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>Recusado</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>Programação</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>Nova Tentativa</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>Você</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Fora do Quillon</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>Tudo</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>Nenhum backup</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>Os últimos %1 dias: %2 com backup, %3 apenas com problemas</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>Copiar como Texto</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>Salvar como CSV</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>Não foi possível salvar o registro.</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>Ainda não há nada registrado.</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>Nenhuma entrada corresponde.</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>Não foi possível ler o registro. Os backups são feitos mesmo assim.</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>Programado em seguida: %1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>A programação estava pausada. Retome-a no menu para voltar a fazer backups.</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>O computador estava em repouso. Escolha horários em que ele esteja ativo ou ative novas tentativas de backups não realizados.</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>O relógio foi adiantado além deste horário ou o computador estava ocupado demais.</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>Outro backup já estava em andamento e substituiu este.</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>Outro backup foi iniciado no mesmo momento e substituiu este.</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>O Time Machine não informou seu estado. Se isso se repetir, reinicie o computador.</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>A programação foi pausada ou alterada naquele exato momento.</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>O backup terminou antes de ser concluído. Verifique se o disco está conectado e tem espaço.</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>O backup foi interrompido fora do Quillon.</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>O Time Machine aceitou o início, mas nenhum backup foi observado. Talvez tenha sido curto demais.</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>O Quillon foi encerrado antes do backup. Explore os backups para ver se ele foi concluído.</translation>
+    </message>
 </context>
 </TS>

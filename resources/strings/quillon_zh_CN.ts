@@ -1172,5 +1172,182 @@
         <source></source>
         <translation>未能恢复的内容</translation>
     </message>
+    <!-- The log of backups -->
+    <message id="logWindowTitle">
+        <source></source>
+        <translation>备份日志</translation>
+    </message>
+    <message id="logDateTitle">
+        <source></source>
+        <translation>日期</translation>
+    </message>
+    <message id="logOutcomeTitle">
+        <source></source>
+        <translation>结果</translation>
+    </message>
+    <message id="logCauseTitle">
+        <source></source>
+        <translation>发起方</translation>
+    </message>
+    <message id="logDiskTitle">
+        <source></source>
+        <translation>磁盘</translation>
+    </message>
+    <message id="logSizeTitle">
+        <source></source>
+        <translation>已拷贝</translation>
+    </message>
+    <message id="logDurationTitle">
+        <source></source>
+        <translation>时长</translation>
+    </message>
+    <message id="logBytesTitle">
+        <source></source>
+        <translation>字节</translation>
+    </message>
+    <message id="logBeganTitle">
+        <source></source>
+        <translation>开始</translation>
+    </message>
+    <message id="logEndedTitle">
+        <source></source>
+        <translation>结束</translation>
+    </message>
+    <message id="logReasonTitle">
+        <source></source>
+        <translation>原因</translation>
+    </message>
+    <message id="logRunningTitle">
+        <source></source>
+        <translation>正在进行</translation>
+    </message>
+    <message id="logCompletedTitle">
+        <source></source>
+        <translation>已完成</translation>
+    </message>
+    <message id="logFailedTitle">
+        <source></source>
+        <translation>失败</translation>
+    </message>
+    <message id="logStoppedTitle">
+        <source></source>
+        <translation>已停止</translation>
+    </message>
+    <message id="logUnseenTitle">
+        <source></source>
+        <translation>未见到</translation>
+    </message>
+    <message id="logSkippedTitle">
+        <source></source>
+        <translation>已跳过</translation>
+    </message>
+    <message id="logMissedTitle">
+        <source></source>
+        <translation>已错过</translation>
+    </message>
+    <message id="logRefusedTitle">
+        <source></source>
+        <translation>被拒绝</translation>
+    </message>
+    <message id="logScheduleTitle">
+        <source></source>
+        <translation>计划</translation>
+    </message>
+    <message id="logRetryTitle">
+        <source></source>
+        <translation>重试</translation>
+    </message>
+    <message id="logUserTitle">
+        <source></source>
+        <translation>您</translation>
+    </message>
+    <message id="logElsewhereTitle">
+        <source></source>
+        <translation>Quillon 之外</translation>
+    </message>
+    <message id="logAllTitle">
+        <source></source>
+        <translation>全部</translation>
+    </message>
+    <message id="logNoBackupTitle">
+        <source></source>
+        <translation>无备份</translation>
+    </message>
+    <message id="logDaysMessage">
+        <source></source>
+        <translation>过去 %1 天：%2 天有备份，%3 天只有问题</translation>
+    </message>
+    <message id="logCopyTitle">
+        <source></source>
+        <translation>拷贝为文本</translation>
+    </message>
+    <message id="logSaveTitle">
+        <source></source>
+        <translation>存储为 CSV</translation>
+    </message>
+    <message id="logSaveFailedTitle">
+        <source></source>
+        <translation>未能存储日志。</translation>
+    </message>
+    <message id="logEmptyMessage">
+        <source></source>
+        <translation>尚无记录。</translation>
+    </message>
+    <message id="logNothingFoundMessage">
+        <source></source>
+        <translation>没有符合条件的条目。</translation>
+    </message>
+    <message id="logUnreadableMessage">
+        <source></source>
+        <translation>未能读取日志。备份仍会照常进行。</translation>
+    </message>
+    <message id="logNextMessage">
+        <source></source>
+        <translation>之后计划：%1</translation>
+    </message>
+    <message id="logPausedMessage">
+        <source></source>
+        <translation>计划已暂停。要继续备份，请在菜单中恢复计划。</translation>
+    </message>
+    <message id="logAsleepMessage">
+        <source></source>
+        <translation>电脑处于睡眠状态。请选择电脑处于唤醒状态的时间，或启用错过备份后重试。</translation>
+    </message>
+    <message id="logClockSetMessage">
+        <source></source>
+        <translation>时钟被调到此时间之后，或者电脑过于繁忙。</translation>
+    </message>
+    <message id="logBackupRanMessage">
+        <source></source>
+        <translation>另一个备份已在进行，并取代了此备份。</translation>
+    </message>
+    <message id="logOvertakenMessage">
+        <source></source>
+        <translation>同时启动了另一个备份，并取代了此备份。</translation>
+    </message>
+    <message id="logStatusUnreadableMessage">
+        <source></source>
+        <translation>“时间机器”未报告其状态。如果再次发生，请重新启动电脑。</translation>
+    </message>
+    <message id="logSettingsChangedMessage">
+        <source></source>
+        <translation>就在那一刻，计划被暂停或切换了。</translation>
+    </message>
+    <message id="logIncompleteMessage">
+        <source></source>
+        <translation>备份未完成便已结束。请检查磁盘是否已连接且有可用空间。</translation>
+    </message>
+    <message id="logStoppedElsewhereMessage">
+        <source></source>
+        <translation>备份在 Quillon 之外被停止。</translation>
+    </message>
+    <message id="logNeverReportedMessage">
+        <source></source>
+        <translation>“时间机器”接受了启动，但未见到备份。可能时间太短而未被察觉。</translation>
+    </message>
+    <message id="logNotFollowedMessage">
+        <source></source>
+        <translation>Quillon 在备份完成之前退出。请浏览备份以查看其是否完成。</translation>
+    </message>
 </context>
 </TS>

@@ -2,11 +2,13 @@
 
 #include "AboutViewController.h"
 #include "LocalizedString.h"
+#include "WindowSystem.h"
 
 namespace quillon {
 
-Panels::Panels(const SettingsViewController::Services& services, StatusItem& item, StatusMenu& menu)
+Panels::Panels(const SettingsViewController::Services& services, Ledger& ledger, StatusItem& item, StatusMenu& menu)
     : services_(services)
+    , ledger_(ledger)
     , item_(item)
     , menu_(menu)
 {
@@ -23,8 +25,12 @@ Panels::Panels(const SettingsViewController::Services& services, StatusItem& ite
 
 void Panels::showSettings()
 {
-    if (!preferencesPopover_.contentView()) // which takes it
-        preferencesPopover_.setContentView(std::make_unique<SettingsViewController>(services_).release());
+    if (!preferencesPopover_.contentView()) { // which takes it
+        auto settings = std::make_unique<SettingsViewController>(services_);
+        QObject::connect(settings.get(), &SettingsViewController::backupLogButtonPressed, settings.get(),
+                         [this] { showLog(); });
+        preferencesPopover_.setContentView(settings.release());
+    }
     show(preferencesPopover_);
 }
 
@@ -34,6 +40,15 @@ void Panels::showAbout()
         aboutPopover_.setContentView(
             std::make_unique<AboutViewController>(services_.runLoop, services_.workspace, services_.alerts).release());
     show(aboutPopover_);
+}
+
+void Panels::showLog()
+{
+    preferencesPopover_.close(); // it would lie on top
+    if (!log_)
+        log_ = std::make_unique<LogWindow>(LogWindow::Services{services_.runLoop, ledger_, services_.alerts});
+    log_->show();
+    bringToFront(*log_);
 }
 
 void Panels::show(Popover& popover)

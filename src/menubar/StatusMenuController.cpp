@@ -20,7 +20,7 @@ StatusMenuController::StatusMenuController(const Services& services)
     , pause_({services.runLoop, services.defaults, services.dataManager}, statusMenu_)
     , panels_({services.runLoop, services.defaults, services.notifications, services.dataManager, services.loginItem,
                services.tmutil, services.workspace, services.alerts},
-              services.statusItem, statusMenu_)
+              services.ledger, services.statusItem, statusMenu_)
     , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
     , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
     , runLedger_({services.runLoop, services.defaults, services.dataManager, follower_, disks_, services.ledger})

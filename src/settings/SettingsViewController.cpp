@@ -88,6 +88,7 @@ void SettingsViewController::titleControls()
     ui_->enableMenuBarColorsCheckmark->setText(localizedString("settingsDisableIconColors"));
     ui_->rotateBackupDisksCheckmark->setText(localizedString("settingsRotateBackupDisks"));
     ui_->enableAppAtSystemStartCheckmark->setText(localizedString("settingsStartOnSystemStart"));
+    ui_->backupLogButton->setText(u"%1..."_s.arg(localizedString("logWindowTitle")));
 }
 
 /// For assistive technology, which tells neither what a picture shows nor what a control stands beside.
@@ -127,10 +128,11 @@ void SettingsViewController::nameControls()
     explain(ui_->enableAppAtSystemStartCheckmark, {}, ui_->diskGroupLabel->text());
     ui_->warningButton->setToolTip(ui_->warningButton->accessibleName());
 
-    assignMnemonics(
-        {ui_->enableScheduleCheckmark, ui_->addCalendarIntervalButton, ui_->enableRetryAtMissedScheduleCheckmark,
-         ui_->enableRetryAtFailureCheckmark, ui_->showRemainingMinutesCheckmark, ui_->showMenuBarIconOnlyCheckmark,
-         ui_->enableMenuBarColorsCheckmark, ui_->rotateBackupDisksCheckmark, ui_->enableAppAtSystemStartCheckmark});
+    assignMnemonics({ui_->enableScheduleCheckmark, ui_->addCalendarIntervalButton,
+                     ui_->enableRetryAtMissedScheduleCheckmark, ui_->enableRetryAtFailureCheckmark,
+                     ui_->showRemainingMinutesCheckmark, ui_->showMenuBarIconOnlyCheckmark,
+                     ui_->enableMenuBarColorsCheckmark, ui_->rotateBackupDisksCheckmark,
+                     ui_->enableAppAtSystemStartCheckmark, ui_->backupLogButton});
 }
 
 /// What depends on the sizes of the style and the font.

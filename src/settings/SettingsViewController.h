@@ -67,6 +67,9 @@ public:
     /// Whole minutes.
     static int secondsSinceMidnightFromDate(QTime time);
 
+Q_SIGNALS:
+    void backupLogButtonPressed();
+
 protected:
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -177,6 +177,7 @@ void SettingsViewController::connectOptionControls()
     onClick(ui_->enableMenuBarColorsCheckmark, &SettingsViewController::enableMenuBarColorsCheckmarkChanged);
     onClick(ui_->rotateBackupDisksCheckmark, &SettingsViewController::rotateBackupDisksCheckmarkChanged);
     onClick(ui_->enableAppAtSystemStartCheckmark, &SettingsViewController::enableAppAtSystemStartCheckmarkChanged);
+    connect(ui_->backupLogButton, &QPushButton::clicked, this, &SettingsViewController::backupLogButtonPressed);
 }
 
 void SettingsViewController::showStoredOptions()

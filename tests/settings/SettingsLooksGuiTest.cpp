@@ -108,7 +108,7 @@ TEST_F(SettingsLooks, WhatTheScreenHasNoRoomForIsScrolledToByKeyboard)
 {
     enlargeFont(2.5);
     open();
-    auto& last = control("enableAppAtSystemStartCheckmark");
+    auto& last = control<QPushButton>("backupLogButton");
     control("enableScheduleCheckmark").setFocus();
     EXPECT_TRUE(last.visibleRegion().isEmpty());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);

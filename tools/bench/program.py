@@ -34,7 +34,7 @@ def running(programs):
         begun = time.monotonic()
         process = subprocess.Popen(
             [f"{programs}/bin/quillon", "--menu-bar=bar", "--print-changes"],
-            env=os.environ | {"XDG_CONFIG_HOME": folder, "QUILLON_TMUTIL": str(wrapper)},
+            env=os.environ | {"XDG_CONFIG_HOME": folder, "XDG_STATE_HOME": folder, "QUILLON_TMUTIL": str(wrapper)},
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         try:
             if not any('title=""' not in line for line in process.stdout):

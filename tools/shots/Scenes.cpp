@@ -43,6 +43,51 @@ void pressInSettings(Stage& stage, const char* button)
     stage.press(button);
 }
 
+/// Its list.
+QTreeView& openLogWindow(Stage& stage)
+{
+    pressInSettings(stage, "backupLogButton");
+    QTreeView* list = nullptr;
+    const auto windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows)
+        list = list ? list : window->findChild<QTreeView*>(u"log"_s);
+    list->window()->move(100, 100);
+    return *list;
+}
+
+/// Some days with everything that can become of a start.
+void openLog(Stage& stage)
+{
+    using enum LedgerEntry::Outcome;
+    using Cause = LedgerEntry::Cause;
+    using Reason = LedgerEntry::Reason;
+    PlayedProgram& program = stage.program();
+    const Date noon = program.runLoop.now() + std::chrono::hours(2);
+    const auto daysAgo = [&](int days) { return noon - std::chrono::days(days); };
+    std::vector<LedgerEntry> entries{
+        {.date = daysAgo(1), .outcome = Refused, .reason = Reason::ToolRefused, .exitStatus = 4},
+        {.date = daysAgo(2), .outcome = Skipped, .reason = Reason::Paused},
+        {.date = daysAgo(3), .outcome = Missed, .reason = Reason::Asleep, .next = daysAgo(3), .nextIsRetry = true},
+        {.date = daysAgo(4), .outcome = Failed, .reason = Reason::Incomplete, .detail = u"The disk is full."_s},
+        {.date = daysAgo(5), .cause = Cause::Elsewhere, .outcome = Failed, .reason = Reason::StoppedElsewhere},
+        {.date = daysAgo(6), .cause = Cause::User, .outcome = Stopped},
+        {.date = daysAgo(7), .outcome = Unseen, .reason = Reason::NotFollowed},
+    };
+    for (const int day : {1, 3, 4, 8, 9, 10, 12, 13, 15, 16, 17, 20, 21, 24, 25, 26, 28})
+        entries.push_back({.date = daysAgo(day) + std::chrono::minutes(7),
+                           .cause = day < 5 ? Cause::Retry : Cause::Schedule,
+                           .outcome = Completed,
+                           .began = daysAgo(day),
+                           .ended = daysAgo(day) + std::chrono::seconds(day * 97),
+                           .diskIdentifier = day % 2 ? u"A"_s : u"B"_s,
+                           .diskName = day % 2 ? u"Studio Disk"_s : u"Büro & Archiv 💾"_s,
+                           .bytes = day * 73'000'000LL,
+                           .next = daysAgo(day - 1)});
+    program.ledger.write(entries, noon);
+    QTreeView& list = openLogWindow(stage);
+    list.setCurrentIndex(list.model()->index(1, 0)); // the start that was refused
+}
+
 void openAbout(Stage& stage)
 {
     stage.program().controller->aboutClicked();
@@ -168,6 +213,8 @@ constexpr std::array scenes{
           }},
     Scene{"settings-help-missed", [](Stage& stage) { pressInSettings(stage, "retryAtMissedScheduleHelpButton"); }},
     Scene{"settings-help-failed", [](Stage& stage) { pressInSettings(stage, "retryAtFailureHelpButton"); }},
+    Scene{"log", openLog},
+    Scene{"log-empty", [](Stage& stage) { openLogWindow(stage); }},
     Scene{"about", openAbout},
     Scene{"history-help", [](Stage& stage) { stage.program().controller->allBackupInfoHelpButtonPressed(); }},
     Scene{"disks",
