@@ -1,11 +1,9 @@
 #pragma once
 
+#include "Logind_linux.h"
 #include "Workspace.h"
 
 #include <QDBusConnection>
-#include <QDBusError>
-#include <QDBusServiceWatcher>
-#include <QDBusUnixFileDescriptor>
 #include <QObject>
 #include <QString>
 
@@ -14,7 +12,7 @@ namespace quillon {
 /// Sleep and wake as logind announces them, org.freedesktop.login1(5).
 ///
 /// Holds a delay lock while the system is awake, so that sleep waits for the slots of willSleep(). logind may be
-/// absent, come late or restart; no call waits for it.
+/// absent, come late or restart.
 class LogindSleepWatch final : public QObject {
     Q_OBJECT
 
@@ -29,17 +27,12 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void prepareForSleep(bool start);
-    void takeLock(const QDBusUnixFileDescriptor& lock);
-    void goWithoutLock(const QDBusError&) {}
 
 private:
-    void requestLock();
-    void changeOwner(const QString& newOwner);
+    void ownerChanged();
 
-    QDBusConnection bus_;
     const QString reason_;
-    QDBusServiceWatcher owner_;
-    QDBusUnixFileDescriptor lock_;
+    LogindSleepLock lock_;
     bool sleeping_ = false;
 };
 

@@ -1,12 +1,10 @@
 #include "EventLoop.h"
-#include "PrivateBus.h"
+#include "PlayedServices.h"
 #include "ScopedEnvironment.h"
 #include "SessionTestSupport.h"
 #include "VirtualRunLoop.h"
 #include "Workspace_linux.h"
 
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -115,67 +113,6 @@ TEST_F(WorkspaceIntegrationTest, AnOpenerThatStaysHasOpenedTheAddressAndOutlives
     writeScript(folder.filePath(u"note.gate"_s), {});
     EXPECT_TRUE(notes(u"lives\n"_s));
 }
-
-const auto service = u"org.freedesktop.login1"_s;
-const auto manager = u"org.freedesktop.login1.Manager"_s;
-
-/// logind as python-dbusmock plays it: the locks that it hands out are real file descriptors.
-class PlayedLogind {
-public:
-    explicit PlayedLogind(const PrivateBus& bus)
-        : bus_(bus.connect(u"logind"_s))
-        , mock_(u"/usr/bin/python3"_s, {u"-m"_s, u"dbusmock"_s, u"--template"_s, u"logind"_s},
-                {bus.variable().replace(u"SESSION"_s, u"SYSTEM"_s)})
-    {
-        EXPECT_TRUE(runUntil([this] { return bus_.interface()->isServiceRegistered(service).value(); }))
-            << "no python3-dbusmock";
-    }
-    PlayedLogind(const PlayedLogind&) = delete;
-    PlayedLogind& operator=(const PlayedLogind&) = delete;
-    ~PlayedLogind()
-    {
-        mock_.crash();
-        EXPECT_TRUE(runUntil([this] { return !bus_.interface()->isServiceRegistered(service).value(); }));
-        QDBusConnection::disconnectFromBus(u"logind"_s);
-    }
-
-    /// Announces sleep (true) or wake (false).
-    void prepareForSleep(bool start)
-    {
-        call(u"org.freedesktop.DBus.Mock"_s, u"EmitSignal"_s,
-             {manager, u"PrepareForSleep"_s, u"b"_s, QVariantList{start}});
-    }
-
-    /// The locks held right now, each as "what mode".
-    QStringList locks()
-    {
-        QStringList result;
-        const auto list = call(manager, u"ListInhibitors"_s, {}).arguments().value(0).value<QDBusArgument>();
-        list.beginArray();
-        while (!list.atEnd()) {
-            QString what, who, why, mode;
-            list.beginStructure();
-            list >> what >> who >> why >> mode;
-            list.endStructure();
-            result << what + u' ' + mode;
-        }
-        list.endArray(); // lets go of the reader's state
-        return result;
-    }
-
-private:
-    QDBusMessage call(const QString& interface, const QString& method, const QVariantList& arguments)
-    {
-        auto message = QDBusMessage::createMethodCall(service, u"/org/freedesktop/login1"_s, interface, method);
-        message.setArguments(arguments);
-        const auto reply = bus_.call(message);
-        EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage) << reply.errorMessage().toStdString();
-        return reply;
-    }
-
-    QDBusConnection bus_;
-    ChildProgram mock_;
-};
 
 class SleepIntegrationTest : public testing::Test {
 protected:

@@ -16,6 +16,14 @@ typedef void (*IOServiceInterestCallback)(void* context, io_service_t service, u
 
 #define IO_OBJECT_NULL ((io_object_t)0)
 
+typedef uint32_t IOPMAssertionID;
+typedef uint32_t IOPMAssertionLevel;
+enum { kIOPMNullAssertionID = 0, kIOPMAssertionLevelOn = 255 };
+#define kIOPMAssertionTypePreventUserIdleSystemSleep CFSTR("PreventUserIdleSystemSleep")
+IOReturn IOPMAssertionCreateWithName(CFStringRef type, IOPMAssertionLevel level, CFStringRef name,
+                                     IOPMAssertionID* assertion);
+IOReturn IOPMAssertionRelease(IOPMAssertionID assertion);
+
 io_connect_t IORegisterForSystemPower(void* context, IONotificationPortRef* port, IOServiceInterestCallback callback,
                                       io_object_t* notifier);
 IOReturn IODeregisterForSystemPower(io_object_t* notifier);

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusServiceWatcher>
+#include <QDBusUnixFileDescriptor>
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+namespace quillon {
+
+/// Where logind is found; names and signatures: org.freedesktop.login1(5).
+namespace logind {
+
+inline constexpr QLatin1StringView service{"org.freedesktop.login1"};
+inline constexpr QLatin1StringView path{"/org/freedesktop/login1"};
+inline constexpr QLatin1StringView interface {
+    "org.freedesktop.login1.Manager"
+};
+
+} // namespace logind
+
+/// An inhibitor lock of logind's against sleep. logind may be absent, come late or restart; no call waits for it.
+class LogindSleepLock final : public QObject {
+    Q_OBJECT
+
+public:
+    enum class Mode {
+        Delay, ///< sleep waits for it a few seconds
+        Block, ///< sleep is refused to everybody but the administrator and a closed lid
+    };
+
+    /// Without a connected bus no lock is ever had.
+    LogindSleepLock(const QDBusConnection& systemBus, Mode mode);
+
+    /// `reason` is what logind tells users who ask: English.
+    void hold(const QString& reason);
+    void release();
+
+Q_SIGNALS:
+    /// logind has gone or another one has come, which knows of no lock: one that was wanted is asked for again.
+    void ownerChanged();
+
+private Q_SLOTS:
+    void take(const QDBusUnixFileDescriptor& lock);
+    void goWithout(const QDBusError&) {}
+
+private:
+    void request();
+
+    QDBusConnection bus_;
+    const Mode mode_;
+    std::optional<QString> reason_; ///< none while no lock is wanted
+    QDBusServiceWatcher owner_;
+    QDBusUnixFileDescriptor lock_;
+};
+
+} // namespace quillon

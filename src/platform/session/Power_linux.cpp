@@ -1,0 +1,96 @@
+#include "Power_linux.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Names and meanings: the documentation of UPower's D-Bus interfaces.
+constexpr auto service = "org.freedesktop.UPower"_L1;
+constexpr auto path = "/org/freedesktop/UPower"_L1;
+constexpr auto interface = "org.freedesktop.UPower"_L1;
+constexpr auto allBatteries = "/org/freedesktop/UPower/devices/DisplayDevice"_L1;
+constexpr auto deviceInterface = "org.freedesktop.UPower.Device"_L1;
+constexpr auto properties = "org.freedesktop.DBus.Properties"_L1;
+
+} // namespace
+
+UPowerSupply::UPowerSupply(const QDBusConnection& systemBus)
+    : bus_(systemBus)
+{
+    if (!bus_.isConnected())
+        return; // Qt would ask who owns the name, and libdbus ends a program that asks over a lost connection
+    for (const auto& object : {path, allBatteries})
+        bus_.connect(service, object, properties, u"PropertiesChanged"_s, this, SLOT(ask()));
+    owner_.setConnection(bus_);
+    owner_.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
+    owner_.addWatchedService(service);
+    connect(&owner_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString&, const QString&, const QString& newOwner) {
+                if (newOwner.isEmpty())
+                    set({});
+                else
+                    ask();
+            });
+    ask();
+}
+
+void UPowerSupply::ask()
+{
+    askFor(path, interface, &UPowerSupply::takeSource);
+    askFor(allBatteries, deviceInterface, &UPowerSupply::takeBattery);
+}
+
+void UPowerSupply::askFor(const QString& path, const QString& interface,
+                          void (UPowerSupply::*take)(const QVariantMap& properties))
+{
+    auto call = QDBusMessage::createMethodCall(service, path, properties, u"GetAll"_s);
+    call << interface;
+    auto* answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, take] {
+        answer->deleteLater();
+        if (const QDBusPendingReply<QVariantMap> reply = *answer; reply.isValid())
+            (this->*take)(reply.value());
+    });
+}
+
+void UPowerSupply::takeSource(const QVariantMap& properties)
+{
+    PowerState state = state_;
+    state.onMains = !properties.value(u"OnBattery"_s).toBool();
+    set(state);
+}
+
+void UPowerSupply::takeBattery(const QVariantMap& properties)
+{
+    PowerState state = state_;
+    state.charge.reset();
+    if (properties.value(u"IsPresent"_s).toBool())
+        state.charge = qBound(0, qRound(properties.value(u"Percentage"_s).toDouble()), 100);
+    set(state);
+}
+
+void UPowerSupply::set(const PowerState& state)
+{
+    if (state == state_)
+        return;
+    state_ = state;
+    Q_EMIT changed();
+}
+
+std::unique_ptr<PowerSupply> makePowerSupply()
+{
+    return std::make_unique<UPowerSupply>(QDBusConnection::systemBus());
+}
+
+std::unique_ptr<AwakeLock> makeAwakeLock()
+{
+    return std::make_unique<LogindAwakeLock>(QDBusConnection::systemBus());
+}
+
+} // namespace quillon
