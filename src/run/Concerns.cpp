@@ -1,0 +1,74 @@
+#include "Concerns.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace quillon::concerns {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto runFollowsWithin = 2min;
+constexpr auto progressComesWithin = 30min;
+constexpr auto silence = std::chrono::days(1);
+
+bool isTooLong(const Facts& facts)
+{
+    const Date since = facts.lastCompleted.value_or(facts.watchedSince);
+    return facts.daysWithoutBackup > 0 && facts.now - since >= std::chrono::days(facts.daysWithoutBackup);
+}
+
+/// A clock that was set back makes nothing told for ever.
+bool wasToldToday(const Told& told, Kind kind, Date now)
+{
+    const auto at = told.constFind(kind);
+    return at != told.cend() && std::chrono::abs(now - *at) < silence;
+}
+
+} // namespace
+
+QString nameOf(Kind kind)
+{
+    switch (kind) {
+    case Kind::BackupFailed:
+        return u"backupFailed"_s;
+    case Kind::NoBackupForDays:
+        return u"noBackupForDays"_s;
+    case Kind::StartWithoutRun:
+        return u"startWithoutRun"_s;
+    case Kind::NoProgress:
+        return u"noProgress"_s;
+    case Kind::DamageFound:
+        return u"damageFound"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+QList<Kind> found(const Facts& facts)
+{
+    QList<Kind> kinds;
+    if (facts.damageIsKnown)
+        kinds << Kind::DamageFound;
+    if (isTooLong(facts))
+        kinds << Kind::NoBackupForDays;
+    if (facts.lastRunFailed && !facts.retryIsPlanned && !facts.isActive)
+        kinds << Kind::BackupFailed;
+    if (facts.startAwaited && *facts.startAwaited >= runFollowsWithin)
+        kinds << Kind::StartWithoutRun;
+    if (facts.withoutProgress && *facts.withoutProgress >= progressComesWithin)
+        kinds << Kind::NoProgress;
+    return kinds;
+}
+
+Change change(const QList<Kind>& found, const QList<Kind>& shown, const Told& told, Date now)
+{
+    Change change;
+    std::ranges::copy_if(found, std::back_inserter(change.post),
+                         [&](Kind kind) { return !wasToldToday(told, kind, now); });
+    std::ranges::copy_if(shown, std::back_inserter(change.withdraw), [&](Kind kind) { return !found.contains(kind); });
+    return change;
+}
+
+} // namespace quillon::concerns
