@@ -333,6 +333,51 @@
         <source></source>
         <translation>Abbrechen</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>Backup fehlgeschlagen</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>Das letzte Backup endete, bevor es vollständig war.</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>Kein aktuelles Backup</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>Das letzte Backup wurde am %1 abgeschlossen.</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>Es wurde noch kein Backup abgeschlossen.</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>Backup nicht gestartet</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>Time Machine hat den Start eines Backups angenommen, aber es läuft keines.</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>Backup kommt nicht voran</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>Das laufende Backup ist seit einer halben Stunde nicht vorangekommen.</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>Backups sind beschädigt</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>Time Machine hat Schäden in den Backups gefunden. Einige Dateien lassen sich möglicherweise nicht wiederherstellen.</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -333,6 +333,51 @@
         <source></source>
         <translation>Cancel</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>Backup Failed</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>The latest backup ended before it was complete.</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>No Recent Backup</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>The latest backup was completed on %1.</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>No backup has been completed yet.</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>Backup Did Not Start</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>Time Machine accepted the start of a backup, but none is running.</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>Backup Makes No Progress</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>The running backup has made no progress for half an hour.</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>Backups Are Damaged</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>Time Machine found damage in your backups. Some files may not be restorable.</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -333,6 +333,51 @@
         <source></source>
         <translation>Cancelar</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>La copia ha fallado</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>La última copia de seguridad terminó antes de completarse.</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>No hay copias recientes</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>La última copia de seguridad se completó el %1.</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>Aún no se ha completado ninguna copia de seguridad.</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>La copia no se ha iniciado</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>Time Machine aceptó iniciar una copia de seguridad, pero no hay ninguna en curso.</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>La copia no avanza</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>La copia de seguridad en curso no avanza desde hace media hora.</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>Las copias están dañadas</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>Time Machine ha encontrado daños en tus copias de seguridad. Es posible que algunos archivos no puedan restaurarse.</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -333,6 +333,51 @@
         <source></source>
         <translation>Annuler</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>Échec de la sauvegarde</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>La dernière sauvegarde s’est interrompue avant la fin.</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>Aucune sauvegarde récente</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>La dernière sauvegarde s’est terminée le %1.</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>Aucune sauvegarde n’est encore terminée.</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>La sauvegarde n’a pas démarré</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>Time Machine a accepté de démarrer une sauvegarde, mais aucune n’est en cours.</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>La sauvegarde n’avance plus</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>La sauvegarde en cours n’avance plus depuis une demi-heure.</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>Sauvegardes endommagées</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>Time Machine a trouvé des dommages dans vos sauvegardes. Certains fichiers ne pourront peut-être pas être restaurés.</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -333,6 +333,51 @@
         <source></source>
         <translation>Annulla</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>Backup non riuscito</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>L’ultimo backup è terminato prima di essere completo.</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>Nessun backup recente</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>L’ultimo backup è stato completato il %1.</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>Non è ancora stato completato alcun backup.</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>Il backup non è iniziato</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>Time Machine ha accettato di avviare un backup, ma nessuno è in corso.</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>Il backup non avanza</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>Il backup in corso non avanza da mezz’ora.</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>I backup sono danneggiati</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>Time Machine ha trovato danni nei tuoi backup. Alcuni file potrebbero non essere ripristinabili.</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -333,6 +333,51 @@
         <source></source>
         <translation>キャンセル</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>バックアップに失敗しました</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>最新のバックアップは完了する前に終了しました。</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>最近のバックアップがありません</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>最新のバックアップが完了したのは%1です。</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>完了したバックアップはまだありません。</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>バックアップが開始されませんでした</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>Time Machineはバックアップの開始を受け付けましたが、実行中のバックアップはありません。</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>バックアップが進んでいません</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>実行中のバックアップが30分間進んでいません。</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>バックアップが破損しています</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>Time Machineがバックアップの破損を検出しました。一部のファイルを復元できない可能性があります。</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

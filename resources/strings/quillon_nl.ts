@@ -333,6 +333,51 @@
         <source></source>
         <translation>Annuleer</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>Reservekopie mislukt</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>De laatste reservekopie eindigde voordat die voltooid was.</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>Geen recente reservekopie</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>De laatste reservekopie is voltooid op %1.</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>Er is nog geen reservekopie voltooid.</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>Reservekopie niet gestart</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>Time Machine heeft de start van een reservekopie geaccepteerd, maar er is er geen actief.</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>Reservekopie vordert niet</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>De actieve reservekopie is al een half uur niet gevorderd.</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>Reservekopieën zijn beschadigd</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>Time Machine heeft schade in je reservekopieën gevonden. Sommige bestanden kunnen mogelijk niet worden teruggezet.</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -333,6 +333,51 @@
         <source></source>
         <translation>Cancelar</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>Falha no Backup</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>O último backup terminou antes de ser concluído.</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>Nenhum Backup Recente</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>O último backup foi concluído em %1.</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>Nenhum backup foi concluído ainda.</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>O Backup Não Começou</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>O Time Machine aceitou iniciar um backup, mas não há nenhum em andamento.</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>O Backup Não Avança</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>O backup em andamento não avança há meia hora.</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>Os Backups Estão Danificados</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>O Time Machine encontrou danos nos seus backups. Talvez alguns arquivos não possam ser restaurados.</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

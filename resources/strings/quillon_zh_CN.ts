@@ -333,6 +333,51 @@
         <source></source>
         <translation>取消</translation>
     </message>
+    <!-- Notifications of the desktop -->
+    <message id="backupFailedTitle">
+        <source></source>
+        <translation>备份失败</translation>
+    </message>
+    <message id="backupFailedMessage">
+        <source></source>
+        <translation>最近一次备份未完成就已结束。</translation>
+    </message>
+    <message id="noBackupForDaysTitle">
+        <source></source>
+        <translation>近期没有备份</translation>
+    </message>
+    <message id="noBackupForDaysMessage">
+        <source></source>
+        <translation>最近一次备份完成于 %1。</translation>
+    </message>
+    <message id="noBackupYetMessage">
+        <source></source>
+        <translation>尚未完成任何备份。</translation>
+    </message>
+    <message id="startWithoutRunTitle">
+        <source></source>
+        <translation>备份未开始</translation>
+    </message>
+    <message id="startWithoutRunMessage">
+        <source></source>
+        <translation>“时间机器”已接受开始备份的请求，但没有备份正在进行。</translation>
+    </message>
+    <message id="noProgressTitle">
+        <source></source>
+        <translation>备份没有进展</translation>
+    </message>
+    <message id="noProgressMessage">
+        <source></source>
+        <translation>正在进行的备份已有半小时没有进展。</translation>
+    </message>
+    <message id="damageFoundTitle">
+        <source></source>
+        <translation>备份已损坏</translation>
+    </message>
+    <message id="damageFoundMessage">
+        <source></source>
+        <translation>“时间机器”在你的备份中发现损坏。部分文件可能无法恢复。</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

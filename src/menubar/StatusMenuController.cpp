@@ -24,6 +24,8 @@ StatusMenuController::StatusMenuController(const Services& services)
     , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
     , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
     , runLedger_({services.runLoop, services.defaults, services.dataManager, follower_, disks_, services.ledger})
+    , concerns_({services.runLoop, services.defaults, services.dataManager, follower_, commands_, services.ledger,
+                 services.userNotifications})
 {
     connectParts();
 }
@@ -57,6 +59,10 @@ void StatusMenuController::connectParts()
     connect(&pause_, &SchedulePause::changed, &runLedger_, &RunLedger::lookAtPause);
     connect(&follower_, &RunFollower::ticked, &runLedger_, &RunLedger::lookAtPause);
     connect(&follower_, &RunFollower::stepped, &runLedger_, &RunLedger::noteStep);
+    connect(&follower_, &RunFollower::stepped, &concerns_, &ConcernWatch::noteStep);
+    connect(&concerns_, &ConcernWatch::backupNowChosen, this, &StatusMenuController::backupNowRequested);
+    connect(&concerns_, &ConcernWatch::timeMachineSettingsChosen, this, &StatusMenuController::openSystemPreferences);
+    connect(&concerns_, &ConcernWatch::settingsChosen, this, &StatusMenuController::preferencesClicked);
 }
 
 void StatusMenuController::awakeFromNib()

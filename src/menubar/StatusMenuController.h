@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BackupCommands.h"
+#include "ConcernWatch.h"
 #include "DisksInMenu.h"
 #include "NotificationCenter.h"
 #include "Panels.h"
@@ -40,6 +41,7 @@ public:
         LoginItem& loginItem;
         StatusItem& statusItem;
         Ledger& ledger;
+        UserNotifications& userNotifications;
     };
 
     explicit StatusMenuController(const Services& services);
@@ -138,6 +140,7 @@ private:
     StatusItemFace face_;
     ScheduleWatch schedule_;
     RunLedger runLedger_;
+    ConcernWatch concerns_;
     const char* enterTimeMachineTitleLocaleKey_ = nullptr;
     const char* skipThisBackupTitleLocaleKey_ = nullptr;
     bool shouldEnableMenuButons_ = true;

@@ -20,6 +20,7 @@
 #include "TMUtilQueue.h"
 #include "Task.h"
 #include "UserDefaults.h"
+#include "UserNotifications.h"
 #include "Workspace.h"
 
 #include <QApplication>
@@ -66,8 +67,10 @@ int runApplication(const Options& options, SingleInstance& instance)
     Cirrel::Services cirrel(runLoop, *defaults, std::make_unique<HttpClient>(runLoop));
     const auto statusItem = makeStatusItem(options.placement);
     SqliteLedger ledger(ledgerFile());
-    StatusMenuController controller(
-        {runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager, *loginItem, *statusItem, ledger});
+    const auto userNotifications =
+        makeUserNotifications({.name = identity::name, .desktopEntry = identity::identifier});
+    StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager,
+                                     *loginItem, *statusItem, ledger, *userNotifications});
     RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 

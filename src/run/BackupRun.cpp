@@ -70,6 +70,8 @@ void BackupRun::take(const TMStatus& status, Asked asked, Date now)
     if (!status.destinationID.isEmpty())
         activeBackupDiskIdentifier_ = status.destinationID;
     lastFailure_ = status.lastFailure;
+    if (status.state == TMState::NotRunning)
+        damageIsKnown_ = status.damageIsKnown;
     markCompletion(status, now);
 }
 

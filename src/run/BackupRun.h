@@ -97,6 +97,8 @@ public:
     bool stopBackupConfirmed() const { return stopBackupConfirmed_; }
     /// When the run reached its finishing phases. It stays after the run's end until the next one is first seen.
     std::optional<Date> backupCompleteDate() const { return backupCompleteDate_; }
+    /// Of the backups on any disk, as Time Machine last told while no backup ran.
+    bool damageIsKnown() const { return damageIsKnown_; }
     const std::optional<QString>& activeBackupDiskIdentifier() const { return activeBackupDiskIdentifier_; }
     Pace pace() const { return pace_; }
 
@@ -126,6 +128,7 @@ private:
     std::optional<Date> backupCompleteDate_;
     std::optional<QString> activeBackupDiskIdentifier_;
     QString lastFailure_; ///< as of the last report
+    bool damageIsKnown_ = false;
     Pace pace_ = Pace::Idle;
     std::chrono::milliseconds startAccepted_{0}; ///< on the uptime clock
 };

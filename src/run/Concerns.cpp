@@ -27,6 +27,12 @@ bool wasToldToday(const Told& told, Kind kind, Date now)
     return at != told.cend() && std::chrono::abs(now - *at) < silence;
 }
 
+/// A run that goes on, or is planned as a retry, may mend a first failure.
+bool mayYetBeMended(Kind kind, const Facts& facts)
+{
+    return kind == Kind::BackupFailed && facts.failedInARow == 1 && (facts.retryIsPlanned || facts.isActive);
+}
+
 } // namespace
 
 QString nameOf(Kind kind)
@@ -53,7 +59,7 @@ QList<Kind> found(const Facts& facts)
         kinds << Kind::DamageFound;
     if (isTooLong(facts))
         kinds << Kind::NoBackupForDays;
-    if (facts.lastRunFailed && !facts.retryIsPlanned && !facts.isActive)
+    if (facts.failedInARow > 0)
         kinds << Kind::BackupFailed;
     if (facts.startAwaited && *facts.startAwaited >= runFollowsWithin)
         kinds << Kind::StartWithoutRun;
@@ -62,12 +68,14 @@ QList<Kind> found(const Facts& facts)
     return kinds;
 }
 
-Change change(const QList<Kind>& found, const QList<Kind>& shown, const Told& told, Date now)
+Change change(const Facts& facts, const QList<Kind>& shown, const Told& told)
 {
+    const auto wrong = found(facts);
     Change change;
-    std::ranges::copy_if(found, std::back_inserter(change.post),
-                         [&](Kind kind) { return !wasToldToday(told, kind, now); });
-    std::ranges::copy_if(shown, std::back_inserter(change.withdraw), [&](Kind kind) { return !found.contains(kind); });
+    std::ranges::copy_if(wrong, std::back_inserter(change.post), [&](Kind kind) {
+        return !wasToldToday(told, kind, facts.now) && !mayYetBeMended(kind, facts);
+    });
+    std::ranges::copy_if(shown, std::back_inserter(change.withdraw), [&](Kind kind) { return !wrong.contains(kind); });
     return change;
 }
 

@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QString>
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <optional>
@@ -15,12 +16,16 @@ namespace quillon::concerns {
 
 /// Each is told of once a day at most, and no more once it is mended.
 enum class Kind : std::uint8_t {
-    BackupFailed,    ///< and no retry will be made, or it has failed too
+    BackupFailed,    ///< told unless a first retry may mend it
     NoBackupForDays, ///< whatever the reason
     StartWithoutRun, ///< a start was accepted, and no run has followed
     NoProgress,      ///< of the run that goes on
     DamageFound,     ///< in the backups
 };
+
+/// The worst first.
+inline constexpr std::array kinds = {Kind::DamageFound, Kind::NoBackupForDays, Kind::BackupFailed,
+                                     Kind::StartWithoutRun, Kind::NoProgress};
 
 /// The name that settings know it by.
 QString nameOf(Kind kind);
@@ -30,7 +35,7 @@ struct Facts {
     std::optional<Date> lastCompleted{}; ///< of all disks
     Date watchedSince{};                 ///< nothing earlier is known of
     int daysWithoutBackup = 0;           ///< that are too many; 0: never told
-    bool lastRunFailed = false;
+    int failedInARow = 0;                ///< runs since the last completed one
     bool retryIsPlanned = false;
     bool isActive = false; ///< a run goes on, or a start was accepted
     /// Uptime since a start was accepted that no run has followed.
@@ -40,7 +45,7 @@ struct Facts {
     bool damageIsKnown = false;
 };
 
-/// The worst first.
+/// What is wrong, the worst first.
 QList<Kind> found(const Facts& facts);
 
 /// What has been told, and when.
@@ -53,7 +58,7 @@ struct Change {
     bool operator==(const Change&) const = default;
 };
 
-/// What is to be done about them: `shown` are those that have not been withdrawn.
-Change change(const QList<Kind>& found, const QList<Kind>& shown, const Told& told, Date now);
+/// What is to be done about it: `shown` are those that have not been withdrawn.
+Change change(const Facts& facts, const QList<Kind>& shown, const Told& told);
 
 } // namespace quillon::concerns

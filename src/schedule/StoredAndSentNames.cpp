@@ -9,7 +9,7 @@ QVariantMap registeredDefaults()
     using namespace settingskeys;
     // The pause, the changed starts, the remembered backups and the icon state have no default: absent is what their
     // readers look for.
-    return {
+    QVariantMap defaults = {
         {firstLaunch, true},
         {enableSchedule, 1LL},
         {enableRetryAtMissedSchedule, 1LL},
@@ -21,6 +21,8 @@ QVariantMap registeredDefaults()
         {launchAtSystemStart, 1LL},
         {calendarIntervals, QVariantList{CalendarIntervalRule().toDictionary()}},
     };
+    defaults.insert(systemDefaults());
+    return defaults;
 }
 
 } // namespace quillon

@@ -25,6 +25,9 @@ inline const QString enableMenuBarColors = u"userSettingsEnableMenuBarColors"_s;
 inline const QString rotateBackupDisks = u"userSettingsRotateBackupDisks"_s;
 inline const QString launchAtSystemStart = u"userSettingsLaunchAtSystemStart"_s;
 
+/// Integer: the user is told when no backup has been completed for so many days; 0: never.
+inline const QString daysWithoutBackup = u"userSettingsDaysWithoutBackup"_s;
+
 /// Array of rule dictionaries.
 inline const QString calendarIntervals = u"userSettingsCalendarIntervals"_s;
 
@@ -42,6 +45,12 @@ inline const QString lastBackupDiskIdentifier = u"appSettingsLastBackupDiskIdent
 
 /// Array of archived BackupInfo records.
 inline const QString latestBackupInfo = u"appSettingsLatestBackupInfo"_s;
+
+/// Date since which the program watches the backups.
+inline const QString watchedSinceDate = u"appSettingsWatchedSinceDate"_s;
+
+/// Dictionary: when the user was last told of each concern, by the concern's name.
+inline const QString toldConcerns = u"appSettingsToldConcerns"_s;
 
 /// Integer, a MenuBarIconState.
 inline const QString lastMenuBarIconState = u"appSettingsLastMenuBarIconState"_s;
@@ -89,5 +98,8 @@ namespace quillon {
 
 /// What is read for settings that were never stored.
 QVariantMap registeredDefaults();
+
+/// Those of them that differ between systems.
+QVariantMap systemDefaults();
 
 } // namespace quillon

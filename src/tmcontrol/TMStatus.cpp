@@ -157,8 +157,10 @@ TMStatus TMStatus::fromOutput(const std::optional<QByteArray>& output)
     if (toBoolean(running))
         return runningStatus(status);
     TMStatus idle = notRunning();
-    if (const auto failure = dictionary(status, u"LastFailure"_s)) // our tool has it
+    if (const auto failure = dictionary(status, u"LastFailure"_s)) { // our tool has it
         idle.lastFailure = scalar(*failure, u"Description"_s).toString();
+        idle.damageIsKnown = scalar(*failure, u"Cause"_s).toString() == "Damaged"_L1;
+    }
     return idle;
 }
 

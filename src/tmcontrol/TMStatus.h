@@ -58,6 +58,7 @@ struct TMStatus {
     std::int64_t bytesCopied = 0;        ///< 0 when unknown
     QString destinationID;               ///< empty when not reported
     QString lastFailure{};               ///< what the last run met with, in the tool's words; empty where it tells none
+    bool damageIsKnown = false;          ///< of the backups on any disk
 
     static TMStatus failure();
     static TMStatus notRunning();

@@ -25,9 +25,7 @@ TEST(Concerns, AreFoundWhereSomethingIsWrongAndNotBefore)
     using Change = std::function<void(concerns::Facts & facts)>;
     const std::pair<Change, QList<Kind>> rows[] = {
         {[](auto&) {}, {}},
-        {[](auto& facts) { facts.lastRunFailed = true; }, {Kind::BackupFailed}},
-        {[](auto& facts) { facts.lastRunFailed = facts.retryIsPlanned = true; }, {}},
-        {[](auto& facts) { facts.lastRunFailed = facts.isActive = true; }, {}},
+        {[](auto& facts) { facts.failedInARow = 1; }, {Kind::BackupFailed}},
         {[](auto& facts) { facts.lastCompleted = now - 10 * day; }, {Kind::NoBackupForDays}},
         {[](auto& facts) { facts.lastCompleted = now - 10 * day + 1ms; }, {}},
         {[](auto& facts) { facts.lastCompleted.reset(); }, {Kind::NoBackupForDays}},
@@ -37,13 +35,13 @@ TEST(Concerns, AreFoundWhereSomethingIsWrongAndNotBefore)
         {[](auto& facts) { facts.startAwaited = 2min - 1ms; }, {}},
         {[](auto& facts) { facts.withoutProgress = 30min; }, {Kind::NoProgress}},
         {[](auto& facts) { facts.withoutProgress = 30min - 1ms; }, {}},
-        {[](auto& facts) { facts.damageIsKnown = facts.lastRunFailed = true; },
+        {[](auto& facts) { facts.damageIsKnown = true, facts.failedInARow = 2; },
          {Kind::DamageFound, Kind::BackupFailed}},
     };
-    for (const auto& [make, expected] : rows) {
+    for (const auto& row : rows) {
         auto facts = allIsWell();
-        make(facts);
-        EXPECT_EQ(concerns::found(facts), expected) << "row " << &make - &rows[0].first;
+        row.first(facts);
+        EXPECT_EQ(concerns::found(facts), row.second) << "row " << &row - rows;
     }
 }
 
@@ -51,13 +49,22 @@ TEST(Concerns, EachIsToldOnceADayAndTakenAwayWhenItIsMended)
 {
     using concerns::Change;
     const QList<Kind> failed{Kind::BackupFailed};
-    EXPECT_EQ(concerns::change(failed, {}, {}, now), (Change{failed, {}}));
-    EXPECT_EQ(concerns::change(failed, failed, {{Kind::BackupFailed, now - day + 1ms}}, now), Change());
-    EXPECT_EQ(concerns::change(failed, failed, {{Kind::BackupFailed, now - day}}, now), (Change{failed, {}}));
-    EXPECT_EQ(concerns::change(failed, {}, {{Kind::BackupFailed, now + 2 * day}}, now), (Change{failed, {}}))
+    auto facts = allIsWell();
+    EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now}}), (Change{{}, failed}));
+    facts.failedInARow = 1;
+    EXPECT_EQ(concerns::change(facts, {}, {}), (Change{failed, {}}));
+    EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now - day + 1ms}}), Change());
+    EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now - day}}), (Change{failed, {}}));
+    EXPECT_EQ(concerns::change(facts, {}, {{Kind::BackupFailed, now + 2 * day}}), (Change{failed, {}}))
         << "the clock was set back";
-    EXPECT_EQ(concerns::change(failed, {}, {{Kind::DamageFound, now}}, now), (Change{failed, {}}));
-    EXPECT_EQ(concerns::change({}, failed, {{Kind::BackupFailed, now}}, now), (Change{{}, failed}));
+    EXPECT_EQ(concerns::change(facts, {}, {{Kind::DamageFound, now}}), (Change{failed, {}}));
+    for (bool concerns::Facts::*mayMend : {&concerns::Facts::retryIsPlanned, &concerns::Facts::isActive}) {
+        auto mended = facts;
+        mended.*mayMend = true;
+        EXPECT_EQ(concerns::change(mended, failed, {}), Change());
+        mended.failedInARow = 2;
+        EXPECT_EQ(concerns::change(mended, {}, {}), (Change{failed, {}}));
+    }
 }
 
 } // namespace quillon

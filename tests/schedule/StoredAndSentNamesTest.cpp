@@ -25,6 +25,7 @@ TEST(StoredAndSent, NamesAndDefaultsAreThese)
         {enableMenuBarColors, u"userSettingsEnableMenuBarColors"_s, 1LL},
         {rotateBackupDisks, u"userSettingsRotateBackupDisks"_s, 1LL},
         {launchAtSystemStart, u"userSettingsLaunchAtSystemStart"_s, 1LL},
+        {daysWithoutBackup, u"userSettingsDaysWithoutBackup"_s, 10LL},
         {calendarIntervals, u"userSettingsCalendarIntervals"_s, rules},
         {changedStarts, u"userSettingsChangedStarts"_s, {}},
         {pauseUntilDate, u"userSettingsPauseUntilDate"_s, {}},
@@ -33,6 +34,8 @@ TEST(StoredAndSent, NamesAndDefaultsAreThese)
         {lastBackupBytesCopied, u"appSettingsLastBackupBytesCopied"_s, {}},
         {lastBackupDiskIdentifier, u"appSettingsLastBackupDiskIdentifier"_s, {}},
         {latestBackupInfo, u"appSettingsLatestBackupInfo"_s, {}},
+        {watchedSinceDate, u"appSettingsWatchedSinceDate"_s, {}},
+        {toldConcerns, u"appSettingsToldConcerns"_s, {}},
         {lastMenuBarIconState, u"appSettingsLastMenuBarIconState"_s, {}},
     };
     for (const auto& [key, name, value] : settings) {

@@ -2,6 +2,7 @@
 
 #include "AlertPresenter.h"
 #include "LoginItem.h"
+#include "UserNotifications.h"
 #include "Workspace.h"
 
 #include <QList>
@@ -43,6 +44,22 @@ public:
     {
         presented.emplace_back(request, std::move(answer));
     }
+};
+
+/// Keeps what is on the desktop.
+class FakeUserNotifications final : public UserNotifications {
+public:
+    QList<UserNotification> posted; ///< in all
+    QStringList shown;              ///< identifiers of those that stand
+
+    void post(const UserNotification& notification) override
+    {
+        posted.append(notification);
+        shown.removeOne(notification.identifier);
+        shown.append(notification.identifier);
+    }
+    void withdraw(const QString& identifier) override { shown.removeOne(identifier); }
+    void choose(const QString& action) { Q_EMIT chosen(shown.last(), action); }
 };
 
 class FakeLoginItem final : public LoginItem {

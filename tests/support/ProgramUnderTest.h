@@ -37,8 +37,9 @@ struct ProgramUnderTest {
     {
         controller.reset();
         manager = std::make_unique<DataManager>(DataManager::Services{clock_, defaults, notifications, loginItem});
-        controller = std::make_unique<StatusMenuController>(StatusMenuController::Services{
-            clock_, defaults, notifications, workspace, tmutil, alerts, *manager, loginItem, statusItem, ledger});
+        controller = std::make_unique<StatusMenuController>(
+            StatusMenuController::Services{clock_, defaults, notifications, workspace, tmutil, alerts, *manager,
+                                           loginItem, statusItem, ledger, userNotifications});
         controller->awakeFromNib();
     }
 
@@ -47,6 +48,7 @@ struct ProgramUnderTest {
     FakeWorkspace workspace;
     FakeAlerts alerts;
     FakeLoginItem loginItem;
+    FakeUserNotifications userNotifications;
     FakeStatusItem item;
     TMUtilQueue queue;
     TimeMachineSettings settings;

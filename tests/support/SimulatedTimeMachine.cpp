@@ -135,7 +135,9 @@ QByteArray SimulatedTimeMachine::status() const
 QByteArray SimulatedTimeMachine::idleStatus() const
 {
     QByteArray failure;
-    if (begun_ && !stoppedAfter_ && phases.last().word != "Finishing"_L1)
+    if (hasDamage)
+        failure = "    LastFailure =     {\n        Cause = Damaged;\n    };\n";
+    else if (begun_ && !stoppedAfter_ && phases.last().word != "Finishing"_L1)
         failure = "    LastFailure =     {\n        Description = \"The disk is full.\";\n        DestinationID = \"" +
                   used_.last().toUtf8() + "\";\n    };\n";
     return "Backup session status:\n{\n    ClientID = \"com.apple.backupd\";\n" + failure + "    Running = 0;\n}\n";

@@ -35,6 +35,7 @@ public:
                         {QStringLiteral("ThinningPostBackup"), 9},
                         {QStringLiteral("Finishing"), 9}};
     QList<Destination> destinations{{QStringLiteral("A"), QStringLiteral("First Disk")}};
+    bool hasDamage = false; ///< in its backups
     qint64 totalBytes = 5'000'000;
     double callDuration = 0.05;
     Injection injection;

@@ -47,7 +47,8 @@ namespace {
 class MacNotifications final : public UserNotifications {
 public:
     MacNotifications()
-        : center_(UNUserNotificationCenter.currentNotificationCenter)
+        // The system knows who posts by the bundle, and ends a program that asks without one.
+        : center_(NSBundle.mainBundle.bundleIdentifier ? UNUserNotificationCenter.currentNotificationCenter : nil)
         , delegate_([[QuillonNotificationDelegate alloc] init])
     {
         delegate_.notifications = this;

@@ -59,6 +59,11 @@ static inline CGFloat NSHeight(NSRect rect)
 @interface NSError : NSObject
 @end
 
+@interface NSBundle : NSObject
+@property(class, readonly, strong) NSBundle* mainBundle;
+@property(nullable, readonly, copy) NSString* bundleIdentifier;
+@end
+
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
 + (instancetype)dictionaryWithObjects:(const ObjectType _Nonnull[_Nonnull])objects
                               forKeys:(const KeyType<NSCopying> _Nonnull[_Nonnull])keys

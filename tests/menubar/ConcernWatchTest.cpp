@@ -1,0 +1,122 @@
+#include "ControllerFixture.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// What the user is told on a Saturday with one backup a day at twelve.
+class ConcernWatchOf : public ControllerFixture {
+protected:
+    ConcernWatchOf() { launch(); }
+
+    /// What was posted since the last look; behind a stroke what stands on the desktop.
+    void expectWords(const char* expected, std::source_location at = std::source_location::current())
+    {
+        QStringList words;
+        for (; looked_ < userNotifications.posted.size(); ++looked_)
+            words.append(userNotifications.posted[looked_].identifier);
+        words.append(u"|"_s);
+        words += userNotifications.shown;
+        EXPECT_EQ(words.join(u' ').toStdString(), expected) << "line " << at.line();
+    }
+    const UserNotification& lastWord() const { return userNotifications.posted.last(); }
+
+private:
+    qsizetype looked_ = 0;
+};
+
+TEST_F(ConcernWatchOf, AFailureIsToldOnceItsRetryHasFailedTooUntilABackupSucceeds)
+{
+    letRunsFail();
+    click();
+    wait(5 * 60);
+    expectWords("|");
+    wait(60 * 60);
+    expectWords("backupFailed | backupFailed");
+    launch();
+    wait(60 * 60);
+    expectWords("| backupFailed");
+
+    sleepUntil(today(13) + 24h);
+    wait(120);
+    expectWords("backupFailed | backupFailed");
+    machine.phases = SimulatedTimeMachine(runLoop).phases;
+    userNotifications.choose(u"backUpNow"_s);
+    wait(20);
+    EXPECT_TRUE(machine.isRunning());
+    expectWords("| backupFailed");
+    userNotifications.choose(u"backUpNow"_s); // which the menu would take for a stop
+    wait(120);
+    expectWords("|");
+    EXPECT_TRUE(defaults.date(settingskeys::lastBackupDate));
+}
+
+TEST_F(ConcernWatchOf, AFailureThatNoRetryFollowsIsToldAtOnceAlsoByTheNextLaunch)
+{
+    defaults.stored[settingskeys::enableRetryAtFailure] = 0LL;
+    letRunsFail();
+    click();
+    wait(60);
+    expectWords("backupFailed | backupFailed");
+    defaults.stored.remove(settingskeys::toldConcerns);
+    launch();
+    expectWords("backupFailed | backupFailed");
+}
+
+TEST_F(ConcernWatchOf, DaysWithoutABackupAreToldFromTheFirstLaunchOn)
+{
+    defaults.stored[settingskeys::daysWithoutBackup] = 2LL;
+    machine.destinations.clear();
+    sleepUntil(today(10) + 24h);
+    launch();
+    sleepUntil(today(9, 59) + 48h);
+    wait(30);
+    expectWords("|");
+    wait(60);
+    expectWords("noBackupForDays | noBackupForDays");
+    EXPECT_EQ(lastWord().text, u"No backup has been completed yet."_s);
+    defaults.setDate(settingskeys::lastBackupDate, today(10));
+    sleepUntil(today(11) + 72h);
+    wait(30);
+    expectWords("noBackupForDays | noBackupForDays");
+    EXPECT_EQ(lastWord().text, u"The latest backup was completed on 21 November 2026."_s);
+    defaults.setDate(settingskeys::lastBackupDate, runLoop.now());
+    wait(30);
+    expectWords("|");
+}
+
+TEST_F(ConcernWatchOf, AStartWithoutARunARunWithoutProgressAndDamageAreTold)
+{
+    machine.phases = {{u"Finishing"_s, 0.05}}; // too short to be seen
+    click();
+    wait(110);
+    expectWords("|");
+    wait(20);
+    expectWords("startWithoutRun | startWithoutRun");
+    userNotifications.choose(u"openTimeMachineSettings"_s);
+    EXPECT_EQ(workspace.opened.size(), 1);
+
+    machine.phases = {{u"FindingChanges"_s, 29 * 60},
+                      {u"Copying"_s, 60 * 60, true},
+                      {u"FindingChanges"_s, 31 * 60},
+                      {u"ThinningPostBackup"_s, 60 * 60}};
+    runElsewhere((29 + 60 + 29) * 60);
+    expectWords("|");
+    wait(105);
+    expectWords("noProgress | noProgress");
+    machine.hasDamage = true;
+    wait(60);
+    expectWords("|");
+    wait(60 * 60);
+    expectWords("damageFound | damageFound");
+    EXPECT_TRUE(lastWord().isUrgent);
+    machine.phases = {{u"Finishing"_s, 60}};
+    runElsewhere(30);
+    expectWords("| damageFound");
+    machine.hasDamage = false;
+    wait(60);
+    expectWords("|");
+}
+
+} // namespace quillon
