@@ -60,6 +60,10 @@ void StatusMenuController::connectParts()
     connect(&follower_, &RunFollower::ticked, &runLedger_, &RunLedger::lookAtPause);
     connect(&follower_, &RunFollower::stepped, &runLedger_, &RunLedger::noteStep);
     connect(&follower_, &RunFollower::stepped, &concerns_, &ConcernWatch::noteStep);
+    connect(&commands_, &BackupCommands::startAnswered, this, [this](const LedgerEntry& start) {
+        isOwnRun_ = isOwnRun_ || start.outcome == LedgerEntry::Outcome::Running;
+    });
+    connect(&follower_, &RunFollower::stepped, this, &StatusMenuController::keepAwake);
     connect(&concerns_, &ConcernWatch::backupNowChosen, this, &StatusMenuController::backupNowRequested);
     connect(&concerns_, &ConcernWatch::timeMachineSettingsChosen, this, &StatusMenuController::openSystemPreferences);
     connect(&concerns_, &ConcernWatch::settingsChosen, this, &StatusMenuController::preferencesClicked);
@@ -254,6 +258,17 @@ void StatusMenuController::endRun(const BackupRun::End& end)
         schedule_.setRetryInFiveMinutesIfEnabled(settingskeys::enableRetryAtFailure);
     }
     updateStatusBarTitle({}, {});
+}
+
+/// Not yet while a run is awaited: the one that never comes would keep the machine awake for ever.
+void StatusMenuController::keepAwake()
+{
+    if (tmState() == TMState::NotRunning)
+        isOwnRun_ = false;
+    if (isOwnRun_ && follower_.run().isReported() && services_.defaults.integer(settingskeys::stayAwake) == 1)
+        services_.awakeLock.hold(u"A backup is running"_s);
+    else
+        services_.awakeLock.release();
 }
 
 void StatusMenuController::recordCompletedRun(const BackupRun::End& end)

@@ -5,6 +5,7 @@
 #include "DisksInMenu.h"
 #include "NotificationCenter.h"
 #include "Panels.h"
+#include "Power.h"
 #include "RunFollower.h"
 #include "RunLedger.h"
 #include "SchedulePause.h"
@@ -42,6 +43,7 @@ public:
         StatusItem& statusItem;
         Ledger& ledger;
         UserNotifications& userNotifications;
+        AwakeLock& awakeLock;
     };
 
     explicit StatusMenuController(const Services& services);
@@ -125,6 +127,7 @@ private:
     void showStep(const BackupRun::Step& step);
     void beginRun();
     void endRun(const BackupRun::End& end);
+    void keepAwake();
     void recordCompletedRun(const BackupRun::End& end);
     void showMenu(const shown::Menu& menu);
     void showBackupDisk(const std::optional<QString>& title);
@@ -144,6 +147,7 @@ private:
     const char* enterTimeMachineTitleLocaleKey_ = nullptr;
     const char* skipThisBackupTitleLocaleKey_ = nullptr;
     bool shouldEnableMenuButons_ = true;
+    bool isOwnRun_ = false; ///< the run that goes on or is awaited was asked for here
     std::optional<QString> latestAppVersion_;
 };
 

@@ -11,6 +11,7 @@
 #include "ModalAlertPresenter.h"
 #include "NotificationCenter.h"
 #include "Options.h"
+#include "Power.h"
 #include "QtRunLoop.h"
 #include "QuitSignals.h"
 #include "RemoteControl.h"
@@ -69,8 +70,9 @@ int runApplication(const Options& options, SingleInstance& instance)
     SqliteLedger ledger(ledgerFile());
     const auto userNotifications =
         makeUserNotifications({.name = identity::name, .desktopEntry = identity::identifier});
+    const auto awakeLock = makeAwakeLock();
     StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager,
-                                     *loginItem, *statusItem, ledger, *userNotifications});
+                                     *loginItem, *statusItem, ledger, *userNotifications, *awakeLock});
     RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 

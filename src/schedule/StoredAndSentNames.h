@@ -24,6 +24,7 @@ inline const QString showMenuBarIconOnly = u"userSettingsShowMenuBarIconOnly"_s;
 inline const QString enableMenuBarColors = u"userSettingsEnableMenuBarColors"_s;
 inline const QString rotateBackupDisks = u"userSettingsRotateBackupDisks"_s;
 inline const QString launchAtSystemStart = u"userSettingsLaunchAtSystemStart"_s;
+inline const QString stayAwake = u"userSettingsStayAwake"_s;
 
 /// Integer: the user is told when no backup has been completed for so many days; 0: never.
 inline const QString daysWithoutBackup = u"userSettingsDaysWithoutBackup"_s;

@@ -2,7 +2,7 @@
 
 namespace quillon {
 
-/// The system tells users itself when backups fail to come.
+/// The system tells users itself when backups fail to come, and sees to its own sleep.
 QVariantMap systemDefaults()
 {
     return {};

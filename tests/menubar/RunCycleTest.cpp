@@ -1,6 +1,8 @@
 #include "ControllerFixture.h"
 #include "StatusItemFace.h"
 
+#include <functional>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -42,6 +44,42 @@ TEST_F(RunCycle, ARunStoppedElsewhereOrLostFromSightHasFailedUntilItIsFoundAgain
     after(3, "5, , Back Up Now, retry 21 10:08");
     EXPECT_EQ(controller->uiState(), TMState::Unknown);
     after(15, "2, 65.3% 20s, Skip This Backup, next 21 12:00");
+}
+
+TEST_F(RunCycle, SleepIsHeldOffWhileABackupThatWasStartedHereRuns)
+{
+    launch();
+    runElsewhere(30);
+    EXPECT_FALSE(awakeLock.isHeld);
+    wait(90);
+    const std::function<void()> ends[] = {
+        [] {},
+        [this] { click(); },
+        [this] { machine.stop(); },
+        [this] {
+            machine.phases = {{u"Copying"_s, 60, true}};
+        },
+        [this] { defaults.stored[settingskeys::stayAwake] = 0LL; },
+    };
+    for (const auto& end : ends) {
+        click();
+        wait(20);
+        EXPECT_TRUE(awakeLock.isHeld);
+        spoilNext(Fault::NotUtf8);
+        wait(3);
+        EXPECT_FALSE(awakeLock.isHeld);
+        wait(20);
+        EXPECT_TRUE(awakeLock.isHeld);
+        end();
+        wait(100);
+        EXPECT_FALSE(awakeLock.isHeld);
+    }
+    defaults.stored.remove(settingskeys::stayAwake);
+    machine.phases = {{u"Finishing"_s, 0.05}}; // too short to be seen
+    click();
+    wait(20);
+    EXPECT_EQ(controller->tmState(), TMState::Starting);
+    EXPECT_FALSE(awakeLock.isHeld);
 }
 
 TEST_F(RunCycle, AScheduledBackupIsStartedFollowedAndRecorded)

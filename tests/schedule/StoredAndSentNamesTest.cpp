@@ -25,6 +25,7 @@ TEST(StoredAndSent, NamesAndDefaultsAreThese)
         {enableMenuBarColors, u"userSettingsEnableMenuBarColors"_s, 1LL},
         {rotateBackupDisks, u"userSettingsRotateBackupDisks"_s, 1LL},
         {launchAtSystemStart, u"userSettingsLaunchAtSystemStart"_s, 1LL},
+        {stayAwake, u"userSettingsStayAwake"_s, 1LL},
         {daysWithoutBackup, u"userSettingsDaysWithoutBackup"_s, 10LL},
         {calendarIntervals, u"userSettingsCalendarIntervals"_s, rules},
         {changedStarts, u"userSettingsChangedStarts"_s, {}},

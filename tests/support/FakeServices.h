@@ -2,6 +2,7 @@
 
 #include "AlertPresenter.h"
 #include "LoginItem.h"
+#include "Power.h"
 #include "UserNotifications.h"
 #include "Workspace.h"
 
@@ -60,6 +61,14 @@ public:
     }
     void withdraw(const QString& identifier) override { shown.removeOne(identifier); }
     void choose(const QString& action) { Q_EMIT chosen(shown.last(), action); }
+};
+
+class FakeAwakeLock final : public AwakeLock {
+public:
+    bool isHeld = false;
+
+    void hold(const QString& /*reason*/) override { isHeld = true; }
+    void release() override { isHeld = false; }
 };
 
 class FakeLoginItem final : public LoginItem {

@@ -39,7 +39,7 @@ struct ProgramUnderTest {
         manager = std::make_unique<DataManager>(DataManager::Services{clock_, defaults, notifications, loginItem});
         controller = std::make_unique<StatusMenuController>(
             StatusMenuController::Services{clock_, defaults, notifications, workspace, tmutil, alerts, *manager,
-                                           loginItem, statusItem, ledger, userNotifications});
+                                           loginItem, statusItem, ledger, userNotifications, awakeLock});
         controller->awakeFromNib();
     }
 
@@ -49,6 +49,7 @@ struct ProgramUnderTest {
     FakeAlerts alerts;
     FakeLoginItem loginItem;
     FakeUserNotifications userNotifications;
+    FakeAwakeLock awakeLock;
     FakeStatusItem item;
     TMUtilQueue queue;
     TimeMachineSettings settings;
