@@ -54,18 +54,18 @@ QString nameOf(Kind kind)
 
 QList<Kind> found(const Facts& facts)
 {
-    QList<Kind> kinds;
+    QList<Kind> wrong;
     if (facts.damageIsKnown)
-        kinds << Kind::DamageFound;
+        wrong << Kind::DamageFound;
     if (isTooLong(facts))
-        kinds << Kind::NoBackupForDays;
+        wrong << Kind::NoBackupForDays;
     if (facts.failedInARow > 0)
-        kinds << Kind::BackupFailed;
+        wrong << Kind::BackupFailed;
     if (facts.startAwaited && *facts.startAwaited >= runFollowsWithin)
-        kinds << Kind::StartWithoutRun;
+        wrong << Kind::StartWithoutRun;
     if (facts.withoutProgress && *facts.withoutProgress >= progressComesWithin)
-        kinds << Kind::NoProgress;
-    return kinds;
+        wrong << Kind::NoProgress;
+    return wrong;
 }
 
 Change change(const Facts& facts, const QList<Kind>& shown, const Told& told)

@@ -8,7 +8,7 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace upower {
 
 // Names and meanings: the documentation of UPower's D-Bus interfaces.
 constexpr auto service = "org.freedesktop.UPower"_L1;
@@ -18,18 +18,18 @@ constexpr auto allBatteries = "/org/freedesktop/UPower/devices/DisplayDevice"_L1
 constexpr auto deviceInterface = "org.freedesktop.UPower.Device"_L1;
 constexpr auto properties = "org.freedesktop.DBus.Properties"_L1;
 
-} // namespace
+} // namespace upower
 
 UPowerSupply::UPowerSupply(const QDBusConnection& systemBus)
     : bus_(systemBus)
 {
     if (!bus_.isConnected())
         return; // Qt would ask who owns the name, and libdbus ends a program that asks over a lost connection
-    for (const auto& object : {path, allBatteries})
-        bus_.connect(service, object, properties, u"PropertiesChanged"_s, this, SLOT(ask()));
+    for (const auto& object : {upower::path, upower::allBatteries})
+        bus_.connect(upower::service, object, upower::properties, u"PropertiesChanged"_s, this, SLOT(ask()));
     owner_.setConnection(bus_);
     owner_.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
-    owner_.addWatchedService(service);
+    owner_.addWatchedService(upower::service);
     connect(&owner_, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString&, const QString&, const QString& newOwner) {
                 if (newOwner.isEmpty())
@@ -42,14 +42,14 @@ UPowerSupply::UPowerSupply(const QDBusConnection& systemBus)
 
 void UPowerSupply::ask()
 {
-    askFor(path, interface, &UPowerSupply::takeSource);
-    askFor(allBatteries, deviceInterface, &UPowerSupply::takeBattery);
+    askFor(upower::path, upower::interface, &UPowerSupply::takeSource);
+    askFor(upower::allBatteries, upower::deviceInterface, &UPowerSupply::takeBattery);
 }
 
 void UPowerSupply::askFor(const QString& path, const QString& interface,
                           void (UPowerSupply::*take)(const QVariantMap& properties))
 {
-    auto call = QDBusMessage::createMethodCall(service, path, properties, u"GetAll"_s);
+    auto call = QDBusMessage::createMethodCall(upower::service, path, upower::properties, u"GetAll"_s);
     call << interface;
     auto* answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, take] {

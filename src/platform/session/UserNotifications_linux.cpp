@@ -10,7 +10,7 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace desktop {
 
 constexpr auto service = "org.freedesktop.Notifications"_L1;
 constexpr auto path = "/org/freedesktop/Notifications"_L1;
@@ -19,7 +19,7 @@ constexpr auto clickOnItself = "default"_L1;
 enum Urgency : uchar { Normal = 1, Critical = 2 };
 constexpr int desktopsOwnTime = -1;
 
-} // namespace
+} // namespace desktop
 
 DesktopNotifications::DesktopNotifications(const QDBusConnection& sessionBus, NotificationSender sender)
     : bus_(sessionBus)
@@ -27,8 +27,10 @@ DesktopNotifications::DesktopNotifications(const QDBusConnection& sessionBus, No
 {
     if (!bus_.isConnected())
         return; // Qt would ask who owns the name, and libdbus ends a program that asks over a lost connection
-    bus_.connect(service, path, interface, u"ActionInvoked"_s, this, SLOT(actionInvoked(uint, QString)));
-    bus_.connect(service, path, interface, u"NotificationClosed"_s, this, SLOT(notificationClosed(uint, uint)));
+    bus_.connect(desktop::service, desktop::path, desktop::interface, u"ActionInvoked"_s, this,
+                 SLOT(actionInvoked(uint, QString)));
+    bus_.connect(desktop::service, desktop::path, desktop::interface, u"NotificationClosed"_s, this,
+                 SLOT(notificationClosed(uint, uint)));
 }
 
 void DesktopNotifications::post(const UserNotification& notification)
@@ -65,12 +67,13 @@ void DesktopNotifications::send(const UserNotification& notification)
 
 void DesktopNotifications::notify(const UserNotification& notification, const QStringList& capabilities)
 {
-    QStringList actions{clickOnItself, QString()};
+    QStringList actions{desktop::clickOnItself, QString()};
     for (const auto& action : notification.actions)
         actions << action.identifier << action.title;
     const bool readsMarkup = capabilities.contains("body-markup"_L1);
-    const QVariantMap hints{{u"desktop-entry"_s, sender_.desktopEntry},
-                            {u"urgency"_s, QVariant::fromValue<uchar>(notification.isUrgent ? Critical : Normal)}};
+    const QVariantMap hints{
+        {u"desktop-entry"_s, sender_.desktopEntry},
+        {u"urgency"_s, QVariant::fromValue<uchar>(notification.isUrgent ? desktop::Critical : desktop::Normal)}};
     const QVariantList arguments{sender_.name,
                                  posted_[notification.identifier].number,
                                  sender_.desktopEntry,
@@ -78,7 +81,7 @@ void DesktopNotifications::notify(const UserNotification& notification, const QS
                                  readsMarkup ? notification.text.toHtmlEscaped() : notification.text,
                                  capabilities.contains("actions"_L1) ? actions : QStringList(),
                                  hints,
-                                 desktopsOwnTime};
+                                 desktop::desktopsOwnTime};
     call(u"Notify"_s, arguments, [this, identifier = notification.identifier](const QDBusMessage& answer) {
         taken(identifier, QDBusPendingReply<uint>(answer).value());
     });
@@ -107,7 +110,7 @@ void DesktopNotifications::actionInvoked(uint number, const QString& action)
 {
     for (auto posted = posted_.cbegin(); posted != posted_.cend(); ++posted) {
         if (posted->number == number) {
-            Q_EMIT chosen(QString(posted.key()), action == clickOnItself ? QString() : action);
+            Q_EMIT chosen(QString(posted.key()), action == desktop::clickOnItself ? QString() : action);
             return;
         }
     }
@@ -121,7 +124,7 @@ void DesktopNotifications::notificationClosed(uint number, uint /*reason*/)
 void DesktopNotifications::call(const QString& method, const QVariantList& arguments,
                                 const std::function<void(const QDBusMessage& answer)>& then)
 {
-    auto message = QDBusMessage::createMethodCall(service, path, interface, method);
+    auto message = QDBusMessage::createMethodCall(desktop::service, desktop::path, desktop::interface, method);
     message.setArguments(arguments);
     auto* answer = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, then] {
