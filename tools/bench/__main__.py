@@ -11,6 +11,7 @@ import sys
 import tempfile
 from pathlib import Path
 
+import browsing
 import kills
 import program
 import unchanged
@@ -39,6 +40,10 @@ ROWS = {
     "one tmutil status": ("ms", "at most", 10),
     "20,000 unchanged files, against restic alone": ("times", "at most", 1.15),
     "the same, old backups thinned": ("times",),
+    "first folder of 100,000 files in a backup": ("s", "at most", 2),
+    "opening it, the first time": ("s",),
+    "reading all of them, for the search": ("s",),
+    "search in them, once read": ("s", "at most", 0.5),
     "random kills that have cost nothing": ("%", "at least", 100),
 }
 
@@ -60,13 +65,14 @@ def table(figures):
     return lines, broken
 
 
-def benchmarks(programs):
+def benchmarks(programs, which, **environment):
     """The library's record of each benchmark's best repetition: what disturbs only ever makes one slower."""
     with tempfile.TemporaryDirectory() as folder:
         out = Path(folder, "out.json")
         outcome = subprocess.run(
-            [f"{programs}/bench/quillon_bench", f"--benchmark_repetitions={REPETITIONS}", f"--benchmark_out={out}"],
-            env=os.environ | {"QT_QPA_PLATFORM": "offscreen"}, text=True, capture_output=True)
+            [f"{programs}/bench/quillon_bench", f"--benchmark_filter={which}",
+             f"--benchmark_repetitions={REPETITIONS}", f"--benchmark_out={out}"],
+            env=os.environ | {"QT_QPA_PLATFORM": "offscreen"} | environment, text=True, capture_output=True)
         if outcome.returncode:
             sys.exit("bench: the benchmarks failed\n" + outcome.stderr)
         runs = json.loads(out.read_text())["benchmarks"]
@@ -79,10 +85,14 @@ def benchmarks(programs):
     return best
 
 
+def seconds(run, clock):
+    return run[clock] * SECONDS[run["time_unit"]]
+
+
 def core_figures(runs):
     """Figures by the names of their rows."""
     def time(name, unit, clock="cpu_time"):
-        return runs[name][clock] * SECONDS[runs[name]["time_unit"]] / SECONDS[unit]
+        return seconds(runs[name], clock) / SECONDS[unit]
 
     def rate(name):
         return runs[PROPERTY_LIST + name]["bytes_per_second"] / 1e6
@@ -104,6 +114,13 @@ def core_figures(runs):
     }
 
 
+def browsing_figures(programs):
+    """Figures by the names of their rows."""
+    with browsing.tmutil_with_backup(programs) as tool:
+        runs = benchmarks(programs, "^browsing/", QUILLON_TMUTIL=str(tool))
+    return {row: seconds(runs[f"browsing/{name}/real_time"], "real_time") for row, name in browsing.ROWS.items()}
+
+
 def main():
     parser = argparse.ArgumentParser(prog="bench", description=__doc__)
     parser.add_argument("programs", type=Path, help="the folder with what was built")
@@ -111,8 +128,9 @@ def main():
     kills.add_options(parser)
     wanted = parser.parse_args()
     programs = wanted.programs.resolve()
-    lines, broken = table(core_figures(benchmarks(programs)) | program.measure(programs, wanted.idle)
-                          | unchanged.measure(programs) | kills.measure(programs, wanted.kills, wanted.seed))
+    lines, broken = table(core_figures(benchmarks(programs, "-^browsing/")) | program.measure(programs, wanted.idle)
+                          | unchanged.measure(programs) | browsing_figures(programs)
+                          | kills.measure(programs, wanted.kills, wanted.seed))
     print("\n".join(lines))
     if broken:
         sys.exit("bench: broken: " + "; ".join(broken))

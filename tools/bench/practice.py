@@ -16,7 +16,7 @@ class Practice:
         self.folder, self.source = folder, folder / "source"
         self.state = folder / "state" / "quillon-timemachine"
         self._tmutil = f"{programs}/libexec/quillon/tmutil"
-        self._environment = {f"XDG_{kind.upper()}_HOME": str(folder / kind) for kind in ("config", "state", "cache")}
+        self.environment = {f"XDG_{kind.upper()}_HOME": str(folder / kind) for kind in ("config", "state", "cache")}
         self._disk = folder / "disk"
         self.source.mkdir()
         self._disk.mkdir()
@@ -24,12 +24,12 @@ class Practice:
         self.call("setdestination", self._disk, check=True)
 
     def call(self, *words, check=False):
-        return subprocess.run([self._tmutil, *words], env=self._environment, check=check, text=True,
+        return subprocess.run([self._tmutil, *words], env=self.environment, check=check, text=True,
                               capture_output=True)
 
     def start_backup(self):
         """`startbackup --block`: the worker is its child as long as it lasts."""
-        return subprocess.Popen([self._tmutil, "startbackup", "--block"], env=self._environment, text=True,
+        return subprocess.Popen([self._tmutil, "startbackup", "--block"], env=self.environment, text=True,
                                 stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
 
     def end(self, backup):
@@ -50,6 +50,15 @@ class Practice:
         key = self.folder / "config" / "quillon-timemachine" / "keys" / f"{repository.name}.key"
         return subprocess.run(["restic", "--repo", repository, "--password-file", key, "--no-cache", *words],
                               text=True, capture_output=True)
+
+
+def write_wrapper(file, programs, environment):
+    """A tmutil that finds its folders where the environment says: Quillon gives its own none. Returns its path."""
+    exports = "".join(f"export {name}='{value}'\n" for name, value in environment.items())
+    file.write_text(f"#!/bin/sh\n{exports}export PATH=/usr/local/bin:/usr/bin:/bin\n"
+                    f"exec '{programs}/libexec/quillon/tmutil' \"$@\"\n")
+    file.chmod(0o755)
+    return file
 
 
 def children(pid):

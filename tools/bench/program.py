@@ -12,25 +12,22 @@ import time
 from contextlib import contextmanager
 from pathlib import Path
 
+from practice import write_wrapper
+
 STARTS = 5
 STATUS_CALLS = 50
 
 
-def tmutil(programs):
-    return f"{programs}/libexec/quillon/tmutil"
+def folders(folder):
+    """One for all that tmutil keeps."""
+    return {name: folder for name in ("XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME")}
 
 
 @contextmanager
 def running(programs):
     """Runs quillon as long as the block lasts; gives the process and the seconds until its first title."""
     with tempfile.TemporaryDirectory() as folder:
-        wrapper = Path(folder, "tmutil")
-        wrapper.write_text(
-            "#!/bin/sh\n"
-            f"export XDG_CONFIG_HOME='{folder}' XDG_STATE_HOME='{folder}' XDG_CACHE_HOME='{folder}'\n"
-            f"exec '{tmutil(programs)}' \"$@\"\n"
-        )
-        wrapper.chmod(0o755)
+        wrapper = write_wrapper(Path(folder, "tmutil"), programs, folders(folder))
         begun = time.monotonic()
         process = subprocess.Popen(
             [f"{programs}/bin/quillon", "--menu-bar=bar", "--print-changes"],
@@ -88,10 +85,10 @@ def status_seconds(programs):
         return usage.ru_utime + usage.ru_stime
 
     with tempfile.TemporaryDirectory() as folder:
-        environment = {name: folder for name in ("XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME")}
         before = used()
         for _ in range(STATUS_CALLS):
-            subprocess.run([tmutil(programs), "status"], env=environment, check=True, stdout=subprocess.DEVNULL)
+            subprocess.run([f"{programs}/libexec/quillon/tmutil", "status"], env=folders(folder), check=True,
+                           stdout=subprocess.DEVNULL)
         return (used() - before) / STATUS_CALLS
 
 
