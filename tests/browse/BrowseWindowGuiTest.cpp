@@ -142,6 +142,10 @@ TEST_F(BrowseWindowTest, IsUsedWithTheKeyboardAlone)
     runLoop_.advance(1s);
     auto* const versions = window_->findChild<QTreeWidget*>(u"versions"_s);
     ASSERT_EQ(versions->topLevelItemCount(), 2);
+    key(Qt::Key_Up);
+    EXPECT_FALSE(versions->isVisible()) << "of a folder";
+    key(Qt::Key_Down);
+    ASSERT_TRUE(versions->isVisible());
     key(Qt::Key_Delete);
     EXPECT_EQ(rows().size(), 3);
     Q_EMIT versions->itemActivated(versions->topLevelItem(0), 0);
@@ -281,6 +285,7 @@ TEST_F(BrowseWindowTest, RestoresAsksAboutWhatIsInTheWayAndSaysWhatIsLost)
     key(Qt::Key_R, Qt::ControlModifier);
     press("start");
     ASSERT_TRUE(find<QPushButton>("keepBoth")->isDefault());
+    EXPECT_FALSE(find<QAbstractButton>("forAll")->isVisible()) << "there is no other";
     press("keepBoth");
     auto* const losses = find<QListWidget>("losses");
     ASSERT_TRUE(losses->isVisible());

@@ -199,6 +199,7 @@ TEST(ARestore, AsksAboutWhatIsInTheWayAndNamesWhatDidNotComeBack)
     ASSERT_TRUE(plan.question());
     EXPECT_EQ(plan.question()->path, u"/target/b"_s);
     plan.answer(ConflictRule::Replace, false);
+    EXPECT_TRUE(plan.isMoreInTheWay());
     plan.answer(ConflictRule::Skip, false);
     plan.answer(ConflictRule::KeepBoth, true);
     EXPECT_EQ(plan.nextCall(),

@@ -57,6 +57,8 @@ public:
     void stop();
 
     std::optional<Conflict> question() const;
+    /// Whether an answer may hold for others, too.
+    bool isMoreInTheWay() const { return conflicts_.size() > 1; }
     void answer(ConflictRule rule, bool forAll);
 
     /// How far the current call is.

@@ -350,6 +350,8 @@ void BrowseWindow::updateSelection()
     restoreButton_->setEnabled(!rows.empty());
     if (oneFile)
         versions_->want(model_.entry(rows.front()).path);
+    else if (!rows.empty()) // while another folder is read nothing is selected
+        versions_->wantNone();
 }
 
 void BrowseWindow::preview()

@@ -58,6 +58,7 @@ FilesPane::FilesPane(FilesModel& model, QWidget* parent)
     view_->setAllColumnsShowFocus(true);
     view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view_->header()->setSectionsMovable(false);
+    view_->header()->setStretchLastSection(false); // names take the room that is left
     view_->header()->setSortIndicator(FilesModel::Name, Qt::AscendingOrder);
     sentence_->setTextFormat(Qt::PlainText);
     sentence_->setWordWrap(true);
@@ -175,11 +176,13 @@ void FilesPane::fitColumns()
     const int text = view_->fontMetrics().averageCharWidth();
     constexpr int nameColumns = 30;
     constexpr int otherColumns = 26;
-    view_->setColumnWidth(0, nameColumns * text);
+    int others = 0;
     for (int column = 1; column < model_.columnCount(); ++column) {
         view_->resizeColumnToContents(column);
         view_->setColumnWidth(column, std::min(view_->columnWidth(column), otherColumns * text));
+        others += view_->columnWidth(column);
     }
+    view_->setColumnWidth(0, std::max(nameColumns * text, view_->viewport()->width() - others));
 }
 
 void FilesPane::takeKeyboard()

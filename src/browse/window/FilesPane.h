@@ -31,7 +31,7 @@ public:
     void tell(const QString& sentence, bool hasFailed);
     /// Something is selected in any case, so that the keyboard has where to begin.
     void select(const QString& path);
-    /// Columns have the widths that fit what is in them.
+    /// Columns have the widths that fit what is in them, names the rest.
     void fitColumns();
     void takeKeyboard();
 

@@ -238,6 +238,7 @@ void RestoreDialog::goOn()
     } else if (const auto conflict = plan_->question()) {
         questionLabel_->setText(conflictText(*conflict));
         questionPlace_->setText(shownLongText(conflict->path));
+        forAll_->setVisible(plan_->isMoreInTheWay());
         setPage(Question);
     } else {
         showEnd();

@@ -38,7 +38,7 @@ void addEntry(QTreeWidgetItem& group, const TimelineEntry& entry)
 
 TimelinePane::TimelinePane(QWidget* parent)
     : QWidget(parent)
-    , disksLabel_(new QLabel(localizedString("browseDiskLabel") + u':'))
+    , disksLabel_(new QLabel(localizedString("browseDiskLabel")))
     , disks_(new QComboBox)
     , timeline_(new QTreeWidget)
 {

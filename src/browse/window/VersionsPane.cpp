@@ -51,7 +51,7 @@ VersionsPane::VersionsPane(const Setup::Services& services, QWidget* parent)
     connect(list_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
         Q_EMIT chosen(versions_.at(static_cast<std::size_t>(list_->indexOfTopLevelItem(item))));
     });
-    tell(localizedString("browseVersionsHint"));
+    wantNone();
 }
 
 void VersionsPane::setBackupTitles(const QHash<QString, QString>& titles)
@@ -68,6 +68,14 @@ void VersionsPane::want(const QString& path)
     versions_.clear();
     tell(localizedString("browseSearching"));
     delay_ = services_.runLoop.scheduleAfter(pauseBeforeAsking, [this] { ask(); });
+}
+
+void VersionsPane::wantNone()
+{
+    path_.clear();
+    asking_.reset();
+    delay_.invalidate();
+    tell(localizedString("browseVersionsHint"));
 }
 
 void VersionsPane::ask()

@@ -28,6 +28,8 @@ public:
     void setBackupTitles(const QHash<QString, QString>& titles);
     /// Asks for the versions of that file, once nothing else is wanted for a moment.
     void want(const QString& path);
+    /// Says what to do, as long as no file is chosen.
+    void wantNone();
 
 Q_SIGNALS:
     void chosen(const quillon::FileEntry& version);
