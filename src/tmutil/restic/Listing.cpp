@@ -5,6 +5,7 @@
 #include "Restic.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -106,7 +107,12 @@ void listRoots(const Restic& restic, const Snapshot& snapshot, const FileHandler
 {
     std::vector<ListedFile> roots;
     std::vector<ListedFile> others;
-    runLs(restic, snapshot, QStringList(u"/"_s) + snapshot.sources, [&](const ListedFile& file) {
+    // The folders around them: of a folder that is named, restic reads each that lies in it.
+    QStringList around{u"/"_s};
+    std::ranges::transform(snapshot.sources, std::back_inserter(around),
+                           [](const QString& source) { return QFileInfo(source).path(); });
+    around.removeDuplicates();
+    runLs(restic, snapshot, around, [&](const ListedFile& file) {
         if (snapshot.sources.contains(file.path))
             roots.push_back(file);
         else if (file.parent().isEmpty())
