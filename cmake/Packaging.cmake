@@ -45,9 +45,9 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "ca-certificates, libqt6sql6-sqlite, restic (>= 0.14), xdg-utils")
 # Texts of Qt's own buttons, native Wayland windows, the session bus that trays need, and the green mark in the menu bar
-# and the menu.
+# and the menu; ssh, by which restic reaches servers.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, fonts-noto-color-emoji, \
-qt6-translations-l10n, qt6-wayland")
+openssh-client, qt6-translations-l10n, qt6-wayland")
 # GNOME has no tray without it.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "gnome-shell-extension-appindicator")
 include(CPack)

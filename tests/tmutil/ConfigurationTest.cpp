@@ -3,6 +3,7 @@
 #include "History.h"
 #include "KeyStore.h"
 #include "Listing.h"
+#include "NetworkProbe.h"
 #include "Output.h"
 #include "PropertyListFile.h"
 #include "Reports.h"
@@ -169,7 +170,8 @@ TEST_F(ConfigurationTest, KeepRulesAreSetOneByOneAndAlwaysKeepTheLastBackup)
 TEST_F(ConfigurationTest, TheUsualDiskIsTheLastUsedOrTheFirstPresentAndRotationTakesTheOldest)
 {
     History history(folders_.state);
-    const auto usual = [&] { return usualDestination(destinations(), history); };
+    const PresenceQuestion present = [&](const auto& some) { return presentOf(some, folders_); };
+    const auto usual = [&] { return usualDestination(destinations(), history, present); };
     const auto named = [&](const QString& id) { return namedDestination(destinations(), id); };
     EXPECT_EQ(statusOf(usual), ExitStatus::NoDestination);
     const Destination first = set(u"1"_s, true);
@@ -179,14 +181,14 @@ TEST_F(ConfigurationTest, TheUsualDiskIsTheLastUsedOrTheFirstPresentAndRotationT
     const QDateTime now = QDateTime::currentDateTimeUtc();
     history.setLastBackup(first.id, now.addDays(-1));
     history.setLastBackup(second.id, now.addDays(-2));
-    EXPECT_EQ(rotatedDestination(destinations(), history), third) << "never used";
+    EXPECT_EQ(rotatedDestination(destinations(), history, present), third) << "never used";
     history.setLastBackup(third.id, now);
-    EXPECT_EQ(rotatedDestination(destinations(), history), second);
+    EXPECT_EQ(rotatedDestination(destinations(), history, present), second);
     history.setLastDestination(second.id);
     EXPECT_EQ(usual(), second);
     unplug(second);
     EXPECT_EQ(usual(), first);
-    EXPECT_EQ(rotatedDestination(destinations(), history), first);
+    EXPECT_EQ(rotatedDestination(destinations(), history, present), first);
     EXPECT_EQ(statusOf([&] { named(second.id); }), ExitStatus::DestinationMissing);
     EXPECT_EQ(statusOf([&] { named(u"x"_s); }), ExitStatus::UnknownDestination);
     EXPECT_EQ(named(first.id.toLower()), first);
@@ -220,7 +222,7 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
     const MountTable ownDisk("22 1 8:1 / / rw - ext4 /dev/sda1 rw\n30 22 8:17 / " +
                              QString(first.path).replace(u" "_s, u"\\040"_s).toUtf8() + " rw - ext4 /dev/sdb1 rw\n");
     const auto report = [&](const MountTable& mounts, int index) {
-        const auto xml = propertylist::parse(destinationXml(configuration(), history, keys, mounts));
+        const auto xml = propertylist::parse(destinationXml(configuration(), history, folders_, mounts));
         const QVariantList entries = xml.value_or(QVariant()).toMap().value(u"Destinations"_s).toList();
         return fields(QString::fromUtf8(propertylist::toOldStyle(entries.value(index)).value_or(QByteArray())));
     };
@@ -236,7 +238,7 @@ TEST_F(ConfigurationTest, DisksAreReportedAsTheSystemToolDoes)
 
     history.setLastDestination(second.id);
     keys.setKeptRecoveryKey(second.id, u"6c2a9f01"_s);
-    EXPECT_EQ(destinationText({second}, history, keys),
+    EXPECT_EQ(destinationText({second}, history, folders_),
               "> " + QByteArray(50, '=') +
                   "\nName          : 2\nKind          : Local\nID            : " + second.id.toUtf8() + '\n');
 }
@@ -246,11 +248,11 @@ TEST_F(ConfigurationTest, WhatMovesTheCursorOrBeginsALineIsToldToProgramsOnly)
     Destination forged = set(u"2"_s, true);
     forged.name = u"2\u009B1A\nID"_s;
     configuration().takeUp(forged);
-    EXPECT_EQ(attempt(&Configuration::takeUp, {.id = {}, .name = {}, .path = u"/bell\u0007"_s}), ExitStatus::NoInput);
+    EXPECT_EQ(statusOf([this] { configuration().takeUp({.id = {}, .name = {}, .path = u"/bell\u0007"_s}); }),
+              ExitStatus::NoInput);
     const History history(folders_.state);
-    const KeyStore keys(folders_.configuration);
-    EXPECT_TRUE(destinationText({forged}, history, keys).contains("\nName          : 2 1A ID\n"));
-    EXPECT_TRUE(destinationXml(configuration(), history, keys).contains("2\u009B1A\nID"));
+    EXPECT_TRUE(destinationText({forged}, history, folders_).contains("\nName          : 2 1A ID\n"));
+    EXPECT_TRUE(destinationXml(configuration(), history, folders_).contains("2\u009B1A\nID"));
     testing::internal::CaptureStdout();
     printForPeople({forged.name});
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "2 1A ID\n");

@@ -134,6 +134,13 @@ TEST(Verification, ReadsAllDataInTenTurnsAndLessAtATimeWhileItIsInterrupted)
     EXPECT_EQ(slice.parts, Slice::mostParts);
     EXPECT_EQ(Slice::fromDictionary(quarter.next().toDictionary()), quarter.next());
     EXPECT_EQ(Slice::fromDictionary({}), Slice{});
+
+    slice = Slice{}.ofParts(Slice::networkParts); // never more than an eightieth of the data
+    subsets.clear();
+    for (int turn = 0; turn < Slice::tenths * Slice::networkParts; ++turn, slice = slice.next(Slice::networkParts))
+        subsets.append(slice.ofParts(Slice::networkParts).subset());
+    EXPECT_EQ(subsets.first(), u"1/80"_s);
+    EXPECT_EQ(subsets.removeDuplicates(), 0);
 }
 
 TEST(Verification, TakesNoEndOfResticForDamageThatItDidNotSpeakOf)
@@ -152,8 +159,12 @@ TEST(Verification, TakesNoEndOfResticForDamageThatItDidNotSpeakOf)
         {-15, {}, some, false},
     };
     for (const auto& [status, words, findings, damage] : cases) {
-        const ResticOutcome outcome{.exitStatus = status, .output = {}, .errorText = words, .workFolder = {}};
+        ResticOutcome outcome{.exitStatus = status, .output = {}, .errorText = words, .workFolder = {}};
         EXPECT_EQ(Verification::tellsOfDamage(outcome, findings), damage) << status << words.toStdString();
+        outcome.onNetwork = true;
+        EXPECT_EQ(Verification::tellsOfDamage(outcome, findings), damage) << status << words.toStdString();
+        outcome.errorText = u"pack c3b77d7e: dial tcp 127.0.0.1:8443: connect: connection refused\n"_s;
+        EXPECT_FALSE(Verification::tellsOfDamage(outcome, findings)) << status;
     }
 }
 

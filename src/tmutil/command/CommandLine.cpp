@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "Failure.h"
+#include "NetworkPlace.h"
 
 #include <algorithm>
 #include <array>
@@ -21,12 +22,16 @@ struct Syntax {
     qsizetype mostOperands;
 };
 
+constexpr auto kibibytes = "KiB a second"_L1;
 constexpr qsizetype any = std::numeric_limits<qsizetype>::max();
 
 constexpr std::array syntaxes{
     Syntax{"status"_L1, Command::Status, ""_L1, ""_L1, 0, 0},
     Syntax{"destinationinfo"_L1, Command::DestinationInfo, "X"_L1, "[-X]"_L1, 0, 0},
-    Syntax{"setdestination"_L1, Command::SetDestination, "a"_L1, "[-a] PATH"_L1, 1, 1},
+    Syntax{"setdestination"_L1, Command::SetDestination, "aCFULTX"_L1,
+           "[-a | --try [-X]] [--credentials FILE] [--accept-host-key FINGERPRINT] [--upload-limit KIB] "
+           "[--download-limit KIB] PATH | URL"_L1,
+           1, 1},
     Syntax{"removedestination"_L1, Command::RemoveDestination, ""_L1, "ID"_L1, 1, 1},
     Syntax{"startbackup"_L1, Command::StartBackup, "bdr"_L1, "[-b | --block] [-d ID | -r | --rotation]"_L1, 0, 0},
     Syntax{"stopbackup"_L1, Command::StopBackup, ""_L1, ""_L1, 0, 0},
@@ -46,7 +51,8 @@ constexpr std::array syntaxes{
     Syntax{"isexcluded"_L1, Command::IsExcluded, ""_L1, "PATH..."_L1, 1, any},
     Syntax{"verify"_L1, Command::Verify, "dA"_L1, "[-d ID] [--all]"_L1, 0, 0},
     Syntax{"recoverykey"_L1, Command::RecoveryKey, "XKd"_L1, "[-X | --kept KEYID] [-d ID]"_L1, 0, 0},
-    Syntax{"adopt"_L1, Command::Adopt, ""_L1, "PATH"_L1, 1, 1},
+    Syntax{"adopt"_L1, Command::Adopt, "CF"_L1, "[--credentials FILE] [--accept-host-key FINGERPRINT] PATH | URL"_L1, 1,
+           1},
     Syntax{"deletebackup"_L1, Command::DeleteBackup, ""_L1, "NAME..."_L1, 1, any},
     Syntax{"log"_L1, Command::Log, ""_L1, "[NAME]"_L1, 0, 1},
     Syntax{"listunread"_L1, Command::ListUnread, "X"_L1, "[-X] [NAME]"_L1, 0, 1},
@@ -80,12 +86,23 @@ const Syntax& syntaxOf(const QString& name)
 /// The letter of an option that the command takes; anything else is refused.
 char optionLetter(const QString& argument, const Syntax& syntax)
 {
-    static constexpr std::array spellings{
-        std::pair{"--block"_L1, 'b'},     std::pair{"--rotation"_L1, 'r'}, std::pair{"--all"_L1, 'A'},
-        std::pair{"--hourly"_L1, 'H'},    std::pair{"--daily"_L1, 'D'},    std::pair{"--weekly"_L1, 'W'},
-        std::pair{"--try"_L1, 'T'},       std::pair{"--kept"_L1, 'K'},     std::pair{"--json"_L1, 'J'},
-        std::pair{"--keep-both"_L1, 'B'}, std::pair{"--replace"_L1, 'P'},  std::pair{"--skip"_L1, 'S'},
-        std::pair{"--in-place"_L1, 'I'}};
+    static constexpr std::array spellings{std::pair{"--block"_L1, 'b'},
+                                          std::pair{"--rotation"_L1, 'r'},
+                                          std::pair{"--all"_L1, 'A'},
+                                          std::pair{"--hourly"_L1, 'H'},
+                                          std::pair{"--daily"_L1, 'D'},
+                                          std::pair{"--weekly"_L1, 'W'},
+                                          std::pair{"--try"_L1, 'T'},
+                                          std::pair{"--kept"_L1, 'K'},
+                                          std::pair{"--json"_L1, 'J'},
+                                          std::pair{"--keep-both"_L1, 'B'},
+                                          std::pair{"--replace"_L1, 'P'},
+                                          std::pair{"--skip"_L1, 'S'},
+                                          std::pair{"--in-place"_L1, 'I'},
+                                          std::pair{"--credentials"_L1, 'C'},
+                                          std::pair{"--accept-host-key"_L1, 'F'},
+                                          std::pair{"--upload-limit"_L1, 'U'},
+                                          std::pair{"--download-limit"_L1, 'L'}};
     // Capital letters but X stand for what is spelled out only.
     char letter =
         argument.size() == 2 && (argument == "-X"_L1 || !argument[1].isUpper()) ? argument[1].toLatin1() : '\0';
@@ -104,24 +121,33 @@ char optionLetter(const QString& argument, const Syntax& syntax)
 }
 
 /// The number that follows an option, which is stepped over.
-int numberAfter(QStringList::const_iterator& option, QStringList::const_iterator end)
+int numberAfter(QStringList::const_iterator& option, QStringList::const_iterator end, int most = 10000,
+                QLatin1StringView unit = "backups"_L1)
 {
-    constexpr int most = 10000;
     bool isNumber = false;
     const QString name = *option;
     const int number = ++option != end ? option->toInt(&isNumber) : 0;
     if (!isNumber || number < 0 || number > most)
-        refuse(u"\"%1\" wants a number of backups, up to %2."_s.arg(name).arg(most));
+        refuse(u"\"%1\" wants a number of %2, up to %3."_s.arg(name, unit).arg(most));
     return number;
 }
 
-/// The identifier or the name that follows an option, which is stepped over.
-QString identifierAfter(QStringList::const_iterator& option, QStringList::const_iterator end)
+/// The word that follows an option, which is stepped over.
+QString wordAfter(QStringList::const_iterator& option, QStringList::const_iterator end,
+                  QLatin1StringView what = "an identifier"_L1)
 {
     const QString name = *option;
     if (++option == end || option->isEmpty())
-        refuse(u"\"%1\" wants an identifier."_s.arg(name));
+        refuse(u"\"%1\" wants %2."_s.arg(name, what));
     return *option;
+}
+
+/// Whether there is an option that makes sense for a network place alone, and none is named.
+bool asksTooMuchOfDisk(const CommandLine& line, const Syntax& syntax)
+{
+    const bool isAsked = !line.credentials.isEmpty() || !line.hostKey.isEmpty() || line.uploadLimit >= 0 ||
+                         line.downloadLimit >= 0 || (line.trial && syntax.command == Command::SetDestination);
+    return isAsked && !NetworkPlace::isUrl(line.operands.value(0));
 }
 
 /// One at most: two would contradict each other.
@@ -204,20 +230,33 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         case 'W':
             line.keep.weekly = numberAfter(argument, arguments.cend());
             break;
+        case 'C':
+            line.credentials = wordAfter(argument, arguments.cend(), "a file"_L1);
+            break;
+        case 'F':
+            line.hostKey = wordAfter(argument, arguments.cend(), "a fingerprint"_L1);
+            break;
+        case 'U':
+            line.uploadLimit = numberAfter(argument, arguments.cend(), NetworkAccess::mostLimit, kibibytes);
+            break;
+        case 'L':
+            line.downloadLimit = numberAfter(argument, arguments.cend(), NetworkAccess::mostLimit, kibibytes);
+            break;
         case 'd':
-            line.destination = identifierAfter(argument, arguments.cend());
+            line.destination = wordAfter(argument, arguments.cend());
             break;
         case 'N':
-            line.backup = identifierAfter(argument, arguments.cend());
+            line.backup = wordAfter(argument, arguments.cend());
             break;
         case 'K':
-            line.keptKey = identifierAfter(argument, arguments.cend());
+            line.keptKey = wordAfter(argument, arguments.cend());
             break;
         }
     }
     if (line.operands.size() < syntax.leastOperands || line.operands.size() > syntax.mostOperands ||
         line.operands.contains(QString()) || (line.command == Command::Restore && !isRestoreWhole(line)) ||
-        (line.rotate && !line.destination.isEmpty()) ||
+        (line.rotate && !line.destination.isEmpty()) || asksTooMuchOfDisk(line, syntax) ||
+        (line.append && line.trial) ||
         (line.xml && (!line.keptKey.isEmpty() || (syntax.options.contains(u'T') && !line.trial))))
         refuse(syntax);
     return line;

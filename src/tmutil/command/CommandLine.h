@@ -59,6 +59,10 @@ struct CommandLine {
     QString backup;                ///< findfiles -b BACKUP; empty for all
     QString destination;           ///< -d ID; empty when absent
     QString keptKey;               ///< --kept KEYID; empty when absent
+    QString credentials;           ///< --credentials FILE; empty when absent
+    QString hostKey;               ///< --accept-host-key FINGERPRINT; empty when absent
+    int uploadLimit = -1;          ///< --upload-limit; -1 when absent
+    int downloadLimit = -1;        ///< --download-limit; -1 when absent
     KeepRules keep = {-1, -1, -1}; ///< --hourly, --daily, --weekly; -1 where absent
     QStringList operands;
 

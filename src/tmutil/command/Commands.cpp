@@ -7,6 +7,7 @@
 #include "Folders.h"
 #include "History.h"
 #include "KeyStore.h"
+#include "NetworkProbe.h"
 #include "Output.h"
 #include "Reports.h"
 #include "RepositoryFolder.h"
@@ -40,9 +41,8 @@ void destinationInfo(const Folders& folders, bool xml)
 {
     const Configuration configuration(folders);
     const History history(folders.state);
-    const KeyStore keys(folders.configuration);
-    print(xml ? destinationXml(configuration, history, keys)
-              : destinationText(configuration.destinations(), history, keys));
+    print(xml ? destinationXml(configuration, history, folders)
+              : destinationText(configuration.destinations(), history, folders));
 }
 
 /// Under the worker's lock, so that no backup to that disk begins meanwhile.
@@ -57,6 +57,24 @@ void removeDestination(const Folders& folders, const QString& id)
                           u"A backup to this disk is running, or about to. Stop it first."_s);
     }
     Configuration(folders).removeDestination(id);
+    NetworkAccess::removeSecrets(folders, id.toUpper());
+}
+
+/// The disk that was named, or else the one that is rotated to or the usual one. It is there.
+Destination chosenDestination(const Folders& folders, const CommandLine& line)
+{
+    const Configuration configuration(folders);
+    const auto& destinations = configuration.destinations();
+    const auto present = [&folders](const std::vector<Destination>& some) { return presentOf(some, folders); };
+    if (line.destination.isEmpty()) {
+        const History history(folders.state);
+        return line.rotate ? rotatedDestination(destinations, history, present)
+                           : usualDestination(destinations, history, present);
+    }
+    Destination named = namedDestination(destinations, line.destination);
+    if (present({named}).empty())
+        throw Failure(ExitStatus::DestinationMissing, named.absence());
+    return named;
 }
 
 /// For people a path a line; for programs, since a path may hold line breaks, an XML property list.
@@ -69,33 +87,20 @@ void printPaths(const QStringList& paths, bool xml)
 
 void startBackup(const Folders& folders, const CommandLine& line)
 {
-    const Configuration configuration(folders);
-    const History history(folders.state);
     if (RunState::current(folders.state))
         throw Failure(ExitStatus::AlreadyRunning, u"A backup is already running."_s);
-    const auto& destinations = configuration.destinations();
-    const Destination destination = !line.destination.isEmpty() ? namedDestination(destinations, line.destination)
-                                    : line.rotate               ? rotatedDestination(destinations, history)
-                                                                : usualDestination(destinations, history);
+    const Destination destination = chosenDestination(folders, line);
     Restic::executable();
     if (const QString remark = startWorker(destination.id, line.block); !remark.isEmpty())
         printForPeople(QStringList(remark));
 }
 
-/// The disk that was named, or else the usual one.
-Destination chosenDestination(const Folders& folders, const QString& id)
+Repository openRepository(const Destination& destination, const Folders& folders)
 {
-    const Configuration configuration(folders);
-    const auto& destinations = configuration.destinations();
-    return id.isEmpty() ? usualDestination(destinations, History(folders.state)) : namedDestination(destinations, id);
-}
-
-RepositoryFolder openRepository(const Destination& destination)
-{
-    auto repository = RepositoryFolder::open(destination);
+    auto repository = Repository::open(destination, folders);
     if (!repository)
         throw Failure(ExitStatus::DestinationMissing, destination.absence());
-    if (!repository->hasConfig() && repository->isEmpty())
+    if (repository->isNew())
         throw Failure(ExitStatus::NoBackup, u"There are no backups."_s);
     repository->requireConfig();
     return std::move(*repository);
@@ -103,7 +108,7 @@ RepositoryFolder openRepository(const Destination& destination)
 
 void recoveryKey(const Folders& folders, const CommandLine& line)
 {
-    const Destination destination = chosenDestination(folders, line.destination);
+    const Destination destination = chosenDestination(folders, line);
     if (line.keptKey.isEmpty())
         renewRecoveryKey(folders, destination, line.xml);
     else
@@ -114,7 +119,7 @@ void verify(const Folders& folders, const CommandLine& line)
 {
     if (RunState::current(folders.state))
         throw Failure(ExitStatus::AlreadyRunning, u"A backup is running."_s);
-    const RepositoryFolder repository = openRepository(chosenDestination(folders, line.destination));
+    const Repository repository = openRepository(chosenDestination(folders, line), folders);
     needPrivateFolder(folders.state);
     const StopRequest stop;
     if (const auto damage = Verification::runAndRemember(repository, folders, stop, line.all))
@@ -132,9 +137,9 @@ void deleteBackups(const Folders& folders, const QStringList& names)
     const Configuration configuration(folders);
     const StopRequest stop;
     QStringList left = names;
-    std::vector<std::pair<RepositoryFolder, std::vector<Snapshot>>> found;
-    for (const Destination& destination : configuration.destinations()) {
-        auto repository = RepositoryFolder::open(destination);
+    std::vector<std::pair<Repository, std::vector<Snapshot>>> found;
+    for (const Destination& destination : presentOf(configuration.destinations(), folders)) {
+        auto repository = Repository::open(destination, folders);
         if (!repository)
             continue;
         auto some = takeNamed(snapshotsIn(*repository, Restic(*repository, folders, &stop)), left);
@@ -196,10 +201,21 @@ void diskUsageXml(const Folders& folders)
     const Configuration configuration(folders);
     QVariantList disks;
     for (const Destination& destination : configuration.destinations()) {
-        if (destination.isPresent())
+        if (!destination.isNetwork() && destination.isPresent())
             disks.append(QVariantMap{{u"ID"_s, destination.id}, {u"Bytes"_s, sizeOfFolder(destination.repository())}});
     }
     printXml(disks);
+}
+
+QString roomTaken(const Destination& destination)
+{
+    if (destination.isNetwork())
+        return u"%1: the room that the backups take there is not known."_s.arg(destination.path);
+    const QStorageInfo room(destination.path);
+    return u"%1: the backups take %2 bytes, %3 of %4 bytes are free."_s.arg(destination.path)
+        .arg(sizeOfFolder(destination.repository()))
+        .arg(room.bytesAvailable())
+        .arg(room.bytesTotal());
 }
 
 /// What a backup has added is known of the runs that are logged; most of it is shared with others.
@@ -207,15 +223,11 @@ void diskUsage(const Folders& folders)
 {
     const Configuration configuration(folders);
     const auto runs = RunLog::all(folders.state);
-    for (const Destination& destination : configuration.destinations()) {
-        const auto repository = RepositoryFolder::open(destination);
+    for (const Destination& destination : presentOf(configuration.destinations(), folders)) {
+        const auto repository = Repository::open(destination, folders);
         if (!repository)
             continue;
-        const QStorageInfo room(destination.path);
-        QStringList lines{u"%1: the backups take %2 bytes, %3 of %4 bytes are free."_s.arg(destination.path)
-                              .arg(sizeOfFolder(destination.repository()))
-                              .arg(room.bytesAvailable())
-                              .arg(room.bytesTotal())};
+        QStringList lines{roomTaken(destination)};
         for (const Snapshot& snapshot : snapshotsIn(*repository, Restic(*repository, folders, nullptr))) {
             const auto run = std::ranges::find(runs, snapshot.name(), &RunLog::backup);
             lines.append(
@@ -247,7 +259,7 @@ void runCommand(const CommandLine& line)
     case Command::DestinationInfo:
         return destinationInfo(folders, line.xml);
     case Command::SetDestination:
-        return setDestination(folders, line.operands.first(), line.append);
+        return setDestination(folders, line);
     case Command::RemoveDestination:
         return removeDestination(folders, line.operands.first());
     case Command::StartBackup:
@@ -287,7 +299,7 @@ void runCommand(const CommandLine& line)
     case Command::RecoveryKey:
         return recoveryKey(folders, line);
     case Command::Adopt:
-        return adopt(folders, line.operands.first());
+        return adopt(folders, line);
     case Command::DeleteBackup:
         return deleteBackups(folders, line.operands);
     case Command::Log:

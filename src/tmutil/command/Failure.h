@@ -25,10 +25,12 @@ enum class ExitStatus {
     RestoredInPart = 13,    ///< a restore gave back all that could be read, and not all that was wanted
     Damaged = 14,           ///< a verification has found damage
     WrongKey = 15,          ///< the key of a backup disk is missing, or what was given in its place opens nothing
+    Untrusted = 16,         ///< the host key or the certificate of a server is not one to be trusted
     Usage = 64,             ///< EX_USAGE: the command line makes no sense
     StateDamaged = 65,      ///< EX_DATAERR: what tmutil remembers of runs cannot be read
     NoInput = 66,           ///< EX_NOINPUT: a file or folder that was named does not exist, or cannot be one
     CannotWrite = 73,       ///< EX_CANTCREAT: a file of tmutil's own, or the backup disk, cannot be written
+    AccessDenied = 77,      ///< EX_NOPERM: a server does not let the user in
     Configuration = 78,     ///< EX_CONFIG: the configuration file is damaged
 };
 

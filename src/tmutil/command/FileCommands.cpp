@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "History.h"
 #include "Listing.h"
+#include "NetworkProbe.h"
 #include "Output.h"
 #include "Paths.h"
 #include "Restic.h"
@@ -30,12 +31,12 @@ std::vector<ReadableDisk> readableDisks(const Folders& folders)
     std::vector<ReadableDisk> disks;
     std::optional<Failure> unreadable;
     bool isAnyThere = false;
-    for (const Destination& destination : configuration.destinations()) {
-        auto repository = RepositoryFolder::open(destination);
-        if (!repository)
-            continue;
-        isAnyThere = true;
+    for (const Destination& destination : presentOf(configuration.destinations(), folders)) {
         try {
+            auto repository = Repository::open(destination, folders);
+            if (!repository)
+                continue;
+            isAnyThere = true;
             auto snapshots = snapshotsIn(*repository, Restic(*repository, folders, nullptr));
             if (!snapshots.empty())
                 disks.push_back({std::move(*repository), std::move(snapshots)});

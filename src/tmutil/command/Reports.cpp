@@ -6,6 +6,7 @@
 #include "Folders.h"
 #include "History.h"
 #include "KeyStore.h"
+#include "NetworkPlace.h"
 #include "PropertyList.h"
 #include "RunState.h"
 #include "ShownText.h"
@@ -54,41 +55,85 @@ QString ReportMarks::path(const QString& runId, bool finishing) const
     return folder_ + u'/' + runId + (finishing ? "-finishing"_L1 : "-running"_L1);
 }
 
-QByteArray destinationText(const std::vector<Destination>& destinations, const History& history, const KeyStore& keys)
+namespace {
+
+QLatin1StringView kindOf(const Destination& destination)
+{
+    return destination.isNetwork() ? "Network"_L1 : "Local"_L1;
+}
+
+} // namespace
+
+QByteArray destinationText(const std::vector<Destination>& destinations, const History& history, const Folders& folders)
 {
     if (destinations.empty())
         return "No destinations configured.\n";
+    const KeyStore keys(folders.configuration);
     QString text;
     for (const Destination& destination : destinations) {
         text += destination.id == history.lastDestination() ? "> "_L1 + QString(50, u'=') : QString(52, u'=');
-        text += "\nName          : "_L1 + shownText(destination.name) + "\nKind          : Local\n"_L1;
-        if (destination.isPresent())
-            text += "Mount Point   : "_L1 + shownText(destination.path, destination.path.size()) + u'\n';
-        text += "ID            : "_L1 + destination.id + u'\n';
+        text += "\nName          : "_L1 + shownText(destination.name) + "\nKind          : "_L1 + kindOf(destination);
+        if (destination.isNetwork())
+            text += "\nURL           : "_L1 + destination.path;
+        else if (destination.isPresent())
+            text += "\nMount Point   : "_L1 + shownText(destination.path, destination.path.size());
+        text += "\nID            : "_L1 + destination.id + u'\n';
         if (keys.keptRecoveryKey(destination.id).isEmpty())
             text += "Recovery Key  : not kept yet; \"tmutil recoverykey -d ID\" makes one and shows it\n"_L1;
     }
     return text.toUtf8();
 }
 
-QByteArray destinationXml(const Configuration& configuration, const History& history, const KeyStore& keys,
+namespace {
+
+void tellDisk(QVariantMap& entry, const Destination& disk, const Configuration& configuration, const MountTable& mounts)
+{
+    entry.insert(u"Path"_s, disk.path);
+    if (!disk.isPresent())
+        return;
+    entry.insert(u"MountPoint"_s, disk.path);
+    const QStorageInfo room(disk.path);
+    entry.insert(u"BytesFree"_s, room.bytesAvailable());
+    entry.insert(u"BytesTotal"_s, room.bytesTotal());
+    if (const QString source = configuration.sourceOnDisk(disk.path, mounts); !source.isEmpty())
+        entry.insert(u"SourceOnDisk"_s, source);
+}
+
+void tellPlace(QVariantMap& entry, const Destination& place, const Folders& folders)
+{
+    entry.insert(u"URL"_s, place.path);
+    try {
+        const NetworkAccess access = NetworkAccess::load(folders, place.id);
+        for (const auto& [key, limit] :
+             {std::pair{u"UploadLimit"_s, access.uploadLimit}, std::pair{u"DownloadLimit"_s, access.downloadLimit}}) {
+            if (limit > 0)
+                entry.insert(key, qlonglong{limit});
+        }
+        for (const auto& [key, name] : {std::pair{u"KeyFile"_s, u"key-file"_s}, std::pair{u"CAFile"_s, u"ca-file"_s},
+                                        std::pair{u"Region"_s, u"region"_s}}) {
+            if (access.credentials.contains(name))
+                entry.insert(key, access.credentials.value(name));
+        }
+    } catch (const Failure&) { // whoever uses the place is told of it
+    }
+}
+
+} // namespace
+
+QByteArray destinationXml(const Configuration& configuration, const History& history, const Folders& folders,
                           const MountTable& mounts)
 {
+    const KeyStore keys(folders.configuration);
     QVariantList entries;
     for (const Destination& destination : configuration.destinations()) {
         QVariantMap entry{{u"ID"_s, destination.id},
                           {u"Name"_s, destination.name},
-                          {u"Kind"_s, u"Local"_s},
-                          {u"Path"_s, destination.path},
+                          {u"Kind"_s, QString(kindOf(destination))},
                           {u"LastDestination"_s, qlonglong{destination.id == history.lastDestination() ? 1 : 0}}};
-        if (destination.isPresent()) {
-            entry.insert(u"MountPoint"_s, destination.path);
-            const QStorageInfo room(destination.path);
-            entry.insert(u"BytesFree"_s, room.bytesAvailable());
-            entry.insert(u"BytesTotal"_s, room.bytesTotal());
-            if (const QString source = configuration.sourceOnDisk(destination.path, mounts); !source.isEmpty())
-                entry.insert(u"SourceOnDisk"_s, source);
-        }
+        if (destination.isNetwork())
+            tellPlace(entry, destination, folders);
+        else
+            tellDisk(entry, destination, configuration, mounts);
         if (const QVariantMap failure = history.lastFailure(destination.id); !failure.isEmpty())
             entry.insert(u"LastFailure"_s, failure);
         if (const QDateTime last = history.lastBackup(destination.id); last.isValid())

@@ -62,7 +62,7 @@ void removeOlderKeys(const Restic& restic, const QStringList& older)
 
 /// What the disk has of this computer is what counts, also where somebody has erased it. Gives a sentence where it has
 /// backups of others alone.
-QString takeStock(const RepositoryFolder& repository, const Restic& restic, const Folders& folders)
+QString takeStock(const Repository& repository, const Restic& restic, const Folders& folders)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
     const auto all = snapshotsIn(repository, restic);
@@ -76,17 +76,13 @@ QString takeStock(const RepositoryFolder& repository, const Restic& restic, cons
         latestOf(all, now)->name());
 }
 
-RepositoryFolder newRepository(const Destination& destination, const Folders& folders, const StopRequest& stop)
+Repository newRepository(const Destination& destination, const Folders& folders, const StopRequest& stop)
 {
     NewRepository made = makeRepository(destination, folders, stop);
-    if (!made.folder)
+    if (!made.repository)
         throw made.refusal.isEmpty() ? made.outcome.failure() : Failure(ExitStatus::Failed, made.refusal);
-    History::change(folders.state, [&](History& history) {
-        history.noteNewRepository(destination.id);
-        history.setLastBackup(destination.id, {});
-    });
-    KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, {});
-    return std::move(*made.folder);
+    noteNewRepository(destination, folders);
+    return std::move(*made.repository);
 }
 
 /// Repositories of this user that nothing on this computer opens: most often those of the computer before it.
@@ -126,11 +122,45 @@ QString readSecret()
 
 } // namespace
 
-void setDestination(const Folders& folders, const QString& path, bool append)
+void noteNewRepository(const Destination& destination, const Folders& folders)
 {
+    History::change(folders.state, [&](History& history) {
+        history.noteNewRepository(destination.id);
+        history.setLastBackup(destination.id, {});
+    });
+    KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, {});
+}
+
+void welcome(const Destination& destination, bool isNew, const std::function<Repository()>& open,
+             const Folders& folders, const StopRequest& stop)
+{
+    try {
+        const Repository repository = open();
+        const Restic restic(repository, folders, &stop);
+        if (!isNew)
+            takeStock(repository, restic, folders);
+        if (!isNew && !recoveryKeys(restic).isEmpty())
+            return;
+        const RecoveryKey made = addRecoveryKey(restic, {});
+        showNewKey(restic, made, [&] { printRecoveryKey(destination, made.key); });
+        // Programs that set a disk need not show what is printed.
+        if (isatty(STDOUT_FILENO) != 0)
+            KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, made.identifier);
+    } catch (const Failure& failure) {
+        printForPeople(
+            QStringList(u"There is no recovery key for this disk yet: %1 \"tmutil recoverykey -d %2\" makes one."_s.arg(
+                failure.message(), destination.id)));
+    }
+}
+
+void setDestination(const Folders& folders, const CommandLine& line)
+{
+    const QString& path = line.operands.first();
+    if (NetworkPlace::isUrl(path))
+        return setNetworkDestination(folders, line);
     Configuration configuration(folders, Configuration::IfLost::BeginAnew);
     const Destination destination = configuration.setDestination(
-        path, append, [&folders](const Destination& found) { return isOpenedByKey(found, folders); });
+        path, line.append, [&folders](const Destination& found) { return isOpenedByKey(found, folders); });
     if (const QString source = configuration.sourceOnDisk(destination.path); !source.isEmpty())
         printForPeople(
             QStringList(u"\"%1\" is on the same disk as \"%2\": when that breaks, the backups are lost with it."_s.arg(
@@ -139,30 +169,17 @@ void setDestination(const Folders& folders, const QString& path, bool append)
         printForPeople(QStringList(
             u"This disk also has backups whose key is not on this computer. If they are yours, \"tmutil adopt "
             "%1\" takes them up."_s.arg(destination.path)));
-    try {
-        const StopRequest stop;
-        const bool isNew = RepositoryFolder::contents(destination) == RepositoryFolder::Contents::Empty;
-        const auto repository = isNew ? newRepository(destination, folders, stop) : RepositoryFolder::open(destination);
-        const Restic restic(*repository, folders, &stop);
-        if (!isNew)
-            takeStock(*repository, restic, folders);
-        if (isNew || recoveryKeys(restic).isEmpty()) {
-            const RecoveryKey made = addRecoveryKey(restic, {});
-            showNewKey(restic, made, [&] { printRecoveryKey(destination, made.key); });
-            // Programs that set a disk need not show what is printed.
-            if (isatty(STDOUT_FILENO) != 0)
-                KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, made.identifier);
-        }
-    } catch (const Failure& failure) {
-        printForPeople(
-            QStringList(u"There is no recovery key for this disk yet: %1 \"tmutil recoverykey -d %2\" makes one."_s.arg(
-                failure.message(), destination.id)));
-    }
+    const StopRequest stop;
+    const bool isNew = RepositoryFolder::contents(destination) == RepositoryFolder::Contents::Empty;
+    const auto open = [&] {
+        return isNew ? newRepository(destination, folders, stop) : std::move(*Repository::open(destination, folders));
+    };
+    welcome(destination, isNew, open, folders, stop);
 }
 
 void renewRecoveryKey(const Folders& folders, const Destination& destination, bool xml)
 {
-    const auto repository = RepositoryFolder::open(destination);
+    const auto repository = Repository::open(destination, folders);
     repository->requireWritable();
     const StopRequest stop;
     const Restic restic(*repository, folders, &stop);
@@ -190,7 +207,7 @@ void renewRecoveryKey(const Folders& folders, const Destination& destination, bo
 
 void keepRecoveryKey(const Folders& folders, const Destination& destination, const QString& identifier)
 {
-    const auto repository = RepositoryFolder::open(destination);
+    const auto repository = Repository::open(destination, folders);
     const StopRequest stop;
     const Restic restic(*repository, folders, &stop);
     QStringList others = recoveryKeys(restic);
@@ -201,18 +218,27 @@ void keepRecoveryKey(const Folders& folders, const Destination& destination, con
     removeOlderKeys(restic, others);
 }
 
-void adopt(const Folders& folders, const QString& path)
+void adopt(const Folders& folders, const CommandLine& line)
 {
-    const QString secret = readSecret(); // ahead of the stop, so that an interrupt ends the prompt
-    const StopRequest stop;
-    const Destination destination = takeUpRepository(path, secret, folders, stop);
-    Configuration(folders, Configuration::IfLost::BeginAnew).takeUp(destination);
-    const auto repository = RepositoryFolder::open(destination);
-    const QString remark = takeStock(*repository, Restic(*repository, folders, &stop), folders);
-    printForPeople(
-        QStringList(u"The backups at \"%1\" are taken up. \"tmutil listbackups\" names them."_s.arg(destination.path)));
-    if (!remark.isEmpty())
-        printForPeople(QStringList(remark));
+    const QString& path = line.operands.first();
+    const TakeUp takeUp = [&](const std::vector<Repository>& candidates, const auto& keep) {
+        const QString secret = readSecret(); // ahead of the stop, so that an interrupt ends the prompt
+        const StopRequest stop;
+        const Destination destination = takeUpRepository(candidates, path, secret, folders, stop);
+        const auto repository = std::ranges::find(candidates, destination, &Repository::destination);
+        keep(destination);
+        const QString remark = takeStock(*repository, Restic(*repository, folders, &stop), folders);
+        printForPeople(QStringList(
+            u"The backups at \"%1\" are taken up. \"tmutil listbackups\" names them."_s.arg(destination.path)));
+        if (!remark.isEmpty())
+            printForPeople(QStringList(remark));
+    };
+    if (NetworkPlace::isUrl(path))
+        adoptNetworkPlace(folders, line, takeUp);
+    else
+        takeUp(repositoriesAt(path), [&folders](const Destination& destination) {
+            Configuration(folders, Configuration::IfLost::BeginAnew).takeUp(destination);
+        });
 }
 
 } // namespace quillon

@@ -21,7 +21,7 @@ bool needsEventLoop(Command command)
     static constexpr std::array commands{
         Command::RunBackup,   Command::LatestBackup, Command::ListBackups, Command::ListFiles,      Command::FindFiles,
         Command::Versions,    Command::Restore,      Command::Verify,      Command::SetDestination, Command::Adopt,
-        Command::RecoveryKey, Command::DeleteBackup, Command::DiskUsage};
+        Command::RecoveryKey, Command::DeleteBackup, Command::DiskUsage,   Command::StartBackup};
     return std::ranges::find(commands, command) != commands.end();
 }
 

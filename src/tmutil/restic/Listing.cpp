@@ -1,6 +1,7 @@
 #include "Listing.h"
 
 #include "Failure.h"
+#include "NetworkProbe.h"
 #include "Paths.h"
 #include "Restic.h"
 
@@ -21,6 +22,18 @@ QStringList PlaceInBackup::paths() const
     return paths;
 }
 
+namespace {
+
+/// Without dots and doubled slashes, but for those of a URL.
+QString cleanName(const QString& name, const Destination& destination)
+{
+    const bool beginsWithUrl = destination.isNetwork() && name.startsWith(destination.path);
+    return beginsWithUrl ? destination.path + QDir::cleanPath(name.mid(destination.path.size()))
+                         : QDir::cleanPath(name);
+}
+
+} // namespace
+
 BackupFinder::BackupFinder(const std::vector<Destination>& destinations, const Folders& folders)
     : destinations_(destinations)
     , folders_(folders)
@@ -29,9 +42,9 @@ BackupFinder::BackupFinder(const std::vector<Destination>& destinations, const F
 
 PlaceInBackup BackupFinder::find(const QString& name)
 {
-    const QString clean = QDir::cleanPath(name);
     QString absence;
     for (const Destination& destination : destinations_) {
+        const QString clean = cleanName(name, destination);
         if (!covers(destination.path, clean))
             continue;
         const ReadableDisk* const disk = this->disk(destination);
@@ -58,7 +71,8 @@ const ReadableDisk* BackupFinder::disk(const Destination& destination)
         disks_, [&](const ReadableDisk& disk) { return disk.repository.destination() == destination; });
     if (known != disks_.end())
         return &*known;
-    auto repository = RepositoryFolder::open(destination);
+    auto repository =
+        presentOf({destination}, folders_).empty() ? std::nullopt : Repository::open(destination, folders_);
     if (!repository)
         return nullptr;
     auto snapshots = snapshotsIn(*repository, Restic(*repository, folders_, nullptr));

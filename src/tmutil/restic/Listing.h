@@ -3,7 +3,7 @@
 #include "Destination.h"
 #include "Folders.h"
 #include "ListedFile.h"
-#include "RepositoryFolder.h"
+#include "Repository.h"
 #include "Snapshot.h"
 
 #include <QString>
@@ -18,13 +18,13 @@ class Restic;
 
 /// A disk that can be read, with its backups, oldest first.
 struct ReadableDisk {
-    RepositoryFolder repository;
+    Repository repository;
     std::vector<Snapshot> snapshots;
 };
 
 /// Something in a backup, or all of it.
 struct PlaceInBackup {
-    const RepositoryFolder& repository;
+    const Repository& repository;
     Snapshot snapshot;
     QString path; ///< absolute; empty for everything
 

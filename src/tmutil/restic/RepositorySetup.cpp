@@ -25,31 +25,6 @@ namespace {
 // restic notes a user with each key.
 constexpr QLatin1StringView recoveryUser{"quillon-recovery"};
 
-/// A secret in a file that no disk holds, so that it ends with this process however that ends: restic takes none as an
-/// argument.
-class SecretFile {
-public:
-    explicit SecretFile(const QString& secret)
-        : descriptor_(memfd_create("secret", MFD_CLOEXEC))
-    {
-        const QByteArray line = secret.toUtf8() + '\n';
-        if (descriptor_ >= 0 && write(descriptor_, line.constData(), static_cast<size_t>(line.size())) == line.size())
-            return;
-        const QString reason = qt_error_string(errno);
-        close(descriptor_);
-        throw Failure(ExitStatus::CannotWrite, u"The key cannot be given to restic: %1."_s.arg(reason));
-    }
-    SecretFile(const SecretFile&) = delete;
-    SecretFile& operator=(const SecretFile&) = delete;
-    ~SecretFile() { close(descriptor_); }
-
-    /// For the user's own processes, as long as this object is there (proc(5)).
-    QString path() const { return u"/proc/%1/fd/%2"_s.arg(getpid()).arg(descriptor_); }
-
-private:
-    int descriptor_;
-};
-
 void addKey(const Restic& restic, const QString& passwordFile, const QString& user)
 {
     restic.runUnlocking({u"key"_s, u"add"_s, u"--new-password-file"_s, passwordFile, u"--user"_s, user}).require();
@@ -79,24 +54,6 @@ QString identifierInUse(const Restic& restic)
     return {};
 }
 
-/// The repositories that may be meant by a path: those on a backup disk, and one that lies at the path itself.
-std::vector<Destination> candidates(const QString& path)
-{
-    const QString name = QFileInfo(path).fileName();
-    std::vector<Destination> found;
-    for (const QString& id : QDir(Destination::backupFolder(path)).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        found.push_back({id, name, path});
-    const QString inside = QFileInfo(path).path();
-    if (QFileInfo(inside).fileName() == QFileInfo(Destination::backupFolder(u"/"_s)).fileName())
-        found.push_back({name, QFileInfo(QFileInfo(inside).path()).fileName(), QFileInfo(inside).path()});
-    else
-        found.push_back({QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(), name, path, true});
-    std::erase_if(found, [](const Destination& destination) {
-        return RepositoryFolder::contents(destination) != RepositoryFolder::Contents::Repository;
-    });
-    return found;
-}
-
 bool opens(const Restic& restic)
 {
     const auto outcome = restic.run({u"cat"_s, u"config"_s, u"--no-lock"_s});
@@ -107,26 +64,52 @@ bool opens(const Restic& restic)
 
 } // namespace
 
+SecretFile::SecretFile(const QString& secret)
+    : descriptor_(memfd_create("secret", MFD_CLOEXEC))
+{
+    const QByteArray line = secret.toUtf8() + '\n';
+    if (descriptor_ >= 0 && write(descriptor_, line.constData(), static_cast<size_t>(line.size())) == line.size())
+        return;
+    const QString reason = qt_error_string(errno);
+    close(descriptor_);
+    throw Failure(ExitStatus::CannotWrite, u"The key cannot be given to restic: %1."_s.arg(reason));
+}
+
+SecretFile::~SecretFile()
+{
+    close(descriptor_);
+}
+
+QString SecretFile::path() const
+{
+    return u"/proc/%1/fd/%2"_s.arg(getpid()).arg(descriptor_);
+}
+
 NewRepository makeRepository(const Destination& destination, const Folders& folders, const StopRequest& stop)
 {
     Restic::executable(); // without one nothing is to be left on the disk
-    RepositoryFolder fresh = RepositoryFolder::makeBeside(destination);
+    Repository fresh(RepositoryFolder::makeBeside(destination));
     NewRepository made{
-        .folder = std::nullopt, .outcome = Restic(fresh, folders, &stop).run({u"init"_s}), .refusal = {}};
+        .repository = std::nullopt, .outcome = Restic(fresh, folders, &stop).run({u"init"_s}), .refusal = {}};
     if (made.outcome.exitStatus == 0 && !stop.isMade()) {
-        made.refusal = fresh.moveIntoPlace().value_or(QString());
+        made.refusal = fresh.folder()->moveIntoPlace().value_or(QString());
         if (made.refusal.isEmpty()) {
-            made.folder = std::move(fresh);
+            made.repository.emplace(std::move(fresh));
             return made;
         }
     }
-    fresh.remove();
+    fresh.folder()->remove();
     return made;
+}
+
+void makeRepository(const Repository& place, const Folders& folders, const StopRequest& stop)
+{
+    Restic(place, folders, &stop).run({u"init"_s}).require();
 }
 
 bool isOpenedByKey(const Destination& destination, const Folders& folders)
 {
-    const auto repository = RepositoryFolder::open(destination);
+    const auto repository = Repository::open(destination, folders);
     try {
         return !repository || opens(Restic(*repository, folders, nullptr));
     } catch (const Failure& failure) {
@@ -160,30 +143,49 @@ void removeRecoveryKeys(const Restic& restic, const QStringList& identifiers)
         restic.runUnlocking({u"key"_s, u"remove"_s, identifier}).require();
 }
 
-Destination takeUpRepository(const QString& path, const QString& passphrase, const Folders& folders,
-                             const StopRequest& stop)
+std::vector<Repository> repositoriesAt(const QString& path)
 {
     const QString canonical = QFileInfo(path).canonicalFilePath();
-    const auto found = canonical.isEmpty() ? std::vector<Destination>() : candidates(canonical);
-    if (found.empty())
+    if (canonical.isEmpty())
+        return {};
+    const QString name = QFileInfo(canonical).fileName();
+    std::vector<Destination> named;
+    for (const QString& id : QDir(Destination::backupFolder(canonical)).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        named.push_back({id, name, canonical});
+    const QString inside = QFileInfo(canonical).path();
+    if (QFileInfo(inside).fileName() == QFileInfo(Destination::backupFolder(u"/"_s)).fileName())
+        named.push_back({name, QFileInfo(QFileInfo(inside).path()).fileName(), QFileInfo(inside).path()});
+    else
+        named.push_back({QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(), name, canonical, true});
+    std::vector<Repository> found;
+    for (const Destination& destination : named) {
+        auto folder = RepositoryFolder::open(destination);
+        if (folder && folder->hasConfig())
+            found.emplace_back(std::move(*folder));
+    }
+    return found;
+}
+
+Destination takeUpRepository(const std::vector<Repository>& candidates, const QString& path, const QString& passphrase,
+                             const Folders& folders, const StopRequest& stop)
+{
+    if (candidates.empty())
         throw Failure(ExitStatus::NoBackup, u"There are no backups of yours at \"%1\"."_s.arg(path));
     if (passphrase.isEmpty())
         throw Failure(ExitStatus::WrongKey, u"Nothing was given that could open the backups."_s);
     const QString recoveryKey = recoveryKeyFrom(passphrase);
     const SecretFile secret(recoveryKey.isEmpty() ? passphrase : recoveryKey);
     const KeyStore keys(folders.configuration);
-    for (const Destination& destination : found) {
-        const auto repository = RepositoryFolder::open(destination);
-        if (!repository)
-            continue;
-        const Restic byPassphrase(*repository, folders, &stop, secret.path());
+    for (const Repository& repository : candidates) {
+        const Destination& destination = repository.destination();
+        const Restic byPassphrase(repository, folders, &stop, secret.path());
         if (!opens(byPassphrase))
             continue;
         keys.setKeptRecoveryKey(destination.id, identifierInUse(byPassphrase)); // it has been typed
-        if (keys.contains(destination.id) && opens(Restic(*repository, folders, &stop)))
+        if (keys.contains(destination.id) && opens(Restic(repository, folders, &stop)))
             return destination;
         QString key = recoveryKey.isEmpty() ? passphrase : recoveryKey;
-        if (repository->isWritable()) { // else to restore is all that can be done
+        if (repository.isWritable()) { // else to restore is all that can be done
             key = KeyStore::makeKey();
             addKey(byPassphrase, SecretFile(key).path(), u"quillon"_s);
         }

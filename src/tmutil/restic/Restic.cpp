@@ -1,7 +1,7 @@
 #include "Restic.h"
 
 #include "KeyStore.h"
-#include "RepositoryFolder.h"
+#include "Repository.h"
 #include "ResticDiagnosis.h"
 #include "StopRequest.h"
 
@@ -42,10 +42,10 @@ QStringList searchPath()
     return u"" QUILLON_RESTIC_FOLDERS ""_s.split(u':');
 }
 
-/// Runs in the child, between fork and exec.
+/// Runs in the child, between fork and exec. Without a folder, a number below zero, it stays where it is.
 void prepareChild(int folder, pid_t parent)
 {
-    if (!endWithParent(SIGINT, parent) || fchdir(folder) != 0)
+    if (!endWithParent(SIGINT, parent) || (folder >= 0 && fchdir(folder) != 0))
         _exit(126);
     sigset_t none{};
     sigemptyset(&none);
@@ -109,14 +109,13 @@ ResticDiagnosis ResticOutcome::diagnosis() const
 {
     if (diskGone || stuck)
         return ResticDiagnosis::of(diskGone ? ResticProblem::DiskGone : ResticProblem::NoSpace);
-    return ResticDiagnosis::of(errorText, exitStatus, workFolder);
+    return onNetwork ? ResticDiagnosis::ofNetwork(errorText, exitStatus, workFolder)
+                     : ResticDiagnosis::of(errorText, exitStatus, workFolder);
 }
 
 Failure ResticOutcome::failure() const
 {
-    const ResticDiagnosis found = diagnosis();
-    const bool isKey = found.problem == ResticProblem::WrongKey;
-    return {isKey ? ExitStatus::WrongKey : ExitStatus::Failed, found.description, found.cause()};
+    return diagnosis().failure();
 }
 
 void ResticOutcome::require() const
@@ -125,8 +124,7 @@ void ResticOutcome::require() const
         throw failure();
 }
 
-Restic::Restic(const RepositoryFolder& repository, const Folders& folders, const StopRequest* stop,
-               const QString& keyFile)
+Restic::Restic(const Repository& repository, const Folders& folders, const StopRequest* stop, const QString& keyFile)
     : repository_(repository)
     , executable_(executable())
     , environment_(
@@ -140,26 +138,42 @@ Restic::Restic(const RepositoryFolder& repository, const Folders& folders, const
 {
     if (keyFile.isEmpty())
         KeyStore(folders.configuration).require(repository.destination());
-    QDir().mkpath(cacheFolder(folders)); // its temporary files need it ahead of its cache
+    if (const NetworkAccess* const access = repository.access()) {
+        environment_ += access->environment();
+        options_ = access->options();
+    } else {
+        options_ = {u"--repo"_s, u"."_s};
+    }
+    QDir().mkpath(workFolder_); // its temporary files need it ahead of its cache
 }
 
-QString Restic::executable()
+QString Restic::executable(const QString& program)
 {
-    QString found = QStandardPaths::findExecutable(u"restic"_s, searchPath());
+    QString found = QStandardPaths::findExecutable(program, searchPath());
     if (found.isEmpty())
-        throw Failure(ExitStatus::ResticMissing, u"restic is not installed."_s, u"ResticMissing"_s);
+        throw Failure(ExitStatus::ResticMissing, u"%1 is not installed."_s.arg(program), u"ResticMissing"_s);
     return found;
+}
+
+void Restic::prepare(QProcess& process, const QStringList& arguments) const
+{
+    const RepositoryFolder* const folder = repository_.folder();
+    process.setProgram(executable_);
+    process.setArguments(options_ + arguments);
+    process.setEnvironment(environment_);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setWorkingDirectory(workFolder_);
+    process.setChildProcessModifier(
+        [folder = folder != nullptr ? folder->descriptor() : -1, parent = getpid()] { prepareChild(folder, parent); });
 }
 
 ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOutput, const LineHandler& onMessage) const
 {
     ResticOutcome outcome;
+    outcome.onNetwork = repository_.access() != nullptr;
     QProcess process;
     QEventLoop loop;
-    process.setEnvironment(environment_);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setChildProcessModifier(
-        [folder = repository_.descriptor(), parent = getpid()] { prepareChild(folder, parent); });
+    prepare(process, arguments);
     QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
                      [&] { readOutput(process, onOutput, inPieces_, outcome); });
     QObject::connect(&process, &QProcess::readyReadStandardError, &process,
@@ -182,7 +196,7 @@ ResticOutcome Restic::run(const QStringList& arguments, const LineHandler& onOut
     });
     diskWatch.start(diskInterval);
 
-    process.start(executable_, QStringList{u"--repo"_s, u"."_s} + arguments);
+    process.start();
     if (!process.waitForStarted()) {
         return {.exitStatus = 127, .output = {}, .errorText = process.errorString(), .workFolder = {}};
     }

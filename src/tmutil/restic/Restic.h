@@ -9,19 +9,22 @@
 
 #include <functional>
 
+class QProcess;
+
 namespace quillon {
 
-class RepositoryFolder;
+class Repository;
 class StopRequest;
 
 /// How a run of restic ended.
 struct ResticOutcome {
-    int exitStatus = 0;    ///< the signal's number, negative, where a signal ended it
-    QByteArray output;     ///< standard output, where no handler took it
-    QString errorText;     ///< standard error without its JSON messages, up to a bound
-    QString workFolder;    ///< where it had its temporary files
-    bool diskGone = false; ///< the repository's folder was no longer where it had been; restic was ended for it
-    bool stuck = false;    ///< it waited for room on a full disk; it was ended for it
+    int exitStatus = 0;     ///< the signal's number, negative, where a signal ended it
+    QByteArray output;      ///< standard output, where no handler took it
+    QString errorText;      ///< standard error without its JSON messages, up to a bound
+    QString workFolder;     ///< where it had its temporary files
+    bool diskGone = false;  ///< the repository's folder was no longer where it had been; restic was ended for it
+    bool onNetwork = false; ///< the repository is at a network place
+    bool stuck = false;     ///< it waited for room on a full disk; it was ended for it
 
     ResticDiagnosis diagnosis() const;
 
@@ -34,7 +37,8 @@ struct ResticOutcome {
 
 /// Runs restic on one repository. It gets nothing of this program's environment, is given up on gently when a stop is
 /// requested, and does not outlive this program. It works inside the repository's folder: when the disk goes away it
-/// fails, and writes nothing to what then lies at the same path.
+/// fails, and writes nothing to what then lies at the same path. Of a network place it is told by its environment and
+/// options; no secret is among its arguments.
 class Restic {
 public:
     using LineHandler = std::function<void(const QByteArray& line)>;
@@ -42,11 +46,13 @@ public:
     /// Throws Failure where restic is not installed, or the key is missing. `stop` may be absent; it and the folder
     /// must outlive this object. It is opened with the key that is kept for the destination, unless another file with
     /// one is given.
-    Restic(const RepositoryFolder& repository, const Folders& folders, const StopRequest* stop,
-           const QString& keyFile = {});
+    Restic(const Repository& repository, const Folders& folders, const StopRequest* stop, const QString& keyFile = {});
 
-    /// The executable. Throws Failure where there is none.
-    static QString executable();
+    /// The executable, or that of another program. Throws Failure where there is none.
+    static QString executable(const QString& program = QStringLiteral("restic"));
+
+    /// Makes a process ready that runs one command.
+    void prepare(QProcess& process, const QStringList& arguments) const;
 
     /// Runs one command and waits for it in an event loop. Lines of standard output go to `onOutput` where it is given,
     /// all lines of standard error to `onMessage`.
@@ -77,9 +83,10 @@ private:
     bool isStopped() const;
     void pause() const;
 
-    const RepositoryFolder& repository_;
+    const Repository& repository_;
     QString executable_;
     QStringList environment_;
+    QStringList options_; ///< of every command
     QString workFolder_;
     const StopRequest* stop_;
     std::function<bool()> isStuck_;

@@ -1,6 +1,6 @@
 #include "ResticDiagnosis.h"
 
-#include "RepositoryFolder.h"
+#include "Repository.h"
 #include "Restic.h"
 
 #include <QFile>
@@ -40,6 +40,46 @@ constexpr std::array signs{
     Sign{"operation not permitted"_L1, true, ResticProblem::NoPermission},
 };
 
+// Of several the first counts: what keeps ssh from connecting ends restic's session with other words, and whoever
+// tries again for a minute meets with more than one problem. Words of ssh(1), of Go's libraries "net", "crypto/x509"
+// and "net/http", and of S3 ("Error responses").
+constexpr std::array networkSigns{
+    Sign{"REMOTE HOST IDENTIFICATION HAS CHANGED"_L1, false, ResticProblem::ChangedHostKey},
+    Sign{"Host key verification failed"_L1, false, ResticProblem::UnknownHostKey},
+    Sign{"x509: "_L1, false, ResticProblem::BadCertificate},
+    Sign{"Permission denied ("_L1, false, ResticProblem::AccessDenied},
+    Sign{"Too many authentication failures"_L1, false, ResticProblem::AccessDenied},
+    Sign{"401 Unauthorized"_L1, false, ResticProblem::AccessDenied},
+    Sign{"403 Forbidden"_L1, false, ResticProblem::AccessDenied},
+    Sign{"Access Denied"_L1, false, ResticProblem::AccessDenied},
+    Sign{"The AWS Access Key Id you provided does not exist"_L1, false, ResticProblem::AccessDenied},
+    Sign{"The request signature we calculated does not match"_L1, false, ResticProblem::AccessDenied},
+    Sign{"507 Insufficient Storage"_L1, false, ResticProblem::NoSpace},
+    Sign{"unexpected HTTP response (5"_L1, false, ResticProblem::ServerFailed},
+    Sign{"server response unexpected: 5"_L1, false, ResticProblem::ServerFailed},
+    Sign{"no space left on device"_L1, true, ResticProblem::NoSpace},
+    Sign{"disk quota exceeded"_L1, true, ResticProblem::NoSpace},
+    Sign{"(SSH_FX_FAILURE)"_L1, true, ResticProblem::ServerFailed}, // what OpenSSH says of a full disk, too
+    Sign{"unable to start the sftp session"_L1, false, ResticProblem::Unreachable},
+    Sign{"kex_exchange_identification"_L1, false, ResticProblem::Unreachable},
+    Sign{"during banner exchange"_L1, true, ResticProblem::Unreachable},
+    Sign{"connection lost"_L1, true, ResticProblem::ConnectionLost},
+    Sign{"ssh command exited"_L1, false, ResticProblem::ConnectionLost},
+    Sign{"closed by remote host"_L1, false, ResticProblem::ConnectionLost},
+    Sign{"unexpected EOF"_L1, true, ResticProblem::ConnectionLost},
+    Sign{"connection reset by peer"_L1, true, ResticProblem::ConnectionLost},
+    Sign{"broken pipe"_L1, true, ResticProblem::ConnectionLost},
+    Sign{"Connection refused"_L1, true, ResticProblem::Unreachable},
+    Sign{"connection refused"_L1, true, ResticProblem::Unreachable},
+    Sign{"timed out"_L1, true, ResticProblem::Unreachable},
+    Sign{"i/o timeout"_L1, true, ResticProblem::Unreachable},
+    Sign{"Could not resolve hostname"_L1, false, ResticProblem::Unreachable},
+    Sign{"no such host"_L1, true, ResticProblem::Unreachable},
+    Sign{"server misbehaving"_L1, true, ResticProblem::Unreachable},
+    Sign{"etwork is unreachable"_L1, true, ResticProblem::Unreachable},
+    Sign{"o route to host"_L1, true, ResticProblem::Unreachable},
+};
+
 bool shows(const QString& line, const Sign& sign)
 {
     return sign.endsLine ? line.endsWith(sign.words) : line.contains(sign.words);
@@ -53,6 +93,21 @@ QString printable(QString text)
             character = QChar::ReplacementCharacter;
     }
     return text;
+}
+
+QStringList linesOf(const QString& text)
+{
+    QStringList lines;
+    for (const QString& line : text.split(u'\n')) {
+        if (const QString trimmed = line.trimmed(); !trimmed.isEmpty())
+            lines.append(trimmed);
+    }
+    return lines;
+}
+
+QStringList::const_iterator findSign(const QStringList& lines, const Sign& sign)
+{
+    return std::ranges::find_if(lines, [&](const QString& line) { return shows(line, sign); });
 }
 
 QString ownWords(const QStringList& lines, int exitStatus)
@@ -82,6 +137,23 @@ QString sentence(ResticProblem problem)
     case ResticProblem::NoWorkSpace:
         return u"restic's temporary files cannot be written: the disk of the home folder is full, or its cache folder "
                "is not writable."_s;
+    case ResticProblem::Unreachable:
+        return u"The network place cannot be reached."_s;
+    case ResticProblem::ConnectionLost:
+        return u"The connection to the network place was lost. The next backup goes on from what was sent."_s;
+    case ResticProblem::AccessDenied:
+        return u"The server does not let this user in: look at the user, the key and the password."_s;
+    case ResticProblem::UnknownHostKey:
+        return u"The server's host key is not known. Find out whether it is the server's, and accept it with \"tmutil "
+               "setdestination -a --accept-host-key FINGERPRINT URL\"."_s;
+    case ResticProblem::ChangedHostKey:
+        return u"The server has another host key than before, or is another server. Only if you know why, accept it "
+               "with \"tmutil setdestination -a --accept-host-key FINGERPRINT URL\"."_s;
+    case ResticProblem::BadCertificate:
+        return u"The server's certificate is not to be trusted. If it is the server's own, name it as \"ca-file\" in "
+               "the credentials."_s;
+    case ResticProblem::ServerFailed:
+        return u"The server has failed with an error of its own; it may be full."_s;
     case ResticProblem::DiskGone:
         return u"The backup disk was taken away."_s;
     case ResticProblem::Unknown:
@@ -107,12 +179,46 @@ QString ResticDiagnosis::cause() const
         return u"NoPermission"_s;
     case ResticProblem::NoWorkSpace:
         return u"NoWorkSpace"_s;
+    case ResticProblem::ConnectionLost:
+        return u"ConnectionLost"_s;
+    case ResticProblem::AccessDenied:
+        return u"AccessDenied"_s;
+    case ResticProblem::UnknownHostKey:
+        return u"UnknownHostKey"_s;
+    case ResticProblem::ChangedHostKey:
+        return u"ChangedHostKey"_s;
+    case ResticProblem::BadCertificate:
+        return u"BadCertificate"_s;
+    case ResticProblem::ServerFailed:
+        return u"ServerFailed"_s;
+    case ResticProblem::Unreachable:
     case ResticProblem::DiskGone:
         return u"DestinationMissing"_s;
     case ResticProblem::Unknown:
         break;
     }
     return u"Unknown"_s;
+}
+
+Failure ResticDiagnosis::failure() const
+{
+    const auto status = [this] {
+        switch (problem) {
+        case ResticProblem::WrongKey:
+            return ExitStatus::WrongKey;
+        case ResticProblem::Unreachable:
+            return ExitStatus::DestinationMissing;
+        case ResticProblem::AccessDenied:
+            return ExitStatus::AccessDenied;
+        case ResticProblem::UnknownHostKey:
+        case ResticProblem::ChangedHostKey:
+        case ResticProblem::BadCertificate:
+            return ExitStatus::Untrusted;
+        default:
+            return ExitStatus::Failed;
+        }
+    };
+    return {status(), description, cause()};
 }
 
 ResticDiagnosis ResticDiagnosis::of(ResticProblem problem)
@@ -128,19 +234,25 @@ ResticDiagnosis ResticDiagnosis::of(const QString& errorText, int exitStatus, co
         if (exitStatus == status)
             return of(problem);
     }
-    QStringList lines;
-    for (const QString& line : errorText.split(u'\n')) {
-        if (const QString trimmed = line.trimmed(); !trimmed.isEmpty())
-            lines.append(trimmed);
-    }
+    const QStringList lines = linesOf(errorText);
     for (const Sign& sign : signs) {
-        if (const auto line = std::ranges::find_if(lines, [&](const QString& one) { return shows(one, sign); });
-            line != lines.end()) {
+        if (const auto line = findSign(lines, sign); line != lines.end()) {
             const bool ownFiles = sign.endsLine && !workFolder.isEmpty() && line->contains(workFolder);
             return of(ownFiles ? ResticProblem::NoWorkSpace : sign.problem);
         }
     }
     return {ResticProblem::Unknown, ownWords(lines, exitStatus)};
+}
+
+ResticDiagnosis ResticDiagnosis::ofNetwork(const QString& errorText, int exitStatus, const QString& workFolder)
+{
+    const QStringList lines = linesOf(errorText);
+    for (const Sign& sign : networkSigns) {
+        const auto line = findSign(lines, sign);
+        if (line != lines.end() && (workFolder.isEmpty() || !line->contains(workFolder)))
+            return of(sign.problem);
+    }
+    return of(errorText, exitStatus, workFolder);
 }
 
 using namespace std::chrono_literals;
@@ -179,14 +291,46 @@ bool isStale(const ResticLock& lock, const QString& host, ProcessKind kind, cons
     return kind != ProcessKind::Restic;
 }
 
-void removeStaleLocks(const RepositoryFolder& repository, const Restic& restic)
+namespace {
+
+std::optional<ResticLock> readLock(const Restic& restic, const QString& name)
+{
+    return ResticLock::fromJson(restic.run({u"cat"_s, u"lock"_s, name, u"--no-lock"_s}).output);
+}
+
+/// At a network place restic alone removes locks. It asks the processes of this computer whether they live by a signal
+/// that ends all but restic; where one of those has got the number of a lock's, the lock stays for half an hour, after
+/// which restic asks nobody.
+void removeStaleLocksElsewhere(const Restic& restic, const QDateTime& now)
+{
+    bool isAnyStale = false;
+    const auto list = restic.run({u"list"_s, u"locks"_s, u"--no-lock"_s}).output;
+    for (const QByteArray& name : list.split('\n')) {
+        const auto lock = name.isEmpty() ? std::nullopt : readLock(restic, QString::fromLatin1(name));
+        if (!lock)
+            continue;
+        const ProcessKind kind = processKind(lock->process);
+        const bool isOwn = lock->host == QSysInfo::machineHostName() && lock->time.addDuration(lifetime) >= now;
+        if (isOwn && kind != ProcessKind::None && kind != ProcessKind::Restic)
+            return;
+        isAnyStale = isAnyStale || isStale(*lock, QSysInfo::machineHostName(), kind, now);
+    }
+    if (isAnyStale)
+        restic.run({u"unlock"_s});
+}
+
+} // namespace
+
+void removeStaleLocks(const Repository& repository, const Restic& restic)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    for (const QByteArray& name : repository.namesIn("locks")) {
-        const auto outcome = restic.run({u"cat"_s, u"lock"_s, QString::fromLatin1(name), u"--no-lock"_s});
-        const auto lock = ResticLock::fromJson(outcome.output);
+    const RepositoryFolder* const folder = repository.folder();
+    if (folder == nullptr)
+        return removeStaleLocksElsewhere(restic, now);
+    for (const QByteArray& name : folder->namesIn("locks")) {
+        const auto lock = readLock(restic, QString::fromLatin1(name));
         if (lock && isStale(*lock, QSysInfo::machineHostName(), processKind(lock->process), now))
-            repository.removeLock(name);
+            folder->removeLock(name);
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Failure.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -17,7 +19,15 @@ enum class ResticProblem {
     NoSpace,
     NoPermission,
     NoWorkSpace, ///< its own temporary files and its cache, on this computer, cannot be written
-    DiskGone,    ///< not from restic's words: the disk was taken away while it worked
+    // Of a network place:
+    Unreachable,    ///< no such server, or it does not answer
+    ConnectionLost, ///< while it worked
+    AccessDenied,   ///< the server does not let the user in
+    UnknownHostKey, ///< it is not known whether it is the server that it should be
+    ChangedHostKey,
+    BadCertificate,
+    ServerFailed, ///< it answers with an error of its own
+    DiskGone,     ///< not from restic's words: the disk was taken away while it worked
     Unknown,
 };
 
@@ -28,15 +38,21 @@ struct ResticDiagnosis {
     /// A word for programs, such as "NoSpace".
     QString cause() const;
 
+    /// What it means to a backup or a command.
+    Failure failure() const;
+
     /// The description that goes with the problem.
     static ResticDiagnosis of(ResticProblem problem);
 
     /// Reads the standard error of a restic that failed with that exit status and had that folder for its temporary
     /// files and its cache. The repository's own files have relative paths.
     static ResticDiagnosis of(const QString& errorText, int exitStatus, const QString& workFolder = {});
+
+    /// The same for a network place, be it that ssh has said it without restic.
+    static ResticDiagnosis ofNetwork(const QString& errorText, int exitStatus, const QString& workFolder = {});
 };
 
-class RepositoryFolder;
+class Repository;
 class Restic;
 
 /// What restic has written into a lock of a repository.
@@ -60,6 +76,6 @@ bool isStale(const ResticLock& lock, const QString& host, ProcessKind kind, cons
 
 /// Removes the locks that processes which have died left. `restic unlock` does too, but it finds out whether a process
 /// lives by SIGHUP, which ends those that the number has passed to.
-void removeStaleLocks(const RepositoryFolder& repository, const Restic& restic);
+void removeStaleLocks(const Repository& repository, const Restic& restic);
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #include "Snapshot.h"
 
 #include "Paths.h"
-#include "RepositoryFolder.h"
+#include "Repository.h"
 #include "Restic.h"
 
 #include <QJsonArray>
@@ -44,9 +44,9 @@ QString Snapshot::nameAt(const QDateTime& date) const
            date.toString(u"yyyy-MM-dd-HHmmss"_s) + (complete ? QString() : u".incomplete"_s);
 }
 
-std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Restic& restic)
+std::vector<Snapshot> snapshotsIn(const Repository& repository, const Restic& restic)
 {
-    if (!repository.hasConfig() && repository.isEmpty())
+    if (repository.isNew())
         return {};
     repository.requireConfig();
     // Reading the list needs no lock, so it works during a prune and on a disk that cannot be written.

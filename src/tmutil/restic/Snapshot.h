@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-class RepositoryFolder;
+class Repository;
 class Restic;
 
 /// One backup.
@@ -36,7 +36,7 @@ private:
 
 /// The backups of this program in one repository, and all of them in one that was made by hand, oldest first. Throws
 /// Failure.
-std::vector<Snapshot> snapshotsIn(const RepositoryFolder& repository, const Restic& restic);
+std::vector<Snapshot> snapshotsIn(const Repository& repository, const Restic& restic);
 
 /// Those in which a path lies that begins with the name of one.
 std::vector<Snapshot> holdersOf(const std::vector<Snapshot>& snapshots, const QString& path);

@@ -94,7 +94,7 @@ QString replacementRefusal(const QString& path, const MountTable& mounts, const 
 {
     const QString place = resolvedPath(path);
     for (const Destination& destination : destinations) {
-        if (covers(place, resolvedPath(destination.path)))
+        if (!destination.isNetwork() && covers(place, resolvedPath(destination.path)))
             return u"\"%1\" is not replaced: the backup disk \"%2\" is in it."_s.arg(path, destination.path);
     }
     for (const QString& own : {folders.configuration, folders.state}) {

@@ -4,6 +4,7 @@
 #include "BackupRemark.h"
 #include "History.h"
 #include "KeyStore.h"
+#include "NetworkProbe.h"
 #include "RepositorySetup.h"
 #include "Restic.h"
 #include "ResticDiagnosis.h"
@@ -13,7 +14,6 @@
 #include "StopRequest.h"
 #include "Verification.h"
 
-#include <QFileInfo>
 #include <QSysInfo>
 
 #include <algorithm>
@@ -82,12 +82,13 @@ void Backup::endIfStopped() const
 
 void Backup::findDisk()
 {
-    repository_ = RepositoryFolder::open(destination_);
+    repository_ = Repository::open(destination_, folders_);
     if (!repository_) {
         const bool foreign = RepositoryFolder::contents(destination_) == RepositoryFolder::Contents::Foreign;
         throw failureOf(foreign ? ResticProblem::NoPermission : ResticProblem::DiskGone, destination_.absence());
     }
     KeyStore(folders_.configuration).require(destination_);
+    requireConnection(*repository_, folders_);
 }
 
 void Backup::prepareRepository()
@@ -133,10 +134,10 @@ void Backup::makeRepository()
     NewRepository made = quillon::makeRepository(destination_, folders_, stop_);
     endIfStopped();
     made.outcome.require();
-    if (!made.folder)
+    if (!made.repository)
         throw failureOf(ResticProblem::NoRepository,
                         u"The backups on the disk \"%1\" are damaged: %2."_s.arg(destination_.name, made.refusal));
-    repository_ = std::move(made.folder);
+    repository_.emplace(std::move(*made.repository));
     history_.noteNewRepository(destination_.id);
 }
 
@@ -184,7 +185,7 @@ void Backup::findLostBackups()
     const auto isThere = [this](const QVariant& backup) {
         return earlier_->contains(backup.toMap().value(u"Snapshot"_s).toString());
     };
-    if (known.isEmpty() || holdsSnapshot(*repository_, known.last().toMap().value(u"Snapshot"_s).toString()))
+    if (known.isEmpty() || holdsSnapshot(*repository_, restic(), known.last().toMap().value(u"Snapshot"_s).toString()))
         return;
     remark_.lostBackups = known.size() - std::ranges::count_if(known, isThere);
     history_.setLastPrune(destination_.id, QDateTime::currentDateTimeUtc());
@@ -314,7 +315,7 @@ void Backup::markIncomplete()
 /// record is found on the disk; restic may know it by its cache, and takes as long to start as to back up.
 void Backup::remember()
 {
-    if (!holdsSnapshot(*repository_, snapshotId_))
+    if (!holdsSnapshot(*repository_, restic(), snapshotId_))
         throw failureOf(ResticProblem::NoRepository,
                         u"The backup was written, but cannot be found on the disk \"%1\"."_s.arg(destination_.name));
     history_.setUncheckedSince(destination_.id, {});
@@ -366,6 +367,8 @@ void Backup::thin()
 /// nothing that anybody misses. False when no further one can be taken.
 bool Backup::makeRoom()
 {
+    if (repository_->folder() == nullptr)
+        return false; // how much is free is not known
     try {
         if (roomWanted_)
             return removeLeastMissed(*repository_, restic(), *roomWanted_, remark_.removed);

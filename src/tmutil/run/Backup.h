@@ -4,7 +4,7 @@
 #include "BackupRemark.h"
 #include "Configuration.h"
 #include "Folders.h"
-#include "RepositoryFolder.h"
+#include "Repository.h"
 #include "RunLog.h"
 #include "Snapshot.h"
 #include "SourceSet.h"
@@ -83,7 +83,7 @@ private:
     History& history_;
     const StopRequest& stop_;
     Observer observer_;
-    std::optional<RepositoryFolder> repository_; ///< the same from the beginning to the end
+    std::optional<Repository> repository_; ///< the same from the beginning to the end
     SourceSet sources_;
     std::optional<EarlierBackups> earlier_;
     QString snapshotId_;

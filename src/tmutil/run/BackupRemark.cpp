@@ -1,7 +1,7 @@
 #include "BackupRemark.h"
 
 #include "Paths.h"
-#include "RepositoryFolder.h"
+#include "Repository.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -14,7 +14,7 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-EarlierBackups::EarlierBackups(const RepositoryFolder& repository, Restic restic, const QStringList& hostNames)
+EarlierBackups::EarlierBackups(const Repository& repository, Restic restic, const QStringList& hostNames)
     : repository_(repository)
     , restic_(std::move(restic))
     , hostNames_(hostNames)

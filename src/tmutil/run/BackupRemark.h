@@ -21,7 +21,7 @@ namespace quillon {
 class EarlierBackups {
 public:
     /// `repository` must outlive this object. The names are those that this computer has had.
-    EarlierBackups(const RepositoryFolder& repository, Restic restic, const QStringList& hostNames);
+    EarlierBackups(const Repository& repository, Restic restic, const QStringList& hostNames);
 
     /// Whether the latest complete one of that folder has a file in it; `justMade`, an identifier or its beginning, is
     /// none of them.
@@ -44,7 +44,7 @@ private:
     void findFiles(const QString& backup, const QStringList& folders, QSet<QString>& held) const;
     bool heldFilesFrom(Latest begin, const QString& folder, const QString& justMade = {});
 
-    const RepositoryFolder& repository_;
+    const Repository& repository_;
     Restic restic_;
     QStringList hostNames_;
     std::optional<std::vector<Snapshot>> snapshots_;

@@ -1,6 +1,6 @@
 #include "Room.h"
 
-#include "RepositoryFolder.h"
+#include "Repository.h"
 #include "Restic.h"
 
 #include <algorithm>
@@ -19,16 +19,18 @@ constexpr unsigned long long leastRoom = 1024ULL * 1024;
 constexpr auto reserveName = "reserve";
 constexpr unsigned long long mostReserve = 64ULL * 1024 * 1024;
 
-struct statvfs roomOf(const RepositoryFolder& repository)
+/// All zeros where it is not known.
+struct statvfs roomOf(const Repository& repository)
 {
     struct statvfs room {};
-    fstatvfs(repository.descriptor(), &room);
+    if (const RepositoryFolder* const folder = repository.folder())
+        fstatvfs(folder->descriptor(), &room);
     return room;
 }
 
 /// Moves what is still needed out of files of data that are in use in part only, for without that little room may come
 /// of it; but no more than half of the room there is can hold.
-void prune(const RepositoryFolder& repository, const Restic& restic)
+void prune(const Repository& repository, const Restic& restic)
 {
     const auto room = roomOf(repository);
     const auto most = QString::number(room.f_bavail * room.f_frsize / 2);
@@ -37,37 +39,39 @@ void prune(const RepositoryFolder& repository, const Restic& restic)
 
 } // namespace
 
-bool isFull(const RepositoryFolder& repository)
+bool isFull(const Repository& repository)
 {
     const auto room = roomOf(repository);
     return room.f_blocks > 0 && room.f_bavail * room.f_frsize < leastRoom;
 }
 
-bool isNearlyFull(const RepositoryFolder& repository)
+bool isNearlyFull(const Repository& repository)
 {
     constexpr unsigned long long largestPack = 128ULL * 1024 * 1024; // restic-backup(1), "--pack-size"
     const auto room = roomOf(repository);
     return room.f_blocks > 0 && room.f_bavail * room.f_frsize < largestPack;
 }
 
-void keepReserve(const RepositoryFolder& repository)
+void keepReserve(const Repository& repository)
 {
+    const RepositoryFolder* const folder = repository.folder();
     const auto room = roomOf(repository);
     const auto size = std::min<unsigned long long>(room.f_blocks * room.f_frsize / 1000, mostReserve);
-    if (room.f_bavail * room.f_frsize < 100 * size)
+    if (folder == nullptr || room.f_bavail * room.f_frsize < 100 * size)
         return;
-    const int file = openat(repository.descriptor(), reserveName, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW,
+    const int file = openat(folder->descriptor(), reserveName, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW,
                             S_IRUSR | S_IWUSR);
     if (file < 0)
         return;
     if (posix_fallocate(file, 0, static_cast<off_t>(size)) != 0)
-        unlinkat(repository.descriptor(), reserveName, 0);
+        unlinkat(folder->descriptor(), reserveName, 0);
     close(file);
 }
 
-void removeReserve(const RepositoryFolder& repository)
+void removeReserve(const Repository& repository)
 {
-    unlinkat(repository.descriptor(), reserveName, 0);
+    if (const RepositoryFolder* const folder = repository.folder())
+        unlinkat(folder->descriptor(), reserveName, 0);
 }
 
 void forget(const std::vector<Snapshot>& snapshots, const Restic& restic)
@@ -80,7 +84,7 @@ void forget(const std::vector<Snapshot>& snapshots, const Restic& restic)
     restic.runUnlocking(arguments).require();
 }
 
-quint64 removeLeftovers(const RepositoryFolder& repository, const Restic& restic, const KeepRules& rules)
+quint64 removeLeftovers(const Repository& repository, const Restic& restic, const KeepRules& rules)
 {
     removeReserve(repository);
     forget(dispensable(snapshotsIn(repository, restic), rules, {}, QDateTime::currentDateTimeUtc()), restic);
@@ -89,7 +93,7 @@ quint64 removeLeftovers(const RepositoryFolder& repository, const Restic& restic
     return std::max<quint64>(room.f_blocks / 20, 2 * room.f_bavail);
 }
 
-bool removeLeastMissed(const RepositoryFolder& repository, const Restic& restic, quint64 roomWanted,
+bool removeLeastMissed(const Repository& repository, const Restic& restic, quint64 roomWanted,
                        std::vector<Snapshot>& removed)
 {
     if (roomOf(repository).f_bavail >= roomWanted)

@@ -145,8 +145,10 @@ SourceSet SourceSet::of(const Configuration& configuration, const Folders& folde
     }
     set.folders.removeDuplicates();
 
-    for (const Destination& destination : configuration.destinations())
-        set.leaveOut(excludedFolder(destination, set.folders), u"a backup disk"_s);
+    for (const Destination& destination : configuration.destinations()) {
+        if (!destination.isNetwork())
+            set.leaveOut(excludedFolder(destination, set.folders), u"a backup disk"_s);
+    }
     for (const QString& own : {folders.cache, folders.state}) {
         const QString canonical = QFileInfo(own).canonicalFilePath();
         set.leaveOut(canonical.isEmpty() ? own : canonical, u"tmutil's own files"_s);

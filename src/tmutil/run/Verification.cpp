@@ -68,16 +68,21 @@ QString Slice::subset() const
     return u"%1/%2"_s.arg(tenth + part * tenths).arg(tenths * parts);
 }
 
-Slice Slice::next() const
+Slice Slice::next(int leastParts) const
 {
     if (part + 1 < parts)
         return {tenth, part + 1, parts};
-    return {tenth % tenths + 1, 0, std::max(parts / 2, 1)};
+    return {tenth % tenths + 1, 0, std::max(parts / 2, leastParts)};
 }
 
 Slice Slice::smaller() const
 {
     return {tenth, 0, std::min(parts * 2, mostParts)};
+}
+
+Slice Slice::ofParts(int leastParts) const
+{
+    return parts < leastParts ? Slice{tenth, 0, leastParts} : *this;
 }
 
 QVariantMap Slice::toDictionary() const
@@ -147,7 +152,7 @@ Damage Damage::after(const std::optional<Damage>& known) const
     return now;
 }
 
-Verification::Verification(const RepositoryFolder& repository, const Folders& folders, const StopRequest& stop)
+Verification::Verification(const Repository& repository, const Folders& folders, const StopRequest& stop)
     : repository_(repository)
     , folders_(folders)
     , stop_(stop)
@@ -175,7 +180,7 @@ std::optional<Damage> Verification::run(const std::optional<Slice>& slice, const
     if (outcome.exitStatus != 0 && !tellsOfDamage(outcome, findings))
         throw Failure(ExitStatus::Failed, u"The backups could not be verified: %1"_s.arg(diagnosis.description));
     if (known)
-        findings.packs += damagedPacks(repository_, known->findings.packs);
+        findings.packs += damagedPacks(repository_, restic, known->findings.packs);
     findings.packs.removeDuplicates();
     if (outcome.exitStatus == 0 && findings == CheckFindings())
         return known && known->outlasts(subset) ? known : std::nullopt;
@@ -217,6 +222,9 @@ bool Verification::tellsOfDamage(const ResticOutcome& outcome, const CheckFindin
     const ResticProblem problem = outcome.diagnosis().problem;
     if (outcome.diskGone || outcome.exitStatus <= 0)
         return false;
+    // What could not be fetched restic names as if it were damaged.
+    if (outcome.onNetwork && problem != ResticProblem::Unknown && problem != ResticProblem::NoRepository)
+        return false;
     return findings != CheckFindings() || problem == ResticProblem::NoRepository ||
            (problem == ResticProblem::Unknown && outcome.exitStatus == commandFailed);
 }
@@ -228,7 +236,7 @@ bool Verification::isDue(const History& history, const QString& destinationId)
            isWeekOver(history.lastVerification(destinationId), QDateTime::currentDateTimeUtc());
 }
 
-std::optional<Damage> Verification::runAndRemember(const RepositoryFolder& repository, const Folders& folders,
+std::optional<Damage> Verification::runAndRemember(const Repository& repository, const Folders& folders,
                                                    const StopRequest& stop, bool all)
 {
     ProcessLock lock(lockPath(folders.state));
@@ -236,7 +244,9 @@ std::optional<Damage> Verification::runAndRemember(const RepositoryFolder& repos
         throw Failure(ExitStatus::AlreadyRunning, u"A verification is already running."_s);
     const QString id = repository.destination().id;
     const History before(folders.state);
-    auto slice = before.nextSlice(id);
+    const bool onNetwork = repository.access() != nullptr;
+    const int leastParts = onNetwork ? Slice::networkParts : 1;
+    auto slice = before.nextSlice(id).ofParts(leastParts);
     if (!all && before.isVerificationUnfinished(id))
         slice = slice.smaller();
     auto known = before.damage(id);
@@ -253,8 +263,8 @@ std::optional<Damage> Verification::runAndRemember(const RepositoryFolder& repos
         // What was damaged is looked at again once it has been repaired.
         const bool again = damage && !damage->lasting;
         if (!all && !again)
-            history.setNextSlice(id, slice.next());
-        if (all || again || slice.next().part == 0)
+            history.setNextSlice(id, slice.next(leastParts));
+        if (all || again || onNetwork || slice.next().part == 0)
             history.setLastVerification(id, QDateTime::currentDateTimeUtc());
     });
     return damage;

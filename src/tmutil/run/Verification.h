@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RepositoryFolder.h"
+#include "Repository.h"
 
 #include <QString>
 #include <QStringList>
@@ -34,6 +34,7 @@ struct CheckFindings {
 struct Slice {
     static constexpr int tenths = 10;
     static constexpr int mostParts = 16;
+    static constexpr int networkParts = 8; ///< at least, where reading costs traffic
 
     int tenth = 1; ///< 1 to tenths
     int part = 0;  ///< 0 to parts - 1
@@ -43,10 +44,12 @@ struct Slice {
 
     /// As `restic check --read-data-subset` takes it.
     QString subset() const;
-    /// The one after it. The parts become larger again with each tenth.
-    Slice next() const;
+    /// The one after it. The parts become larger again with each tenth, but there are no fewer of them than that.
+    Slice next(int leastParts = 1) const;
     /// A smaller one in its place, for the time is too short.
     Slice smaller() const;
+    /// The same, or the first part of that tenth where its parts would be too large.
+    Slice ofParts(int leastParts) const;
 
     QVariantMap toDictionary() const;
     static Slice fromDictionary(const QVariantMap& entry);
@@ -79,7 +82,7 @@ struct Damage {
 class Verification {
 public:
     /// All must outlive this object.
-    Verification(const RepositoryFolder& repository, const Folders& folders, const StopRequest& stop);
+    Verification(const Repository& repository, const Folders& folders, const StopRequest& stop);
 
     /// Without a slice, of all data. Gives what is damaged; what was known is looked at again, wherever
     /// it lies. Throws Failure where the repository cannot be looked at, with ExitStatus::Stopped when that was
@@ -89,13 +92,14 @@ public:
     /// Whether a check that ended so and found that has come upon damage, rather than not been able to look for any.
     static bool tellsOfDamage(const ResticOutcome& outcome, const CheckFindings& findings);
 
-    /// Whether the worker should verify after a backup: a week after the last tenth was read, and once after a repair.
+    /// Whether the worker should verify after a backup: a week after the last tenth was read, or the last part of one
+    /// at a network place, and once after a repair.
     static bool isDue(const History& history, const QString& destinationId);
 
     /// Verifies the slice whose turn it is, or all data, and remembers what came of it. After all data, also damage
     /// that lasts is tried to be mended once more. One that was interrupted is followed by one of less data, so that it
     /// comes to an end where backups are made every hour. At most one verification runs; its process holds this lock.
-    static std::optional<Damage> runAndRemember(const RepositoryFolder& repository, const Folders& folders,
+    static std::optional<Damage> runAndRemember(const Repository& repository, const Folders& folders,
                                                 const StopRequest& stop, bool all);
     static QString lockPath(const QString& stateFolder);
 
@@ -106,23 +110,9 @@ public:
 private:
     QStringList affectedBackups(const CheckFindings& findings) const;
 
-    const RepositoryFolder& repository_;
+    const Repository& repository_;
     const Folders& folders_;
     const StopRequest& stop_;
 };
-
-/// Of those files of data the ones that are there and not as they were written.
-QStringList damagedPacks(const RepositoryFolder& repository, const QStringList& packs);
-
-/// Whether the record of a backup, of that identifier or one that begins so, is on the disk as it was written.
-bool holdsSnapshot(const RepositoryFolder& repository, const QString& identifier);
-
-/// Moves the records of backups that are not as they were written into a folder beside them, so that they keep restic
-/// from nothing. Gives their number.
-qlonglong setAsideDamagedSnapshots(const RepositoryFolder& repository);
-
-/// Prepares a damaged repository for the next backup, which stores anew what it does not find: restic saves what it can
-/// of files of data that are not as they were written, if it knows how to, and the index is made anew. Throws Failure.
-void repairRepository(const RepositoryFolder& repository, const QStringList& packs, const Restic& restic);
 
 } // namespace quillon

@@ -124,10 +124,14 @@ Destination Configuration::setDestination(const QString& path, bool append, cons
     return destination;
 }
 
-void Configuration::takeUp(const Destination& destination)
+void Configuration::takeUp(const Destination& destination, bool append)
 {
     requireStorable(destination.path);
-    change([&] { put(destination); });
+    change([&] {
+        if (!append)
+            destinations_.clear();
+        put(destination);
+    });
 }
 
 /// A disk is known by its identifier wherever it is mounted.
@@ -325,7 +329,7 @@ void Configuration::read()
     destinations_.clear();
     for (const QVariant& entry : contents_.value(destinationsKey).toList()) {
         const Destination destination = fromDictionary(entry.toMap());
-        if (!destination.id.isEmpty() && QDir::isAbsolutePath(destination.path))
+        if (!destination.id.isEmpty() && (QDir::isAbsolutePath(destination.path) || destination.isNetwork()))
             destinations_.push_back(destination);
     }
 }

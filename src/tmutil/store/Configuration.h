@@ -39,8 +39,8 @@ public:
     using Opens = std::function<bool(const Destination& destination)>;
     Destination setDestination(const QString& path, bool append, const Opens& opens);
 
-    /// Adds a destination whose repository and key are there.
-    void takeUp(const Destination& destination);
+    /// Adds a destination whose repository and key are there, or makes it the only one.
+    void takeUp(const Destination& destination, bool append = true);
 
     /// Its backups stay on the disk, and its key is kept: setting that folder again brings both together.
     void removeDestination(const QString& id);

@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "History.h"
+#include "NetworkPlace.h"
 #include "RepositoryFolder.h"
 #include "ShownText.h"
 
@@ -13,18 +14,25 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+bool Destination::isNetwork() const
+{
+    return NetworkPlace::isUrl(path);
+}
+
 QString Destination::repository() const
 {
-    return bare ? path : backupFolder(path) + u'/' + id;
+    return bare || isNetwork() ? path : backupFolder(path) + u'/' + id;
 }
 
 bool Destination::isPresent() const
 {
-    return RepositoryFolder::open(*this).has_value();
+    return isNetwork() || RepositoryFolder::open(*this).has_value();
 }
 
 QString Destination::absence() const
 {
+    if (isNetwork())
+        return u"The network place \"%1\" cannot be reached."_s.arg(path);
     if (const QString trap = RepositoryFolder::trap(*this); !trap.isEmpty())
         return u"\"%1\" is neither a file nor a folder, or is a link, and would keep these backups from being read. "
                "Whoever can change the disk has put it there. Remove it."_s.arg(shownLongText(trap));
@@ -50,16 +58,12 @@ void requireAny(const std::vector<Destination>& destinations)
         throw Failure(ExitStatus::NoDestination, u"No backup disk is set. Set one with \"tmutil setdestination\"."_s);
 }
 
-std::vector<Destination> presentOnes(const std::vector<Destination>& destinations)
+void requirePresent(const std::vector<Destination>& present, const std::vector<Destination>& destinations)
 {
-    requireAny(destinations);
-    std::vector<Destination> present;
-    std::ranges::copy_if(destinations, std::back_inserter(present), &Destination::isPresent);
     if (present.empty())
         throw Failure(ExitStatus::DestinationMissing, destinations.size() == 1
                                                           ? destinations.front().absence()
                                                           : u"None of the backup disks is there."_s);
-    return present;
 }
 
 } // namespace
@@ -77,16 +81,28 @@ Destination namedDestination(const std::vector<Destination>& destinations, const
     return *found;
 }
 
-Destination usualDestination(const std::vector<Destination>& destinations, const History& history)
+Destination usualDestination(const std::vector<Destination>& destinations, const History& history,
+                             const PresenceQuestion& presentOf)
 {
-    const auto present = presentOnes(destinations);
-    const auto last = std::ranges::find(present, history.lastDestination(), &Destination::id);
-    return last != present.end() ? *last : present.front();
+    requireAny(destinations);
+    auto others = destinations;
+    const auto last = std::ranges::find(others, history.lastDestination(), &Destination::id);
+    if (last != others.end()) {
+        if (!presentOf({*last}).empty())
+            return *last;
+        others.erase(last);
+    }
+    const auto present = presentOf(others);
+    requirePresent(present, destinations);
+    return present.front();
 }
 
-Destination rotatedDestination(const std::vector<Destination>& destinations, const History& history)
+Destination rotatedDestination(const std::vector<Destination>& destinations, const History& history,
+                               const PresenceQuestion& presentOf)
 {
-    const auto present = presentOnes(destinations);
+    requireAny(destinations);
+    const auto present = presentOf(destinations);
+    requirePresent(present, destinations);
     // An invalid date, which stands for "never", is before every other.
     return *std::ranges::min_element(
         present, {}, [&history](const Destination& destination) { return history.lastBackup(destination.id); });

@@ -2,24 +2,28 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace quillon {
 
-/// A backup disk: a folder, usually where a disk is mounted, that holds this user's repository.
+/// A backup disk: a folder, usually where a disk is mounted, that holds this user's repository; or a network place.
 struct Destination {
     QString id;        ///< random UUID in upper case
     QString name;      ///< shown to people
-    QString path;      ///< absolute, without links
+    QString path;      ///< absolute, without links; of a network place its URL
     bool bare = false; ///< the path is that of a repository itself, which was made by hand and taken up
 
     bool operator==(const Destination&) const = default;
+
+    bool isNetwork() const;
 
     /// Where restic keeps the backups. The folder is made when the destination is set and bears its identifier, so
     /// that the empty mount point of an absent disk, or another disk in its place, is not taken for it.
     QString repository() const;
 
-    /// Whether the disk is there, and what is on it is this user's.
+    /// Whether the disk is there, and what is on it is this user's. A network place is not asked and passes for one
+    /// that is.
     bool isPresent() const;
 
     /// A sentence on a disk that is not there, is another one than before, or holds what is not this user's.
@@ -34,11 +38,17 @@ class History;
 /// The destination with that identifier. Throws Failure where there is none, or where its disk is not there.
 Destination namedDestination(const std::vector<Destination>& destinations, const QString& id);
 
-/// The destination used last, or else the first one present. Throws Failure where none is present.
-Destination usualDestination(const std::vector<Destination>& destinations, const History& history);
+/// Asks which of those destinations are there; it may take as long as network places are waited for.
+using PresenceQuestion = std::function<std::vector<Destination>(const std::vector<Destination>& destinations)>;
+
+/// The destination used last, or else the first one present. The others are asked for only where that is away. Throws
+/// Failure where none is present.
+Destination usualDestination(const std::vector<Destination>& destinations, const History& history,
+                             const PresenceQuestion& presentOf);
 
 /// Of those present the one whose last backup is oldest; one without any backup is older than all. Throws Failure
 /// where none is present.
-Destination rotatedDestination(const std::vector<Destination>& destinations, const History& history);
+Destination rotatedDestination(const std::vector<Destination>& destinations, const History& history,
+                               const PresenceQuestion& presentOf);
 
 } // namespace quillon

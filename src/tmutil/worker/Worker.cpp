@@ -216,7 +216,7 @@ void Worker::verifyIfDue(const Destination& destination) const
 {
     if (!Verification::isDue(History(folders_.state), destination.id))
         return;
-    const auto repository = RepositoryFolder::open(destination);
+    const auto repository = Repository::open(destination, folders_);
     try {
         if (repository)
             Verification::runAndRemember(*repository, folders_, stop_, false);
