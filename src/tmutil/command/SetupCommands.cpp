@@ -34,7 +34,8 @@ void printRecoveryKey(const Destination& destination, const QString& key)
         u"    "_s + key,
         {},
         u"Write it down and keep it away from this computer and from the disk. It is shown only now; whoever has it "
-        "and the disk can read the backups. On another computer \"tmutil adopt PATH\" asks for it and takes the backups up."_s});
+        "and the disk can read the backups. On another computer \"tmutil adopt %1\" asks for it and takes the backups up."_s
+            .arg(destination.isNetwork() ? destination.path : u"PATH"_s)});
 }
 
 /// One that nobody has seen must not stay: it opens nothing for anybody and counts among the few that restic tries.

@@ -216,9 +216,8 @@ void Worker::verifyIfDue(const Destination& destination) const
 {
     if (!Verification::isDue(History(folders_.state), destination.id))
         return;
-    const auto repository = Repository::open(destination, folders_);
     try {
-        if (repository)
+        if (const auto repository = Repository::open(destination, folders_))
             Verification::runAndRemember(*repository, folders_, stop_, false);
     } catch (const Failure&) { // it is due again after the next backup
     }
