@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostDates = 1000;
+constexpr int usualStarts = 20;
 
 std::optional<Arguments::Command> readCommand(const QString& word)
 {
@@ -20,6 +21,8 @@ std::optional<Arguments::Command> readCommand(const QString& word)
         return Command::Destinations;
     if (word == "next"_L1)
         return Command::Next;
+    if (word == "history"_L1)
+        return Command::History;
     if (word == "doctor"_L1)
         return Command::Doctor;
     if (word == "--help"_L1 || word == "-h"_L1)
@@ -34,13 +37,14 @@ QString readOption(const QStringList& words, qsizetype& i, Arguments& arguments)
 {
     const QString& word = words[i];
     const bool ofNext = arguments.command == Arguments::Command::Next;
+    const bool counts = ofNext || arguments.command == Arguments::Command::History;
     const bool answers =
         arguments.command != Arguments::Command::Help && arguments.command != Arguments::Command::Version;
     if (word == "--json"_L1 && answers) {
         arguments.json = true;
         return {};
     }
-    if ((word != "--count"_L1 && word != "--from"_L1) || !ofNext)
+    if ((word != "--count"_L1 || !counts) && (word != "--from"_L1 || !ofNext))
         return u"unexpected argument \"%1\""_s.arg(word);
     if (++i == words.size())
         return u"%1 needs a value"_s.arg(word);
@@ -83,6 +87,8 @@ std::optional<Arguments> Arguments::parse(const QStringList& words, QString* err
     }
     Arguments arguments;
     arguments.command = *command;
+    if (*command == Command::History)
+        arguments.count = usualStarts;
     for (qsizetype i = 1; i < words.size(); ++i) {
         *error = readOption(words, i, arguments);
         if (!error->isEmpty())

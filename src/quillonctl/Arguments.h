@@ -11,11 +11,11 @@ namespace quillon {
 
 /// What quillonctl was asked for.
 struct Arguments {
-    enum class Command { Help, Version, Status, Destinations, Next, Doctor, OfRunning };
+    enum class Command { Help, Version, Status, Destinations, Next, History, Doctor, OfRunning };
 
     Command command = Command::Help;
     bool json = false;
-    int count = 5;            ///< how many coming dates
+    int count = 5;            ///< how many coming dates, or past starts
     std::optional<Date> from; ///< look for them from here on instead of from now
     QStringList request{};    ///< OfRunning: what the running Quillon is asked for, as ControlRequest reads it
 

@@ -5,6 +5,7 @@
 #include "Doctor.h"
 #include "InstanceCall.h"
 #include "Report.h"
+#include "SqliteLedger.h"
 #include "StoredAndSentNames.h"
 #include "TMUtilQueue.h"
 #include "UserDefaults.h"
@@ -23,6 +24,7 @@ constexpr int exitNotRunning = 2;
 const QString help = u"Usage: quillonctl status [--json]\n"
                      "       quillonctl destinations [--json]\n"
                      "       quillonctl next [--count N] [--from LOCAL-DATE-TIME] [--json]\n"
+                     "       quillonctl history [--count N] [--json]\n"
                      "       quillonctl doctor [--json]\n"
                      "       quillonctl backup [--disk NAME-OR-ID] [--json]\n"
                      "       quillonctl stop | retry | skip-retry | settings [--json]\n"
@@ -36,6 +38,7 @@ const QString help = u"Usage: quillonctl status [--json]\n"
                      "destinations  the disks that Time Machine backs up to\n"
                      "next          the coming backups that the schedule gives, from now on or from a\n"
                      "              date and time of the current time zone, such as 2026-11-21T12:00\n"
+                     "history       what became of the latest starts, from Quillon's backup log\n"
                      "doctor        a page for a report of a fault: program, system, tool, disks,\n"
                      "              schedule; exit status 1 when something is wrong\n\n"
                      "These ask the running Quillon; exit status 1 when it refuses, 2 when none runs:\n\n"
@@ -109,6 +112,15 @@ int tellStarts(RunLoop& runLoop, const Arguments& arguments)
     return print(report::starts(starts, arguments.json)) ? 0 : exitFailed;
 }
 
+int tellHistory(const Arguments& arguments)
+{
+    const auto entries = SqliteLedger(ledgerFile()).read({.most = arguments.count});
+    if (!entries)
+        complain(u"%1 cannot be read"_s.arg(ledgerFile()));
+    return print(report::history(entries.value_or(std::vector<LedgerEntry>()), arguments.json)) && entries ? 0
+                                                                                                           : exitFailed;
+}
+
 int tellDiagnosis(const ProgramServices& services, bool json)
 {
     const auto defaults = openUserDefaults(identity::identifier, DefaultsAccess::ReadOnly, services.runLoop);
@@ -176,6 +188,8 @@ int runQuillonctl(const Arguments& arguments, const ProgramServices& services)
         return tellDestinations(services, arguments.json);
     case Arguments::Command::Next:
         return tellStarts(services.runLoop, arguments);
+    case Arguments::Command::History:
+        return tellHistory(arguments);
     case Arguments::Command::Doctor:
         return tellDiagnosis(services, arguments.json);
     case Arguments::Command::OfRunning:

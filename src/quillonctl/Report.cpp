@@ -97,4 +97,57 @@ QByteArray starts(const QList<Date>& starts, bool json)
     return json ? QJsonDocument(array).toJson() : text(lines);
 }
 
+namespace {
+
+/// What is not known is left out.
+QJsonObject objectOf(const LedgerEntry& entry)
+{
+    QJsonObject object{
+        {u"date"_s, isoDate(entry.date)}, {u"cause"_s, nameOf(entry.cause)}, {u"outcome"_s, nameOf(entry.outcome)}};
+    const auto addText = [&object](const QString& key, const QString& value) {
+        if (!value.isEmpty())
+            object.insert(key, value);
+    };
+    const auto addDate = [&object](const QString& key, std::optional<Date> date) {
+        if (date)
+            object.insert(key, isoDate(*date));
+    };
+    addText(u"reason"_s, nameOf(entry.reason));
+    addText(u"detail"_s, entry.detail);
+    addDate(u"began"_s, entry.began);
+    addDate(u"ended"_s, entry.ended);
+    addText(u"destinationID"_s, entry.diskIdentifier);
+    addText(u"destinationName"_s, entry.diskName);
+    addDate(u"next"_s, entry.next);
+    if (entry.next)
+        object.insert(u"nextIsRetry"_s, entry.nextIsRetry);
+    if (entry.exitStatus)
+        object.insert(u"exitStatus"_s, *entry.exitStatus);
+    if (entry.bytes)
+        object.insert(u"bytesCopied"_s, static_cast<qint64>(*entry.bytes));
+    return object;
+}
+
+} // namespace
+
+QByteArray history(std::span<const LedgerEntry> entries, bool json)
+{
+    QJsonArray array;
+    QString lines;
+    for (const LedgerEntry& entry : entries) {
+        array.append(objectOf(entry));
+        QStringList words{isoDate(entry.date),
+                          nameOf(entry.outcome),
+                          nameOf(entry.cause),
+                          displayedName(entry.diskName),
+                          entry.bytes ? QString::number(*entry.bytes) : QString(),
+                          nameOf(entry.reason),
+                          entry.exitStatus ? QString::number(*entry.exitStatus) : QString(),
+                          shownLongText(entry.detail)};
+        words.removeAll(QString());
+        lines += words.join(u"  "_s) + u'\n';
+    }
+    return json ? QJsonDocument(array).toJson() : text(lines);
+}
+
 } // namespace quillon::report

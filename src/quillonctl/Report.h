@@ -2,6 +2,7 @@
 
 #include "BackupDestination.h"
 #include "Date.h"
+#include "Ledger.h"
 #include "PrintedDates.h"
 #include "TMStatus.h"
 #include "UserDefaults.h"
@@ -23,5 +24,6 @@ namespace quillon::report {
 QByteArray status(const TMStatus& status, bool json);
 QByteArray destinations(const QList<BackupDestination>& destinations, bool json);
 QByteArray starts(const QList<Date>& starts, bool json);
+QByteArray history(std::span<const LedgerEntry> entries, bool json);
 
 } // namespace quillon::report

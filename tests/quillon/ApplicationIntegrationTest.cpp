@@ -25,6 +25,7 @@ protected:
         practice.write(u"source/letter"_s, "Dear reader");
         environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"XDG_CONFIG_HOME"_s, practice.path(u"settings"_s));
+        environment.insert(u"XDG_STATE_HOME"_s, practice.path(u"settings"_s));
         environment.insert(u"XDG_RUNTIME_DIR"_s, practice.path(u"runtime"_s));
         environment.insert(u"QUILLON_TMUTIL"_s, practice.executable());
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
@@ -98,6 +99,7 @@ TEST_F(Application, AStartDoesWhatItIsForAndHasTheRunningOneDoIt)
     EXPECT_FALSE(printed.contains("icon=5")) << "however quick a backup is";
     EXPECT_EQ(practice.run({u"latestbackup"_s}).status, 0);
     EXPECT_TRUE(runUntil([&] { return settings().string(settingskeys::lastBackupDiskIdentifier) == disk; }));
+    EXPECT_TRUE(runUntil([&] { return quillonctl({u"history"_s}).contains("  completed  user  Backup Disk"); }));
 
     QProcess second;
     start(second, {u"--pause-for-an-hour"_s});

@@ -3,9 +3,12 @@
 #include "QtRunLoop.h"
 #include "Report.h"
 #include "ScopedEnvironment.h"
+#include "SqliteLedger.h"
 #include "Task.h"
 
 #include <QFile>
+#include <QJsonArray>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -37,6 +40,21 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
     const ScopedEnvironment zone("TZ", "Europe/Berlin");
     const ScopedEnvironment path("QUILLON_TMUTIL", "/nonexistent/tmutil");
     const ScopedEnvironment settings("XDG_CONFIG_HOME", "/nonexistent");
+    const QTemporaryDir state;
+    const ScopedEnvironment log("XDG_STATE_HOME", state.path().toUtf8());
+    SqliteLedger ledger(ledgerFile());
+    LedgerEntry past[] = {{.date = Date(std::chrono::seconds(1'790'000'000)),
+                           .outcome = LedgerEntry::Outcome::Refused,
+                           .reason = LedgerEntry::Reason::ToolRefused,
+                           .exitStatus = 4},
+                          {.date = Date(std::chrono::seconds(1'790'000'060)),
+                           .cause = LedgerEntry::Cause::Retry,
+                           .outcome = LedgerEntry::Outcome::Completed,
+                           .ended = Date(std::chrono::seconds(1'790'000'090)),
+                           .diskIdentifier = u"A"_s,
+                           .diskName = u"First"_s,
+                           .bytes = 5}};
+    ledger.write(past, past->date);
     const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     const ScopedEnvironment platform("QT_QPA_PLATFORM", "offscreen");
     const TaskResult missing{TaskResult::launchRefused, std::nullopt};
@@ -61,6 +79,18 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
         {u"--version"_s, missing, 0, "quillonctl " + version + "\n"},
         {u"next --count 2 --from 2026-10-24T12:00"_s, missing, 0,
          "2026-10-24T12:00:00+02:00\n2026-10-25T12:00:00+01:00\n"},
+        {u"history"_s, missing, 0,
+         "2026-09-21T16:14:20+02:00  completed  retry  First  5\n"
+         "2026-09-21T16:13:20+02:00  refused  schedule  toolRefused  4\n"},
+        {u"history --count 1 --json"_s, missing, 0,
+         QJsonDocument(QJsonArray{QJsonObject{{u"date"_s, u"2026-09-21T16:14:20+02:00"_s},
+                                              {u"cause"_s, u"retry"_s},
+                                              {u"outcome"_s, u"completed"_s},
+                                              {u"ended"_s, u"2026-09-21T16:14:50+02:00"_s},
+                                              {u"destinationID"_s, u"A"_s},
+                                              {u"destinationName"_s, u"First"_s},
+                                              {u"bytesCopied"_s, 5}}})
+             .toJson()},
         {u"status"_s, missing, 1, report::status(TMStatus::failure(), false), isMissing, u"status"_s},
         {u"status --json"_s, babble, 1, report::status(TMStatus::failure(), true), isBabble, u"status"_s},
         {u"status --json"_s, healthy, 0, report::status(TMStatus::notRunning(), true), "", u"status"_s},

@@ -56,6 +56,8 @@ TEST(QuillonctlArguments, AreRead)
         {u"next --from 2026-11-21T08:30 --count 1000"_s, Command::Next, false, 1000, local(2026, 11, 21, 8, 30)},
         {u"status --json --watch"_s, Command::OfRunning, true},
         {u"pause 1h"_s, Command::OfRunning},
+        {u"history"_s, Command::History, false, 20},
+        {u"history --count 3 --json"_s, Command::History, true, 3},
         {u"next --from 2026-11-21T08:30:59"_s, Command::Next, false, 5, local(2026, 11, 21, 8, 30, 59)},
     };
     for (const auto& [words, command, json, count, from] : rows) {
@@ -79,6 +81,7 @@ TEST(QuillonctlArguments, AreRefusedWithOneClearLine)
         {{u"sta"_s}, u"unknown command \"sta\"; --help lists them"_s},
         {{u"stop"_s, u"--count"_s}, u"unexpected argument \"--count\""_s},
         {{u"status"_s, u"--count"_s, u"3"_s}, u"unexpected argument \"--count\""_s},
+        {{u"history"_s, u"--from"_s, u"2026-11-21T10:00"_s}, u"unexpected argument \"--from\""_s},
         {{u"next"_s, u"extra"_s}, u"unexpected argument \"extra\""_s},
         {{u"--version"_s, u"--json"_s}, u"unexpected argument \"--json\""_s},
         {{u"--help"_s, u"--json"_s}, u"unexpected argument \"--json\""_s},
