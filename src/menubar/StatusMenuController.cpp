@@ -64,7 +64,7 @@ void StatusMenuController::connectParts()
         isOwnRun_ = isOwnRun_ || start.outcome == LedgerEntry::Outcome::Running;
     });
     connect(&follower_, &RunFollower::stepped, this, &StatusMenuController::keepAwake);
-    connect(&concerns_, &ConcernWatch::backupNowChosen, this, &StatusMenuController::backupNowRequested);
+    connect(&concerns_, &ConcernWatch::backupNowChosen, this, [this] { backupNowRequested(); });
     connect(&concerns_, &ConcernWatch::timeMachineSettingsChosen, this, &StatusMenuController::openSystemPreferences);
     connect(&concerns_, &ConcernWatch::settingsChosen, this, &StatusMenuController::preferencesClicked);
 }

@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 10s;
+constexpr auto patienceWithNetwork = 10s;
 
 /// One question to a place.
 struct Question {
@@ -114,7 +114,7 @@ std::optional<ResticDiagnosis> problemOf(Question question, const QDeadlineTimer
 
 NetworkAnswer askPlace(const Repository& place, const Folders& folders, const QString& keyFile)
 {
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(patienceWithNetwork);
     if (isAskedBySsh(place)) {
         if (const auto problem = problemOf(questionBySsh(place, folders), deadline))
             return {NetworkAnswer::Contents::Unknown, problem};
@@ -135,7 +135,7 @@ void requireConnection(const Repository& repository, const Folders& folders)
 {
     if (repository.access() == nullptr)
         return;
-    if (const auto problem = problemOf(firstQuestion(repository, folders), QDeadlineTimer(patience)))
+    if (const auto problem = problemOf(firstQuestion(repository, folders), QDeadlineTimer(patienceWithNetwork)))
         throw problem->failure();
 }
 
@@ -150,7 +150,7 @@ std::vector<Destination> presentOf(const std::vector<Destination>& destinations,
         questions.push_back(firstQuestion(place, folders));
     }
     if (!questions.empty())
-        put(questions, QDeadlineTimer(patience));
+        put(questions, QDeadlineTimer(patienceWithNetwork));
     std::vector<Destination> present;
     auto question = questions.begin();
     for (const Destination& destination : destinations) {
@@ -183,7 +183,7 @@ HostKey HostKey::of(const NetworkAccess& access, const Folders& folders)
     }
     std::vector<Question> questions(1);
     prepareSsh(*questions.front().process, command, folders);
-    put(questions, QDeadlineTimer(patience));
+    put(questions, QDeadlineTimer(patienceWithNetwork));
     QFile file(fresh.knownHosts);
     const QString line = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readLine()).trimmed() : QString();
     if (line.count(u' ') < 2)
