@@ -166,18 +166,19 @@ private:
     std::unique_ptr<QTemporaryDir> trial_;
 };
 
-bool isAboutHostKey(const ResticDiagnosis& problem)
+/// The key that the server shows, where the problem is about that.
+std::optional<HostKey> shownKey(const ResticDiagnosis& problem, const NamedPlace& place)
 {
-    return problem.problem == ResticProblem::UnknownHostKey || problem.problem == ResticProblem::ChangedHostKey;
+    const bool isAboutKey =
+        problem.problem == ResticProblem::UnknownHostKey || problem.problem == ResticProblem::ChangedHostKey;
+    return isAboutKey ? std::optional(place.hostKey()) : std::nullopt;
 }
 
-Failure failureOf(const ResticDiagnosis& problem, const NamedPlace& place)
+Failure failureOf(const ResticDiagnosis& problem, const NamedPlace& place, const std::optional<HostKey>& key)
 {
     QString message = problem.description;
-    if (isAboutHostKey(problem)) {
-        const HostKey key = place.hostKey();
-        message += u" Its fingerprint is %1 (%2)."_s.arg(key.fingerprint(), key.type);
-    }
+    if (key)
+        message += u" Its fingerprint is %1 (%2)."_s.arg(key->fingerprint(), key->type);
     if (problem.problem == ResticProblem::WrongKey)
         message = u"There are backups at \"%1\" that no key of this computer opens. If they are yours, \"tmutil adopt "
                   "%1\" takes them up with their recovery key."_s.arg(place.destination().path);
@@ -187,7 +188,7 @@ Failure failureOf(const ResticDiagnosis& problem, const NamedPlace& place)
 void requireAnswer(const NetworkAnswer& answer, const NamedPlace& place)
 {
     if (answer.problem)
-        throw failureOf(*answer.problem, place);
+        throw failureOf(*answer.problem, place, shownKey(*answer.problem, place));
 }
 
 void tryPlace(const NamedPlace& place, bool xml)
@@ -202,14 +203,13 @@ void tryPlace(const NamedPlace& place, bool xml)
                                                       : u"The server can be used; it has backups of yours."_s));
         return printXml(told);
     }
-    const Failure failure = failureOf(*answer.problem, place);
+    const auto key = shownKey(*answer.problem, place);
+    const Failure failure = failureOf(*answer.problem, place, key);
     if (xml) {
         told.insert(u"Cause"_s, failure.cause());
         told.insert(u"Description"_s, failure.message());
-        if (isAboutHostKey(*answer.problem)) {
-            const HostKey key = place.hostKey();
-            told.insert(u"HostKey"_s, QVariantMap{{u"Type"_s, key.type}, {u"Fingerprint"_s, key.fingerprint()}});
-        }
+        if (key)
+            told.insert(u"HostKey"_s, QVariantMap{{u"Type"_s, key->type}, {u"Fingerprint"_s, key->fingerprint()}});
         printXml(told);
     }
     throw failure;

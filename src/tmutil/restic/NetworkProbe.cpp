@@ -36,7 +36,9 @@ struct Question {
     {
         if (isLate)
             return ResticDiagnosis::of(ResticProblem::Unreachable);
-        if (process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0)
+        const bool hasEnded =
+            process->exitStatus() == QProcess::NormalExit && process->error() != QProcess::FailedToStart;
+        if (hasEnded && process->exitCode() == 0)
             return std::nullopt;
         return ResticDiagnosis::ofNetwork(errorText(), process->exitCode());
     }
