@@ -139,6 +139,9 @@ void LogWindow::prepareList()
     details_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     constexpr int lines = 3; // so that the list does not move with what is chosen
     details_->setMinimumHeight(lines * fontMetrics().lineSpacing());
+    QSizePolicy policy = details_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    details_->setSizePolicy(policy);
     connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &LogWindow::showChosen);
 }
 
@@ -257,6 +260,7 @@ void LogWindow::showChosen()
         lines.removeAll(QString());
     }
     details_->setText(lines.join(u'\n'));
+    details_->setVisible(!lines.isEmpty()); // nothing is no place for the keyboard
 }
 
 std::vector<LedgerEntry> LogWindow::chosenEntries() const

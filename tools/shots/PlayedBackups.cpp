@@ -117,7 +117,6 @@ TmutilScript::Call PlayedBackups::behaviour(const TaskRequest& request)
 {
     TmutilScript::Call call;
     call.output = answerTo(request.arguments);
-    call.status = request.arguments.last().endsWith("/Documents"_L1) ? 1 : 0;
     return call;
 }
 

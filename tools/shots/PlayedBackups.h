@@ -11,7 +11,7 @@
 namespace quillon {
 
 /// The window of backups over a tmutil that is played: two disks, backups of many weeks, one of them incomplete and one
-/// damaged, a folder in which some things were changed or deleted later, and one that cannot be read.
+/// damaged, and a folder in which some things were changed or deleted later.
 class PlayedBackups final : public VirtualLauncher {
 public:
     /// Without backups the window says what to do.

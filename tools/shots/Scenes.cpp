@@ -245,12 +245,6 @@ constexpr std::array scenes{
               window.findChild<QLineEdit*>(u"search"_s)->setText(u"budget"_s);
               stage.program().runLoop.advance(Seconds(1));
           }},
-    Scene{"backups-unreadable",
-          [](Stage& stage) {
-              auto* const files = stage.openBackups().findChild<QTreeView*>(u"files"_s);
-              Q_EMIT files->activated(files->model()->index(0, 0));
-              stage.program().runLoop.advance(Seconds(1));
-          }},
     Scene{"backups-small", [](Stage& stage) { stage.openBackups().resize(0, 0); }},
     Scene{"backups-none", [](Stage& stage) { stage.openBackups(false); }},
     Scene{"backups-restore", [](Stage& stage) { restoreOldFile(stage, {"restoreSelected"}); }},
