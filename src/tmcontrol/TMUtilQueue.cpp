@@ -87,6 +87,7 @@ void TMUtilQueue::launchNext()
     // A start that outlives this program must not die of printing to a pipe that nobody reads any more.
     task.captureOutput = request.parse || request.ended;
     task.captureErrors = static_cast<bool>(request.ended);
+    task.input = request.input;
     tooSlow_ = false;
     timeout_ = runLoop_.scheduleAfter(request.longest.value_or(timeLimit(request.command)), [this] {
         tooSlow_ = true;

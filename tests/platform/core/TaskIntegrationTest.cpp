@@ -32,6 +32,13 @@ TaskRequest shell(const QString& script, bool captureOutput = true, bool capture
     return request;
 }
 
+TaskRequest reading(const QByteArray& input, const QString& script)
+{
+    auto request = shell(script);
+    request.input = input;
+    return request;
+}
+
 // True for one that has ended and waits to be reaped, too.
 bool hasChildren()
 {
@@ -75,6 +82,8 @@ TEST_F(TaskIntegrationTest, TheEndOfTheChildItselfIsReportedOnceWithWhatItSaid)
         {u"input and errors are the parent's"_s, shell(streams.arg(getpid())), 0},
         {u"a grandchild keeps the output open"_s, shell(grandchild), 0, "on\n"},
         {u"low priority"_s, shell(u"/usr/bin/nice; /usr/bin/ionice -p $$"_s), 0, priority + "\nbest-effort: prio 7\n"},
+        {u"input of its own, and its end"_s, reading("a\nb\n", u"/usr/bin/cat; echo c"_s), 0, "a\nb\nc\n"},
+        {u"input that nobody reads"_s, reading(QByteArray(1'000'000, 'x'), u"exit 3"_s), 3},
         {u"output unwanted"_s, shell(u"[ /proc/$$/fd/1 -ef /dev/null ]"_s, false), 0},
         {u"errors"_s, shell(u"echo a; echo b >&2; exit 3"_s, true, true), 3, "a\n", "b\n"},
         {u"errors are dropped, not blocked on"_s, shell(u"/usr/bin/head -c 1000000 /dev/zero >&2"_s, true, true), 0, "",

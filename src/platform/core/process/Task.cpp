@@ -60,7 +60,7 @@ ChildProcess::ChildProcess(const TaskRequest& request, TaskLauncher::Completion 
     , streamed_(request.takeOutput)
 {
     setProgram(request.executable);
-    setInputChannelMode(ForwardedInputChannel);
+    setInputChannelMode(request.input ? ManagedInputChannel : ForwardedInputChannel);
     setProcessChannelMode(request.captureErrors ? SeparateChannels : ForwardedErrorChannel);
     if (!request.captureOutput)
         setStandardOutputFile(nullDevice());
@@ -76,7 +76,11 @@ ChildProcess::ChildProcess(const TaskRequest& request, TaskLauncher::Completion 
         if (error == FailedToStart)
             reportLater(TaskResult::launchRefused);
     });
-    start(ReadOnly);
+    start(request.input ? ReadWrite : ReadOnly);
+    if (request.input) {
+        write(*request.input);
+        closeWriteChannel();
+    }
 }
 
 ChildProcess::~ChildProcess()

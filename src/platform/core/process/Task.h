@@ -13,7 +13,7 @@
 
 namespace quillon {
 
-/// A child process to be run. Standard input stays that of this program, and standard error unless it is captured.
+/// A child process to be run. Standard error stays that of this program unless it is captured.
 struct TaskRequest {
     QString executable;
     QStringList arguments;
@@ -25,6 +25,9 @@ struct TaskRequest {
     bool captureErrors = false;
     /// Takes standard output as it comes, which is then neither collected nor bounded.
     std::function<void(const QByteArray& bytes)> takeOutput = {};
+    /// What the child reads from its standard input, which ends with it: a way for secrets, which others see among
+    /// arguments. Standard input stays that of this program where there is none.
+    std::optional<QByteArray> input = {};
 };
 
 /// How a child process ended.
