@@ -674,7 +674,7 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Backups werden auf diesen Volumes erstellt. Die Backups sind verschlüsselt; alles andere auf einem Volume bleibt, wie es ist. Die Schlüssel liegen im Benutzerordner.</translation>
+        <translation>Backups werden auf diesen Volumes und Netzwerkorten erstellt. Die Backups sind verschlüsselt; alles andere auf einem Volume bleibt, wie es ist. Die Schlüssel liegen im Benutzerordner.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>Es gibt noch kein Backup-Volume. Zum Beginnen ein Volume oder einen Ordner darauf hinzufügen.</translation>
+        <translation>Es gibt noch kein Backup-Volume. Zum Beginnen ein Volume, einen Ordner darauf oder einen Netzwerkort hinzufügen.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
     <message id="disksListFailed">
         <source></source>
         <translation>Die Volumes konnten nicht aufgelistet werden</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>Netzwerkort hinzufügen</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>Zugang zu „%1“</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>Art</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP (SSH)</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>REST-Server von restic</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>S3-kompatibler Speicher</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>Server</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>Port</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>Ordner</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>Pfad</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>Bucket</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>Benutzername</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>Schlüsseldatei</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>Passwort</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>Zugriffsschlüssel</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>Geheimer Schlüssel</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>Region</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>Verschlüsselte Verbindung (HTTPS)</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>Zertifikatsdatei</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>Upload-Grenze</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>Download-Grenze</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>Keine</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>Upload höchstens %1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>Download höchstens %1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>Optional</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>Unverändert</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>Auswählen</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>Noch nötig: %1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>Der Server wird nur mit Namen oder Adresse angegeben, zum Beispiel nas.example.org.</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>Ein Port ist eine Zahl von 1 bis 65535.</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>Der Ordner beginnt mit / oder, wenn er im eigenen Ordner auf dem Server liegt, mit ~/.</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>Eine Datei wird mit ihrem ganzen Pfad angegeben, der mit / beginnt.</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>Benutzername und Passwort werden beide angegeben oder keines von beiden.</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>Testen</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>Vertrauen</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>Server wird gefragt …</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>Netzwerkort wird eingerichtet …</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>Der Server lässt sich verwenden. Dort gibt es noch keine Backups.</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>Der Server lässt sich verwenden. Dort gibt es Backups, die dieser Computer lesen kann; sie werden fortgesetzt.</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>Dort gibt es Backups, zu denen dieser Computer keinen Schlüssel hat. Eigene Backups lassen sich mit ihrem Wiederherstellungsschlüssel fortsetzen; sonst einen anderen Ort wählen.</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>Wiederherstellungsschlüssel</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>Fingerabdruck des Serverschlüssels</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>„%1“ ist diesem Computer noch nicht bekannt. Den Fingerabdruck des Schlüssels mit dem vergleichen, den die Verwaltung des Servers nennt, und nur vertrauen, wenn beide gleich sind.</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>Warnung: „%1“ weist einen anderen Schlüssel vor als bisher. Möglicherweise liest jemand mit. Dem neuen Schlüssel nur vertrauen, wenn die Verwaltung des Servers den Wechsel und diesen Fingerabdruck bestätigt.</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>Dem neuen Schlüssel von „%1“ vertrauen?</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>Gehört er nicht dem Server, gelangt alles dorthin Gesendete zu jemand anderem.</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>Dem Zertifikat von „%1“ wird nicht vertraut; es könnte ein anderer Server sein. Ein selbst ausgestelltes Zertifikat oder das seines Ausstellers als Zertifikatsdatei auswählen.</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>„%1“ lehnt den Benutzer oder den Schlüssel ab. Beide prüfen. Der öffentliche Schlüssel muss auf dem Server eingerichtet sein, und die Schlüsseldatei darf keine Passphrase haben.</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>„%1“ verweigert den Zugang. Die Angaben prüfen: Benutzername und Passwort oder die Schlüssel.</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>Dort darf nichts geschrieben werden. Einen anderen Ort auf dem Server wählen oder es von der Verwaltung des Servers erlauben lassen.</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>„%1“ antwortet nicht. Server und Port prüfen, und ob dieser Computer mit dem Netzwerk verbunden ist.</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>Auf dem Server ist kein Platz mehr. Dort Platz schaffen oder einen anderen Ort wählen.</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>Der Server lässt sich nicht verwenden: %1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>Die Backups dort bleiben erhalten, ebenso ihr Schlüssel; die Zugangsdaten zum Server werden gelöscht. Wird derselbe Ort erneut hinzugefügt, werden sie fortgesetzt.</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>Geht dieser Computer verloren, lassen sich die Backups mit diesem Schlüssel und dem Zugang zum Server wiederherstellen. Der Schlüssel sollte notiert oder als Seite gesichert und zusammen mit den Zugangsdaten getrennt vom Computer verwahrt werden. Wer beides hat, kann die Backups lesen.</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>Erstellt am %1. Diese Seite getrennt vom Computer verwahren. Wer sie und Zugang zum Server hat, kann die Backups lesen.</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Quillon installieren und %1 starten.</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>„%1“ wählen, als Server %2 und die Zugangsdaten eingeben, dann auf Nachfrage den Wiederherstellungsschlüssel.</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

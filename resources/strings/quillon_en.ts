@@ -674,7 +674,7 @@ Backup disks are added and removed in the Time Machine settings.</translation>
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Backups are made to these disks. The backups are encrypted; whatever else is on a disk is left as it is. The keys are kept in your home folder.</translation>
+        <translation>Backups are made to these disks and network places. The backups are encrypted; whatever else is on a disk is left as it is. The keys are kept in your home folder.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@ Backup disks are added and removed in the Time Machine settings.</translation>
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>There is no backup disk yet. Add a disk or a folder on one to begin.</translation>
+        <translation>There is no backup disk yet. Add a disk, a folder on one, or a network place to begin.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@ Backup disks are added and removed in the Time Machine settings.</translation>
     <message id="disksListFailed">
         <source></source>
         <translation>The disks could not be listed</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>Edit</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>Add Network Place</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>Access to “%1”</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>Kind</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP (SSH)</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>restic REST Server</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>S3-Compatible Storage</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>Address</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>Server</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>Port</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>Folder</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>Path</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>Bucket</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>User Name</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>Key File</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>Password</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>Access Key</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>Secret Key</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>Region</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>Encrypted connection (HTTPS)</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>Certificate File</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>Upload Limit</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>Download Limit</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>None</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>Upload at most %1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>Download at most %1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>Optional</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>Unchanged</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>Choose</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>Still needed: %1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>The server is given by its name or address alone, such as nas.example.org.</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>A port is a number from 1 to 65535.</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>The folder begins with / or, if it is in your own folder on the server, with ~/.</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>A file is given by its whole path, which begins with /.</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>User name and password are given together, or neither.</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>Try</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>Trust</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>Take Up</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>Asking the server …</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>Setting up the place …</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>The server can be used. There are no backups there yet.</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>The server can be used. There are backups there that this computer can read; they are continued.</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>There are backups there that this computer has no key for. If they are yours, enter their recovery key to continue them; otherwise choose another place.</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>Recovery Key</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>Fingerprint of the server’s key</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>“%1” is not known to this computer yet. Compare the fingerprint of its key with the one that its administrator tells you, and trust it only if they are the same.</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>Warning: “%1” shows a different key than before. Somebody may be reading along. Trust the new key only if the administrator of the server confirms that it was changed, and this fingerprint.</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>Trust the new key of “%1”?</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>If it is not the server’s own, what is sent there reaches somebody else.</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>The certificate of “%1” is not trusted, so it may be another server. If the certificate is one of your own, choose it, or its issuer’s, as the certificate file.</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>“%1” refuses the user or the key. Check both. The public key has to be set up on the server, and the key file must have no passphrase.</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>“%1” refuses access. Check what you have entered: the user name and password, or the keys.</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>Nothing can be written there. Choose another place on the server, or have its administrator allow it.</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>“%1” does not answer. Check the server and the port, and whether this computer is connected to the network.</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>The server has no room left. Make room there, or choose another place.</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>The server cannot be used: %1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>The backups there are kept, and so is their key; what lets this computer into the server is forgotten. Add the same place again to go on with them.</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>If this computer is lost, this key and access to the server give the backups back. Write it down or save it as a page, and keep it away from this computer, together with what lets you into the server. Whoever has both can read the backups.</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>Made on %1. Keep this page away from the computer. Whoever has it and access to the server can read the backups.</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Install Quillon and start %1.</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>Choose “%1”, enter %2 as the server and what lets you into it, then the recovery key when it is asked for.</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

@@ -674,7 +674,7 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Las copias de seguridad se hacen en estos discos. Las copias están cifradas; lo demás que haya en un disco no se toca. Las claves se guardan en tu carpeta personal.</translation>
+        <translation>Las copias de seguridad se hacen en estos discos y ubicaciones de red. Las copias están cifradas; lo demás que haya en un disco no se toca. Las claves se guardan en tu carpeta personal.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>Aún no hay ningún disco de copia de seguridad. Para empezar, añade un disco o una carpeta de un disco.</translation>
+        <translation>Aún no hay ningún disco de copia de seguridad. Para empezar, añade un disco, una carpeta de un disco o una ubicación de red.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
     <message id="disksListFailed">
         <source></source>
         <translation>No se han podido enumerar los discos</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>Editar</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>Añadir ubicación de red</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>Acceso a “%1”</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP (SSH)</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>Servidor REST de restic</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>Almacenamiento compatible con S3</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>Dirección</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>Servidor</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>Puerto</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>Carpeta</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>Ruta</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>Bucket</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>Archivo de clave</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>Contraseña</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>Clave de acceso</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>Clave secreta</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>Región</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>Conexión cifrada (HTTPS)</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>Archivo de certificado</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>Límite de subida</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>Límite de bajada</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>Ninguno</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>Subida a %1 como máximo</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>Bajada a %1 como máximo</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>Opcional</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>Sin cambios</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>Falta: %1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>Indica solo el nombre o la dirección del servidor, como nas.example.org.</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>Un puerto es un número del 1 al 65535.</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>La carpeta empieza por / o, si está en tu carpeta del servidor, por ~/.</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>Un archivo se indica con su ruta completa, que empieza por /.</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>Indica el nombre de usuario y la contraseña, o ninguno de los dos.</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>Probar</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>Confiar</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>Incorporar</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>Consultando al servidor…</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>Configurando la ubicación…</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>El servidor se puede usar. Ahí todavía no hay copias.</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>El servidor se puede usar. Ahí hay copias que este ordenador puede leer; se continuarán.</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>Ahí hay copias de las que este ordenador no tiene la clave. Si son tuyas, escribe su clave de recuperación para continuarlas; si no, elige otra ubicación.</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>Clave de recuperación</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>Huella de la clave del servidor</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>Este ordenador aún no conoce “%1”. Compara la huella de su clave con la que te indique su administrador y confía en ella solo si son iguales.</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>Advertencia: “%1” muestra una clave distinta a la de antes. Puede que alguien esté espiando la conexión. Confía en la clave nueva solo si el administrador del servidor confirma el cambio y esta huella.</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>¿Confiar en la clave nueva de “%1”?</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>Si no es la del servidor, lo que se envíe llegará a otra persona.</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>El certificado de “%1” no es de confianza; podría ser otro servidor. Si el certificado es propio, elígelo, o el de su emisor, como archivo de certificado.</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>“%1” rechaza el usuario o la clave. Comprueba ambos. La clave pública debe estar instalada en el servidor y el archivo de clave no puede tener frase de contraseña.</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>“%1” deniega el acceso. Comprueba lo que has escrito: el nombre de usuario y la contraseña, o las claves.</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>Ahí no se puede escribir. Elige otra ubicación del servidor o pide permiso a su administrador.</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>“%1” no responde. Comprueba el servidor y el puerto, y que este ordenador esté conectado a la red.</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>No queda espacio en el servidor. Libera espacio o elige otra ubicación.</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>El servidor no se puede usar: %1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>Las copias que contiene se conservan, y también su clave; los datos de acceso al servidor se borran. Para continuarlas, vuelve a añadir la misma ubicación.</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>Si pierdes este ordenador, esta clave y el acceso al servidor te devuelven las copias. Anótala o guárdala como página y mantenla lejos de este ordenador, junto con los datos de acceso al servidor. Quien tenga ambos puede leer las copias.</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>Creada el %1. Mantén esta página lejos del ordenador. Quien la tenga y acceda al servidor puede leer las copias.</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Instala Quillon y abre %1.</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>Elige “%1”, escribe %2 como servidor y los datos de acceso, y la clave de recuperación cuando se te pida.</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

@@ -674,7 +674,7 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Les sauvegardes sont effectuées sur ces disques. Elles sont chiffrées ; le reste du disque n’est pas modifié. Les clés se trouvent dans votre dossier personnel.</translation>
+        <translation>Les sauvegardes sont effectuées sur ces disques et emplacements réseau. Elles sont chiffrées ; le reste du disque n’est pas modifié. Les clés se trouvent dans votre dossier personnel.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>Il n’y a pas encore de disque de sauvegarde. Pour commencer, ajoutez un disque ou un dossier sur un disque.</translation>
+        <translation>Il n’y a pas encore de disque de sauvegarde. Pour commencer, ajoutez un disque, un dossier sur un disque ou un emplacement réseau.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
     <message id="disksListFailed">
         <source></source>
         <translation>Les disques n’ont pas pu être énumérés</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>Modifier</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>Ajouter un emplacement réseau</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>Accès à « %1 »</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP (SSH)</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>Serveur REST de restic</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>Stockage compatible S3</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>Serveur</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>Port</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>Dossier</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>Chemin</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>Compartiment</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>Nom d’utilisateur</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>Fichier de clé</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>Clé d’accès</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>Clé secrète</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>Région</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>Connexion chiffrée (HTTPS)</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>Fichier de certificat</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>Limite d’envoi</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>Limite de réception</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>Aucune</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>Envoi limité à %1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>Réception limitée à %1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>Facultatif</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>Inchangé</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>Choisir</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>Il manque encore : %1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>Indiquez seulement le nom ou l’adresse du serveur, par exemple nas.example.org.</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>Un port est un nombre de 1 à 65535.</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>Le dossier commence par / ou, s’il se trouve dans votre dossier sur le serveur, par ~/.</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>Un fichier est indiqué par son chemin complet, qui commence par /.</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>Indiquez le nom d’utilisateur et le mot de passe, ou ni l’un ni l’autre.</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>Tester</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>Faire confiance</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>Reprendre</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>Interrogation du serveur…</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>Configuration de l’emplacement…</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>Le serveur peut être utilisé. Il n’y a pas encore de sauvegardes à cet endroit.</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>Le serveur peut être utilisé. Il s’y trouve des sauvegardes que cet ordinateur peut lire ; elles seront poursuivies.</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>Il s’y trouve des sauvegardes dont cet ordinateur n’a pas la clé. Si ce sont les vôtres, saisissez leur clé de secours pour les poursuivre ; sinon, choisissez un autre emplacement.</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>Clé de secours</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>Empreinte de la clé du serveur</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>« %1 » n’est pas encore connu de cet ordinateur. Comparez l’empreinte de sa clé avec celle que son administrateur vous indique, et ne lui faites confiance que si elles sont identiques.</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>Attention : « %1 » présente une autre clé qu’auparavant. Quelqu’un intercepte peut-être la connexion. Ne faites confiance à la nouvelle clé que si l’administrateur du serveur confirme le changement et cette empreinte.</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>Faire confiance à la nouvelle clé de « %1 » ?</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>Si ce n’est pas celle du serveur, ce qui y est envoyé parvient à quelqu’un d’autre.</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>Le certificat de « %1 » n’est pas approuvé ; il peut s’agir d’un autre serveur. Si le certificat est le vôtre, choisissez-le, ou celui de son émetteur, comme fichier de certificat.</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>« %1 » refuse l’utilisateur ou la clé. Vérifiez les deux. La clé publique doit être installée sur le serveur et le fichier de clé ne doit pas avoir de phrase secrète.</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>« %1 » refuse l’accès. Vérifiez ce que vous avez saisi : le nom d’utilisateur et le mot de passe, ou les clés.</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>Rien ne peut être écrit à cet endroit. Choisissez un autre emplacement sur le serveur ou demandez l’autorisation à son administrateur.</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>« %1 » ne répond pas. Vérifiez le serveur et le port, ainsi que la connexion de cet ordinateur au réseau.</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>Il n’y a plus de place sur le serveur. Libérez-en ou choisissez un autre emplacement.</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>Le serveur ne peut pas être utilisé : %1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>Les sauvegardes qui s’y trouvent sont conservées, ainsi que leur clé ; les données d’accès au serveur sont effacées. Ajoutez à nouveau le même emplacement pour les poursuivre.</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>Si cet ordinateur est perdu, cette clé et l’accès au serveur permettent de récupérer les sauvegardes. Notez-la ou enregistrez-la sur une page, et conservez-la loin de cet ordinateur, avec vos données d’accès au serveur. Quiconque a les deux peut lire les sauvegardes.</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>Créée le %1. Conservez cette page loin de l’ordinateur. Quiconque l’a et accède au serveur peut lire les sauvegardes.</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Installez Quillon et lancez %1.</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>Choisissez « %1 », saisissez %2 comme serveur ainsi que vos données d’accès, puis la clé de secours lorsqu’elle est demandée.</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

@@ -674,7 +674,7 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>I backup vengono eseguiti su questi dischi. I backup sono codificati; il resto del disco rimane com’è. Le chiavi si trovano nella tua cartella Inizio.</translation>
+        <translation>I backup vengono eseguiti su questi dischi e percorsi di rete. I backup sono codificati; il resto del disco rimane com’è. Le chiavi si trovano nella tua cartella Inizio.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>Non c’è ancora alcun disco di backup. Per iniziare, aggiungi un disco o una cartella su un disco.</translation>
+        <translation>Non c’è ancora alcun disco di backup. Per iniziare, aggiungi un disco, una cartella su un disco o un percorso di rete.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
     <message id="disksListFailed">
         <source></source>
         <translation>Impossibile elencare i dischi</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>Modifica</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>Aggiungi percorso di rete</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>Accesso a “%1”</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP (SSH)</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>Server REST di restic</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>Archiviazione compatibile con S3</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>Server</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>Porta</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>Cartella</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>Percorso</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>Bucket</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>Nome utente</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>File della chiave</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>Password</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>Chiave di accesso</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>Chiave segreta</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>Regione</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>Connessione codificata (HTTPS)</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>File del certificato</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>Limite di upload</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>Limite di download</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>Nessuno</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>Upload al massimo %1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>Download al massimo %1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>Facoltativo</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>Invariato</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>Scegli</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>Manca ancora: %1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>Indica solo il nome o l’indirizzo del server, per esempio nas.example.org.</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>Una porta è un numero da 1 a 65535.</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>La cartella inizia con / oppure, se è nella tua cartella sul server, con ~/.</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>Un file si indica con il percorso completo, che inizia con /.</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>Indica sia il nome utente sia la password, o nessuno dei due.</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>Prova</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>Autorizza</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>Acquisisci</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>Interrogazione del server…</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>Configurazione del percorso…</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>Il server può essere usato. Lì non ci sono ancora backup.</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>Il server può essere usato. Lì ci sono backup che questo computer può leggere; verranno continuati.</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>Lì ci sono backup di cui questo computer non ha la chiave. Se sono tuoi, inserisci la loro chiave di recupero per continuarli; altrimenti scegli un altro percorso.</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>Chiave di recupero</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>Impronta della chiave del server</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>“%1” non è ancora noto a questo computer. Confronta l’impronta della sua chiave con quella che ti comunica l’amministratore e autorizzala solo se sono uguali.</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>Attenzione: “%1” mostra una chiave diversa da prima. Qualcuno potrebbe intercettare la connessione. Autorizza la nuova chiave solo se l’amministratore del server conferma il cambio e questa impronta.</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>Autorizzare la nuova chiave di “%1”?</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>Se non è quella del server, ciò che viene inviato arriva a qualcun altro.</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>Il certificato di “%1” non è attendibile; potrebbe essere un altro server. Se il certificato è tuo, scegli quello, o quello di chi l’ha emesso, come file del certificato.</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>“%1” rifiuta l’utente o la chiave. Controlla entrambi. La chiave pubblica deve essere configurata sul server e il file della chiave non deve avere una passphrase.</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>“%1” rifiuta l’accesso. Controlla ciò che hai inserito: il nome utente e la password, o le chiavi.</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>Lì non è possibile scrivere. Scegli un altro percorso sul server o chiedi il permesso all’amministratore.</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>“%1” non risponde. Controlla il server e la porta, e che questo computer sia collegato alla rete.</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>Sul server non c’è più spazio. Libera spazio o scegli un altro percorso.</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>Il server non può essere usato: %1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>I backup che contiene vengono conservati, e così la loro chiave; i dati di accesso al server vengono eliminati. Per continuarli, aggiungi di nuovo lo stesso percorso.</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>Se perdi questo computer, questa chiave e l’accesso al server ti restituiscono i backup. Annotala o registrala come pagina e conservala lontano da questo computer, insieme ai dati di accesso al server. Chi ha entrambi può leggere i backup.</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>Creata il %1. Conserva questa pagina lontano dal computer. Chi ha la pagina e accede al server può leggere i backup.</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Installa Quillon e avvia %1.</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>Scegli “%1”, inserisci %2 come server e i dati di accesso, poi la chiave di recupero quando viene chiesta.</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

@@ -674,7 +674,7 @@
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>バックアップはこれらのディスクに作成されます。バックアップは暗号化され、ディスク上のほかの項目は変更されません。鍵はホームフォルダに保管されます。</translation>
+        <translation>バックアップはこれらのディスクとネットワークの場所に作成されます。バックアップは暗号化され、ディスク上のほかの項目は変更されません。鍵はホームフォルダに保管されます。</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>バックアップディスクがまだありません。まずディスク、またはディスク上のフォルダを追加してください。</translation>
+        <translation>バックアップディスクがまだありません。まずディスク、ディスク上のフォルダ、またはネットワークの場所を追加してください。</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@
     <message id="disksListFailed">
         <source></source>
         <translation>ディスクを一覧表示できませんでした</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>編集</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>ネットワークの場所を追加</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>「%1」へのアクセス</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>種類</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP（SSH）</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>restic RESTサーバ</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>S3互換ストレージ</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>アドレス</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>サーバ</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>ポート</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>フォルダ</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>パス</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>バケット</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>ユーザ名</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>鍵ファイル</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>パスワード</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>アクセスキー</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>シークレットキー</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>リージョン</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>暗号化された接続（HTTPS）</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>証明書ファイル</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>アップロードの上限</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>ダウンロードの上限</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>なし</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>アップロードは最大%1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>ダウンロードは最大%1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>任意</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>変更なし</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>選択</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>未入力：%1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>サーバは、nas.example.orgのように名前またはアドレスだけで指定してください。</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>ポートは1から65535までの数字です。</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>フォルダは / で始めます。サーバ上の自分のフォルダの中にある場合は ~/ で始めます。</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>ファイルは / で始まる完全なパスで指定してください。</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>ユーザ名とパスワードは、両方を入力するか、両方とも空にしてください。</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>テスト</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>信頼</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>引き継ぐ</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>サーバに問い合わせ中…</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>場所を設定中…</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>サーバを使用できます。ここにはまだバックアップがありません。</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>サーバを使用できます。このコンピュータで読めるバックアップがあり、続きから使用されます。</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>このコンピュータに鍵がないバックアップがあります。自分のものであれば復旧キーを入力すると続きから使用できます。そうでなければ別の場所を選んでください。</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>復旧キー</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>サーバの鍵のフィンガープリント</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>「%1」はこのコンピュータではまだ知られていません。鍵のフィンガープリントを管理者から聞いたものと比べ、同じ場合にだけ信頼してください。</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>警告：「%1」の鍵が以前と異なります。通信が盗み見られているおそれがあります。サーバの管理者が変更とこのフィンガープリントを確認した場合にだけ、新しい鍵を信頼してください。</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>「%1」の新しい鍵を信頼しますか？</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>サーバ本来の鍵でない場合、送信した内容は別の誰かに届きます。</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>「%1」の証明書は信頼されていません。別のサーバの可能性があります。自分で発行した証明書の場合は、それまたは発行元の証明書を証明書ファイルとして選択してください。</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>「%1」はユーザまたは鍵を拒否しました。両方を確認してください。公開鍵がサーバに設定されていて、鍵ファイルにパスフレーズがないことが必要です。</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>「%1」にアクセスを拒否されました。入力したユーザ名とパスワード、または鍵を確認してください。</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>ここには書き込めません。サーバ上の別の場所を選ぶか、管理者に許可してもらってください。</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>「%1」が応答しません。サーバとポート、およびこのコンピュータがネットワークに接続されているかを確認してください。</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>サーバに空き容量がありません。空きを作るか、別の場所を選んでください。</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>サーバを使用できません：%1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>保存されているバックアップとその鍵は残り、サーバへのアクセス情報は消去されます。同じ場所をもう一度追加すると、続きから使用できます。</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>このコンピュータを失っても、このキーとサーバへのアクセス情報があればバックアップを取り戻せます。書き留めるかページとして保存して、サーバへのアクセス情報とともにこのコンピュータとは別の場所に保管してください。両方を持つ人はバックアップを読むことができます。</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>作成日：%1。このページはコンピュータとは別の場所に保管してください。このページとサーバへのアクセス情報を持つ人はバックアップを読むことができます。</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Quillonをインストールして、%1 を起動します。</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>「%1」を選択し、サーバとして %2 とアクセス情報を入力します。求められたら復旧キーを入力します。</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

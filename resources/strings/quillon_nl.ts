@@ -674,7 +674,7 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Reservekopieën worden op deze schijven gemaakt. De reservekopieën zijn versleuteld; wat er verder op een schijf staat, blijft zoals het is. De sleutels staan in je thuismap.</translation>
+        <translation>Reservekopieën worden op deze schijven en netwerklocaties gemaakt. De reservekopieën zijn versleuteld; wat er verder op een schijf staat, blijft zoals het is. De sleutels staan in je thuismap.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>Er is nog geen reservekopieschijf. Voeg om te beginnen een schijf toe, of een map op een schijf.</translation>
+        <translation>Er is nog geen reservekopieschijf. Voeg om te beginnen een schijf, een map op een schijf of een netwerklocatie toe.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
     <message id="disksListFailed">
         <source></source>
         <translation>De schijven konden niet worden opgesomd</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>Wijzig</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>Voeg netwerklocatie toe</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>Toegang tot ‘%1’</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>Soort</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP (SSH)</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>REST-server van restic</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>S3-compatibele opslag</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>Adres</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>Server</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>Poort</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>Map</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>Pad</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>Bucket</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>Gebruikersnaam</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>Sleutelbestand</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>Wachtwoord</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>Toegangssleutel</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>Geheime sleutel</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>Regio</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>Versleutelde verbinding (HTTPS)</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>Certificaatbestand</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>Uploadlimiet</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>Downloadlimiet</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>Geen</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>Upload hoogstens %1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>Download hoogstens %1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>Optioneel</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>Ongewijzigd</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>Kies</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>Nog nodig: %1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>Geef alleen de naam of het adres van de server op, zoals nas.example.org.</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>Een poort is een getal van 1 tot en met 65535.</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>De map begint met / of, als die in je eigen map op de server staat, met ~/.</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>Een bestand geef je op met het volledige pad, dat met / begint.</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>Geef zowel gebruikersnaam als wachtwoord op, of geen van beide.</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>Test</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>Vertrouw</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>Neem over</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>Server wordt benaderd…</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>Locatie wordt ingesteld…</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>De server kan worden gebruikt. Er staan daar nog geen reservekopieën.</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>De server kan worden gebruikt. Er staan daar reservekopieën die deze computer kan lezen; daarmee wordt doorgegaan.</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>Er staan daar reservekopieën waarvan deze computer geen sleutel heeft. Zijn ze van jou, voer dan de herstelsleutel in om ermee door te gaan; kies anders een andere locatie.</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>Herstelsleutel</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>Vingerafdruk van de serversleutel</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>‘%1’ is nog niet bekend op deze computer. Vergelijk de vingerafdruk van de sleutel met die van de beheerder en vertrouw de server alleen als ze gelijk zijn.</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>Waarschuwing: ‘%1’ toont een andere sleutel dan eerst. Misschien leest er iemand mee. Vertrouw de nieuwe sleutel alleen als de beheerder van de server de wijziging en deze vingerafdruk bevestigt.</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>De nieuwe sleutel van ‘%1’ vertrouwen?</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>Als die niet van de server zelf is, komt wat je verstuurt bij iemand anders terecht.</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>Het certificaat van ‘%1’ wordt niet vertrouwd; het kan een andere server zijn. Is het een eigen certificaat, kies dan dat of dat van de uitgever als certificaatbestand.</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>‘%1’ weigert de gebruiker of de sleutel. Controleer beide. De publieke sleutel moet op de server zijn ingesteld en het sleutelbestand mag geen wachtwoordzin hebben.</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>‘%1’ weigert de toegang. Controleer wat je hebt ingevoerd: de gebruikersnaam en het wachtwoord, of de sleutels.</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>Daar kan niets worden geschreven. Kies een andere plek op de server of laat de beheerder het toestaan.</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>‘%1’ antwoordt niet. Controleer de server en de poort, en of deze computer met het netwerk is verbonden.</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>De server is vol. Maak daar ruimte vrij of kies een andere locatie.</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>De server kan niet worden gebruikt: %1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>De reservekopieën daar blijven bewaard, en de sleutel ook; de toegangsgegevens van de server worden gewist. Voeg dezelfde locatie opnieuw toe om ermee door te gaan.</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>Als deze computer verloren gaat, krijg je de reservekopieën met deze sleutel en toegang tot de server terug. Schrijf de sleutel op of bewaar hem als pagina, weg van deze computer, samen met de toegangsgegevens van de server. Wie beide heeft, kan de reservekopieën lezen.</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>Gemaakt op %1. Bewaar deze pagina weg van de computer. Wie de pagina en toegang tot de server heeft, kan de reservekopieën lezen.</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Installeer Quillon en start %1.</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>Kies ‘%1’, voer %2 in als server en de toegangsgegevens, en de herstelsleutel wanneer daarom wordt gevraagd.</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

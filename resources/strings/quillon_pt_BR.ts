@@ -674,7 +674,7 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>Os backups são feitos nestes discos. Os backups são criptografados; o restante do disco permanece como está. As chaves ficam na sua pasta pessoal.</translation>
+        <translation>Os backups são feitos nestes discos e locais de rede. Os backups são criptografados; o restante do disco permanece como está. As chaves ficam na sua pasta pessoal.</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>Ainda não há um disco de backup. Para começar, adicione um disco ou uma pasta em um disco.</translation>
+        <translation>Ainda não há um disco de backup. Para começar, adicione um disco, uma pasta em um disco ou um local de rede.</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
     <message id="disksListFailed">
         <source></source>
         <translation>Não foi possível listar os discos</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>Editar</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>Adicionar Local de Rede</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>Acesso a “%1”</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP (SSH)</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>Servidor REST do restic</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>Armazenamento compatível com S3</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>Endereço</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>Servidor</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>Porta</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>Pasta</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>Caminho</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>Bucket</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>Nome de Usuário</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>Arquivo de Chave</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>Senha</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>Chave de Acesso</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>Chave Secreta</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>Região</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>Conexão criptografada (HTTPS)</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>Arquivo de Certificado</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>Limite de Envio</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>Limite de Recebimento</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>Nenhum</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>Envio de no máximo %1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>Recebimento de no máximo %1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>Opcional</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>Inalterado</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>Escolher</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>Ainda falta: %1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>Indique somente o nome ou o endereço do servidor, como nas.example.org.</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>Uma porta é um número de 1 a 65535.</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>A pasta começa com / ou, se estiver na sua pasta no servidor, com ~/.</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>Um arquivo é indicado pelo caminho completo, que começa com /.</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>Indique o nome de usuário e a senha, ou nenhum dos dois.</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>Testar</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>Confiar</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>Assumir</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>Consultando o servidor…</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>Configurando o local…</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>O servidor pode ser usado. Ainda não há backups lá.</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>O servidor pode ser usado. Há backups lá que este computador pode ler; eles serão continuados.</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>Há backups lá para os quais este computador não tem a chave. Se forem seus, digite a chave reserva para continuá-los; caso contrário, escolha outro local.</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>Chave Reserva</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>Impressão digital da chave do servidor</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>“%1” ainda não é conhecido por este computador. Compare a impressão digital da chave com a informada pelo administrador e confie nela somente se forem iguais.</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>Atenção: “%1” mostra uma chave diferente da anterior. Alguém pode estar interceptando a conexão. Confie na nova chave somente se o administrador do servidor confirmar a mudança e esta impressão digital.</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>Confiar na nova chave de “%1”?</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>Se ela não for do servidor, o que for enviado chegará a outra pessoa.</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>O certificado de “%1” não é confiável; pode ser outro servidor. Se o certificado for próprio, escolha-o, ou o do emissor, como arquivo de certificado.</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>“%1” recusa o usuário ou a chave. Verifique ambos. A chave pública precisa estar instalada no servidor, e o arquivo de chave não pode ter frase secreta.</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>“%1” recusa o acesso. Verifique o que você digitou: o nome de usuário e a senha, ou as chaves.</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>Não é possível gravar lá. Escolha outro local no servidor ou peça permissão ao administrador.</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>“%1” não responde. Verifique o servidor e a porta, e se este computador está conectado à rede.</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>Não há mais espaço no servidor. Libere espaço ou escolha outro local.</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>O servidor não pode ser usado: %1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>Os backups lá são mantidos, assim como a chave; os dados de acesso ao servidor são apagados. Para continuá-los, adicione o mesmo local novamente.</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>Se este computador for perdido, esta chave e o acesso ao servidor devolvem os backups. Anote-a ou salve-a como página e guarde-a longe deste computador, com os dados de acesso ao servidor. Quem tiver ambos poderá ler os backups.</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>Criada em %1. Guarde esta página longe do computador. Quem a tiver e acessar o servidor poderá ler os backups.</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>Instale o Quillon e inicie o %1.</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>Escolha “%1”, digite %2 como servidor e os dados de acesso e, quando for pedida, a chave reserva.</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">

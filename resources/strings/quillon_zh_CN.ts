@@ -674,7 +674,7 @@
     </message>
     <message id="disksDisksExplanation">
         <source></source>
-        <translation>备份储存在这些磁盘上。备份经过加密，磁盘上的其他内容保持不变。密钥保存在你的个人文件夹中。</translation>
+        <translation>备份储存在这些磁盘和网络位置上。备份经过加密，磁盘上的其他内容保持不变。密钥保存在你的个人文件夹中。</translation>
     </message>
     <message id="disksSourcesExplanation">
         <source></source>
@@ -686,7 +686,7 @@
     </message>
     <message id="disksNoDisks">
         <source></source>
-        <translation>还没有备份磁盘。若要开始，请添加磁盘或磁盘上的文件夹。</translation>
+        <translation>还没有备份磁盘。若要开始，请添加磁盘、磁盘上的文件夹或网络位置。</translation>
     </message>
     <message id="disksNoExclusions">
         <source></source>
@@ -963,6 +963,250 @@
     <message id="disksListFailed">
         <source></source>
         <translation>无法列出磁盘</translation>
+    </message>
+    <message id="disksEditTitle">
+        <source></source>
+        <translation>编辑</translation>
+    </message>
+    <message id="disksAddPlaceTitle">
+        <source></source>
+        <translation>添加网络位置</translation>
+    </message>
+    <message id="disksEditPlaceTitle">
+        <source></source>
+        <translation>访问“%1”</translation>
+    </message>
+    <message id="disksPlaceKind">
+        <source></source>
+        <translation>类型</translation>
+    </message>
+    <message id="disksPlaceSftp">
+        <source></source>
+        <translation>SFTP（SSH）</translation>
+    </message>
+    <message id="disksPlaceRest">
+        <source></source>
+        <translation>restic REST服务器</translation>
+    </message>
+    <message id="disksPlaceS3">
+        <source></source>
+        <translation>兼容S3的存储</translation>
+    </message>
+    <message id="disksPlaceAddress">
+        <source></source>
+        <translation>地址</translation>
+    </message>
+    <message id="disksPlaceServer">
+        <source></source>
+        <translation>服务器</translation>
+    </message>
+    <message id="disksPlacePort">
+        <source></source>
+        <translation>端口</translation>
+    </message>
+    <message id="disksPlaceFolder">
+        <source></source>
+        <translation>文件夹</translation>
+    </message>
+    <message id="disksPlacePath">
+        <source></source>
+        <translation>路径</translation>
+    </message>
+    <message id="disksPlaceBucket">
+        <source></source>
+        <translation>存储桶</translation>
+    </message>
+    <message id="disksPlaceUser">
+        <source></source>
+        <translation>用户名</translation>
+    </message>
+    <message id="disksPlaceKeyFile">
+        <source></source>
+        <translation>密钥文件</translation>
+    </message>
+    <message id="disksPlacePassword">
+        <source></source>
+        <translation>密码</translation>
+    </message>
+    <message id="disksPlaceAccessKey">
+        <source></source>
+        <translation>访问密钥</translation>
+    </message>
+    <message id="disksPlaceSecretKey">
+        <source></source>
+        <translation>私有密钥</translation>
+    </message>
+    <message id="disksPlaceRegion">
+        <source></source>
+        <translation>地区</translation>
+    </message>
+    <message id="disksPlaceSecure">
+        <source></source>
+        <translation>加密连接（HTTPS）</translation>
+    </message>
+    <message id="disksPlaceCertificate">
+        <source></source>
+        <translation>证书文件</translation>
+    </message>
+    <message id="disksPlaceUpload">
+        <source></source>
+        <translation>上传限速</translation>
+    </message>
+    <message id="disksPlaceDownload">
+        <source></source>
+        <translation>下载限速</translation>
+    </message>
+    <message id="disksPlaceNoLimit">
+        <source></source>
+        <translation>无</translation>
+    </message>
+    <message id="disksPlaceUploadAtMost">
+        <source></source>
+        <translation>上传不超过 %1</translation>
+    </message>
+    <message id="disksPlaceDownloadAtMost">
+        <source></source>
+        <translation>下载不超过 %1</translation>
+    </message>
+    <message id="disksPlaceOptional">
+        <source></source>
+        <translation>可选</translation>
+    </message>
+    <message id="disksPlaceUnchanged">
+        <source></source>
+        <translation>未更改</translation>
+    </message>
+    <message id="disksPlaceChooseTitle">
+        <source></source>
+        <translation>选取</translation>
+    </message>
+    <message id="disksPlaceNeeded">
+        <source></source>
+        <translation>还需填写：%1</translation>
+    </message>
+    <message id="disksPlaceBadServer">
+        <source></source>
+        <translation>请仅填写服务器的名称或地址，例如nas.example.org。</translation>
+    </message>
+    <message id="disksPlaceBadPort">
+        <source></source>
+        <translation>端口是1到65535之间的数字。</translation>
+    </message>
+    <message id="disksPlaceBadFolder">
+        <source></source>
+        <translation>文件夹以 / 开头；如果位于你在服务器上的个人文件夹中，则以 ~/ 开头。</translation>
+    </message>
+    <message id="disksPlaceBadFile">
+        <source></source>
+        <translation>请以完整路径填写文件，路径以 / 开头。</translation>
+    </message>
+    <message id="disksPlaceUserAndPassword">
+        <source></source>
+        <translation>用户名和密码须同时填写，或都不填写。</translation>
+    </message>
+    <message id="disksPlaceTryTitle">
+        <source></source>
+        <translation>测试</translation>
+    </message>
+    <message id="disksPlaceTrustTitle">
+        <source></source>
+        <translation>信任</translation>
+    </message>
+    <message id="disksPlaceTakeUpTitle">
+        <source></source>
+        <translation>接管</translation>
+    </message>
+    <message id="disksPlaceAsking">
+        <source></source>
+        <translation>正在询问服务器…</translation>
+    </message>
+    <message id="disksPlaceKeeping">
+        <source></source>
+        <translation>正在设置位置…</translation>
+    </message>
+    <message id="disksPlaceEmpty">
+        <source></source>
+        <translation>可以使用该服务器。那里还没有备份。</translation>
+    </message>
+    <message id="disksPlaceBackups">
+        <source></source>
+        <translation>可以使用该服务器。那里有这台电脑能读取的备份，将继续使用它们。</translation>
+    </message>
+    <message id="disksPlaceWrongKey">
+        <source></source>
+        <translation>那里有这台电脑没有密钥的备份。如果是你的备份，请输入其恢复密钥以继续使用；否则请选择其他位置。</translation>
+    </message>
+    <message id="disksPlaceRecoveryKey">
+        <source></source>
+        <translation>恢复密钥</translation>
+    </message>
+    <message id="disksPlaceFingerprint">
+        <source></source>
+        <translation>服务器密钥的指纹</translation>
+    </message>
+    <message id="disksPlaceUnknownKey">
+        <source></source>
+        <translation>这台电脑还不认识“%1”。请将其密钥的指纹与管理员告诉你的指纹比较，仅在两者相同时信任。</translation>
+    </message>
+    <message id="disksPlaceChangedKey">
+        <source></source>
+        <translation>警告：“%1”出示的密钥与以前不同，可能有人在窃取通信。仅在服务器管理员确认密钥已更换且指纹无误时信任新密钥。</translation>
+    </message>
+    <message id="disksPlaceChangedKeyMessage">
+        <source></source>
+        <translation>要信任“%1”的新密钥吗？</translation>
+    </message>
+    <message id="disksPlaceChangedKeyInformative">
+        <source></source>
+        <translation>如果它不是服务器自己的密钥，发送的内容会落入他人之手。</translation>
+    </message>
+    <message id="disksPlaceBadCertificate">
+        <source></source>
+        <translation>“%1”的证书不受信任，可能是其他服务器。如果是你自己的证书，请将该证书或其颁发者的证书选为证书文件。</translation>
+    </message>
+    <message id="disksPlaceAccessDeniedKey">
+        <source></source>
+        <translation>“%1”拒绝了用户或密钥。请检查两者。公钥必须已在服务器上设置，且密钥文件不能有密码短语。</translation>
+    </message>
+    <message id="disksPlaceAccessDenied">
+        <source></source>
+        <translation>“%1”拒绝访问。请检查填写的用户名和密码，或密钥。</translation>
+    </message>
+    <message id="disksPlaceNoPermission">
+        <source></source>
+        <translation>那里无法写入。请选择服务器上的其他位置，或让管理员授予权限。</translation>
+    </message>
+    <message id="disksPlaceNoAnswer">
+        <source></source>
+        <translation>“%1”没有响应。请检查服务器和端口，以及这台电脑是否已连接网络。</translation>
+    </message>
+    <message id="disksPlaceNoSpace">
+        <source></source>
+        <translation>服务器没有可用空间。请在那里腾出空间，或选择其他位置。</translation>
+    </message>
+    <message id="disksPlaceFailed">
+        <source></source>
+        <translation>无法使用该服务器：%1</translation>
+    </message>
+    <message id="disksPlaceRemoveInformative">
+        <source></source>
+        <translation>那里的备份及其密钥都会保留，服务器的访问信息会被抹掉。再次添加同一位置即可继续使用。</translation>
+    </message>
+    <message id="disksPlaceKeyExplanation">
+        <source></source>
+        <translation>如果这台电脑丢失，凭此密钥和服务器的访问信息可以取回备份。请抄下密钥或将其存储为页面，并与服务器的访问信息一起，与这台电脑分开保管。同时持有两者的人可以读取备份。</translation>
+    </message>
+    <message id="disksPlacePageMade">
+        <source></source>
+        <translation>创建于%1。请将此页与电脑分开保管。同时持有此页和服务器访问信息的人可以读取备份。</translation>
+    </message>
+    <message id="disksPlacePageStart">
+        <source></source>
+        <translation>安装Quillon并启动 %1。</translation>
+    </message>
+    <message id="disksPlacePageAdd">
+        <source></source>
+        <translation>选取“%1”，输入 %2 作为服务器并填写访问信息，然后在询问时输入恢复密钥。</translation>
     </message>
     <!-- Window of the backups on Linux -->
     <message id="browseWindowTitle">
