@@ -45,6 +45,18 @@ std::optional<BackupDisk::Problem> readProblem(const QVariantMap& entry)
     return problem;
 }
 
+/// Whether a server can be reached is not told, for nobody has asked it.
+void readNetwork(const QVariantMap& entry, BackupDisk& disk)
+{
+    disk.path = entry.value(u"URL"_s).toString();
+    disk.present = true;
+    disk.network = {.uploadLimit = numberIn(entry, u"UploadLimit"_s).value_or(0),
+                    .downloadLimit = numberIn(entry, u"DownloadLimit"_s).value_or(0),
+                    .keyFile = entry.value(u"KeyFile"_s).toString(),
+                    .region = entry.value(u"Region"_s).toString(),
+                    .certificate = entry.value(u"CAFile"_s).toString()};
+}
+
 BackupDisk readBackupDisk(const QVariantMap& entry)
 {
     BackupDisk disk{.id = entry.value(u"ID"_s).toString(),
@@ -56,7 +68,10 @@ BackupDisk readBackupDisk(const QVariantMap& entry)
                     .bytesFree = numberIn(entry, u"BytesFree"_s),
                     .bytesTotal = numberIn(entry, u"BytesTotal"_s),
                     .recoveryKeyKept = !entry.contains(u"RecoveryKeyMissing"_s),
-                    .sourceOnDisk = entry.value(u"SourceOnDisk"_s).toString()};
+                    .sourceOnDisk = entry.value(u"SourceOnDisk"_s).toString(),
+                    .network = std::nullopt};
+    if (entry.value(u"Kind"_s).toString() == "Network"_L1)
+        readNetwork(entry, disk);
     if (const QDateTime date = entry.value(u"LastBackup"_s).toDateTime(); date.isValid())
         disk.lastBackup = dateOf(date);
     return disk;
@@ -152,9 +167,22 @@ QString joined(const QStringList& parts)
 
 QString stateOf(const BackupDisk& disk)
 {
-    return joined({localizedString(disk.present ? "disksConnected" : "disksNotConnected"),
-                   disk.lastBackup ? localizedString("disksLastBackup").arg(dateText(*disk.lastBackup))
-                                   : localizedString("disksNoBackupYet")});
+    const QString backup = disk.lastBackup ? localizedString("disksLastBackup").arg(dateText(*disk.lastBackup))
+                                           : localizedString("disksNoBackupYet");
+    return disk.network ? backup
+                        : joined({localizedString(disk.present ? "disksConnected" : "disksNotConnected"), backup});
+}
+
+QString limitsOf(const BackupDisk::Network& network)
+{
+    QStringList parts;
+    const auto add = [&parts](const char* key, qint64 limit) {
+        if (limit > 0)
+            parts.append(localizedString(key).arg(QLocale().toString(limit) + rateUnit));
+    };
+    add("disksPlaceUploadAtMost", network.uploadLimit);
+    add("disksPlaceDownloadAtMost", network.downloadLimit);
+    return joined(parts);
 }
 
 QString roomOf(const BackupDisk& disk, std::optional<qint64> taken)
@@ -192,9 +220,11 @@ ListEntry diskEntry(const BackupDisk& disk, std::optional<qint64> taken)
                     .title = disk.name,
                     .details = {shownLongText(disk.path), stateOf(disk)},
                     .remarks = {},
-                    .symbol = u"externaldrive"_s,
-                    .dimmed = !disk.present};
-    if (const QString room = roomOf(disk, taken); disk.present && !room.isEmpty())
+                    .symbol = disk.network ? u"network"_s : u"externaldrive"_s,
+                    .dimmed = !disk.present,
+                    .editable = disk.network.has_value()};
+    if (const QString room = disk.network ? limitsOf(*disk.network) : roomOf(disk, taken);
+        disk.present && !room.isEmpty())
         entry.details.append(room);
     if (disk.problem)
         entry.remarks.append(problemOf(*disk.problem));

@@ -12,7 +12,7 @@
 
 namespace quillon {
 
-/// A backup disk as tmutil tells of it.
+/// A backup disk, or a place on a server, as tmutil tells of it.
 struct BackupDisk {
     /// What the last backup met with, or what a verification has found.
     struct Problem {
@@ -20,16 +20,26 @@ struct BackupDisk {
         QString description; ///< in tmutil's words
     };
 
+    /// What one on a server has besides; what lets the user in is told only where it is no secret.
+    struct Network {
+        qint64 uploadLimit = 0; ///< KiB a second; 0 for none
+        qint64 downloadLimit = 0;
+        QString keyFile;
+        QString region;
+        QString certificate;
+    };
+
     QString id;
-    QString name; ///< fit to be shown
-    QString path;
-    bool present = false; ///< it is there now
+    QString name;         ///< fit to be shown
+    QString path;         ///< a URL where it is on a server
+    bool present = false; ///< it is there now, as far as that is known
     std::optional<Date> lastBackup;
     std::optional<Problem> problem;
     std::optional<qint64> bytesFree;  ///< of one that is there
     std::optional<qint64> bytesTotal; ///< likewise
     bool recoveryKeyKept = false;
     QString sourceOnDisk; ///< a folder that is backed up to the disk on which it lies itself; empty where there is none
+    std::optional<Network> network;
 };
 
 /// What is left out of backups besides what nobody has to name.
@@ -68,12 +78,16 @@ struct ListEntry {
     QStringList remarks; ///< what is to be noticed; wrapped
     QString symbol;      ///< name of a symbol of ours
     bool dimmed = false;
+    bool editable = false;
 
     bool operator==(const ListEntry&) const = default;
 };
 
 /// A number of bytes in words, in the units that disks are sold by.
 QString sizeText(qint64 bytes);
+
+/// Behind a number of KiB a second.
+inline constexpr QLatin1StringView rateUnit{" KiB/s"};
 
 /// The last part of a path.
 QString shownName(const QString& path);

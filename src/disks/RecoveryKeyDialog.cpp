@@ -52,17 +52,22 @@ QString RecoveryPage::heading() const
 
 QString RecoveryPage::note() const
 {
-    return localizedString("disksPageMade")
+    return localizedString(isPlace ? "disksPlacePageMade" : "disksPageMade")
         .arg(DateFormatter::string(made, DateFormatterStyle::Long, DateFormatterStyle::None));
 }
 
 QStringList RecoveryPage::steps() const
 {
-    return {
-        localizedString("disksPageConnect"), localizedString("disksPageAdopt").arg(u"tmutil adopt "_s + quoted(path)),
-        localizedString("disksPageList").arg(u"tmutil listbackups"_s),
-        localizedString("disksPageRestore").arg(u"tmutil restore \"$(tmutil latestbackup)$HOME/Documents\" restored"_s),
-        localizedString("disksPageContinue").arg(u"tmutil startbackup -b"_s)};
+    // The window asks for what lets one into a server, which no command line may hold.
+    const QStringList begin =
+        isPlace ? QStringList{localizedString("disksPlacePageStart").arg(u"quillon-disks"_s),
+                              localizedString("disksPlacePageAdd").arg(localizedString("disksAddPlaceTitle"), path)}
+                : QStringList{localizedString("disksPageConnect"),
+                              localizedString("disksPageAdopt").arg(u"tmutil adopt "_s + quoted(path))};
+    return begin + QStringList{localizedString("disksPageList").arg(u"tmutil listbackups"_s),
+                               localizedString("disksPageRestore")
+                                   .arg(u"tmutil restore \"$(tmutil latestbackup)$HOME/Documents\" restored"_s),
+                               localizedString("disksPageContinue").arg(u"tmutil startbackup -b"_s)};
 }
 
 QString RecoveryPage::text() const
@@ -140,7 +145,8 @@ RecoveryKeyDialog::RecoveryKeyDialog(RecoveryPage page, const Setup& setup, QWid
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(heading);
-    column->addWidget(makeParagraph(localizedString("disksKeyExplanation")));
+    column->addWidget(
+        makeParagraph(localizedString(page_.isPlace ? "disksPlaceKeyExplanation" : "disksKeyExplanation")));
     column->addWidget(makeKeyField());
     column->addWidget(makeParagraph(localizedString("disksKeyOnce")));
     column->addWidget(makeButtons());

@@ -12,8 +12,9 @@ namespace quillon {
 /// The page with a disk's recovery key that is kept away from the computer: the key, and how everything is had back
 /// with it on another one.
 struct RecoveryPage {
-    QString disk; ///< its name, fit to be shown
-    QString path; ///< where it is mounted
+    QString disk;         ///< its name, fit to be shown
+    QString path;         ///< where it is mounted; its URL where it is on a server
+    bool isPlace = false; ///< it is on a server
     QString key;
     Date made;
 

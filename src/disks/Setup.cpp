@@ -17,7 +17,7 @@ TmutilClient::TmutilClient(TaskLauncher& launcher, RunLoop& runLoop, QString exe
 {
 }
 
-void TmutilClient::call(const QStringList& arguments, const Handler& handler)
+void TmutilClient::call(const QStringList& arguments, const Handler& handler, const std::optional<QByteArray>& input)
 {
     queue_.submit({.command = arguments.first(),
                    .arguments = arguments.mid(1),
@@ -31,7 +31,8 @@ void TmutilClient::call(const QStringList& arguments, const Handler& handler)
                                complaint = toolComplaint(result, executable_);
                            handler({success, result.output.value_or(QByteArray()), complaint, result.status});
                        },
-                   .longest = longestCall_});
+                   .longest = longestCall_,
+                   .input = input});
 }
 
 QString toolComplaint(const TaskResult& result, const QString& executable)
@@ -63,18 +64,29 @@ void Setup::read(const QStringList& arguments, const Reader& reader)
     });
 }
 
-void Setup::change(const QStringList& arguments, const QString& headline, const Reader& then)
+void Setup::change(const QStringList& arguments, const std::optional<QByteArray>& input,
+                   const TmutilClient::Handler& ended)
 {
     changing_ = true;
     Q_EMIT changing(true);
-    tmutil_.call(arguments, [this, headline, then](const TmutilAnswer& answer) {
-        changing_ = false;
-        Q_EMIT changing(false);
+    tmutil_.call(
+        arguments,
+        [this, ended](const TmutilAnswer& answer) {
+            changing_ = false;
+            Q_EMIT changing(false);
+            ended(answer);
+            Q_EMIT changed();
+        },
+        input);
+}
+
+void Setup::change(const QStringList& arguments, const QString& headline, const Reader& then)
+{
+    change(arguments, std::nullopt, [this, headline, then](const TmutilAnswer& answer) {
         if (!answer.success)
             complain(headline, answer.complaint);
         else if (then && !then(answer.output))
             complain(headline, localizedString("disksToolUnreadable"));
-        Q_EMIT changed();
     });
 }
 

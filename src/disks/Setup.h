@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace quillon {
 
@@ -37,7 +38,8 @@ public:
     /// tmutil may be ended at any point: what it writes, it writes whole.
     ~TmutilClient() { queue_.abandon(); }
 
-    void call(const QStringList& arguments, const Handler& handler);
+    /// `input` is what tmutil reads from its standard input, where it is to read something.
+    void call(const QStringList& arguments, const Handler& handler, const std::optional<QByteArray>& input = {});
 
 private:
     QString executable_;
@@ -71,6 +73,10 @@ public:
     bool isBusy() const { return awaitedReads_ > 0 || changing_; }
 
     void read(const QStringList& arguments, const Reader& reader);
+
+    /// `ended` is told ahead of what is read anew.
+    void change(const QStringList& arguments, const std::optional<QByteArray>& input,
+                const TmutilClient::Handler& ended);
 
     /// An alert with that headline says why it has failed. `then` takes what was printed otherwise.
     void change(const QStringList& arguments, const QString& headline, const Reader& then = {});

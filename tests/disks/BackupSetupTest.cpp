@@ -32,8 +32,11 @@ TEST(BackupSetup, ADiskIsShownWithAllThatIsKnownOfIt)
 <dict><key>ID</key><string>B</string><key>Name</key><string>Away</string><key>Path</key><string>/m/2</string>
 <key>BytesFree</key><integer>1</integer><key>BytesTotal</key><integer>2</integer>
 <key>LastFailure</key><dict><key>Description</key><string>Once.</string></dict>
-<key>RecoveryKeyMissing</key><integer>1</integer></dict></array></dict>)"));
-    ASSERT_TRUE(disks && disks->size() == 2);
+<key>RecoveryKeyMissing</key><integer>1</integer></dict>
+<dict><key>ID</key><string>C</string><key>Name</key><string>backups</string><key>Kind</key><string>Network</string>
+<key>URL</key><string>sftp://anna@nas/srv/backups</string><key>UploadLimit</key><integer>512</integer></dict>
+</array></dict>)"));
+    ASSERT_TRUE(disks && disks->size() == 3);
     EXPECT_EQ(disks->front().problem->date, Date(std::chrono::seconds(1'795'245'778)));
     const ScopedEnvironment zone("TZ", "UTC");
     const ScopedEnvironment locale("LC_ALL", "en_US.UTF-8");
@@ -55,7 +58,15 @@ TEST(BackupSetup, ADiskIsShownWithAllThatIsKnownOfIt)
                          .remarks = {u"Once."_s, text("disksKeyNotKept")},
                          .symbol = u"externaldrive"_s,
                          .dimmed = true};
-    EXPECT_EQ(diskEntry(disks->back(), std::nullopt), away);
+    EXPECT_EQ(diskEntry(disks->at(1), std::nullopt), away);
+    const ListEntry place{.id = u"C"_s,
+                          .title = u"backups"_s,
+                          .details = {u"sftp://anna@nas/srv/backups"_s, text("disksNoBackupYet"),
+                                      text("disksPlaceUploadAtMost").arg(u"512 KiB/s"_s)},
+                          .remarks = {},
+                          .symbol = u"network"_s,
+                          .editable = true};
+    EXPECT_EQ(diskEntry(disks->back(), std::nullopt), place) << "whether the server can be reached nobody knows";
 }
 
 TEST(BackupSetup, AnAnswerThatIsNotWholeIsNotTakenForAnEmptyOne)

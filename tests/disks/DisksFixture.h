@@ -122,6 +122,14 @@ protected:
         QTest::mouseClick(shown<QPushButton>(name), Qt::LeftButton);
         runLoop_.advance(1s);
     }
+    QLineEdit* fieldNamed(const QString& accessibleName) const
+    {
+        for (QLineEdit* field : window_->findChildren<QLineEdit*>()) {
+            if (field->isVisible() && field->accessibleName() == accessibleName)
+                return field;
+        }
+        return nullptr;
+    }
     void choose(const QString& file)
     {
         for (QFileDialog* dialog : window_->findChildren<QFileDialog*>()) {

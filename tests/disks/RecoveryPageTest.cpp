@@ -27,6 +27,14 @@ TEST(RecoveryPage, HoldsTheKeyAndCommandsThatAShellTakes)
     }
 }
 
+TEST(RecoveryPage, OfAPlaceOnAServerSaysWhereItIs)
+{
+    RecoveryPage page = pageOf(u"s3:https://s3.example.com/b"_s);
+    page.isPlace = true;
+    EXPECT_TRUE(page.text().contains(u"enter s3:https://s3.example.com/b as"_s)) << page.text().toStdString();
+    EXPECT_FALSE(page.text().contains(u"tmutil adopt"_s)) << "it would have to hold what lets one in";
+}
+
 TEST(RecoveryPage, IsSavedWholeAndForTheUserAlone)
 {
     const QTemporaryDir folder;

@@ -1,6 +1,7 @@
 #include "DisksPage.h"
 
 #include "LocalizedString.h"
+#include "NetworkPlaceDialog.h"
 #include "RecoveryKeyDialog.h"
 #include "Setup.h"
 
@@ -47,6 +48,7 @@ DisksPage::DisksPage(Setup& setup, const QString& lsblk, QWidget* parent)
     , usage_(setup.services().launcher, setup.services().runLoop, setup.services().tmutil, longestMeasuring)
 {
     auto* menu = new QMenu(this);
+    menu->setObjectName(u"addDisk"_s);
     addButton(localizedString("disksAddDiskTitle"))->setMenu(menu);
     QPushButton* folder = addButton(panelTitle("disksAddFolderTitle"));
     connect(menu, &QMenu::aboutToShow, this, [this, menu] { fillMenu(*menu); });
@@ -54,6 +56,7 @@ DisksPage::DisksPage(Setup& setup, const QString& lsblk, QWidget* parent)
         choose(localizedString("disksAddFolderTitle"), false, [this](const QString& path) { add(path); });
     });
     connect(this, &ListPage::removeRequested, this, &DisksPage::confirmRemoval);
+    connect(this, &ListPage::editRequested, this, &DisksPage::editPlace);
     addBar(makeKeyBar());
 }
 
@@ -117,7 +120,7 @@ void DisksPage::measure()
 {
     QStringList wanted;
     for (const BackupDisk& disk : disks_) {
-        if (disk.present)
+        if (disk.present && !disk.network)
             wanted << disk.id << QString::number(disk.lastBackup.value_or(Date()).time_since_epoch().count());
     }
     if (std::exchange(measured_, wanted) == wanted || wanted.isEmpty())
@@ -142,24 +145,50 @@ void DisksPage::fillMenu(QMenu& menu)
     }
     if (menu.isEmpty())
         menu.addAction(localizedString(whyNoDisk(mountedDisks_.state())))->setEnabled(false);
+    menu.addSeparator();
+    QAction* place = menu.addAction(panelTitle("disksAddPlaceTitle"));
+    place->setObjectName(u"addPlace"_s);
+    connect(place, &QAction::triggered, this, &DisksPage::addPlace);
+}
+
+QStringList DisksPage::ids() const
+{
+    QStringList ids;
+    for (const BackupDisk& disk : disks_)
+        ids.append(disk.id);
+    return ids;
+}
+
+void DisksPage::addPlace()
+{
+    auto* dialog = new NetworkPlaceDialog(setup_, std::nullopt, this);
+    connect(dialog, &NetworkPlaceDialog::kept, this, [this] { idsBeforeAddition_ = ids(); });
+    dialog->open();
+}
+
+void DisksPage::editPlace(const QString& id)
+{
+    const auto place = std::ranges::find(disks_, id, &BackupDisk::id);
+    if (place != disks_.end())
+        (new NetworkPlaceDialog(setup_, *place, this))->open();
 }
 
 void DisksPage::add(const QString& path)
 {
-    QStringList before;
-    for (const BackupDisk& disk : disks_)
-        before.append(disk.id);
     setup_.change({u"setdestination"_s, u"-a"_s, u"--"_s, path}, localizedString("disksAddFailed").arg(shownName(path)),
-                  [this, before](const QByteArray&) {
-                      idsBeforeAddition_ = before;
+                  [this](const QByteArray&) {
+                      idsBeforeAddition_ = ids();
                       return true;
                   });
 }
 
 void DisksPage::confirmRemoval(const QString& id, const QString& name)
 {
+    const auto disk = std::ranges::find(disks_, id, &BackupDisk::id);
+    const bool isPlace = disk != disks_.end() && disk->network;
     setup_.confirm(
-        localizedString("disksRemoveAlertMessage").arg(name), localizedString("disksRemoveAlertInformative"),
+        localizedString("disksRemoveAlertMessage").arg(name),
+        localizedString(isPlace ? "disksPlaceRemoveInformative" : "disksRemoveAlertInformative"),
         localizedString("disksRemoveTitle"), [this, id, name] {
             setup_.change({u"removedestination"_s, u"--"_s, id}, localizedString("disksRemoveFailed").arg(name));
         });
@@ -185,8 +214,12 @@ void DisksPage::offerRecoveryKey(const BackupDisk& disk)
 
 void DisksPage::showRecoveryKey(const BackupDisk& disk, const RecoveryKey& key)
 {
-    auto* dialog = new RecoveryKeyDialog(
-        {.disk = disk.name, .path = disk.path, .key = key.key, .made = setup_.services().runLoop.now()}, setup_, this);
+    auto* dialog = new RecoveryKeyDialog({.disk = disk.name,
+                                          .path = disk.path,
+                                          .isPlace = disk.network.has_value(),
+                                          .key = key.key,
+                                          .made = setup_.services().runLoop.now()},
+                                         setup_, this);
     connect(dialog, &RecoveryKeyDialog::kept, this, [this, disk, identifier = key.identifier] {
         setup_.change({u"recoverykey"_s, u"--kept"_s, identifier, u"-d"_s, disk.id},
                       localizedString("disksKeepFailed").arg(disk.name));

@@ -18,7 +18,8 @@ namespace quillon {
 
 class Setup;
 
-/// The backup disks: what is on them, what went wrong with them, and whether the user has their recovery keys.
+/// The backup disks and places on servers: what is on them, what went wrong with them, and whether the user has their
+/// recovery keys.
 class DisksPage final : public ListPage {
     Q_OBJECT
 
@@ -35,6 +36,9 @@ private:
     void measure();
     void fillMenu(QMenu& menu);
     void add(const QString& path);
+    void addPlace();
+    void editPlace(const QString& id);
+    QStringList ids() const;
     void confirmRemoval(const QString& id, const QString& name);
     const BackupDisk* diskWithoutKey() const;
     void offerRecoveryKey(const BackupDisk& disk);

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -18,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int idRole = Qt::UserRole;
+constexpr int editableRole = Qt::UserRole + 5; // behind those of EntryDelegate
 
 QLabel* makeSentence(const QString& text)
 {
@@ -72,6 +75,7 @@ ListPage::ListPage(const QString& name, const QString& explanation, QWidget* par
     , emptyLabel_(makeSentence(localizedString("disksReading")))
     , column_(new QVBoxLayout(this))
     , buttons_(new QHBoxLayout)
+    , editButton_(new QPushButton(panelTitle("disksEditTitle")))
     , removeButton_(new QPushButton(localizedString("disksRemoveTitle")))
 {
     list_->setAccessibleName(name);
@@ -84,18 +88,22 @@ ListPage::ListPage(const QString& name, const QString& explanation, QWidget* par
     overlay->setContentsMargins(32, 16, 32, 16);
     overlay->addWidget(emptyLabel_);
 
+    editButton_->setObjectName(u"edit"_s);
     removeButton_->setObjectName(u"remove"_s);
     buttons_->addStretch();
+    buttons_->addWidget(editButton_);
     buttons_->addWidget(removeButton_);
 
     column_->addWidget(makeSentence(explanation));
     column_->addWidget(list_, 1);
     column_->addLayout(buttons_);
 
+    connect(editButton_, &QPushButton::clicked, this, &ListPage::editSelected);
     connect(removeButton_, &QPushButton::clicked, this, &ListPage::removeSelected);
-    connect(list_, &QListWidget::itemSelectionChanged, this, &ListPage::updateRemoveButton);
+    connect(list_, &QListWidget::itemDoubleClicked, this, &ListPage::editSelected);
+    connect(list_, &QListWidget::itemSelectionChanged, this, &ListPage::updateEntryButtons);
     list_->installEventFilter(this);
-    updateRemoveButton();
+    updateEntryButtons();
 }
 
 QPushButton* ListPage::addButton(const QString& title)
@@ -104,7 +112,8 @@ QPushButton* ListPage::addButton(const QString& title)
     buttons_->insertWidget(static_cast<int>(addButtons_.size()), button);
     // The order of the keyboard is that of the eye.
     setTabOrder(addButtons_.empty() ? static_cast<QWidget*>(list_) : addButtons_.back(), button);
-    setTabOrder(button, removeButton_);
+    setTabOrder(button, editButton_);
+    setTabOrder(editButton_, removeButton_);
     addButtons_.push_back(button);
     return button;
 }
@@ -122,6 +131,7 @@ void ListPage::setEntries(const std::vector<ListEntry>& entries, const QString& 
     for (const ListEntry& entry : entries) {
         auto* item = new QListWidgetItem(entry.title, list_);
         item->setData(idRole, entry.id);
+        item->setData(editableRole, entry.editable);
         item->setData(EntryDelegate::symbolRole, entry.symbol);
         item->setData(EntryDelegate::detailsRole, entry.details);
         item->setData(EntryDelegate::remarksRole, entry.remarks);
@@ -131,7 +141,7 @@ void ListPage::setEntries(const std::vector<ListEntry>& entries, const QString& 
         if (entry.id == selected)
             list_->setCurrentItem(item);
     }
-    updateRemoveButton();
+    updateEntryButtons();
 }
 
 void ListPage::setChangeable(bool changeable)
@@ -144,7 +154,7 @@ void ListPage::setChangeable(bool changeable)
         for (QPushButton* button : buttons)
             button->setEnabled(changeable);
     }
-    updateRemoveButton();
+    updateEntryButtons();
 }
 
 void ListPage::addBar(QWidget* bar)
@@ -197,6 +207,12 @@ bool ListPage::selectSomething()
     return true;
 }
 
+void ListPage::editSelected()
+{
+    if (editButton_->isEnabled())
+        Q_EMIT editRequested(list_->selectedItems().first()->data(idRole).toString());
+}
+
 void ListPage::removeSelected()
 {
     const auto selected = list_->selectedItems();
@@ -204,9 +220,14 @@ void ListPage::removeSelected()
         Q_EMIT removeRequested(selected.first()->data(idRole).toString(), selected.first()->text());
 }
 
-void ListPage::updateRemoveButton()
+void ListPage::updateEntryButtons()
 {
-    removeButton_->setEnabled(changeable_ && !list_->selectedItems().isEmpty());
+    const auto selected = list_->selectedItems();
+    const bool canChange = changeable_ && !selected.isEmpty();
+    const auto isEditable = [](const ListEntry& entry) { return entry.editable; };
+    editButton_->setVisible(std::ranges::any_of(entries_, isEditable));
+    editButton_->setEnabled(canChange && selected.first()->data(editableRole).toBool());
+    removeButton_->setEnabled(canChange);
 }
 
 } // namespace quillon

@@ -37,7 +37,7 @@ public:
 /// The title of what opens a panel; it ends in an ellipsis, which string tables leave to the code.
 QString panelTitle(const char* key);
 
-/// A list with a sentence above it and buttons below that add and remove entries. Emptiness has a sentence too.
+/// A list with a sentence above it and buttons below that add, edit and remove entries. Emptiness has a sentence too.
 class ListPage : public QWidget {
     Q_OBJECT
 
@@ -56,6 +56,7 @@ public:
 
 Q_SIGNALS:
     void removeRequested(const QString& id, const QString& title);
+    void editRequested(const QString& id);
 
 protected:
     /// Puts it between the list and the buttons. While something is changed its buttons are disabled.
@@ -69,13 +70,15 @@ protected:
 
 private:
     bool selectSomething();
+    void editSelected();
     void removeSelected();
-    void updateRemoveButton();
+    void updateEntryButtons();
 
     QListWidget* list_;
     QLabel* emptyLabel_;
     QVBoxLayout* column_;
     QHBoxLayout* buttons_;
+    QPushButton* editButton_; ///< there where an entry can be edited
     QPushButton* removeButton_;
     std::vector<QPushButton*> addButtons_;
     std::vector<QPushButton*> barButtons_;
