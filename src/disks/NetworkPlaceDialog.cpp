@@ -45,7 +45,9 @@ QLineEdit* makeKeyField(const char* name, const char* title)
     auto* field = new QLineEdit;
     field->setObjectName(QLatin1StringView(name));
     field->setAccessibleName(localizedString(title));
-    field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(field->font().pointSizeF()); // that font does not follow larger texts
+    field->setFont(font);
     field->hide();
     return field;
 }

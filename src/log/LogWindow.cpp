@@ -21,7 +21,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace quillon {
@@ -127,10 +126,6 @@ void LogWindow::prepareList()
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list_->header()->setStretchLastSection(false);
     list_->header()->setSectionsMovable(false);
-    constexpr std::array characters{30, 14, 18, 24, 12, 12};
-    for (int section = 0; section < model_.columnCount(); ++section)
-        list_->header()->resizeSection(section, characters.at(static_cast<std::size_t>(section)) *
-                                                    fontMetrics().averageCharWidth());
     list_->header()->setSectionResizeMode(LogModel::Disk, QHeaderView::Stretch);
     empty_->setObjectName(u"emptyLog"_s);
     empty_->setAlignment(Qt::AlignCenter);
@@ -190,6 +185,17 @@ void LogWindow::reload()
     showDays(entries_);
     showDisks(entries_);
     showEntries();
+    fitColumns();
+}
+
+/// To what is in sight; the column of the disks takes what is left.
+void LogWindow::fitColumns()
+{
+    const int space = 2 * fontMetrics().averageCharWidth();
+    for (const int column : {LogModel::When, LogModel::Outcome, LogModel::Cause, LogModel::Size, LogModel::Duration}) {
+        list_->resizeColumnToContents(column);
+        list_->setColumnWidth(column, list_->columnWidth(column) + space);
+    }
 }
 
 void LogWindow::showDays(const std::vector<LedgerEntry>& entries)

@@ -42,6 +42,7 @@ private:
     void fitToScreen();
 
     void reload();
+    void fitColumns();
     void showDisks(const std::vector<LedgerEntry>& entries);
     void showDays(const std::vector<LedgerEntry>& entries);
     void showEntries();

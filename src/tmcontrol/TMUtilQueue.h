@@ -50,7 +50,7 @@ public:
         std::function<void(const std::optional<QByteArray>&)> parse{};
         /// Takes the end of the child whole, with its standard error; `tooSlow` of one that was killed for its time.
         std::function<void(const TaskResult& result, bool tooSlow)> ended{};
-        std::optional<Seconds> longest{}; ///< how long the child may run, where the command's own limit does not fit
+        std::optional<Seconds> longest{};  ///< how long the child may run, where the command's own limit does not fit
         std::optional<QByteArray> input{}; ///< what the child reads from its standard input, where it is to read
     };
 

@@ -4,6 +4,7 @@
 #include "MemoryLedger.h"
 #include "VirtualRunLoop.h"
 
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
