@@ -4,6 +4,7 @@
 #include "VirtualRunLoop.h"
 
 #include <QDateTime>
+#include <QMap>
 #include <QVariantMap>
 
 namespace quillon {
@@ -38,12 +39,36 @@ QVariantList disks()
                                {u"Description"_s, u"The backup disk \"Büro & Archiv\" is full, and nothing can be "
                                                   "removed from it without losing the last complete backup."_s}});
     return {disk(u"Studio Disk"_s, studio), disk(u"Büro & Archiv"_s, archive),
-            disk(u"Travel"_s, {{u"LastBackup"_s, lastBackup.addDays(-40)}})};
+            disk(u"Travel"_s, {{u"LastBackup"_s, lastBackup.addDays(-40)}}),
+            disk(u"backups"_s, {{u"Kind"_s, u"Network"_s},
+                                {u"URL"_s, u"rest:https://anna@nas.example.org:8000/backups"_s},
+                                {u"LastBackup"_s, lastBackup},
+                                {u"CAFile"_s, u"/home/you/nas.pem"_s},
+                                {u"UploadLimit"_s, 512LL},
+                                {u"DownloadLimit"_s, 2048LL}})};
+}
+
+/// What servers answer, by their names.
+QVariantMap answerOf(const QString& url)
+{
+    static const QMap<QString, QString> causes{{u"first"_s, u"UnknownHostKey"_s},
+                                               {u"changed"_s, u"ChangedHostKey"_s},
+                                               {u"self-signed"_s, u"BadCertificate"_s},
+                                               {u"known"_s, u"WrongKey"_s}};
+    const QVariantMap key{{u"Type"_s, u"ssh-ed25519"_s},
+                          {u"Fingerprint"_s, u"SHA256:nThbg6kXUpJWGl7E1IGOCspRomTxdCARLviKw6E5SY8"_s}};
+    for (const auto& [name, cause] : causes.asKeyValueRange()) {
+        if (url.contains(name + u".example.org"_s))
+            return {{u"Cause"_s, cause}, {u"HostKey"_s, key}};
+    }
+    return {{u"Contents"_s, u"Empty"_s}};
 }
 
 QVariant answerTo(const QStringList& arguments)
 {
     const QString& command = arguments.first();
+    if (command == "setdestination"_L1)
+        return answerOf(arguments.last());
     if (command == "destinationinfo"_L1)
         return QVariantMap{{u"Destinations"_s, disks()}};
     if (command == "diskusage"_L1)
@@ -74,8 +99,11 @@ PlayedDisks::~PlayedDisks() = default;
 TmutilScript::Call PlayedDisks::behaviour(const TaskRequest& request)
 {
     TmutilScript::Call call;
-    if (request.executable == "tmutil"_L1)
-        call.output = propertylist::toXml(answerTo(request.arguments)).value();
+    if (request.executable == "tmutil"_L1) {
+        const QVariant answer = answerTo(request.arguments);
+        call.output = propertylist::toXml(answer).value();
+        call.status = answer.toMap().contains(u"Cause"_s) ? 1 : 0;
+    }
     return call;
 }
 

@@ -7,7 +7,8 @@
 
 namespace quillon {
 
-/// The window of disks over a tmutil that is played: three disks, one with a failure, one that is away.
+/// The window of disks over a tmutil that is played: three disks, one with a failure, one that is away,
+/// and a place on a server.
 class PlayedDisks final : public VirtualLauncher {
 public:
     PlayedDisks(VirtualRunLoop& runLoop, AlertPresenter& alerts);

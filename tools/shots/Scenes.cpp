@@ -2,6 +2,7 @@
 
 #include "AppDelegate.h"
 #include "Cirrel.h"
+#include "NetworkPlace.h"
 #include "ScopedEnvironment.h"
 #include "StoredAndSentNames.h"
 
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QTreeView>
 #include <QTreeWidget>
 
@@ -119,6 +121,32 @@ void addExclusion(Stage& stage, const char* key)
 {
     stage.openDisks(Exclusions).findChild<QAction*>(QLatin1StringView(key))->trigger();
     stage.program().runLoop.advance(Seconds(1));
+}
+
+/// Fills in the fields of a new place on a server, asks the server where `asks`, and looks what it answers.
+void addPlace(Stage& stage, const NetworkPlace& place, bool asks)
+{
+    auto* const menu = stage.openDisks(Disks).findChild<QMenu*>(u"addDisk"_s);
+    Q_EMIT menu->aboutToShow();
+    menu->findChild<QAction*>(u"addPlace"_s)->trigger();
+    stage.choose("kind", static_cast<int>(place.kind));
+    const QWidget* const dialog = QApplication::activeModalWidget();
+    for (const auto& [field, text] : place.texts.asKeyValueRange()) {
+        for (QLineEdit* edit : dialog->findChildren<QLineEdit*>()) {
+            if (edit->accessibleName() == fieldTitle(field, place.kind))
+                edit->setText(text);
+        }
+    }
+    if (asks)
+        stage.press("goOn");
+    stage.program().runLoop.advance(Seconds(1));
+}
+
+/// At an SFTP server of that name.
+void askServer(Stage& stage, const QString& server)
+{
+    using enum NetworkPlace::Field;
+    addPlace(stage, {.texts = {{Server, server}, {Path, u"/srv/backups"_s}, {User, u"anna"_s}}}, true);
 }
 
 /// The home folder as it was forty days ago, with the file chosen that was changed since.
@@ -237,6 +265,38 @@ constexpr std::array scenes{
               stage.program().runLoop.advance(Seconds(1));
           }},
     Scene{"disks-size", [](Stage& stage) { addExclusion(stage, "disksAddSizeTitle"); }},
+    Scene{"disks-place", [](Stage& stage) { addPlace(stage, {}, false); }},
+    Scene{"disks-place-rest",
+          [](Stage& stage) {
+              using enum NetworkPlace::Field;
+              addPlace(stage,
+                       {.kind = NetworkPlace::Kind::Rest,
+                        .texts = {{Server, u"self-signed.example.org"_s},
+                                  {Port, u"8000"_s},
+                                  {User, u"anna"_s},
+                                  {Password, u"secret"_s}}},
+                       true);
+          }},
+    Scene{"disks-place-s3",
+          [](Stage& stage) {
+              using enum NetworkPlace::Field;
+              addPlace(stage,
+                       {.kind = NetworkPlace::Kind::S3,
+                        .texts = {{Server, u"s3.example.com"_s},
+                                  {Path, u"backups"_s},
+                                  {AccessKey, u"AKEXAMPLE"_s},
+                                  {SecretKey, u"secret"_s}}},
+                       true);
+          }},
+    Scene{"disks-place-host-key", [](Stage& stage) { askServer(stage, u"first.example.org"_s); }},
+    Scene{"disks-place-changed-key", [](Stage& stage) { askServer(stage, u"changed.example.org"_s); }},
+    Scene{"disks-place-take-up", [](Stage& stage) { askServer(stage, u"known.example.org"_s); }},
+    Scene{"disks-place-edit",
+          [](Stage& stage) {
+              for (auto* list : stage.openDisks(Disks).findChildren<QListWidget*>())
+                  list->setCurrentRow(list->count() - 1);
+              stage.press("edit");
+          }},
     Scene{"backups", [](Stage& stage) { chooseOldFile(stage); }},
     Scene{"backups-search",
           [](Stage& stage) {
