@@ -333,6 +333,23 @@
         <source></source>
         <translation>Abbrechen</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>Das Programm „before“ hat den Start des Backups verhindert.</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>„%1“ wurde nicht ausgeführt. Es muss eine ausführbare Datei sein, die nur du ändern kannst, in einem Ordner, den nur du ändern kannst.</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>„%1“ wurde nach zehn Minuten beendet.</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>„%1“ endete mit Status %2.</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

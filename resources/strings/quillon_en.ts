@@ -333,6 +333,23 @@
         <source></source>
         <translation>Cancel</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>The program “before” kept the backup from starting.</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>“%1” was not run. It has to be an executable file that only you can change, in a folder that only you can change.</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>“%1” was ended after ten minutes.</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>“%1” ended with exit status %2.</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

@@ -333,6 +333,23 @@
         <source></source>
         <translation>Cancelar</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>El programa «before» ha impedido que se iniciara la copia de seguridad.</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>«%1» no se ha ejecutado. Debe ser un archivo ejecutable que solo tú puedas modificar, en una carpeta que solo tú puedas modificar.</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>«%1» se ha detenido al cabo de diez minutos.</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>«%1» ha terminado con el estado de salida %2.</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

@@ -333,6 +333,23 @@
         <source></source>
         <translation>Annuler</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>Le programme « before » a empêché le démarrage de la sauvegarde.</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>« %1 » n’a pas été exécuté. Ce doit être un fichier exécutable que vous seul pouvez modifier, dans un dossier que vous seul pouvez modifier.</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>« %1 » a été arrêté au bout de dix minutes.</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>« %1 » s’est terminé avec le code de sortie %2.</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

@@ -333,6 +333,23 @@
         <source></source>
         <translation>Annulla</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>Il programma “before” ha impedito l’avvio del backup.</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>“%1” non è stato eseguito. Deve essere un file eseguibile che solo tu puoi modificare, in una cartella che solo tu puoi modificare.</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>“%1” è stato terminato dopo dieci minuti.</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>“%1” è terminato con stato di uscita %2.</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

@@ -333,6 +333,23 @@
         <source></source>
         <translation>キャンセル</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>プログラム「before」によりバックアップは開始されませんでした。</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>「%1」は実行されませんでした。自分だけが変更できるフォルダにある、自分だけが変更できる実行可能ファイルである必要があります。</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>「%1」は10分後に終了されました。</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>「%1」は終了ステータス%2で終了しました。</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

@@ -333,6 +333,23 @@
         <source></source>
         <translation>Annuleer</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>Het programma ‘before’ heeft de start van de reservekopie tegengehouden.</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>‘%1’ is niet uitgevoerd. Het moet een uitvoerbaar bestand zijn dat alleen jij kunt wijzigen, in een map die alleen jij kunt wijzigen.</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>‘%1’ is na tien minuten beëindigd.</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>‘%1’ eindigde met afsluitstatus %2.</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

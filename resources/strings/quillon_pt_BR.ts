@@ -333,6 +333,23 @@
         <source></source>
         <translation>Cancelar</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>O programa “before” impediu o início do backup.</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>“%1” não foi executado. É preciso que seja um arquivo executável que só você possa alterar, em uma pasta que só você possa alterar.</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>“%1” foi encerrado após dez minutos.</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>“%1” terminou com o status de saída %2.</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

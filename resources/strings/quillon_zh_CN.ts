@@ -333,6 +333,23 @@
         <source></source>
         <translation>取消</translation>
     </message>
+    <!-- The user’s own programs -->
+    <message id="hookStoppedBackupMessage">
+        <source></source>
+        <translation>程序“before”阻止了备份开始。</translation>
+    </message>
+    <message id="hookNotRunMessage">
+        <source></source>
+        <translation>未运行“%1”。它必须是只有你能更改的可执行文件，并位于只有你能更改的文件夹中。</translation>
+    </message>
+    <message id="hookTooLongMessage">
+        <source></source>
+        <translation>“%1”在十分钟后被终止。</translation>
+    </message>
+    <message id="hookStatusMessage">
+        <source></source>
+        <translation>“%1”已结束，退出状态为 %2。</translation>
+    </message>
     <!-- Notifications of the desktop -->
     <message id="backupFailedTitle">
         <source></source>

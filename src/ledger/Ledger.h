@@ -43,6 +43,7 @@ struct LedgerEntry {
         StoppedElsewhere, ///< not by Quillon
         NeverReported,    ///< the run, by Time Machine
         NotFollowed,      ///< Quillon ended ahead of the run
+        HookFailed,       ///< the user's own program ahead of the start; `detail` is its last line
     };
 
     std::int64_t id = 0; ///< 0 until it is written for the first time
@@ -51,7 +52,7 @@ struct LedgerEntry {
     Outcome outcome = Outcome::Running;
     Reason reason = Reason::None;
     std::optional<std::int32_t> exitStatus{}; ///< of the tool that refused the start
-    QString detail{};                         ///< the tool's own words
+    QString detail{};                         ///< the tool's own words, and those of the user's own programs
     std::optional<Date> began{};
     std::optional<Date> ended{};
     QString diskIdentifier{};

@@ -105,10 +105,25 @@ void BackupCommands::requestStop()
 
 void BackupCommands::requestStart(const QString& identifier, bool rotateBackupDisks)
 {
-    const LedgerEntry start{
+    const LedgerEntry wanted{
         .date = services_.runLoop.now(), .cause = LedgerEntry::Cause::User, .diskIdentifier = identifier};
+    services_.hooks.run(Hooks::Event::Before, wanted, this, [=, this](const Hooks::Result& before) {
+        LedgerEntry entry = wanted;
+        entry.detail = before.words;
+        if (before.succeeded) {
+            startNow(entry, rotateBackupDisks);
+            return;
+        }
+        answer(entry, LedgerEntry::Outcome::Skipped, LedgerEntry::Reason::HookFailed);
+        services_.runLoop.enqueue([this, words = before.words] { tellOfHook(words); });
+        settle();
+    });
+}
+
+void BackupCommands::startNow(const LedgerEntry& start, bool rotateBackupDisks)
+{
     services_.tmutil.startBackupOnDiskWithIdentifier(
-        identifier, rotateBackupDisks, [this, start](std::int32_t exitStatus, bool success) {
+        start.diskIdentifier, rotateBackupDisks, [this, start](std::int32_t exitStatus, bool success) {
             if (success) {
                 // The backup that a waiting start was to begin begins now.
                 if (const auto waiting = std::exchange(waitingStart_, std::nullopt))
@@ -153,6 +168,15 @@ void BackupCommands::tellOfFailedStart(std::int32_t exitStatus)
     services_.alerts.present(warning, {});
 }
 
+void BackupCommands::tellOfHook(const QString& words)
+{
+    AlertRequest warning;
+    warning.messageText = localizedString("AlertTitleWarning");
+    warning.informativeText = localizedString("hookStoppedBackupMessage") + u"\n\n"_s + words;
+    warning.buttons = {localizedString("AlertButtonClose")};
+    services_.alerts.present(warning, {});
+}
+
 void BackupCommands::startScheduledBackup()
 {
     using Cause = LedgerEntry::Cause;
@@ -190,17 +214,33 @@ void BackupCommands::answerScheduledStart(const TMStatus& status, const Schedule
     }
     // A run that has ended since the last poll is to be recorded before the next one begins.
     services_.follower.take(status, BackupRun::Asked::ByCommand);
-    services_.tmutil.startBackupOnDiskWithIdentifier(
-        {}, rotateBackupDisks(), [this, start = scheduled.start](std::int32_t exitStatus, bool success) {
-            if (success) {
-                services_.follower.startAccepted();
-                answer(start, LedgerEntry::Outcome::Running);
-                Q_EMIT scheduledBackupStarts();
-            } else {
-                answerRefusal(start, exitStatus);
-            }
-            settle();
-        });
+    services_.hooks.run(Hooks::Event::Before, scheduled.start, this,
+                        [this, scheduled](const Hooks::Result& before) { answerHook(before, scheduled); });
+}
+
+/// It may have taken minutes.
+void BackupCommands::answerHook(const Hooks::Result& before, const ScheduledStart& scheduled)
+{
+    using Reason = LedgerEntry::Reason;
+    ScheduledStart next = scheduled;
+    next.start.detail = before.words;
+    const bool isReported = services_.follower.run().isReported();
+    if (!before.succeeded || isReported || scheduled.switches != switchesNow()) {
+        skip(next, !before.succeeded ? Reason::HookFailed : isReported ? Reason::BackupRan : Reason::SettingsChanged);
+        settle();
+        return;
+    }
+    services_.tmutil.startBackupOnDiskWithIdentifier({}, rotateBackupDisks(),
+                                                     [this, start = next.start](std::int32_t exitStatus, bool success) {
+                                                         if (success) {
+                                                             services_.follower.startAccepted();
+                                                             answer(start, LedgerEntry::Outcome::Running);
+                                                             Q_EMIT scheduledBackupStarts();
+                                                         } else {
+                                                             answerRefusal(start, exitStatus);
+                                                         }
+                                                         settle();
+                                                     });
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "AlertPresenter.h"
 #include "DataManager.h"
+#include "Hooks.h"
 #include "Ledger.h"
 #include "RunFollower.h"
 #include "UserDefaults.h"
@@ -43,6 +44,7 @@ public:
         AlertPresenter& alerts;
         TMUtil& tmutil;
         RunFollower& follower;
+        Hooks& hooks;
     };
 
     explicit BackupCommands(const Services& services);
@@ -91,9 +93,12 @@ private:
     void answerBackupNow(const TMStatus& status, bool offeredToStop);
     void requestStop();
     void requestStart(const QString& identifier, bool rotateBackupDisks);
+    void startNow(const LedgerEntry& start, bool rotateBackupDisks);
     void tellOfFailedStart(std::int32_t exitStatus);
+    void tellOfHook(const QString& words);
     void askForScheduledStart(const ScheduledStart& scheduled);
     void answerScheduledStart(const TMStatus& status, const ScheduledStart& scheduled);
+    void answerHook(const Hooks::Result& before, const ScheduledStart& scheduled);
 
     Services services_;
     bool isUnderWay_ = false;

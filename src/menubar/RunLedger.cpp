@@ -18,6 +18,33 @@ namespace {
 // A run that Quillon has left behind and one that it finds later may be two.
 constexpr auto longestAbsence = 24h;
 
+// Entries that come while a hook runs, at the most.
+constexpr int recently = 200;
+
+QString joined(const QString& words, const QString& more)
+{
+    return words.isEmpty() || more.isEmpty() ? words + more : words + u'\n' + more;
+}
+
+std::optional<Hooks::Event> eventOf(Outcome outcome)
+{
+    switch (outcome) {
+    case Outcome::Completed:
+        return Hooks::Event::Completed;
+    case Outcome::Failed:
+    case Outcome::Refused:
+        return Hooks::Event::Failed;
+    case Outcome::Skipped:
+    case Outcome::Missed:
+        return Hooks::Event::Skipped;
+    case Outcome::Running:
+    case Outcome::Stopped:
+    case Outcome::Unseen:
+        break;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 RunLedger::RunLedger(const Services& services)
@@ -125,7 +152,7 @@ void RunLedger::endRun(const BackupRun::End& end)
     entry_->ended = services_.runLoop.now();
     if (end.bytes > 0)
         entry_->bytes = end.bytes;
-    entry_->detail = end.failure;
+    entry_->detail = joined(entry_->detail, end.failure);
     entry_->diskIdentifier = end.disk.value_or(entry_->diskIdentifier);
     if (!end.failed())
         conclude(end.completed ? Outcome::Completed : Outcome::Stopped, Reason::None);
@@ -158,6 +185,29 @@ void RunLedger::write(std::span<LedgerEntry> entries)
             entry.diskName = disk->name;
     }
     services_.ledger.write(entries, services_.runLoop.now());
+    runHook(entries.back()); // one will do for all that a long sleep has passed
+}
+
+void RunLedger::runHook(const LedgerEntry& entry)
+{
+    if (const auto event = eventOf(entry.outcome)) {
+        services_.hooks.run(*event, entry, this,
+                            [this, entry](const Hooks::Result& result) { addWords(entry, result.words); });
+    }
+}
+
+/// Unless something else has become of it meanwhile.
+void RunLedger::addWords(const LedgerEntry& of, const QString& words)
+{
+    if (words.isEmpty())
+        return;
+    auto entries =
+        services_.ledger.read({.outcome = of.outcome, .most = recently}).value_or(std::vector<LedgerEntry>());
+    const auto entry = std::ranges::find(entries, of.id, &LedgerEntry::id);
+    if (entry == entries.end())
+        return;
+    entry->detail = joined(entry->detail, words);
+    services_.ledger.write({&*entry, 1}, services_.runLoop.now());
 }
 
 } // namespace quillon

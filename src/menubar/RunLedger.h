@@ -2,6 +2,7 @@
 
 #include "DataManager.h"
 #include "DisksInMenu.h"
+#include "Hooks.h"
 #include "Ledger.h"
 #include "RunFollower.h"
 #include "RunLoop.h"
@@ -15,8 +16,9 @@
 
 namespace quillon {
 
-/// Notes in the ledger what became of every start and every run: hears of what others have decided, and decides
-/// nothing. Its slots come behind those that act on the same signal, so that what is planned next is known.
+/// Notes in the ledger what became of every start and every run, and runs the user's own program for it: hears of what
+/// others have decided, and decides nothing. Its slots come behind those that act on the same signal, so that what is
+/// planned next is known.
 class RunLedger final : public QObject {
     Q_OBJECT
 
@@ -28,6 +30,7 @@ public:
         RunFollower& follower;
         const DisksInMenu& disks; ///< for their names
         Ledger& ledger;
+        Hooks& hooks;
     };
 
     explicit RunLedger(const Services& services);
@@ -45,6 +48,8 @@ private:
     void endRun(const BackupRun::End& end);
     void conclude(LedgerEntry::Outcome outcome, LedgerEntry::Reason reason);
     void write(std::span<LedgerEntry> entries);
+    void runHook(const LedgerEntry& entry);
+    void addWords(const LedgerEntry& of, const QString& words);
     void writeEntry() { write({&*entry_, 1}); }
 
     Services services_;

@@ -14,8 +14,8 @@ StatusMenuController::StatusMenuController(const Services& services)
     : services_(services)
     , statusMenu_(services.runLoop)
     , follower_(services.runLoop, services.tmutil)
-    , commands_(
-          {services.runLoop, services.defaults, services.dataManager, services.alerts, services.tmutil, follower_})
+    , commands_({services.runLoop, services.defaults, services.dataManager, services.alerts, services.tmutil, follower_,
+                 services.hooks})
     , disks_({services.runLoop, services.defaults, services.dataManager, services.tmutil, follower_.run()}, statusMenu_)
     , pause_({services.runLoop, services.defaults, services.dataManager}, statusMenu_)
     , panels_({services.runLoop, services.defaults, services.notifications, services.dataManager, services.loginItem,
@@ -23,7 +23,8 @@ StatusMenuController::StatusMenuController(const Services& services)
               services.ledger, services.statusItem, statusMenu_)
     , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
     , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
-    , runLedger_({services.runLoop, services.defaults, services.dataManager, follower_, disks_, services.ledger})
+    , runLedger_({services.runLoop, services.defaults, services.dataManager, follower_, disks_, services.ledger,
+                  services.hooks})
     , concerns_({services.runLoop, services.defaults, services.dataManager, follower_, commands_, services.ledger,
                  services.userNotifications})
 {

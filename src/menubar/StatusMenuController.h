@@ -3,6 +3,7 @@
 #include "BackupCommands.h"
 #include "ConcernWatch.h"
 #include "DisksInMenu.h"
+#include "Hooks.h"
 #include "NotificationCenter.h"
 #include "Panels.h"
 #include "Power.h"
@@ -44,6 +45,7 @@ public:
         Ledger& ledger;
         UserNotifications& userNotifications;
         AwakeLock& awakeLock;
+        Hooks& hooks;
     };
 
     explicit StatusMenuController(const Services& services);

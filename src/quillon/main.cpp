@@ -4,6 +4,7 @@
 #include "ChangePrinter.h"
 #include "Cirrel.h"
 #include "DataManager.h"
+#include "Hooks.h"
 #include "HttpClient.h"
 #include "InstanceCall.h"
 #include "LocalizedString.h"
@@ -71,8 +72,9 @@ int runApplication(const Options& options, SingleInstance& instance)
     const auto userNotifications =
         makeUserNotifications({.name = identity::name, .desktopEntry = identity::identifier});
     const auto awakeLock = makeAwakeLock();
+    Hooks hooks({runLoop, launcher, hooksFolder()});
     StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager,
-                                     *loginItem, *statusItem, ledger, *userNotifications, *awakeLock});
+                                     *loginItem, *statusItem, ledger, *userNotifications, *awakeLock, hooks});
     RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 

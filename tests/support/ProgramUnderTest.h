@@ -23,6 +23,7 @@ struct ProgramUnderTest {
         : queue(processes, clock, tool)
         , settings(processes, clock, workspace, alerts)
         , clock_(clock)
+        , processes_(processes)
     {
     }
 
@@ -37,9 +38,10 @@ struct ProgramUnderTest {
     {
         controller.reset();
         manager = std::make_unique<DataManager>(DataManager::Services{clock_, defaults, notifications, loginItem});
+        hooks = std::make_unique<Hooks>(Hooks::Services{clock_, processes_, hooksFolder});
         controller = std::make_unique<StatusMenuController>(
             StatusMenuController::Services{clock_, defaults, notifications, workspace, tmutil, alerts, *manager,
-                                           loginItem, statusItem, ledger, userNotifications, awakeLock});
+                                           loginItem, statusItem, ledger, userNotifications, awakeLock, *hooks});
         controller->awakeFromNib();
     }
 
@@ -55,11 +57,14 @@ struct ProgramUnderTest {
     TimeMachineSettings settings;
     TMUtil tmutil{queue, settings};
     MemoryLedger ledger;
+    QString hooksFolder; ///< of the next launch; none unless a test names one
+    std::unique_ptr<Hooks> hooks;
     std::unique_ptr<DataManager> manager;
     std::unique_ptr<StatusMenuController> controller;
 
 private:
     RunLoop& clock_;
+    TaskLauncher& processes_;
 };
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #include "SimulatedTimeMachine.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace quillon {
@@ -54,6 +56,8 @@ bool SimulatedTimeMachine::isRunning() const
 
 TmutilScript::Call SimulatedTimeMachine::behaviour(const TaskRequest& request)
 {
+    if (const QString name = QFileInfo(request.executable).fileName(); programs.contains(name))
+        return programs.value(name);
     TmutilScript::Call call;
     call.delay = callDuration;
     const QString command = request.arguments.value(0);

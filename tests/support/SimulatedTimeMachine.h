@@ -2,6 +2,8 @@
 
 #include "VirtualLauncher.h"
 
+#include <QMap>
+
 #include <optional>
 
 namespace quillon {
@@ -35,7 +37,8 @@ public:
                         {QStringLiteral("ThinningPostBackup"), 9},
                         {QStringLiteral("Finishing"), 9}};
     QList<Destination> destinations{{QStringLiteral("A"), QStringLiteral("First Disk")}};
-    bool hasDamage = false; ///< in its backups
+    QMap<QString, TmutilScript::Call> programs; ///< other ones than tmutil, by the name of the file
+    bool hasDamage = false;                     ///< in its backups
     qint64 totalBytes = 5'000'000;
     double callDuration = 0.05;
     Injection injection;
