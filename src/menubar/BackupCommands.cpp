@@ -115,8 +115,9 @@ void BackupCommands::requestStart(const QString& identifier, bool rotateBackupDi
             return;
         }
         answer(entry, LedgerEntry::Outcome::Skipped, LedgerEntry::Reason::HookFailed);
-        services_.runLoop.enqueue([this, words = before.words] { tellOfHook(words); });
-        settle();
+        if (!told_)
+            services_.runLoop.enqueue([this, words = before.words] { tellOfHook(words); });
+        settle({.outcome = CommandResult::Outcome::Refused, .hookWords = before.words});
     });
 }
 

@@ -26,6 +26,7 @@ struct CommandResult {
     };
     Outcome outcome = Outcome::NothingToDo;
     std::int32_t exitStatus = 0; ///< of the tool, where it refused a start
+    QString hookWords{};         ///< of the user's own program that did
 };
 
 /// For whoever gave a command from elsewhere than the menu: is told in place of an alert.

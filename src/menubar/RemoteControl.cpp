@@ -45,6 +45,8 @@ CommandResultHandler tell(const RemoteControl::Listener& listener, const QString
             answer = ControlAnswer::refused(nothingToDo);
         else if (result.outcome == Unreadable)
             answer = ControlAnswer::refused(u"what Time Machine does cannot be told"_s);
+        else if (!result.hookWords.isEmpty())
+            answer = ControlAnswer::refused(u"a program of yours stopped it: %1"_s.arg(result.hookWords));
         else if (result.outcome == Refused && result.exitStatus == 0)
             answer = ControlAnswer::refused(u"Time Machine has refused"_s);
         else if (result.outcome == Refused)

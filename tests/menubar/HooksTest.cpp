@@ -59,6 +59,10 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     EXPECT_EQ(latest(), "user|skipped|hookFailed|No network.");
     EXPECT_EQ(told(), "before|B|||");
     EXPECT_TRUE(takeAlert().first.informativeText.endsWith(u"\n\nNo network."_s));
+    QString words;
+    controller->backupNowRequested([&words](const CommandResult& result) { words = result.hookWords; });
+    wait(10);
+    EXPECT_EQ(words, u"No network."_s);
     until(today(12, 0, 30));
     EXPECT_EQ(latest(), "schedule|skipped|hookFailed|No network.");
     EXPECT_TRUE(alerts.presented.empty());
