@@ -63,6 +63,8 @@ const char* keyOf(Reason reason)
         return "logNeverReportedMessage";
     case Reason::NotFollowed:
         return "logNotFollowedMessage";
+    case Reason::HookFailed:
+        return "hookStoppedBackupMessage";
     }
     return nullptr;
 }
