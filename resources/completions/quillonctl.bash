@@ -7,7 +7,7 @@ _quillonctl()
     local durations='30m 1h 2h 4h 8h 12h 1d 2d 1w'
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        offers='status destinations next doctor backup stop pause resume skip postpone retry skip-retry rules settings
+        offers='status destinations next history doctor backup stop pause resume skip postpone retry skip-retry rules settings
             --help --version'
     elif [[ $previous == --disk ]]; then
         # A line is an identifier, the disk's name, and whether it was used last.
@@ -20,6 +20,7 @@ _quillonctl()
         case $command in
             status) offers='--watch --json' ;;
             next) offers='--count --from --json' ;;
+            history) offers='--count --json' ;;
             backup) offers='--disk --json' ;;
             pause) offers="$durations --until --json" ;;
             postpone) offers="$durations --json" ;;

@@ -29,6 +29,8 @@ constexpr std::array ledgerLines{
     "elsewhere completed, schedule skipped backupRan", // OtherRun
     "schedule refused toolRefused",                    // ToolFails
     "user completed, schedule skipped backupRan",      // ByHand
+    "",                                                // Skipped
+    "schedule completed",                              // Postponed
 };
 
 } // namespace
@@ -179,6 +181,7 @@ void LivedSchedule::play(Event event, Date due)
             sleepUntil(due + by + 1min);
             pass(runLoop.now(), false, u"asleep"_s);
             expectRetry();
+            event_ = Event::Asleep;
             return;
         }
         sleepUntil(due + by / 2);
