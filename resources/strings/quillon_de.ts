@@ -1611,6 +1611,10 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Danach geplant: %1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>Der Start wurde durch einen Befehl übersprungen.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>Der Zeitplan war pausiert. Im Menü lässt er sich fortsetzen.</translation>

@@ -1611,6 +1611,10 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>Planned next: %1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>The start was skipped by a command.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>The schedule was paused. Resume it in the menu to have backups made again.</translation>

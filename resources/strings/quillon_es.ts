@@ -1611,6 +1611,10 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>Programada después: %1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>Este inicio se omitió mediante un comando.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>La programación estaba en pausa. Reanúdela en el menú para volver a hacer copias.</translation>

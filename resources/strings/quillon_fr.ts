@@ -1611,6 +1611,10 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>Prévue ensuite : %1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>Ce démarrage a été ignoré par une commande.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>La programmation était suspendue. Reprenez-la dans le menu pour relancer les sauvegardes.</translation>

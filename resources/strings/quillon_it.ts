@@ -1611,6 +1611,10 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>Programmato in seguito: %1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>Questo avvio è stato saltato con un comando.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>La programmazione era sospesa. Riprendila dal menu per eseguire di nuovo i backup.</translation>

@@ -1611,6 +1611,10 @@
         <source></source>
         <translation>次の予定：%1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>この開始はコマンドによりスキップされました。</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>スケジュールが一時停止されていました。再開するにはメニューから操作してください。</translation>

@@ -1611,6 +1611,10 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>Daarna gepland: %1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>Deze start is door een opdracht overgeslagen.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>Het schema was onderbroken. Hervat het in het menu om weer reservekopieën te maken.</translation>

@@ -1611,6 +1611,10 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>Programado em seguida: %1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>Este início foi ignorado por um comando.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>A programação estava pausada. Retome-a no menu para voltar a fazer backups.</translation>

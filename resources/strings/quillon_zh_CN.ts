@@ -1611,6 +1611,10 @@
         <source></source>
         <translation>之后计划：%1</translation>
     </message>
+    <message id="logAskedMessage">
+        <source></source>
+        <translation>此次启动已通过命令跳过。</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>计划已暂停。要继续备份，请在菜单中恢复计划。</translation>

@@ -44,6 +44,7 @@ struct LedgerEntry {
         NeverReported,    ///< the run, by Time Machine
         NotFollowed,      ///< Quillon ended ahead of the run
         HookFailed,       ///< the user's own program ahead of the start; `detail` is its last line
+        Asked,            ///< by a command of the user's, ahead of it
     };
 
     std::int64_t id = 0; ///< 0 until it is written for the first time

@@ -65,6 +65,8 @@ const char* keyOf(Reason reason)
         return "logNotFollowedMessage";
     case Reason::HookFailed:
         return "hookStoppedBackupMessage";
+    case Reason::Asked:
+        return "logAskedMessage";
     }
     return nullptr;
 }

@@ -175,6 +175,7 @@ ControlAnswer RemoteControl::skip()
     const Date skipped = *services_.dataManager.nextScheduledBackupDate();
     if (!services_.dataManager.changeNextStart({}))
         return ControlAnswer::refused(tooManyChanges.arg(nextbackup::mostChanges));
+    services_.controller.noteSkippedStart(skipped);
     services_.controller.updateStatusBar();
     return scheduled(u"the backup of %1 is skipped"_s.arg(report::readableDate(skipped)));
 }

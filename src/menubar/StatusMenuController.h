@@ -108,6 +108,13 @@ public:
     void pauseForClicked(std::int64_t tag) { pause_.pauseForClicked(tag); }
     void pauseUntil(Date end, std::int64_t tag) { pause_.pauseUntil(end, tag); }
     void resumeScheduleClicked() { pause_.resumeScheduleClicked(); }
+    /// A start that will not be made, as the user has asked.
+    void noteSkippedStart(Date due)
+    {
+        using enum LedgerEntry::Outcome;
+        runLedger_.noteStart({.date = due, .outcome = Skipped, .reason = LedgerEntry::Reason::Asked});
+    }
+
     void setTogglesForPauseMenuItems(std::int64_t tag) { pause_.setTogglesForPauseMenuItems(tag); }
     void schedulePauseScheduleExpirationTimer() { pause_.schedulePauseScheduleExpirationTimer(); }
     void stopPauseScheduleExpirationTimer() { pause_.stopPauseScheduleExpirationTimer(); }

@@ -29,7 +29,7 @@ constexpr std::array ledgerLines{
     "elsewhere completed, schedule skipped backupRan", // OtherRun
     "schedule refused toolRefused",                    // ToolFails
     "user completed, schedule skipped backupRan",      // ByHand
-    "",                                                // Skipped
+    "schedule skipped asked",                          // Skipped
     "schedule completed",                              // Postponed
 };
 
