@@ -1,12 +1,12 @@
 #pragma once
 
+#include "AwakeLock.h"
 #include "BackupCommands.h"
 #include "ConcernWatch.h"
 #include "DisksInMenu.h"
 #include "Hooks.h"
 #include "NotificationCenter.h"
 #include "Panels.h"
-#include "Power.h"
 #include "RunFollower.h"
 #include "RunLedger.h"
 #include "SchedulePause.h"

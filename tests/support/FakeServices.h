@@ -1,8 +1,8 @@
 #pragma once
 
 #include "AlertPresenter.h"
+#include "AwakeLock.h"
 #include "LoginItem.h"
-#include "Power.h"
 #include "UserNotifications.h"
 #include "Workspace.h"
 

@@ -1,15 +1,9 @@
+#include "AwakeLock_linux.h"
 #include "EventLoop.h"
-#include "MountWatch.h"
 #include "PlayedServices.h"
-#include "Power_linux.h"
-#include "SessionTestSupport.h"
 #include "UserNotifications_linux.h"
 
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
 #include <optional>
-#include <unistd.h>
 
 namespace quillon {
 
@@ -17,25 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class PlayedPower final : public PlayedService {
-public:
-    explicit PlayedPower(const PrivateBus& bus)
-        : PlayedService(bus, u"upower"_s, u"org.freedesktop.UPower"_s, u"/org/freedesktop/UPower"_s)
-    {
-    }
-
-    void unplug() { play(u"UpdateProperties"_s, {u"org.freedesktop.UPower"_s, QVariantMap{{u"OnBattery"_s, true}}}); }
-    void setCharge(double percentage)
-    {
-        constexpr uint battery = 2, discharging = 2;
-        play(u"SetupDisplayDevice"_s,
-             {battery, discharging, percentage, 10.0, 20.0, 5.0, 3600LL, 0LL, true, u"b"_s, 1u});
-    }
-};
-
 class PlayedDesktop final : public PlayedService {
 public:
-    explicit PlayedDesktop(const PrivateBus& bus, const QString& capabilities)
+    PlayedDesktop(const PrivateBus& bus, const QString& capabilities)
         : PlayedService(bus, u"notification_daemon"_s, u"org.freedesktop.Notifications"_s,
                         u"/org/freedesktop/Notifications"_s,
                         {u"--parameters"_s, u"{\"capabilities\": \"%1\"}"_s.arg(capabilities)})
@@ -73,21 +51,6 @@ protected:
     PrivateBus bus;
     QDBusConnection client = bus.connect(u"client"_s); ///< the program's own
 };
-
-TEST_F(MachineIntegrationTest, PowerIsWhatUPowerTellsAndMainsWhereNobodyTells)
-{
-    UPowerSupply power(client);
-    EXPECT_EQ(power.state(), PowerState());
-    std::optional<PlayedPower> upower(std::in_place, bus);
-    upower->setCharge(41.4);
-    EXPECT_TRUE(runUntil([&] { return power.state() == PowerState{.onMains = true, .charge = 41}; }));
-    upower->unplug();
-    EXPECT_TRUE(runUntil([&] { return power.state() == PowerState{.onMains = false, .charge = 41}; }));
-    const QSignalSpy changes(&power, &PowerSupply::changed);
-    upower.reset();
-    EXPECT_TRUE(runUntil([&] { return power.state() == PowerState(); }));
-    EXPECT_EQ(changes.count(), 1);
-}
 
 TEST_F(MachineIntegrationTest, SleepIsHeldOffUntilItIsLetGoAlsoByALogindThatRestarts)
 {
@@ -139,17 +102,6 @@ TEST_F(MachineIntegrationTest, AWordReplacesTheEarlierOneOfItsKindAndIsTakenAway
     notifications.withdraw(u"other"_s);
     ASSERT_TRUE(desktop.hasTaken(2, u"CloseNotification"_s));
     EXPECT_EQ(desktop.calls(u"CloseNotification"_s)[1].value(0).toUInt(), 2u);
-}
-
-TEST_F(MachineIntegrationTest, ADiskThatAppearsIsNoticed)
-{
-    const auto watch = makeMountWatch();
-    const QSignalSpy changes(watch.get(), &MountWatch::changed);
-    const QTemporaryDir folder;
-    if (run(u"mount"_s, {u"-t"_s, u"tmpfs"_s, u"none"_s, folder.path()}).status != 0)
-        GTEST_SKIP() << "mounting is not allowed here";
-    EXPECT_TRUE(runUntil([&] { return changes.count() > 0; }));
-    EXPECT_EQ(run(u"umount"_s, {folder.path()}).status, 0);
 }
 
 } // namespace
