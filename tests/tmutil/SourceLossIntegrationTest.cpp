@@ -23,7 +23,7 @@ incomplete() {
     latest=$(tmutil latestbackup) date=$(date_of_last)
     back_up_as_user 2>said; cause
     [ "$latest" = "$(tmutil latestbackup)" ] && [ "$date" = "$(date_of_last)" ] || echo counted
-    tmutil listbackups >list; grep -cF "$latest" list; tail -n 1 list | grep -o '.incomplete$'
+    tmutil listbackups >list; grep -cxF "$latest" list; tail -n 1 list | grep -o '.incomplete$'
 }
 )sh";
     const QByteArray incomplete_ = "user: 12\nSourceLost\n1\n.incomplete\n";
