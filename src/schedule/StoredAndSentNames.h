@@ -25,9 +25,18 @@ inline const QString enableMenuBarColors = u"userSettingsEnableMenuBarColors"_s;
 inline const QString rotateBackupDisks = u"userSettingsRotateBackupDisks"_s;
 inline const QString launchAtSystemStart = u"userSettingsLaunchAtSystemStart"_s;
 inline const QString stayAwake = u"userSettingsStayAwake"_s;
+inline const QString onlyOnMainsPower = u"userSettingsOnlyOnMainsPower"_s;
+inline const QString startWhenDiskAppears = u"userSettingsStartWhenDiskAppears"_s;
+inline const QString tellBeforeStart = u"userSettingsTellBeforeStart"_s;
 
 /// Integer: the user is told when no backup has been completed for so many days; 0: never.
 inline const QString daysWithoutBackup = u"userSettingsDaysWithoutBackup"_s;
+
+/// Integer: the charge of the battery, in per cent, above which a backup starts without mains power, too; 0: none.
+inline const QString chargeThatSuffices = u"userSettingsChargeThatSuffices"_s;
+
+/// Integer: a retry comes so many minutes after a wake-up at the earliest; 0: as ever.
+inline const QString minutesAfterWake = u"userSettingsMinutesAfterWake"_s;
 
 /// Array of rule dictionaries.
 inline const QString calendarIntervals = u"userSettingsCalendarIntervals"_s;

@@ -2,10 +2,12 @@
 
 namespace quillon {
 
-/// Nothing else watches over the backups here, or keeps the machine awake for them.
+/// Nothing else watches over the backups here, keeps the machine awake for them, or starts one that is late when its
+/// disk comes.
 QVariantMap systemDefaults()
 {
-    return {{settingskeys::daysWithoutBackup, 10LL}, {settingskeys::stayAwake, 1LL}};
+    using namespace settingskeys;
+    return {{daysWithoutBackup, 10LL}, {stayAwake, 1LL}, {startWhenDiskAppears, 1LL}};
 }
 
 } // namespace quillon
