@@ -13,7 +13,7 @@ sys.path.insert(0, str(SOURCE / "tools" / "practice"))
 import processes
 from disk import PracticeDisk
 from gi.repository import Gio
-from screen import Screen
+from screen import PATIENCE, Screen
 
 BUILD = Path(sys.argv.pop())
 
@@ -21,7 +21,8 @@ BUILD = Path(sys.argv.pop())
 class Installation:
     """The programs, installed into a prefix, with a disk, documents and settings of their own."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, log):
+        self._log = log
         self.prefix = folder / "prefix"
         subprocess.run(["cmake", "--install", BUILD, "--prefix", self.prefix], check=True, stdout=subprocess.DEVNULL)
         self.disk = PracticeDisk(folder, self.prefix / "libexec" / "quillon" / "tmutil")
@@ -31,7 +32,7 @@ class Installation:
         os.environ.pop("LANGUAGE", None)
 
     def start(self, program):
-        return subprocess.Popen([self.prefix / "bin" / program])
+        return subprocess.Popen([self.prefix / "bin" / program], stderr=self._log)
 
     def log_in(self):
         """What a desktop does for its user: starts the programs that have asked for it."""
@@ -44,12 +45,16 @@ class InstalledProgramsTest(unittest.TestCase):
         folder = tempfile.TemporaryDirectory(prefix="quillon-endtoend-")
         self.addCleanup(folder.cleanup)
         self.addCleanup(processes.end_all, 10)
-        self.installation = Installation(Path(folder.name))
-        runtime = Path(folder.name) / "runtime"
-        runtime.mkdir(mode=0o700)
         log = open(Path(folder.name) / "log", "w")
         self.addCleanup(log.close)
+        self.installation = Installation(Path(folder.name), log)
+        runtime = Path(folder.name) / "runtime"
+        runtime.mkdir(mode=0o700)
         self.screen = Screen(runtime, log)
+
+    def see_end(self, program):
+        if status := program.wait(PATIENCE):
+            self.fail(f"the program has ended with {status}\n{self.screen.report()}")
 
 
 def run():

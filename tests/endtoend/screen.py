@@ -40,7 +40,7 @@ class Screen:
         deadline = time.monotonic() + seconds
         while not (value := condition()):
             if time.monotonic() > deadline:
-                raise AssertionError(f"{what}\n{self._report()}")
+                raise AssertionError(f"{what}\n{self.report()}")
             GLib.MainContext.default().iteration(False)  # what has changed is told in events
             time.sleep(0.02)
         return value
@@ -77,7 +77,7 @@ class Screen:
             self._focused = None
             self.press("Down")
             self.wait_for("the keyboard is on no item of the menu", self._focused_menu)
-        raise AssertionError(f"no menu item “{name}”\n{self._report()}")
+        raise AssertionError(f"no menu item “{name}”\n{self.report()}")
 
     def go_to(self, widget):
         """Brings the keyboard to a widget."""
@@ -87,7 +87,7 @@ class Screen:
     def press(self, *keys):
         subprocess.run(["xdotool", "key", *keys], check=True)
 
-    def _report(self):
+    def report(self):
         """What is seen, and what the desktop's programs have said."""
         seen = (f"{'  ' * depth}{widget.get_role_name()} “{widget.get_name()}”{' (keyboard)' * is_focused(widget)}"
                 for depth, widget in showing(Atspi.get_desktop(0)))

@@ -12,7 +12,7 @@ import sys
 
 import installation
 from first_backup import FirstBackup
-from screen import PATIENCE, Atspi, widgets
+from screen import Atspi, widgets
 
 SETTLE = 30  # seconds that the typing may take before the rule falls due
 UNTIL_BACKED_UP = 900  # seconds; the rule falls due within 90
@@ -43,7 +43,7 @@ class Application(installation.InstalledProgramsTest):
         self.screen.wait_for("no backup", lambda: "appSettingsLatestBackupInfo" in self.settings(), UNTIL_BACKED_UP)
         self.backup.prove()
         self.screen.choose("Quit Quillon")
-        self.assertEqual(self.quillon.wait(PATIENCE), 0)
+        self.see_end(self.quillon)
         self.second_start(rule)
 
     def first_launch(self):
@@ -96,7 +96,7 @@ class Application(installation.InstalledProgramsTest):
         self.screen.press("Escape")
         self.assertFalse(list(self.screen.all("alert", "Welcome to Quillon")))
 
-        self.assertEqual(self.installation.start("quillon").wait(PATIENCE), 0)
+        self.see_end(self.installation.start("quillon"))
         retry = self.screen.see("check box", "Retry after a missed backup")
         self.assertFalse(retry.get_state_set().contains(Atspi.StateType.CHECKED))
         self.assertEqual(len(list(self.screen.all("spin button", "at"))), 2)

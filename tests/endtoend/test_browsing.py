@@ -4,7 +4,7 @@ usage: test_browsing.py BUILD
 """
 
 import installation
-from screen import PATIENCE, Atspi
+from screen import Atspi
 
 OLDER, NEWER = "As it was.\n", "As it is now, and longer.\n"
 
@@ -20,7 +20,7 @@ class Browsing(installation.InstalledProgramsTest):
         self.press("Return", "push button", "Close")
         self.press("Return", "tree", "Files in the backup")
         window.terminate()
-        self.assertEqual(window.wait(PATIENCE), 0)
+        self.see_end(window)
 
         beside, = self.letter.parent.glob("letter (restored *).txt")
         self.assertEqual((self.letter.read_text(), beside.read_text()), (NEWER, OLDER))
