@@ -76,8 +76,7 @@ void RunLedger::notePassed(Date due, bool isRetry, startdecision::Occasion occas
     std::vector<LedgerEntry> passed{
         {.date = due, .cause = isRetry ? Cause::Retry : Cause::Schedule, .outcome = Outcome::Missed, .reason = reason}};
     const DataManager& model = services_.dataManager;
-    const auto later = nextbackup::backupDatesBetween(model.calendarIntervalSettings(), due + 1ms,
-                                                      services_.runLoop.now(), Calendar());
+    const auto later = model.startsBetween(due + 1ms, services_.runLoop.now());
     for (const Date date : model.isScheduleEnabled() ? later : QList<Date>())
         passed.push_back({.date = date, .outcome = Outcome::Missed, .reason = reason});
     write(passed);
@@ -92,9 +91,7 @@ void RunLedger::lookAtPause()
     if (!until || !model.isScheduleEnabled())
         return;
     std::vector<LedgerEntry> passed;
-    const auto dates =
-        nextbackup::backupDatesBetween(model.calendarIntervalSettings(), from, std::min(now, *until), Calendar());
-    for (const Date date : dates)
+    for (const Date date : model.startsBetween(from, std::min(now, *until)))
         passed.push_back({.date = date, .outcome = Outcome::Skipped, .reason = Reason::Paused});
     write(passed);
 }

@@ -71,6 +71,8 @@ public:
     void setNextScheduledBackupDate(std::optional<Date> date);
     /// The start behind the next one.
     std::optional<Date> startAfterNext() const;
+    /// Every start from `from` on that is earlier than `until`, whatever is stored of a pause.
+    QList<Date> startsBetween(Date from, Date until) const;
     /// Passes the next start over, or makes it at a later date; those behind it stay. False, and nothing is changed,
     /// where too many are changed already. A retry is no start of this kind.
     bool changeNextStart(std::optional<Date> instead);

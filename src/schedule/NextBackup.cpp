@@ -69,14 +69,4 @@ std::optional<Date> nextBackupDate(const QList<CalendarIntervalRule>& rules, Dat
     return next;
 }
 
-QList<Date> backupDatesBetween(const QList<CalendarIntervalRule>& rules, Date from, Date until,
-                               const Calendar& calendar)
-{
-    QList<Date> dates;
-    for (auto next = nextBackupDate(rules, from, calendar); next && *next < until;
-         next = nextBackupDate(rules, *next + 1ms, calendar))
-        dates.append(*next);
-    return dates;
-}
-
 } // namespace quillon::nextbackup

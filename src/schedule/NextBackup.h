@@ -32,8 +32,4 @@ Date referenceDate(Date now, std::optional<Date> pauseUntil, std::optional<Date>
 /// on is given up.
 std::optional<Date> nextBackupDate(const QList<CalendarIntervalRule>& rules, Date reference, const Calendar& calendar);
 
-/// Every such date from `from` on that is earlier than `until`.
-QList<Date> backupDatesBetween(const QList<CalendarIntervalRule>& rules, Date from, Date until,
-                               const Calendar& calendar);
-
 } // namespace quillon::nextbackup

@@ -127,6 +127,7 @@ TEST_F(Model, AChangedStartIsThatOfItsRuleAndOfItsDayAlone)
     expect(today(14));
     EXPECT_TRUE(manager->changeNextStart(today(16)));
     EXPECT_EQ(manager->startAfterNext(), today(24 + 12));
+    EXPECT_EQ(manager->startsBetween(today(11), today(24 + 14)), (QList{today(16), today(24 + 12)}));
     make();
     expect(today(16));
     manager->updateBackupScheduleAtIndex(1, 13 * 3600, u"time"_s);

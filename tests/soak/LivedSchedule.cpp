@@ -169,7 +169,10 @@ void LivedSchedule::play(Event event, Date due)
         break;
     case Event::Skipped:
         ask(u"skip"_s);
+        if (between(0, 1) == 1)
+            controller->pauseForClicked(3600);
         pass(due, false, u"asked to be"_s);
+        controller->resumeScheduleClicked();
         return;
     case Event::Postponed: {
         const auto by = std::chrono::minutes(between(5, 90));
