@@ -46,6 +46,7 @@ protected:
         window_.activateWindow(); // there is no window manager here to do it
         popover_.setBehavior(PopoverBehavior::Transient);
         popover_.showRelativeTo({.view = button_}, RectEdge::MinY);
+        leaveApplication(); // as with a menu that goes before the popover gets the keyboard
         ASSERT_TRUE(becomesActive(popover_));
     }
     static bool becomesActive(const Popover& popover)

@@ -79,7 +79,8 @@ Popover::Popover(QWidget* parent)
             [this](const QVariant& opacity) { setWindowOpacity(opacity.toReal()); });
     connect(&fade_, &QVariantAnimation::finished, this, [this] { setVisible(shown_); });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state != Qt::ApplicationActive)
+        // On a slow machine the menu that it was chosen from loses the keyboard long before the popover gets it.
+        if (state != Qt::ApplicationActive && hasBeenActive_)
             closeIfLeft();
     });
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Popover::place);
@@ -161,6 +162,7 @@ void Popover::adaptToDisplay()
 
 void Popover::appear()
 {
+    hasBeenActive_ = false;
     winId(); // makes the window
     const QWidget* owner = anchor_.view ? anchor_.view->window() : parentWidget();
     windowHandle()->setTransientParent(owner ? owner->window()->windowHandle() : nullptr);
@@ -293,6 +295,7 @@ void Popover::closeIfLeft()
 bool Popover::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate) {
+        hasBeenActive_ = true;
         if (Popover* front = child()) {
             if (front->isPlacedByCompositor_)
                 activateInProgram(*front);

@@ -89,6 +89,7 @@ private:
     PopoverBehavior behavior_ = PopoverBehavior::ApplicationDefined;
     bool animates_ = true;
     bool shown_ = false;
+    bool hasBeenActive_ = false; ///< since it appeared
     bool translucent_ = true;
     bool isPlacedByCompositor_ = false;
     int margin_ = 0; ///< around the body, for arrow and shadow
