@@ -97,6 +97,7 @@ TEST_F(Commands, AScheduledStartIsDroppedWhenTheScheduleIsPausedOrSwitchedOffBef
     controller->pauseForClicked(3600);
     after(60, "1, Next: 23h 59m, Back Up Now, next 22 12:00");
     controller->resumeScheduleClicked();
+    sleepUntil(today(36) - 1min);
     until(today(36) + 500ms);
     manager->setIsScheduleEnabled(false);
     after(60, "1, Next: Disabled, Back Up Now, next never");

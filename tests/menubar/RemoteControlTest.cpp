@@ -146,7 +146,7 @@ TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestar
     runLoop.stepWallClock(-2h);
     wait(20);
     expect("1, Next: 2d 1h, Back Up Now, next 24 12:00");
-    runLoop.advanceTo(local(2026, 11, 24, 11, 59));
+    sleepUntil(local(2026, 11, 24, 11, 59));
     EXPECT_EQ(machine.starts(), 1);
     wait(65);
     EXPECT_EQ(machine.starts(), 2);
