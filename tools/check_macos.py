@@ -34,6 +34,7 @@ LIBRARY_FILES = {"libplist-2.0": "plist-2.0", "icu-i18n": "icui18n", "icu-uc": "
 # C++ but for the standard library, whose names differ between libc++ and libstdc++; libplist; ICU with its version.
 COMPARABLE = re.compile(r"__Z(?!.*St3__1)(?!(?:N|NK|T[ISV])?S[ta])(?!T[ISV]?N10__cxxabi)(?!n[aw]|d[al])"
                         r"|_plist_|_u\w+_\d+$")
+UNITY_INCLUDE = re.compile(r'^#include "(.+)"$', re.MULTILINE)
 BRIDGE = re.compile(r"\d(?:to|from)(?:CF|NS)[A-Z]")
 
 
@@ -45,14 +46,17 @@ def macos_sources(root):
 
 
 def objects(build):
-    """Objects of the build by their sources, the ones that were generated among them."""
+    """Objects of the build by their sources, the ones that were generated among them. Several sources may be compiled
+    as one, which CMake has written to include them."""
     commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
     found = {}
     for entry in commands:
         words = shlex.split(entry["command"])
         if Path(entry["file"]).name.startswith("cmake_pch."):
             continue  # headers compiled ahead, which are no object
-        found[Path(entry["file"])] = build / words[words.index("-o") + 1]
+        source = Path(entry["file"])
+        joined = UNITY_INCLUDE.findall(source.read_text()) if source.parent.name == "Unity" else [source]
+        found |= dict.fromkeys(map(Path, joined), build / words[words.index("-o") + 1])
     return found
 
 
@@ -152,15 +156,16 @@ def main():
     forgotten = macos_sources(root) - found.keys()
     for path in sorted(forgotten):
         print(f"macos: {path.relative_to(root)} is not part of the build for macOS")
-    names = [str(path.relative_to(build)) for path in found.values()]
+    wanted = sorted(set(found.values()))
+    names = [str(path.relative_to(build)) for path in wanted]
     compiled = subprocess.run(["ninja", "-C", str(build), "-k", "0", *names], env=environment, check=False)
-    missing = [path for path in found.values() if not is_macos_object(path)]
-    for path in sorted(missing) if not compiled.returncode else ():  # else the compiler has said what is wrong
+    missing = [path for path in wanted if not is_macos_object(path)]
+    for path in missing if not compiled.returncode else ():  # else the compiler has said what is wrong
         print(f"macos: {path.relative_to(root)} is no Mach-O object for arm64")
-    print(f"macos: {len(found) - len(missing)} of {len(found)} objects compiled")
+    print(f"macos: {len(wanted) - len(missing)} of {len(wanted)} objects compiled, of {len(found)} sources")
     if forgotten or missing or compiled.returncode:
         return 1
-    in_vain, foreign = wanted_in_vain(found.values())
+    in_vain, foreign = wanted_in_vain(wanted)
     for name, path in sorted(in_vain.items()):
         print(f"macos: {path.relative_to(build)} wants {name}, which is nowhere")
     print(f"macos: {len(in_vain)} symbols are wanted in vain; {foreign} of macOS itself can't be looked for here")

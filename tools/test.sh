@@ -5,8 +5,8 @@ install_packages build run test
 command -v npm >/dev/null || install_packages macos
 configure sanitize
 build sanitize
-configure clang
-build clang fuzzers
+configure fuzz
+build fuzz fuzzers
 status=0
 (cd "$root" && ctest --preset sanitize) || status=1
 (cd "$root" && ctest --preset fuzz) || status=1

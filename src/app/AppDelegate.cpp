@@ -22,7 +22,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr Seconds updateCheckPeriod = 24h;
-constexpr double serverInterval = 12.0 * 3600;
+constexpr double answerIsFreshFor = 12.0 * 3600;
 
 } // namespace
 
@@ -59,7 +59,7 @@ void AppDelegate::checkNowAndDaily()
 void AppDelegate::retrieveLatestAppVersion()
 {
     const QString noUpdate = u"{\"os\":\"%1\",\"app\":\"%2\"}"_s.arg(systemVersion(), version_);
-    Cirrel::getConfigForParameter(u"LatestAppVersion"_s, serverInterval, noUpdate,
+    Cirrel::getConfigForParameter(u"LatestAppVersion"_s, answerIsFreshFor, noUpdate,
                                   [self = QPointer(this)](const QVariant& value, const std::optional<Error>& error) {
                                       if (self && !error)
                                           self->isAppUpdateAvailable(value.toString());

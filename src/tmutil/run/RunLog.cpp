@@ -39,7 +39,7 @@ QStringList logFilesIn(const QString& folder)
     return QDir(folder).entryList({u"*.plist"_s}, QDir::Files, QDir::Name);
 }
 
-RunLog fromDictionary(const QVariantMap& entry)
+RunLog runLogFrom(const QVariantMap& entry)
 {
     const auto text = [&entry](const QString& key) { return entry.value(key).toString(); };
     const auto number = [&entry](const QString& key) { return entry.value(key).toLongLong(); };
@@ -104,7 +104,7 @@ std::vector<RunLog> RunLog::all(const QString& stateFolder)
     std::vector<RunLog> runs;
     for (const QString& name : logFilesIn(folderOf(stateFolder))) {
         if (const auto contents = readPropertyListFile(folderOf(stateFolder) + u'/' + name); contents)
-            runs.push_back(fromDictionary(*contents));
+            runs.push_back(runLogFrom(*contents));
     }
     return runs;
 }

@@ -62,7 +62,7 @@ QString volumeName(const QString& path)
     return last.isEmpty() ? path : last;
 }
 
-Destination fromDictionary(const QVariantMap& entry)
+Destination destinationFrom(const QVariantMap& entry)
 {
     return {entry.value(u"ID"_s).toString(), entry.value(u"Name"_s).toString(), entry.value(u"Path"_s).toString(),
             entry.value(u"Repository"_s).toBool()};
@@ -328,7 +328,7 @@ void Configuration::read()
     contents_ = kept.contents.value_or(QVariantMap());
     destinations_.clear();
     for (const QVariant& entry : contents_.value(destinationsKey).toList()) {
-        const Destination destination = fromDictionary(entry.toMap());
+        const Destination destination = destinationFrom(entry.toMap());
         if (!destination.id.isEmpty() && (QDir::isAbsolutePath(destination.path) || destination.isNetwork()))
             destinations_.push_back(destination);
     }

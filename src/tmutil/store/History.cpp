@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 5s;
+constexpr auto patienceWithLock = 5s;
 
 } // namespace
 
@@ -233,7 +233,7 @@ bool History::change(const QString& stateFolder, const std::function<void(Histor
 {
     needPrivateFolder(stateFolder);
     ProcessLock lock(RunState::lockPath(stateFolder));
-    const QDeadlineTimer limit(patience); // most who hold it do so for a moment
+    const QDeadlineTimer limit(patienceWithLock); // most who hold it do so for a moment
     while (!lock.tryLock()) {
         if (limit.hasExpired())
             return false;

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+constexpr auto ownedFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 constexpr off_t largestFile = 64 << 20; // bytes; settings have some thousands, the history of years some millions
 
@@ -68,7 +68,7 @@ bool writePropertyListFile(const QString& path, const QVariantMap& contents, QSt
 {
     const auto bytes = bytesOf(contents);
     QSaveFile file(path);
-    const bool written = bytes && file.open(QIODevice::WriteOnly) && file.setPermissions(ownerOnly) &&
+    const bool written = bytes && file.open(QIODevice::WriteOnly) && file.setPermissions(ownedFile) &&
                          file.write(*bytes) == bytes->size() && file.commit();
     if (!written && trouble)
         *trouble = bytes ? file.errorString() : u"it holds values that no property list can"_s;
@@ -79,7 +79,7 @@ bool replacePropertyListFile(const QString& path, const QVariantMap& contents)
 {
     const auto bytes = bytesOf(contents);
     QFile file(path + ".new"_L1);
-    return bytes && file.open(QIODevice::WriteOnly) && file.setPermissions(ownerOnly) &&
+    return bytes && file.open(QIODevice::WriteOnly) && file.setPermissions(ownedFile) &&
            file.write(*bytes) == bytes->size() && file.flush() &&
            std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) == 0;
 }

@@ -92,7 +92,7 @@ void AlertText::takeWindowColor()
 
 namespace {
 
-constexpr int side = 40; // logical pixels; what signs are drawn in
+constexpr int signSide = 40; // logical pixels; what signs are drawn in
 
 /// A regular polygon around the middle, with rounded corners; its first corner points up, or half a side beside it.
 QPolygonF polygon(QPointF middle, qreal radius, int corners, bool standsOnSide)
@@ -119,7 +119,7 @@ void paintAlertSign(QPainter& painter, const QRectF& area, AlertStyle alertStyle
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(area.center());
-    painter.scale(area.width() / side, area.height() / side);
+    painter.scale(area.width() / signSide, area.height() / signSide);
     const auto ground = [&painter](QRgb color, const QPolygonF& corners) {
         painter.setBrush(QColor(color));
         painter.setPen(QPen(QColor(color), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)); // rounds the corners
@@ -153,7 +153,7 @@ AlertIcon::AlertIcon(AlertStyle alertStyle, QWidget* parent)
     : QWidget(parent)
     , alertStyle_(alertStyle)
 {
-    setFixedSize(side, side);
+    setFixedSize(signSide, signSide);
 }
 
 void AlertIcon::paintEvent(QPaintEvent* /*event*/)
@@ -165,7 +165,7 @@ void AlertIcon::paintEvent(QPaintEvent* /*event*/)
 namespace {
 
 constexpr int margin = 18;
-constexpr int gap = 14;
+constexpr int alertGap = 14;
 constexpr int textGap = 8;
 
 /// Where buttons stand in a row, the one that goes ahead stands at its end on some desktops and at its beginning on
@@ -198,7 +198,7 @@ Alert::Alert(const AlertRequest& request, QWidget* parent)
     texts->addStretch();
 
     auto* upper = new QHBoxLayout;
-    upper->setSpacing(gap);
+    upper->setSpacing(alertGap);
     upper->addWidget(new AlertIcon(request.style, this), 0, Qt::AlignTop);
     upper->addLayout(texts, 1);
 

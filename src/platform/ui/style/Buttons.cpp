@@ -18,7 +18,7 @@ constexpr int helpPadding = 3;
 constexpr qreal rim = 1;
 constexpr int deletePadding = 2;
 constexpr qreal focusRing = 2;
-constexpr qreal gap = 1;      // between the disc and the ring
+constexpr qreal ringGap = 1;  // between the disc and the ring
 constexpr int signMargin = 4; // for the ground and the ring that show pointer and keyboard
 
 } // namespace
@@ -95,7 +95,7 @@ void DeleteButton::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(QPen(systemBlueColor(palette()), focusRing));
         painter.drawEllipse(whole.adjusted(half, half, -half, -half));
     }
-    constexpr qreal inset = focusRing + gap;
+    constexpr qreal inset = focusRing + ringGap;
     const QRectF disc = whole.adjusted(inset, inset, -inset, -inset);
     // White on it keeps a contrast of at least 4.5:1 (WCAG 2.1, 1.4.3).
     QColor ground = isDown() ? QColor(0x9c1520) : underMouse() ? QColor(0xb91c28) : QColor(0xd32f2f);

@@ -31,15 +31,15 @@ QColor lineColor(const QStyleOption& option, float opacity)
 }
 
 /// Around what has the keyboard.
-void drawRing(const QStyleOption& option, qreal sideMargin, qreal cornerRadius, QPainter& painter)
+void drawRing(const QStyleOption& option, qreal inset, qreal cornerRadius, QPainter& painter)
 {
     constexpr qreal half = 0.5; // of the line
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(systemBlueColor(option.palette));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(sideMargin + half, half, -sideMargin - half, -half),
-                            cornerRadius, cornerRadius);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset + half, half, -inset - half, -half), cornerRadius,
+                            cornerRadius);
     painter.restore();
 }
 
@@ -58,9 +58,9 @@ void SchemeStyle::drawControl(ControlElement element, const QStyleOption* option
     const auto* item = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
     const bool separator = item && item->menuItemType == QStyleOptionMenuItem::Separator;
     if (separator && isDark(option->palette)) {
-        constexpr int sideMargin = 5;
-        painter->fillRect(item->rect.left() + sideMargin, item->rect.center().y(), item->rect.width() - 2 * sideMargin,
-                          1, lineColor(*option, 0.2F));
+        constexpr int margin = 5;
+        painter->fillRect(item->rect.left() + margin, item->rect.center().y(), item->rect.width() - 2 * margin, 1,
+                          lineColor(*option, 0.2F));
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
