@@ -160,10 +160,10 @@ protected:
         time_.start(0);
     }
 
-    Diagnosis examine(const QByteArray& script)
+    Diagnosis examine(const QByteArray& script, const QString& tool = u"/home/me/bin/tmutil"_s)
     {
         ScriptedLauncher launcher(runLoop_, TmutilScript::fromJson(script));
-        const Diagnosis found = Doctor(runLoop_, launcher, defaults_, u"/home/me/bin/tmutil"_s).examine();
+        const Diagnosis found = Doctor(runLoop_, launcher, defaults_, tool).examine();
         EXPECT_EQ(launcher.liveChildren(), 0);
         return found;
     }
@@ -256,9 +256,11 @@ TEST_F(DoctorTest, SaysWhatItCannotTellWithoutAnAnswerOfTheTool)
                                    {"expect":["destinationinfo","-X"],"status":3}])");
     EXPECT_EQ(report::doctorText(refuses).toStdString(), pageHere("silent.txt").toStdString());
     const auto babbles = examine(R"([{"expect":["status"],"output":"Hello"},
-                                     {"expect":["destinationinfo","-X"],"output":"Hello"}])");
+                                     {"expect":["destinationinfo","-X"],"output":"Hello"}])",
+                                 u"/home/melissa/tmutil"_s);
     EXPECT_EQ(babbles.status.trouble, u"what the tool printed cannot be understood"_s);
     EXPECT_EQ(babbles.destinations.trouble, babbles.status.trouble);
+    EXPECT_EQ(babbles.toolPath, u"/home/melissa/tmutil"_s);
 }
 
 TEST_F(DoctorTest, NamesAStopThatWasAskedForAFailureOfNoFileAndTheLastIcon)
