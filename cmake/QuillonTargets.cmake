@@ -117,11 +117,9 @@ function(quillon_program name)
   quillon_precompiled(${name})
 endfunction()
 
-# The first compiles a third faster, and tests wait more than they compute. The second is for sources that are compiled
-# as one: there g++ takes each for a header, and warns of fixtures that only one file can see.
-set(quillon_test_options -O0)
+# Of sources that are compiled as one, g++ takes each for a header, and warns of fixtures that only one file can see.
 if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  list(APPEND quillon_test_options -Wno-subobject-linkage)
+  set(quillon_test_options -Wno-subobject-linkage)
 endif()
 
 # quillon_tests(NAME MAIN LINK...): the tests of the current folder. A file's ending says its kind and so its ctest
