@@ -23,8 +23,8 @@ struct VirtualLauncher::Child {
             if (child->completion && child->takeOutput && result.output)
                 child->takeOutput(*result.output);
             // Which may do away with the handle.
-            if (const auto completion = std::exchange(child->completion, nullptr))
-                completion(result);
+            if (const auto complete = std::exchange(child->completion, nullptr))
+                complete(result);
         });
     }
 };
@@ -82,7 +82,7 @@ std::unique_ptr<RunningTask> VirtualLauncher::launch(const TaskRequest& request,
 {
     launched_.append(request);
     const auto child =
-        children_.emplace_back(std::make_shared<Child>(runLoop_, std::move(completion), request.takeOutput));
+        children_.emplace_back(std::make_shared<Child>(Child{runLoop_, std::move(completion), request.takeOutput}));
     const auto call = behaviour(request);
     // A repeating timer follows the uptime clock, as a child process does.
     if (call.fault != TmutilScript::Fault::Hang)
