@@ -44,6 +44,12 @@ public:
     QString status() const { return QStringLiteral("normal"); }
     QStringList iconThemePath() const { return {}; }
 
+Q_SIGNALS:
+    // Signals of the protocol.
+    Q_SCRIPTABLE void ItemsPropertiesUpdated(const QList<quillon::MenuItemProperties>& updated,
+                                             const QList<quillon::MenuItemPropertyNames>& removed);
+    Q_SCRIPTABLE void LayoutUpdated(uint revision, int parent);
+
 public Q_SLOTS:
     // Methods of the protocol; item 0 is the menu itself. Qt's D-Bus module knows types by their full names.
     Q_SCRIPTABLE uint GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames,
@@ -55,12 +61,6 @@ public Q_SLOTS:
     Q_SCRIPTABLE QList<int> EventGroup(const QList<quillon::MenuEvent>& events);
     Q_SCRIPTABLE bool AboutToShow(int id);
     Q_SCRIPTABLE QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& idErrors);
-
-Q_SIGNALS:
-    // Signals of the protocol.
-    Q_SCRIPTABLE void ItemsPropertiesUpdated(const QList<quillon::MenuItemProperties>& updated,
-                                             const QList<quillon::MenuItemPropertyNames>& removed);
-    Q_SCRIPTABLE void LayoutUpdated(uint revision, int parent);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -135,11 +135,6 @@ public:
     QString label() const { return content_.label; }
     QString labelGuide() const { return {}; }
 
-public Q_SLOTS:
-    // Methods of the protocol, called by hosts that draw no menus themselves.
-    Q_SCRIPTABLE void Activate(int x, int y);
-    Q_SCRIPTABLE void ContextMenu(int x, int y);
-
 Q_SIGNALS:
     /// The item is to show its menu itself.
     void menuRequested();
@@ -151,6 +146,11 @@ Q_SIGNALS:
     Q_SCRIPTABLE void NewToolTip();
     Q_SCRIPTABLE void NewStatus(const QString& status);
     Q_SCRIPTABLE void XAyatanaNewLabel(const QString& label, const QString& guide);
+
+public Q_SLOTS:
+    // Methods of the protocol, called by hosts that draw no menus themselves.
+    Q_SCRIPTABLE void Activate(int x, int y);
+    Q_SCRIPTABLE void ContextMenu(int x, int y);
 
 private:
     void registerWithWatcher();
