@@ -25,8 +25,7 @@ field() { sed -n "s/.*\"$1\":\"\([^\"]*\)\".*/\1/p"; }
 
 TEST_F(BrowseIntegration, ABackupIsListedFolderByFolderOrAsAWhole)
 {
-    expect(
-        words_ + R"sh(
+    expect(words_ + R"sh(
 tmutil listbackups -X | grep -A 1 -e Name -e Complete -e Damaged | sed -n "s,$latest,latest,;s/.*<\(str.*\|tr.*\|fa.*\)>/\1/p"
 json tmutil listfiles --json $latest | field path
 echo in the folder; json tmutil listfiles --json $here/folder | grep -v pipe | sed 's/"modified":"[^"]*",//'
@@ -36,9 +35,12 @@ echo all; json tmutil listfiles -r --json $here | field path | sort
 tmutil listfiles -r $latest | grep -cE ' (/.*/source|/.*/source/folder)/$'
 echo odd; for name in "$(printf 'f\374')" "$(printf 'f\357\277\275')"; do tmutil listfiles "$here/$name" | grep -c ' in$'; done
 tmutil listfiles $here/nothing 2>said; tmutil listfiles $PWD/disk 2>said
+echo later; mkdir -p other/place; tmutil addsource other/place; tmutil removesource source
+json tmutil listfiles --json $latest | field path
+by_hand disk forget latest; tmutil listfiles $latest 2>said; tmutil listfiles $here 2>said
 )sh",
-        "true/\nfalse/\nstring>latest</string\n/source\nin the folder\n"
-        R"({"mode":493,"path":"/source/folder/deep","type":"folder"}
+           "true/\nfalse/\nstring>latest</string\n/source\nin the folder\n"
+           R"({"mode":493,"path":"/source/folder/deep","type":"folder"}
 {"mode":511,"path":"/source/folder/link","target":"../nowhere","type":"link"}
 1
 2020-01-02T03:04:05.678Z
@@ -49,7 +51,8 @@ all
 /source/folder/link
 /source/folder/pipe
 )"
-        "/source/f\uFFFD\n/source/f\uFFFD/in\n/source/o\uFFFD\\n[*]\\\\\n2\nodd\n1\n1\nlistfiles: 6\nlistfiles: 6\n");
+           "/source/f\uFFFD\n/source/f\uFFFD/in\n/source/o\uFFFD\\n[*]\\\\\n2\nodd\n1\n1\nlistfiles: 6\nlistfiles: 6\n"
+           "later\n/source\nlistfiles: 6\nlistfiles: 6\n");
 }
 
 TEST_F(BrowseIntegration, WhatIsLookedForIsFoundInEveryBackup)

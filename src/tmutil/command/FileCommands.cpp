@@ -21,6 +21,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A disk that can be read, with its backups, oldest first.
+struct ReadableDisk {
+    Repository repository;
+    std::vector<Snapshot> snapshots;
+};
+
 /// The disks present of which some backup can be read; a disk that cannot be is named. Throws Failure where there is no
 /// backup.
 std::vector<ReadableDisk> readableDisks(const Folders& folders)
@@ -146,24 +152,39 @@ void listBackups(const Folders& folders, bool xml)
 
 void listFiles(const Folders& folders, const CommandLine& line)
 {
-    const auto destinations = Configuration(folders).destinations();
-    BackupFinder finder(destinations, folders);
-    const PlaceInBackup place = finder.find(line.operands.first());
-    const Restic restic(place.repository, folders, nullptr);
-    for (const QString& path : place.paths()) {
-        const qsizetype folder = toldPath(path).size() + 1;
-        const auto tell = [&](const ListedFile& file) {
-            const bool isBelow = !path.isEmpty() && file.path.size() > folder;
-            if (line.json)
-                printJson(jsonOf(file));
-            else
-                print(lineOf(file, isBelow ? file.path.mid(folder) : file.path));
-        };
-        if (line.recursive ? listTree(restic, place.snapshot, path, tell)
-                           : listFolder(restic, place.snapshot, path, tell))
-            return;
+    const Configuration configuration(folders);
+    BackupFinder finder(configuration.destinations(), folders);
+    bool isAnyTold = false;
+    const auto list = [&](const PlaceInBackup& place) {
+        const Restic restic(place.repository, folders, nullptr);
+        return std::ranges::any_of(place.paths(), [&](const QString& path) {
+            const qsizetype folder = toldPath(path).size() + 1;
+            const auto tell = [&](const ListedFile& file) {
+                const bool isBelow = !path.isEmpty() && file.path.size() > folder;
+                isAnyTold = true;
+                if (line.json)
+                    printJson(jsonOf(file));
+                else
+                    print(lineOf(file, isBelow ? file.path.mid(folder) : file.path));
+            };
+            return line.recursive ? listTree(restic, place.snapshot, path, tell)
+                                  : listFolder(restic, place.snapshot, path, tell);
+        });
+    };
+    const QString name = line.operands.first();
+    // Reading the list of all backups takes restic as long as reading a folder, for which somebody may be waiting.
+    if (!line.recursive) {
+        try {
+            const auto place = finder.recall(name, History(folders.state), configuration.sources());
+            if (place && list(*place))
+                return;
+        } catch (const Failure&) {
+            if (isAnyTold)
+                throw;
+        }
     }
-    throw Failure(ExitStatus::NoBackup, u"The backup has nothing at that path."_s);
+    if (!list(finder.find(name)))
+        throw Failure(ExitStatus::NoBackup, u"The backup has nothing at that path."_s);
 }
 
 void findFiles(const Folders& folders, const CommandLine& line)

@@ -1,6 +1,7 @@
 #include "Listing.h"
 
 #include "Failure.h"
+#include "History.h"
 #include "NetworkProbe.h"
 #include "Paths.h"
 #include "Restic.h"
@@ -47,51 +48,85 @@ PlaceInBackup BackupFinder::find(const QString& name)
         const QString clean = cleanName(name, destination);
         if (!covers(destination.path, clean))
             continue;
-        const ReadableDisk* const disk = this->disk(destination);
-        if (disk == nullptr) {
+        Disk& disk = this->disk(destination);
+        if (!disk.repository) {
             absence = destination.absence();
             continue;
         }
-        const auto found = holdersOf(disk->snapshots, clean);
+        if (!disk.snapshots)
+            disk.snapshots = snapshotsIn(*disk.repository, Restic(*disk.repository, folders_, nullptr));
+        const auto found = holdersOf(*disk.snapshots, clean);
         if (found.empty())
             continue;
         const qsizetype length = found.front().name().size();
         if (found.size() > 1)
             throw Failure(ExitStatus::NoBackup, u"\"%1\" names more than one backup."_s.arg(clean.left(length)));
-        return {disk->repository, found.front(), clean.mid(length)};
+        return {*disk.repository, found.front(), clean.mid(length)};
     }
     if (!absence.isEmpty())
         throw Failure(ExitStatus::DestinationMissing, absence);
     throw Failure(ExitStatus::NoBackup, u"\"%1\" is not in any backup. See \"tmutil listbackups\"."_s.arg(name));
 }
 
-const ReadableDisk* BackupFinder::disk(const Destination& destination)
+std::optional<PlaceInBackup> BackupFinder::recall(const QString& name, const History& history,
+                                                  const QStringList& likelySources)
 {
-    const auto known = std::ranges::find_if(
-        disks_, [&](const ReadableDisk& disk) { return disk.repository.destination() == destination; });
+    for (const Destination& destination : destinations_) {
+        const QString clean = cleanName(name, destination);
+        if (!covers(destination.path, clean))
+            continue;
+        QVariantList found = history.backups(destination.id);
+        found.removeIf(
+            [&clean](const QVariant& one) { return !covers(one.toMap().value(u"Name"_s).toString(), clean); });
+        const Disk* const disk = found.size() == 1 ? &this->disk(destination) : nullptr;
+        if (disk == nullptr || !disk->repository)
+            continue;
+        const QVariantMap backup = found.first().toMap();
+        Snapshot snapshot;
+        snapshot.id = backup.value(u"Snapshot"_s).toString();
+        snapshot.sources = likelySources;
+        return PlaceInBackup{*disk->repository, std::move(snapshot),
+                             clean.mid(backup.value(u"Name"_s).toString().size())};
+    }
+    return std::nullopt;
+}
+
+BackupFinder::Disk& BackupFinder::disk(const Destination& destination)
+{
+    const auto known = std::ranges::find(disks_, destination, &Disk::destination);
     if (known != disks_.end())
-        return &*known;
-    auto repository =
-        presentOf({destination}, folders_).empty() ? std::nullopt : Repository::open(destination, folders_);
-    if (!repository)
-        return nullptr;
-    auto snapshots = snapshotsIn(*repository, Restic(*repository, folders_, nullptr));
-    return &disks_.emplace_back(ReadableDisk{std::move(*repository), std::move(snapshots)});
+        return *known;
+    return disks_.emplace_back(Disk{.destination = destination,
+                                    .repository = presentOf({destination}, folders_).empty()
+                                                      ? std::nullopt
+                                                      : Repository::open(destination, folders_),
+                                    .snapshots = std::nullopt});
 }
 
 namespace {
 
-/// Reading needs no lock, so it works during a prune and on a disk that cannot be written.
-void runLs(const Restic& restic, const Snapshot& snapshot, const QStringList& folders, const FileHandler& onFile)
+/// Takes the folders that a backup was made of.
+using SourcesHandler = std::function<void(const QStringList& sources)>;
+
+/// What restic says of the backup itself stands ahead of the files, and is all that tells that there is one: restic
+/// only complains of an identifier that it does not find. Reading needs no lock, so it works during a prune and on a
+/// disk that cannot be written.
+void runLs(const Restic& restic, const Snapshot& snapshot, const QStringList& folders, const FileHandler& onFile,
+           const SourcesHandler& onSources = {})
 {
     const QStringList arguments{u"ls"_s, u"--json"_s, u"--no-lock"_s, snapshot.id};
-    restic
-        .run(arguments + folders,
-             [&onFile](const QByteArray& line) {
-                 if (const auto file = ListedFile::fromJson(line))
-                     onFile(*file);
-             })
-        .require();
+    bool isThere = false;
+    const auto outcome = restic.run(arguments + folders, [&](const QByteArray& line) {
+        if (const auto file = ListedFile::fromJson(line))
+            return onFile(*file);
+        const auto sources = sourcesIn(line);
+        isThere = isThere || sources;
+        if (sources && onSources)
+            onSources(*sources);
+    });
+    outcome.require();
+    if (!isThere)
+        throw Failure(ExitStatus::NoBackup, u"The backup is no longer there."_s);
 }
 
 QStringList of(const Snapshot& snapshot)
@@ -116,22 +151,36 @@ void tellLinks(const Restic& restic, const Snapshot& snapshot, QStringList links
     }
 }
 
+/// The folders around them: of a folder that is named, restic reads each that lies in it.
+QStringList foldersAround(const QStringList& sources)
+{
+    QStringList around{u"/"_s};
+    std::ranges::transform(sources, std::back_inserter(around),
+                           [](const QString& source) { return QFileInfo(source).path(); });
+    around.removeDuplicates();
+    return around;
+}
+
 /// A backup made by hand may have other paths for what it was made of; then what is at its top counts.
 void listRoots(const Restic& restic, const Snapshot& snapshot, const FileHandler& onFile)
 {
     std::vector<ListedFile> roots;
     std::vector<ListedFile> others;
-    // The folders around them: of a folder that is named, restic reads each that lies in it.
-    QStringList around{u"/"_s};
-    std::ranges::transform(snapshot.sources, std::back_inserter(around),
-                           [](const QString& source) { return QFileInfo(source).path(); });
-    around.removeDuplicates();
-    runLs(restic, snapshot, around, [&](const ListedFile& file) {
-        if (snapshot.sources.contains(file.path))
+    QStringList sources = snapshot.sources;
+    const auto take = [&](const ListedFile& file) {
+        if (sources.contains(file.path))
             roots.push_back(file);
         else if (file.parent().isEmpty())
             others.push_back(file);
-    });
+    };
+    QStringList asked;
+    const auto isAsked = [&asked](const QString& folder) { return asked.contains(folder); };
+    while (!std::ranges::all_of(foldersAround(sources), isAsked)) { // at most twice: what restic says of them is true
+        asked = foldersAround(sources);
+        roots.clear();
+        others.clear();
+        runLs(restic, snapshot, asked, take, [&sources](const QStringList& recorded) { sources = recorded; });
+    }
     std::ranges::for_each(roots.empty() ? others : roots, onFile);
 }
 

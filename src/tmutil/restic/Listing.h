@@ -10,17 +10,13 @@
 #include <QStringList>
 
 #include <deque>
+#include <optional>
 #include <vector>
 
 namespace quillon {
 
+class History;
 class Restic;
-
-/// A disk that can be read, with its backups, oldest first.
-struct ReadableDisk {
-    Repository repository;
-    std::vector<Snapshot> snapshots;
-};
 
 /// Something in a backup, or all of it.
 struct PlaceInBackup {
@@ -43,18 +39,28 @@ public:
     /// place is good as long as this object lives. Throws Failure where there is no such backup, or more than one.
     PlaceInBackup find(const QString& name);
 
+    /// The same as the history remembers it, without a look at the list. Only the backup's identifier is known, and it
+    /// may be gone; its sources are taken to be the likely ones.
+    std::optional<PlaceInBackup> recall(const QString& name, const History& history, const QStringList& likelySources);
+
 private:
-    const ReadableDisk* disk(const Destination& destination);
+    struct Disk {
+        Destination destination;
+        std::optional<Repository> repository;           ///< nothing where it is not there
+        std::optional<std::vector<Snapshot>> snapshots; ///< once they have been read
+    };
+    Disk& disk(const Destination& destination);
 
     const std::vector<Destination>& destinations_;
     const Folders& folders_;
-    std::deque<ReadableDisk> disks_; ///< places refer to them
+    std::deque<Disk> disks_; ///< places refer to them
 };
 
 using FileHandler = FindOutput::FileHandler;
 
 /// What is directly in a folder of the backup, as restic tells it, file by file; of a file that itself. Without a path
-/// the folders that the backup was made of. False where the backup has nothing at that path. Throws Failure.
+/// the folders that the backup was made of, which is quick where they are those of the snapshot. False where the backup
+/// has nothing at that path. Throws Failure, also where there is no backup of that identifier.
 bool listFolder(const Restic& restic, const Snapshot& snapshot, const QString& path, const FileHandler& onFile);
 
 /// The same with all that is below, folders ahead of what they hold.

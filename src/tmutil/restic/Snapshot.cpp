@@ -74,6 +74,12 @@ std::vector<Snapshot> snapshotsIn(const Repository& repository, const Restic& re
     return snapshots;
 }
 
+std::optional<QStringList> sourcesIn(const QByteArray& line)
+{
+    const QJsonValue sources = QJsonDocument::fromJson(line)["paths"_L1];
+    return sources.isArray() ? std::optional(sources.toVariant().toStringList()) : std::nullopt;
+}
+
 std::vector<Snapshot> holdersOf(const std::vector<Snapshot>& snapshots, const QString& path)
 {
     std::vector<Snapshot> found;

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -37,6 +38,9 @@ private:
 /// The backups of this program in one repository, and all of them in one that was made by hand, oldest first. Throws
 /// Failure.
 std::vector<Snapshot> snapshotsIn(const Repository& repository, const Restic& restic);
+
+/// The folders that a backup was made of, as a line of `restic ls --json` tells them; nothing in one about a file.
+std::optional<QStringList> sourcesIn(const QByteArray& line);
 
 /// Those in which a path lies that begins with the name of one.
 std::vector<Snapshot> holdersOf(const std::vector<Snapshot>& snapshots, const QString& path);
