@@ -58,10 +58,14 @@ mv host kept; mv stranger host; stop; sshd; attempt $sftp | sed "s,$(fingerprint
 ./tmutil startbackup -b 2>said; echo $?; cause
 mv kept host; stop; sshd
 echo of years of work >source/file; back_up; attempt $sftp
+record=$(ls away/snapshots); chmod u+w away/snapshots/*; truncate -s 10 away/snapshots/*; rm -r cache
+back_up >said; cause; tmutil listbackups | wc -l
+back_up | grep -c "snapshots/$record\.$"; cause; tmutil listbackups | wc -l
 )sh",
            "4 DestinationMissing\n16 UnknownHostKey SHOWN\n16\nnothing was set\n77 AccessDenied\n0 Empty\n0 Backups\n"
            "-rw-------\n-rw-------\nNetwork\naway\nURL\n"
-           "16 ChangedHostKey SHOWN\n1\nChangedHostKey\n0 Backups\n");
+           "16 ChangedHostKey SHOWN\n1\nChangedHostKey\n0 Backups\n"
+           "BackupsLost\n1\n1\nDamaged\n1\n");
 }
 
 TEST_F(NetworkPlaceIntegration, BackupsAtAServerAreReadRestoredVerifiedAndTakenUpLikeThoseOnADisk)

@@ -26,6 +26,7 @@ TEST(BackupRemark, NamesTheGravestCauseAndAllThatThereIsToSay)
         {u"SpaceMade"_s, [&] { remark.removed.resize(2); }},
         {u"MissingSource"_s, [&] { remark.lackingSources = {u"A is not there."_s}; }},
         {u"UnreadFiles"_s, [&] { remark.unreadFiles = 1; }},
+        {u"Damaged"_s, [&] { remark.damagedRecordsLeft = {u"snapshots/a"_s}; }},
         {u"Damaged"_s, [&] { remark.damagedRecords = 1; }},
         {u"BackupsLost"_s, [&] { remark.lostBackups = 3; }},
         {u"SourceLost"_s, [&] { remark.lostSources = {u"B is empty."_s}; }},
@@ -35,9 +36,10 @@ TEST(BackupRemark, NamesTheGravestCauseAndAllThatThereIsToSay)
         EXPECT_EQ(remark.text(now)->first, cause);
     }
     const QString text = remark.text(now)->second;
-    for (const auto& part : {u"B is empty. 3 earlier backups, the latest"_s,
-                             u"put aside. One file could not be read. A is not there. The disk was full, and 2"_s,
-                             u"restic: something."_s, u"not been verified since 2026-10-24."_s})
+    for (const auto& part :
+         {u"B is empty. 3 earlier backups, the latest"_s, u"put aside. The records of 1"_s,
+          u"elsewhere: snapshots/a. One file could not be read. A is not there. The disk was full, and 2"_s,
+          u"restic: something."_s, u"not been verified since 2026-10-24."_s})
         EXPECT_TRUE(text.contains(part)) << text.toStdString();
 }
 

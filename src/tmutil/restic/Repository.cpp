@@ -2,6 +2,7 @@
 
 #include "Folders.h"
 #include "Restic.h"
+#include "Snapshot.h"
 
 #include <QCryptographicHash>
 
@@ -115,19 +116,24 @@ bool holdsSnapshot(const Repository& repository, const Restic& restic, const QSt
     return outcome.exitStatus == 0;
 }
 
-qlonglong setAsideDamagedSnapshots(const Repository& repository)
+DamagedRecords putAsideDamagedRecords(const Repository& repository, const Restic& restic)
 {
     const RepositoryFolder* const folder = repository.folder();
-    qlonglong count = 0;
-    for (const QByteArray& name : folder != nullptr ? folder->namesIn("snapshots") : QByteArrayList()) {
+    DamagedRecords damaged;
+    if (folder == nullptr) {
+        for (const QString& identifier : unreadableSnapshots(restic))
+            damaged.left.append("snapshots/"_L1 + identifier);
+        return damaged;
+    }
+    for (const QByteArray& name : folder->namesIn("snapshots")) {
         if (stateOf(folder->descriptor(), "snapshots/" + name, name) != PackState::Damaged)
             continue;
         mkdirat(folder->descriptor(), "damaged", S_IRWXU);
         if (renameat(folder->descriptor(), ("snapshots/" + name).constData(), folder->descriptor(),
                      ("damaged/" + name).constData()) == 0)
-            ++count;
+            ++damaged.putAside;
     }
-    return count;
+    return damaged;
 }
 
 void repairRepository(const Repository& repository, const QStringList& packs, const Restic& restic)

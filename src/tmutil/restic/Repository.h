@@ -52,9 +52,15 @@ QStringList damagedPacks(const Repository& repository, const Restic& restic, con
 /// where that cannot be told.
 bool holdsSnapshot(const Repository& repository, const Restic& restic, const QString& identifier);
 
-/// Moves the records of backups that are not as they were written into a folder beside them, so that they keep restic
-/// from nothing; those at a network place stay. Gives their number.
-qlonglong setAsideDamagedSnapshots(const Repository& repository);
+/// Records of backups that are not as they were written.
+struct DamagedRecords {
+    qlonglong putAside = 0;
+    QStringList left; ///< by their names in the repository
+};
+
+/// On a disk they are moved into a folder beside the others, so that they keep restic from nothing; at a network place,
+/// which only restic knows how to reach, they stay. Throws Failure.
+DamagedRecords putAsideDamagedRecords(const Repository& repository, const Restic& restic);
 
 /// Prepares a damaged repository for the next backup, which stores anew what it does not find: restic saves what it can
 /// of files of data that are not as they were written, if it knows how to, and the index is made anew. Throws Failure.

@@ -74,6 +74,18 @@ std::vector<Snapshot> snapshotsIn(const Repository& repository, const Restic& re
     return snapshots;
 }
 
+QStringList unreadableSnapshots(const Restic& restic)
+{
+    const auto files = restic.run({u"list"_s, u"snapshots"_s, u"--no-lock"_s});
+    const auto read = restic.run({u"snapshots"_s, u"--json"_s, u"--no-lock"_s});
+    files.require();
+    read.require();
+    QStringList identifiers = QString::fromLatin1(files.output).split(u'\n', Qt::SkipEmptyParts);
+    for (const QJsonValue snapshot : QJsonDocument::fromJson(read.output).array())
+        identifiers.removeAll(snapshot["id"_L1].toString());
+    return identifiers;
+}
+
 std::optional<QStringList> sourcesIn(const QByteArray& line)
 {
     const QJsonValue sources = QJsonDocument::fromJson(line)["paths"_L1];

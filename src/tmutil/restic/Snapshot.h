@@ -39,6 +39,9 @@ private:
 /// Failure.
 std::vector<Snapshot> snapshotsIn(const Repository& repository, const Restic& restic);
 
+/// The identifiers of those that restic lists and cannot read. Throws Failure.
+QStringList unreadableSnapshots(const Restic& restic);
+
 /// The folders that a backup was made of, as a line of `restic ls --json` tells them; nothing in one about a file.
 std::optional<QStringList> sourcesIn(const QByteArray& line);
 

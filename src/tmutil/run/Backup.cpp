@@ -152,7 +152,10 @@ void Backup::findSources()
     history_.noteHostName(QSysInfo::machineHostName());
     earlier_.emplace(*repository_, restic(), history_.hostNames());
     findLostBackups();
-    settleCutOffBackups();
+    // A backup that is cut off before it was looked at bears the tag of a complete one.
+    if (const QDateTime since = history_.uncheckedSince(destination_.id); since.isValid())
+        earlier_->markEmptied(since);
+    history_.setUncheckedSince(destination_.id, {});
     findLostSources(sources_.missing, "is not there"_L1);
     findLostSources(sources_.moved, "leads elsewhere by a link now"_L1);
     findLostSources(sources_.leftOut, "is left out by an exclusion"_L1);
@@ -229,14 +232,6 @@ void Backup::findDroppedFolders()
     history_.setCaches(destination_.id, judged);
 }
 
-/// A backup that is cut off before it was looked at bears the tag of a complete one.
-void Backup::settleCutOffBackups()
-{
-    if (const QDateTime since = history_.uncheckedSince(destination_.id); since.isValid())
-        earlier_->markEmptied(since);
-    history_.setUncheckedSince(destination_.id, {});
-}
-
 void Backup::copy()
 {
     if (remark_.lostSources.isEmpty()) {
@@ -252,7 +247,7 @@ void Backup::copy()
         });
         const QStringList arguments = QStringList{u"backup"_s} + output.options() +
                                       QStringList{u"--tag"_s, Snapshot::tag(remark_.lostSources.isEmpty())} +
-                                      sources_.arguments();
+                                      parentOptions_ + sources_.arguments();
         const auto outcome = program.runUnlocking(
             arguments,
             [&](const QByteArray& line) {
@@ -277,19 +272,23 @@ void Backup::copy()
         if (isMade && (outcome.exitStatus == 0 || outcome.exitStatus == someFilesUnread))
             return;
         const ResticProblem problem = outcome.diagnosis().problem;
-        if (problem == ResticProblem::Unknown && setAsideDamagedSnapshots())
+        if (problem == ResticProblem::Unknown && passDamagedRecords())
             continue;
         if (problem != ResticProblem::NoSpace || !makeRoom())
             throw outcome.failure();
     }
 }
 
-/// One damaged record of a backup keeps restic from making any.
-bool Backup::setAsideDamagedSnapshots()
+/// One damaged record of a backup keeps restic from making any, unless it is put aside or not looked at.
+bool Backup::passDamagedRecords()
 {
-    const auto count = quillon::setAsideDamagedSnapshots(*repository_);
-    remark_.damagedRecords += count;
-    return count > 0;
+    const DamagedRecords damaged = putAsideDamagedRecords(*repository_, restic());
+    remark_.damagedRecords += damaged.putAside;
+    if (damaged.left.isEmpty() || !parentOptions_.isEmpty())
+        return damaged.putAside > 0;
+    remark_.damagedRecordsLeft = damaged.left;
+    parentOptions_ = earlier_->parentOptions();
+    return true;
 }
 
 void Backup::note(const BackupOutput& output, const ResticOutcome& outcome)

@@ -65,8 +65,7 @@ private:
     void findLostBackups();
     void findUnsavedFolders(const QStringList& unread);
     void findSwallowedSources(const QStringList& empty);
-    bool setAsideDamagedSnapshots();
-    void settleCutOffBackups();
+    bool passDamagedRecords();
     void copy();
     void markIncomplete();
     void note(const BackupOutput& output, const ResticOutcome& outcome);
@@ -88,6 +87,7 @@ private:
     std::optional<EarlierBackups> earlier_;
     QString snapshotId_;
     bool repaired_ = false;
+    QStringList parentOptions_;         ///< empty while restic looks itself for the backup to go on from
     std::optional<quint64> roomWanted_; ///< in blocks of the disk, once room has been made
     BackupRemark remark_;
     RunLog log_;

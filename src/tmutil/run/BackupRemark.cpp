@@ -62,6 +62,12 @@ bool EarlierBackups::contains(const QString& identifier)
     return std::ranges::any_of(all(), [&](const Snapshot& snapshot) { return snapshot.id == identifier; });
 }
 
+QStringList EarlierBackups::parentOptions()
+{
+    const Snapshot* const latest = quillon::latestOf(all(), QDateTime::currentDateTimeUtc());
+    return latest != nullptr ? QStringList{u"--parent"_s, latest->id} : QStringList{u"--force"_s};
+}
+
 void EarlierBackups::markEmptied(const QDateTime& since)
 {
     for (auto snapshot = all().rbegin(); snapshot != all().rend() && snapshot->time >= since; ++snapshot) {
@@ -146,6 +152,11 @@ std::optional<std::pair<QString, QString>> BackupRemark::text(const QDateTime& n
              "\"restic recover\" may bring their files back within the coming week."_s.arg(lostBackups)});
     if (damagedRecords > 0)
         add(u"Damaged"_s, {u"The records of %1 backups were damaged and have been put aside."_s.arg(damagedRecords)});
+    if (!damagedRecordsLeft.isEmpty())
+        add(u"Damaged"_s,
+            {u"The records of %1 backups are damaged. Old backups can be thinned again once these files of "
+             "the network place are moved elsewhere: %2."_s.arg(QString::number(damagedRecordsLeft.size()),
+                                                                damagedRecordsLeft.join(u", "_s))});
     if (unreadFiles > 0)
         add(u"UnreadFiles"_s, {counted(unreadFiles)});
     add(u"MissingSource"_s, lackingSources);

@@ -33,6 +33,9 @@ public:
     /// Whether there is one of that identifier.
     bool contains(const QString& identifier);
 
+    /// What lets restic go on from the latest complete one, or from none, without a look at any other.
+    QStringList parentOptions();
+
     /// Of those made since then, the ones that lack a source which held files before become incomplete.
     void markEmptied(const QDateTime& since);
 
@@ -55,9 +58,10 @@ struct BackupRemark {
     QStringList lostSources;    ///< sentences on sources that held files before and don't now
     QStringList lackingSources; ///< sentences on what is not there or left out
     qlonglong unreadFiles = 0;
-    qlonglong lostBackups = 0;     ///< that were on the disk at the last run, and that nobody thins
-    qlonglong damagedRecords = 0;  ///< of backups, put aside
-    std::vector<Snapshot> removed; ///< for want of room, oldest first
+    qlonglong lostBackups = 0;      ///< that were on the disk at the last run, and that nobody thins
+    qlonglong damagedRecords = 0;   ///< of backups, put aside
+    QStringList damagedRecordsLeft; ///< their files, at a network place
+    std::vector<Snapshot> removed;  ///< for want of room, oldest first
     QString thinningProblem;
     QDateTime lastVerification; ///< invalid where there was none yet
 
