@@ -129,7 +129,7 @@ head -c 100000000 /dev/zero >disk/other 2>said; random data 2000000; back_up_and
 random much 20000000; back_up_and_list; cause
 )sh",
                      "The disk was full, and the backup NAME was removed.\n2002\n2003\nTODAY\n"
-                     "tmutil: The backup disk is full. The disk was full, and old backups were removed.\n"
+                     "tmutil: There is no room left for backups. The disk was full, and old backups were removed.\n"
                      "startbackup: 1\nTODAY\nNoSpace\n");
 }
 

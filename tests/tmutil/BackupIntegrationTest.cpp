@@ -87,7 +87,7 @@ touch locked; back_up; ls locked
 touch forgetful; back_up 2>&1
 rm forgetful; touch broken; back_up 2>&1
 )sh",
-                     "tmutil: The backup was written, but cannot be found on the disk \"disk\".\nstartbackup: 1\n"
+                     "tmutil: The backup was written, but cannot be found on \"disk\".\nstartbackup: 1\n"
                      "tmutil: restic: unable to save snapshot: something new\nstartbackup: 1\n");
 }
 

@@ -53,8 +53,7 @@ void removeDestination(const Folders& folders, const QString& id)
     if (!lock.tryLock()) {
         const auto run = RunState::current(folders.state);
         if (!run || run->destinationId.compare(id, Qt::CaseInsensitive) == 0)
-            throw Failure(ExitStatus::AlreadyRunning,
-                          u"A backup to this disk is running, or about to. Stop it first."_s);
+            throw Failure(ExitStatus::AlreadyRunning, u"A backup to it is running, or about to. Stop it first."_s);
     }
     Configuration(folders).removeDestination(id);
     NetworkAccess::removeSecrets(folders, id.toUpper());

@@ -33,7 +33,8 @@ std::vector<ReadableDisk> readableDisks(const Folders& folders)
 {
     const Configuration configuration(folders);
     if (configuration.destinations().empty())
-        throw Failure(ExitStatus::NoDestination, u"No backup disk is set. Set one with \"tmutil setdestination\"."_s);
+        throw Failure(ExitStatus::NoDestination,
+                      u"No backup disk or network place is set. Set one with \"tmutil setdestination\"."_s);
     std::vector<ReadableDisk> disks;
     std::optional<Failure> unreadable;
     bool isAnyThere = false;
@@ -52,7 +53,7 @@ std::vector<ReadableDisk> readableDisks(const Folders& folders)
         }
     }
     if (!isAnyThere)
-        throw Failure(ExitStatus::DestinationMissing, u"No backup disk is there."_s);
+        throw Failure(ExitStatus::DestinationMissing, u"No backup disk or network place is there."_s);
     if (disks.empty())
         throw unreadable.value_or(Failure(ExitStatus::NoBackup, u"There are no backups."_s));
     return disks;

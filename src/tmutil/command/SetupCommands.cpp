@@ -29,12 +29,12 @@ namespace {
 void printRecoveryKey(const Destination& destination, const QString& key)
 {
     print(QStringList{
-        u"The recovery key of the backup disk \"%1\":"_s.arg(shownText(destination.name)),
+        u"The recovery key of the backups on \"%1\":"_s.arg(shownText(destination.name)),
         {},
         u"    "_s + key,
         {},
-        u"Write it down and keep it away from this computer and from the disk. It is shown only now; whoever has it "
-        "and the disk can read the backups. On another computer \"tmutil adopt %1\" asks for it and takes the backups up."_s
+        u"Write it down and keep it away from this computer and from the backups. It is shown only now; whoever has "
+        "it and the backups can read them. On another computer \"tmutil adopt %1\" asks for it and takes the backups up."_s
             .arg(destination.isNetwork() ? destination.path : u"PATH"_s)});
 }
 
@@ -148,8 +148,8 @@ void welcome(const Destination& destination, bool isNew, const std::function<Rep
         if (isatty(STDOUT_FILENO) != 0)
             KeyStore(folders.configuration).setKeptRecoveryKey(destination.id, made.identifier);
     } catch (const Failure& failure) {
-        printForPeople(
-            QStringList(u"There is no recovery key for this disk yet: %1 \"tmutil recoverykey -d %2\" makes one."_s.arg(
+        printForPeople(QStringList(
+            u"There is no recovery key for these backups yet: %1 \"tmutil recoverykey -d %2\" makes one."_s.arg(
                 failure.message(), destination.id)));
     }
 }

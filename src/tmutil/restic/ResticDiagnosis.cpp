@@ -125,15 +125,15 @@ QString sentence(ResticProblem problem)
 {
     switch (problem) {
     case ResticProblem::Locked:
-        return u"Another process is using the backups on this disk."_s;
+        return u"Another process is using these backups."_s;
     case ResticProblem::NoRepository:
-        return u"The backups on this disk are missing or damaged."_s;
+        return u"The backups are missing or damaged."_s;
     case ResticProblem::WrongKey:
-        return u"The key does not open the backups on this disk."_s;
+        return u"The key does not open the backups."_s;
     case ResticProblem::NoSpace:
-        return u"The backup disk is full."_s;
+        return u"There is no room left for backups."_s;
     case ResticProblem::NoPermission:
-        return u"The backup disk cannot be written to."_s;
+        return u"The backups cannot be written to."_s;
     case ResticProblem::NoWorkSpace:
         return u"restic's temporary files cannot be written: the disk of the home folder is full, or its cache folder "
                "is not writable."_s;

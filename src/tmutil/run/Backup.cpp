@@ -201,7 +201,7 @@ void Backup::findUnsavedFolders(const QStringList& unread)
         return;
     for (const QString& folder : readableFolders(unread))
         remark_.lostSources.append(
-            u"The folder \"%1\" could not be saved, since what the disk has of it is damaged."_s.arg(folder));
+            u"The folder \"%1\" could not be saved, since what is stored of it is damaged."_s.arg(folder));
 }
 
 /// On its first backup nothing tells that a source should hold something, but what lies in it does.
@@ -316,7 +316,7 @@ void Backup::remember()
 {
     if (!holdsSnapshot(*repository_, restic(), snapshotId_))
         throw failureOf(ResticProblem::NoRepository,
-                        u"The backup was written, but cannot be found on the disk \"%1\"."_s.arg(destination_.name));
+                        u"The backup was written, but cannot be found on \"%1\"."_s.arg(destination_.name));
     history_.setUncheckedSince(destination_.id, {});
     history_.setLastBackup(destination_.id, QDateTime::currentDateTimeUtc());
     history_.setLastFailure(destination_.id, lastRemark());

@@ -147,7 +147,7 @@ std::optional<std::pair<QString, QString>> BackupRemark::text(const QDateTime& n
     add(u"SourceLost"_s, lostSources);
     if (lostBackups > 0)
         add(u"BackupsLost"_s,
-            {u"%1 earlier backups, the latest among them, are gone from the disk, and this program has not removed "
+            {u"%1 earlier backups, the latest among them, are gone, and this program has not removed "
              u"them. "
              "\"restic recover\" may bring their files back within the coming week."_s.arg(lostBackups)});
     if (damagedRecords > 0)
@@ -165,10 +165,10 @@ std::optional<std::pair<QString, QString>> BackupRemark::text(const QDateTime& n
     if (!thinningProblem.isEmpty())
         add(u"Thinning"_s, {u"Old backups could not be thinned: %1"_s.arg(thinningProblem)});
     if (lastVerification.isValid() && lastVerification.addDays(verificationDays) < now)
-        add(u"NotVerified"_s, {u"The backups on this disk have not been verified since %1. Leave the disk and the "
-                               u"computer on for a while "
-                               "after a backup, or call \"tmutil verify\"."_s.arg(
-                                   lastVerification.toLocalTime().toString(u"yyyy-MM-dd"_s))});
+        add(u"NotVerified"_s,
+            {u"The backups have not been verified since %1. Leave the computer on, and the disk or the "
+             "network connected, for a while after a backup, or call \"tmutil verify\"."_s.arg(
+                 lastVerification.toLocalTime().toString(u"yyyy-MM-dd"_s))});
     if (cause.isEmpty())
         return std::nullopt;
     return std::pair(cause, sentences.join(u' '));

@@ -131,8 +131,8 @@ QString Damage::description() const
     if (lasting && !findings.packs.isEmpty())
         next += u" restic 0.16 or later can mend more: once it is installed, let \"tmutil verify --all\" look again."_s;
     return backups.isEmpty()
-               ? u"The backup disk is damaged, and any of its backups may lack something. "_s + next
-               : u"The backup disk is damaged; backups that lack something: %1. "_s.arg(backups.join(u", "_s)) + next;
+               ? u"The backups are damaged, and any of them may lack something. "_s + next
+               : u"The backups are damaged; those that lack something: %1. "_s.arg(backups.join(u", "_s)) + next;
 }
 
 bool Damage::outlasts(const QString& soundSubset) const

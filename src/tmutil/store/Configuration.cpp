@@ -155,7 +155,8 @@ void Configuration::removeDestination(const QString& id)
             return destination.id.compare(id, Qt::CaseInsensitive) == 0;
         });
         if (removed == 0)
-            throw Failure(ExitStatus::UnknownDestination, u"No backup disk has the identifier \"%1\"."_s.arg(id));
+            throw Failure(ExitStatus::UnknownDestination,
+                          u"No backup disk or network place has the identifier \"%1\"."_s.arg(id));
     });
 }
 
@@ -319,7 +320,7 @@ void Configuration::read()
     if (!kept.contents && ifLost_ == IfLost::Refuse)
         throw Failure(
             ExitStatus::Configuration,
-            u"The configuration \"%1\" is damaged, and so is the version before it. Set the backup disk again with "
+            u"The configuration \"%1\" is damaged, and so is the version before it. Set what you back up to again with "
             "\"tmutil setdestination\"; the damaged file is kept."_s.arg(file()));
     complaint_ = kept.damaged
                      ? u"The configuration \"%1\" is damaged or gone; the version before it is used. Look whether the "

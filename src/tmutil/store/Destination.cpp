@@ -55,7 +55,8 @@ namespace {
 void requireAny(const std::vector<Destination>& destinations)
 {
     if (destinations.empty())
-        throw Failure(ExitStatus::NoDestination, u"No backup disk is set. Set one with \"tmutil setdestination\"."_s);
+        throw Failure(ExitStatus::NoDestination,
+                      u"No backup disk or network place is set. Set one with \"tmutil setdestination\"."_s);
 }
 
 void requirePresent(const std::vector<Destination>& present, const std::vector<Destination>& destinations)
@@ -63,7 +64,7 @@ void requirePresent(const std::vector<Destination>& present, const std::vector<D
     if (present.empty())
         throw Failure(ExitStatus::DestinationMissing, destinations.size() == 1
                                                           ? destinations.front().absence()
-                                                          : u"None of the backup disks is there."_s);
+                                                          : u"None of the backup disks and network places is there."_s);
 }
 
 } // namespace
@@ -75,7 +76,8 @@ Destination namedDestination(const std::vector<Destination>& destinations, const
         return destination.id.compare(id, Qt::CaseInsensitive) == 0;
     });
     if (found == destinations.end())
-        throw Failure(ExitStatus::UnknownDestination, u"No backup disk has the identifier \"%1\"."_s.arg(id));
+        throw Failure(ExitStatus::UnknownDestination,
+                      u"No backup disk or network place has the identifier \"%1\"."_s.arg(id));
     if (!found->isPresent())
         throw Failure(ExitStatus::DestinationMissing, found->absence());
     return *found;

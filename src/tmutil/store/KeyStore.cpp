@@ -108,12 +108,12 @@ void KeyStore::require(const Destination& destination) const
     if (!contains(destination.id))
         throw Failure(
             ExitStatus::WrongKey,
-            u"The key of the backup disk \"%1\", \"%2\", is missing. Put it back, or take the disk up with its "
+            u"The key of the backups on \"%1\", \"%2\", is missing. Put it back, or take the backups up with their "
             "recovery key by \"tmutil adopt\"."_s.arg(disk, file),
             cause);
     if (!QFileInfo(file).isReadable())
         throw Failure(ExitStatus::WrongKey,
-                      u"The key of the backup disk \"%1\", \"%2\", cannot be read."_s.arg(disk, file), cause);
+                      u"The key of the backups on \"%1\", \"%2\", cannot be read."_s.arg(disk, file), cause);
 }
 
 QString KeyStore::makeKey()
