@@ -809,6 +809,82 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Die Antwort von tmutil ist nicht lesbar.</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1 (tmutil: %2)</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>Das Backup-Volume ist nicht angeschlossen, oder der Netzwerkort ist nicht erreichbar.</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>Es ist kein Platz mehr.</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>Dort kann nichts geschrieben werden.</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>Dort gibt es schon etwas mit diesem Namen; es bleibt, wie es ist.</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>Es ist nicht in den Backups.</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>Es ist im Backup beschädigt.</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>Der Inhalt ist vollständig, aber Eigentümer, Rechte oder andere Attribute ließen sich nicht wiederherstellen.</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>Die Verbindung zum Server ist abgebrochen.</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>Der Server lehnt den Benutzer, das Passwort oder den Schlüssel ab.</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>Es ist nicht sicher, dass dies der richtige Server ist.</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>Der Server meldet einen eigenen Fehler; vielleicht ist er voll.</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>Der Schlüssel der Backups fehlt oder passt nicht.</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>Die Backups werden gerade benutzt. Später erneut versuchen.</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>restic ist nicht installiert.</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>Die Backups fehlen oder sind beschädigt.</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>Die Datei oder der Ordner ist nicht vorhanden.</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>Die Einstellungen der Backups sind beschädigt.</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>Im Benutzerordner ist kein Platz für temporäre Dateien.</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1 von %2 frei</translation>
@@ -1324,7 +1400,7 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>Backup-Volume</translation>
+        <translation>Backups auf</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>Es ist kein Backup-Volume eingerichtet. Wähle eines in den Time Machine-Einstellungen, dann werden deine Dateien darauf gesichert.</translation>
+        <translation>Es ist weder ein Backup-Volume noch ein Netzwerkort eingerichtet. Wähle etwas davon in den Time Machine-Einstellungen, dann werden deine Dateien dort gesichert.</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>Es gibt kein Backup zum Durchsehen. Schließe ein Backup-Volume an oder warte auf das erste Backup darauf.</translation>
+        <translation>Es gibt kein Backup zum Durchsehen. Schließe das Backup-Volume an oder verbinde dich mit dem Netzwerk, oder warte auf das erste Backup.</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

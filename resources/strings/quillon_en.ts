@@ -809,6 +809,82 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>The answer of tmutil makes no sense.</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1 (tmutil: %2)</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>The backup disk is not connected, or the network place cannot be reached.</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>There is no room left.</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>Nothing can be written there.</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>Something of that name is there already, and stays.</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>It is not in the backups.</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>It is damaged in the backup.</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>The contents are whole, but the owner, the rights or other attributes could not be restored.</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>The connection to the server was lost.</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>The server refuses the user, the password or the key.</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>It is not certain that this is the right server.</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>The server reports an error of its own; it may be full.</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>The key of the backups is missing or does not fit.</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>The backups are in use. Try again in a while.</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>restic is not installed.</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>The backups are missing or damaged.</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>The file or folder is not there.</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>The settings of the backups are damaged.</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>There is no room for temporary files in the home folder.</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1 of %2 free</translation>
@@ -1324,7 +1400,7 @@ Backup disks are added and removed in the Time Machine settings.</translation>
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>Backup disk</translation>
+        <translation>Backups on</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@ Backup disks are added and removed in the Time Machine settings.</translation>
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>No backup disk is set up. Choose one in the Time Machine settings, and your files are backed up to it.</translation>
+        <translation>No backup disk or network place is set up. Choose one in the Time Machine settings, and your files are backed up to it.</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>There is no backup to look into. Connect a backup disk, or wait for the first backup on it.</translation>
+        <translation>There is no backup to look into. Connect the backup disk or the network, or wait for the first backup.</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

@@ -809,6 +809,82 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>La respuesta de tmutil no se entiende.</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1 (tmutil: %2)</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>El disco de copia no está conectado o no se puede acceder a la ubicación de red.</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>No queda espacio.</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>Ahí no se puede escribir.</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>Ya hay algo con ese nombre, y se conserva.</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>No está en las copias.</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>Está dañado en la copia.</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>El contenido está completo, pero no se pudieron restaurar el propietario, los permisos u otros atributos.</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>Se perdió la conexión con el servidor.</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>El servidor rechaza el usuario, la contraseña o la clave.</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>No es seguro que este sea el servidor correcto.</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>El servidor informa de un error propio; puede que esté lleno.</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>La clave de las copias falta o no es la correcta.</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>Las copias están en uso. Inténtalo de nuevo más tarde.</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>restic no está instalado.</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>Las copias faltan o están dañadas.</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>El archivo o la carpeta no existe.</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>Los ajustes de las copias están dañados.</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>No hay espacio para archivos temporales en la carpeta de inicio.</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1 disponibles de %2</translation>
@@ -1324,7 +1400,7 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>Disco de copia</translation>
+        <translation>Copias en</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>No hay ningún disco de copia configurado. Elige uno en los ajustes de Time Machine para copiar en él tus archivos.</translation>
+        <translation>No hay ningún disco de copia ni ubicación de red configurados. Elige uno en los ajustes de Time Machine para copiar ahí tus archivos.</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>No hay ninguna copia que ver. Conecta un disco de copia o espera a la primera copia en él.</translation>
+        <translation>No hay ninguna copia que ver. Conecta el disco de copia o la red, o espera a la primera copia.</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

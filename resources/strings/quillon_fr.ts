@@ -809,6 +809,82 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>La réponse de tmutil est incompréhensible.</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1 (tmutil: %2)</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>Le disque de sauvegarde n’est pas connecté, ou l’emplacement réseau est injoignable.</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>Il n’y a plus de place.</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>Rien ne peut y être écrit.</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>Un élément de ce nom existe déjà et est conservé.</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>Cet élément n’est pas dans les sauvegardes.</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>Cet élément est endommagé dans la sauvegarde.</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>Le contenu est intact, mais le propriétaire, les autorisations ou d’autres attributs n’ont pas pu être restaurés.</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>La connexion au serveur a été interrompue.</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>Le serveur refuse l’utilisateur, le mot de passe ou la clé.</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>Il n’est pas certain que ce soit le bon serveur.</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>Le serveur signale une erreur interne ; il est peut-être plein.</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>La clé des sauvegardes manque ou ne convient pas.</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>Les sauvegardes sont en cours d’utilisation. Réessayez plus tard.</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>restic n’est pas installé.</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>Les sauvegardes sont absentes ou endommagées.</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>Le fichier ou le dossier n’existe pas.</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>Les réglages des sauvegardes sont endommagés.</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>Il n’y a pas de place pour les fichiers temporaires dans le dossier personnel.</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1 disponibles sur %2</translation>
@@ -1324,7 +1400,7 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>Disque de sauvegarde</translation>
+        <translation>Sauvegardes sur</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>Aucun disque de sauvegarde n’est configuré. Choisissez-en un dans les réglages de Time Machine pour y sauvegarder vos fichiers.</translation>
+        <translation>Aucun disque de sauvegarde ni emplacement réseau n’est configuré. Choisissez-en un dans les réglages de Time Machine pour y sauvegarder vos fichiers.</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>Il n’y a aucune sauvegarde à parcourir. Connectez un disque de sauvegarde ou attendez sa première sauvegarde.</translation>
+        <translation>Il n’y a aucune sauvegarde à parcourir. Connectez le disque de sauvegarde ou le réseau, ou attendez la première sauvegarde.</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

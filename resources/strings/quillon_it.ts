@@ -809,6 +809,82 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>La risposta di tmutil non è comprensibile.</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1 (tmutil: %2)</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>Il disco di backup non è collegato o il percorso di rete non è raggiungibile.</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>Non c’è più spazio.</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>Lì non è possibile scrivere.</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>C’è già qualcosa con quel nome, e rimane.</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>Non è nei backup.</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>È danneggiato nel backup.</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>Il contenuto è integro, ma non è stato possibile ripristinare il proprietario, i permessi o altri attributi.</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>La connessione al server si è interrotta.</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>Il server rifiuta l’utente, la password o la chiave.</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>Non è certo che questo sia il server giusto.</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>Il server segnala un proprio errore; potrebbe essere pieno.</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>La chiave dei backup manca o non è quella giusta.</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>I backup sono in uso. Riprova più tardi.</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>restic non è installato.</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>I backup mancano o sono danneggiati.</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>Il file o la cartella non c’è.</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>Le impostazioni dei backup sono danneggiate.</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>Nella cartella Inizio non c’è spazio per i file temporanei.</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1 disponibili di %2</translation>
@@ -1324,7 +1400,7 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>Disco di backup</translation>
+        <translation>Backup su</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>Nessun disco di backup è configurato. Scegline uno nelle impostazioni di Time Machine per salvarvi i tuoi file.</translation>
+        <translation>Nessun disco di backup o percorso di rete è configurato. Scegline uno nelle impostazioni di Time Machine per salvarvi i tuoi file.</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>Non c’è nessun backup da esplorare. Collega un disco di backup o attendi il suo primo backup.</translation>
+        <translation>Non c’è nessun backup da esplorare. Collega il disco di backup o la rete, o attendi il primo backup.</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

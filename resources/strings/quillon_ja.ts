@@ -809,6 +809,82 @@
         <source></source>
         <translation>tmutilの応答を解釈できません。</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1（tmutil: %2）</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>バックアップディスクが接続されていないか、ネットワークの場所に接続できません。</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>空き容量がありません。</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>そこには書き込めません。</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>同じ名前の項目がすでにあり、そのまま残されます。</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>バックアップにありません。</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>バックアップ内で壊れています。</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>内容は完全ですが、所有者、アクセス権、またはその他の属性を復元できませんでした。</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>サーバとの接続が切れました。</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>サーバがユーザ、パスワード、または鍵を拒否しました。</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>正しいサーバかどうか確認できません。</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>サーバがエラーを返しました。空き容量がない可能性があります。</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>バックアップのキーがないか、一致しません。</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>バックアップは使用中です。しばらくしてからやり直してください。</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>resticがインストールされていません。</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>バックアップがないか、壊れています。</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>ファイルまたはフォルダがありません。</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>バックアップの設定が壊れています。</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>ホームフォルダに一時ファイル用の空きがありません。</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>空き容量%1/%2</translation>
@@ -1324,7 +1400,7 @@
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>バックアップディスク</translation>
+        <translation>バックアップ先</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>バックアップディスクが設定されていません。Time Machineの設定で選択すると、ファイルがバックアップされます。</translation>
+        <translation>バックアップディスクもネットワークの場所も設定されていません。Time Machineの設定で選択すると、ファイルがバックアップされます。</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>見られるバックアップがありません。バックアップディスクを接続するか、最初のバックアップをお待ちください。</translation>
+        <translation>見られるバックアップがありません。バックアップディスクまたはネットワークに接続するか、最初のバックアップをお待ちください。</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

@@ -809,6 +809,82 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>Het antwoord van tmutil is onleesbaar.</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1 (tmutil: %2)</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>De reservekopieschijf is niet aangesloten of de netwerklocatie is niet bereikbaar.</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>Er is geen ruimte meer.</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>Daar kan niets worden geschreven.</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>Er is al iets met die naam; dat blijft staan.</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>Het zit niet in de reservekopieën.</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>Het is beschadigd in de reservekopie.</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>De inhoud is volledig, maar de eigenaar, de rechten of andere kenmerken konden niet worden hersteld.</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>De verbinding met de server is verbroken.</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>De server weigert de gebruiker, het wachtwoord of de sleutel.</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>Het is niet zeker dat dit de juiste server is.</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>De server meldt een eigen fout; misschien is hij vol.</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>De sleutel van de reservekopieën ontbreekt of past niet.</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>De reservekopieën zijn in gebruik. Probeer het later opnieuw.</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>restic is niet geïnstalleerd.</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>De reservekopieën ontbreken of zijn beschadigd.</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>Het bestand of de map is er niet.</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>De instellingen van de reservekopieën zijn beschadigd.</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>Er is geen ruimte voor tijdelijke bestanden in de thuismap.</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1 van %2 vrij</translation>
@@ -1324,7 +1400,7 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>Reservekopieschijf</translation>
+        <translation>Reservekopieën op</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>Er is geen reservekopieschijf ingesteld. Kies er een in de Time Machine-instellingen, dan worden je bestanden erop bewaard.</translation>
+        <translation>Er is geen reservekopieschijf of netwerklocatie ingesteld. Kies er een in de Time Machine-instellingen, dan worden je bestanden daar bewaard.</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>Er is geen reservekopie om te bekijken. Sluit een reservekopieschijf aan of wacht op de eerste reservekopie.</translation>
+        <translation>Er is geen reservekopie om te bekijken. Sluit de reservekopieschijf aan of maak verbinding met het netwerk, of wacht op de eerste reservekopie.</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

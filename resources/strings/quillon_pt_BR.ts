@@ -809,6 +809,82 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>A resposta do tmutil não faz sentido.</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1 (tmutil: %2)</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>O disco de backup não está conectado ou o local de rede está inacessível.</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>Não há mais espaço.</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>Não é possível gravar lá.</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>Já existe algo com esse nome, e será mantido.</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>Não está nos backups.</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>Está danificado no backup.</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>O conteúdo está íntegro, mas não foi possível restaurar o proprietário, as permissões ou outros atributos.</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>A conexão com o servidor foi perdida.</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>O servidor recusa o usuário, a senha ou a chave.</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>Não é certo que este seja o servidor correto.</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>O servidor informa um erro próprio; talvez esteja cheio.</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>A chave dos backups está faltando ou não é a correta.</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>Os backups estão em uso. Tente novamente mais tarde.</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>O restic não está instalado.</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>Os backups estão faltando ou danificados.</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>O arquivo ou a pasta não existe.</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>Os ajustes dos backups estão danificados.</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>Não há espaço para arquivos temporários na pasta pessoal.</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1 de %2 disponíveis</translation>
@@ -1324,7 +1400,7 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>Disco de backup</translation>
+        <translation>Backups em</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>Nenhum disco de backup está configurado. Escolha um nos ajustes do Time Machine para copiar seus arquivos nele.</translation>
+        <translation>Nenhum disco de backup ou local de rede está configurado. Escolha um nos ajustes do Time Machine para copiar seus arquivos nele.</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>Não há backup para explorar. Conecte um disco de backup ou espere o primeiro backup nele.</translation>
+        <translation>Não há backup para explorar. Conecte o disco de backup ou a rede, ou espere o primeiro backup.</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

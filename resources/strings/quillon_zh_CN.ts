@@ -809,6 +809,82 @@
         <source></source>
         <translation>无法理解 tmutil 的回答。</translation>
     </message>
+    <message id="reasonWithDetail">
+        <source></source>
+        <translation>%1（tmutil：%2）</translation>
+    </message>
+    <message id="reasonMissing">
+        <source></source>
+        <translation>备份磁盘未连接，或无法连接到网络位置。</translation>
+    </message>
+    <message id="reasonNoSpace">
+        <source></source>
+        <translation>没有可用空间。</translation>
+    </message>
+    <message id="reasonCannotWrite">
+        <source></source>
+        <translation>那里无法写入。</translation>
+    </message>
+    <message id="reasonExists">
+        <source></source>
+        <translation>已有同名项目，将予以保留。</translation>
+    </message>
+    <message id="reasonNotInBackups">
+        <source></source>
+        <translation>备份中没有此项目。</translation>
+    </message>
+    <message id="reasonDamaged">
+        <source></source>
+        <translation>它在备份中已损坏。</translation>
+    </message>
+    <message id="reasonNoAttributes">
+        <source></source>
+        <translation>内容完整，但无法恢复所有者、权限或其他属性。</translation>
+    </message>
+    <message id="reasonConnectionLost">
+        <source></source>
+        <translation>与服务器的连接已中断。</translation>
+    </message>
+    <message id="reasonAccessDenied">
+        <source></source>
+        <translation>服务器拒绝了用户、密码或密钥。</translation>
+    </message>
+    <message id="reasonUntrusted">
+        <source></source>
+        <translation>无法确定这是正确的服务器。</translation>
+    </message>
+    <message id="reasonServerFailed">
+        <source></source>
+        <translation>服务器报告了自身的错误，可能已满。</translation>
+    </message>
+    <message id="reasonWrongKey">
+        <source></source>
+        <translation>备份的密钥缺失或不匹配。</translation>
+    </message>
+    <message id="reasonLocked">
+        <source></source>
+        <translation>备份正在使用中。请稍后再试。</translation>
+    </message>
+    <message id="reasonResticMissing">
+        <source></source>
+        <translation>未安装 restic。</translation>
+    </message>
+    <message id="reasonNoRepository">
+        <source></source>
+        <translation>备份缺失或已损坏。</translation>
+    </message>
+    <message id="reasonNoInput">
+        <source></source>
+        <translation>文件或文件夹不存在。</translation>
+    </message>
+    <message id="reasonConfiguration">
+        <source></source>
+        <translation>备份的设置已损坏。</translation>
+    </message>
+    <message id="reasonNoWorkSpace">
+        <source></source>
+        <translation>个人文件夹中没有空间存放临时文件。</translation>
+    </message>
     <message id="disksRoom">
         <source></source>
         <translation>%1可用，共%2</translation>
@@ -1324,7 +1400,7 @@
     </message>
     <message id="browseDiskLabel">
         <source></source>
-        <translation>备份磁盘</translation>
+        <translation>备份位置</translation>
     </message>
     <message id="browseTimelineName">
         <source></source>
@@ -1400,11 +1476,11 @@
     </message>
     <message id="browseNoDiskMessage">
         <source></source>
-        <translation>尚未设置备份磁盘。请在时间机器设置中选择一个，以备份您的文件。</translation>
+        <translation>尚未设置备份磁盘或网络位置。请在时间机器设置中选择一个，以备份您的文件。</translation>
     </message>
     <message id="browseNoBackupMessage">
         <source></source>
-        <translation>没有可浏览的备份。请连接备份磁盘，或等待首次备份完成。</translation>
+        <translation>没有可浏览的备份。请连接备份磁盘或网络，或等待首次备份完成。</translation>
     </message>
     <message id="browseSettingsTitle">
         <source></source>

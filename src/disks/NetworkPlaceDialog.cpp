@@ -215,7 +215,7 @@ void NetworkPlaceDialog::trust()
 
 void NetworkPlaceDialog::keep()
 {
-    change(callOf(QStringList{u"setdestination"_s, u"-a"_s} + form_->limits()), input());
+    change(callOf(QStringList{u"setdestination"_s, u"-a"_s, u"-X"_s} + form_->limits()), input());
 }
 
 void NetworkPlaceDialog::takeUp()

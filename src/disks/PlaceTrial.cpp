@@ -44,9 +44,10 @@ PlaceTrial PlaceTrial::read(const TmutilAnswer& answer)
         return {.outcome = contents == "Empty"_L1 ? Outcome::Empty : Outcome::Backups};
     if (answer.success)
         return {.description = localizedString("disksToolUnreadable")};
+    const QString cause = told.value(u"Cause"_s).toString();
     const QString description = shownLongText(told.value(u"Description"_s).toString());
-    return {.outcome = outcomeOf(told.value(u"Cause"_s).toString()),
-            .description = description.isEmpty() ? answer.complaint : description,
+    return {.outcome = outcomeOf(cause),
+            .description = description.isEmpty() ? answer.complaint : toolReason(cause, description),
             .fingerprint = shownText(told.value(u"HostKey"_s).toMap().value(u"Fingerprint"_s).toString())};
 }
 

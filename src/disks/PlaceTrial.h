@@ -20,11 +20,11 @@ struct PlaceTrial {
         NoAnswer,
         NoSpace,
         WrongKey, ///< has backups that this computer cannot open
-        Other,    ///< of which only tmutil's words tell
+        Other,    ///< of which only the description tells
     };
 
     Outcome outcome = Outcome::Other;
-    QString description{}; ///< in tmutil's words, fit to be shown
+    QString description{}; ///< what went wrong, fit to be shown
     QString fingerprint{}; ///< of the host key that is unknown or has changed
 
     /// Reads the answer to a trial, or to a call that sets the place.

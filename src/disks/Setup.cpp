@@ -4,6 +4,8 @@
 #include "LocalizedString.h"
 #include "ShownText.h"
 
+#include <QMap>
+
 #include <utility>
 
 namespace quillon {
@@ -35,6 +37,52 @@ void TmutilClient::call(const QStringList& arguments, const Handler& handler, co
                    .input = input});
 }
 
+namespace {
+
+/// Of the exit statuses those that tell why: tmutil(1), EXIT STATUS.
+QString causeOf(int status)
+{
+    static const QMap<int, QString> causes{{4, u"DestinationMissing"_s}, {5, u"Locked"_s},
+                                           {6, u"NoBackup"_s},           {9, u"ResticMissing"_s},
+                                           {15, u"WrongKey"_s},          {16, u"Untrusted"_s},
+                                           {66, u"NoInput"_s},           {73, u"CannotWrite"_s},
+                                           {77, u"AccessDenied"_s},      {78, u"ConfigurationDamaged"_s}};
+    return causes.value(status);
+}
+
+} // namespace
+
+QString toolReason(const QString& cause, const QString& line)
+{
+    static const QMap<QString, const char*> sentences{{u"AccessDenied"_s, "reasonAccessDenied"},
+                                                      {u"BadCertificate"_s, "reasonUntrusted"},
+                                                      {u"CannotWrite"_s, "reasonCannotWrite"},
+                                                      {u"ChangedHostKey"_s, "reasonUntrusted"},
+                                                      {u"ConfigurationDamaged"_s, "reasonConfiguration"},
+                                                      {u"ConnectionLost"_s, "reasonConnectionLost"},
+                                                      {u"Damaged"_s, "reasonDamaged"},
+                                                      {u"DestinationMissing"_s, "reasonMissing"},
+                                                      {u"Locked"_s, "reasonLocked"},
+                                                      {u"NoAttributes"_s, "reasonNoAttributes"},
+                                                      {u"NoBackup"_s, "reasonNotInBackups"},
+                                                      {u"NoInput"_s, "reasonNoInput"},
+                                                      {u"NoPermission"_s, "reasonCannotWrite"},
+                                                      {u"NoRepository"_s, "reasonNoRepository"},
+                                                      {u"NoSpace"_s, "reasonNoSpace"},
+                                                      {u"NoWorkSpace"_s, "reasonNoWorkSpace"},
+                                                      {u"PathExists"_s, "reasonExists"},
+                                                      {u"ResticMissing"_s, "reasonResticMissing"},
+                                                      {u"ServerFailed"_s, "reasonServerFailed"},
+                                                      {u"UnknownHostKey"_s, "reasonUntrusted"},
+                                                      {u"Untrusted"_s, "reasonUntrusted"},
+                                                      {u"WrongKey"_s, "reasonWrongKey"}};
+    const char* const key = sentences.value(cause);
+    if (key == nullptr)
+        return line;
+    const QString sentence = localizedString(key);
+    return line.isEmpty() ? sentence : localizedString("reasonWithDetail").arg(sentence, line);
+}
+
 QString toolComplaint(const TaskResult& result, const QString& executable)
 {
     if (result.status == TaskResult::launchRefused)
@@ -42,7 +90,8 @@ QString toolComplaint(const TaskResult& result, const QString& executable)
     QString line = QString::fromUtf8(result.errors).section(u'\n', 0, 0, QString::SectionSkipEmpty).trimmed();
     if (constexpr auto prefix = "tmutil: "_L1; line.startsWith(prefix))
         line.remove(0, prefix.size());
-    return line.isEmpty() ? localizedString("disksToolFailed").arg(result.status) : shownLongText(line);
+    const QString reason = toolReason(causeOf(result.status), shownLongText(line));
+    return reason.isEmpty() ? localizedString("disksToolFailed").arg(result.status) : reason;
 }
 
 Setup::Setup(const Services& services)

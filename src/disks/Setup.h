@@ -16,11 +16,15 @@ namespace quillon {
 struct TmutilAnswer {
     bool success = false;
     QByteArray output;
-    QString complaint; ///< one line for people, tmutil's own where it had one; empty after a success
+    QString complaint; ///< one line for people; empty after a success
     int status = 0;    ///< tmutil(1), EXIT STATUS
 };
 
-/// What went wrong with a call that failed, in a line for people: tmutil's own first line where it has one.
+/// Why something failed, by the word that tmutil has for it (tmutil(1), "restore --json"), with tmutil's own line
+/// behind it; that alone where there is no such word.
+QString toolReason(const QString& cause, const QString& line);
+
+/// What went wrong with a call that failed, in a line for people.
 QString toolComplaint(const TaskResult& result, const QString& executable);
 
 /// Calls tmutil, one call after the other, and says in a line for people what went wrong. Calls that

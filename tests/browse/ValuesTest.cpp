@@ -175,10 +175,7 @@ namespace {
 
 RestoreEvent told(RestoreEvent::Kind kind, const QString& source)
 {
-    return {.kind = kind,
-            .source = source,
-            .path = u"/target"_s + source,
-            .reason = kind == RestoreEvent::Kind::Failed ? u"It is damaged."_s : QString()};
+    return {.kind = kind, .source = source, .path = u"/target"_s + source};
 }
 
 } // namespace
@@ -206,7 +203,7 @@ TEST(ARestore, AsksAboutWhatIsInTheWayAndNamesWhatDidNotComeBack)
               QStringList({u"restore"_s, u"--json"_s, u"--keep-both"_s, u"/d"_s, u"/e"_s, u"/target"_s}));
     plan.take(*readRestoreEvent(
         R"({"event":"restored","source":"/d","path":"/target/d","remark":"Its owner could not be set."})"));
-    plan.take(told(Kind::Failed, u"/e"_s));
+    plan.take(*readRestoreEvent(R"({"event":"failed","source":"/e","cause":"NoSpace","reason":"Its\nwords."})"));
     plan.endCall({});
     EXPECT_EQ(plan.nextCall(), QStringList({u"restore"_s, u"--json"_s, u"--replace"_s, u"/b"_s, u"/target"_s}));
     plan.take(told(Kind::Restored, u"/b"_s));
@@ -216,9 +213,10 @@ TEST(ARestore, AsksAboutWhatIsInTheWayAndNamesWhatDidNotComeBack)
     EXPECT_EQ(plan.restored(), 3);
     EXPECT_EQ(plan.skipped(), 1);
     EXPECT_EQ(plan.lost(), 2);
-    EXPECT_EQ(plan.losses(), (std::vector<RestorePlan::Loss>{{u"/f"_s, u"The disk was pulled out."_s},
-                                                             {u"/target/d"_s, u"Its owner could not be set."_s},
-                                                             {u"/target/e"_s, u"It is damaged."_s}}));
+    EXPECT_EQ(plan.losses(),
+              (std::vector<RestorePlan::Loss>{{u"/f"_s, u"The disk was pulled out."_s},
+                                              {u"/target/d"_s, u"Its owner could not be set."_s},
+                                              {u"/e"_s, u"There is no room left. (tmutil: Its words.)"_s}}));
 }
 
 TEST(ARestore, ThatIsStoppedMakesNoFurtherCall)

@@ -77,15 +77,16 @@ TEST_F(NetworkPlaceDialogTest, AddsAServerWhoseKeyIsUnknownByKeyboard)
     EXPECT_EQ(lastCall().arguments.join(u' '), trial + u"--accept-host-key SHA256:x "_s + url);
     EXPECT_TRUE(tools_.changes.isEmpty()) << "nothing is kept of what was only tried";
 
+    tools_.answer(u"setdestination"_s, QVariantMap{{u"Cause"_s, u"NoPermission"_s}});
     tools_.answers[u"setdestination"_s].status = 1;
     press(Qt::Key_Return);
-    EXPECT_EQ(message(), localizedString("disksPlaceFailed").arg(localizedString("disksToolFailed").arg(1)));
+    EXPECT_EQ(message(), localizedString("disksPlaceNoPermission"));
     EXPECT_EQ(field(Field::Server, NetworkPlace::Kind::Sftp)->text(), u"nas.example.org"_s) << "nothing is lost";
     tools_.answers[u"setdestination"_s].status = 0;
     press(Qt::Key_Return);
     tell({disk(u"A"_s), place_});
     press(Qt::Key_Return);
-    EXPECT_TRUE(tools_.changes.contains(u"setdestination -a --credentials - --accept-host-key SHA256:x "_s + url));
+    EXPECT_TRUE(tools_.changes.contains(u"setdestination -a -X --credentials - --accept-host-key SHA256:x "_s + url));
     EXPECT_FALSE(dialog());
     EXPECT_TRUE(shown<QDialog>(u"recoveryKey"_s));
 }
@@ -164,7 +165,7 @@ TEST_F(NetworkPlaceDialogTest, OfAPlaceThatIsSetOnlyWhatIsGivenAnewIsChanged)
     shown<QSpinBox>(u"disksPlaceUpload"_s)->setValue(512);
     click(u"goOn"_s);
     click(u"goOn"_s);
-    const QString change = u"setdestination -a --upload-limit %1 --download-limit 64 %2rest:https://anna@nas/p"_s;
+    const QString change = u"setdestination -a -X --upload-limit %1 --download-limit 64 %2rest:https://anna@nas/p"_s;
     EXPECT_EQ(tools_.changes.last(), change.arg(u"512"_s, QString()));
     EXPECT_FALSE(shown<QDialog>(u"recoveryKey"_s)) << "it is no new one";
 

@@ -95,6 +95,11 @@ TEST(PlaceTrial, EveryAnswerHasWordsAndANextStep)
     const auto success = [](const QVariantMap& told) {
         return TmutilAnswer{true, propertylist::toXml(told).value(), {}, 0};
     };
+    const auto withDetail = [](const char* key) {
+        return localizedString("reasonWithDetail").arg(localizedString(key), u"Why."_s);
+    };
+    const QString reason = withDetail("reasonLocked");
+    const QString untrusted = withDetail("reasonUntrusted");
     const struct {
         TmutilAnswer answer;
         const char* key;
@@ -114,14 +119,15 @@ TEST(PlaceTrial, EveryAnswerHasWordsAndANextStep)
         {failure(u"UnknownHostKey"_s), "disksPlaceUnknownKey", Step::Trust},
         {failure(u"UnknownHostKey"_s), "disksPlaceUnknownKey", Step::Trust, u"SHA256:other"_s},
         {failure(u"ChangedHostKey"_s), "disksPlaceChangedKey", Step::Trust},
-        {failure(u"ChangedHostKey"_s), "disksPlaceFailed", Step::Try, u"SHA256:x"_s, u"Why."_s},
+        {failure(u"UnknownHostKey"_s), "disksPlaceFailed", Step::Try, u"SHA256:x"_s, untrusted},
         {failure(u"BadCertificate"_s), "disksPlaceBadCertificate"},
         {failure(u"AccessDenied"_s), "disksPlaceAccessDeniedKey"},
         {failure(u"AccessDenied"_s), "disksPlaceAccessDenied", Step::Try, {}, u"nas"_s, S3},
         {failure(u"NoPermission"_s), "disksPlaceNoPermission"},
         {failure(u"DestinationMissing"_s), "disksPlaceNoAnswer"},
         {failure(u"NoSpace"_s), "disksPlaceNoSpace"},
-        {failure(u"Locked"_s), "disksPlaceFailed", Step::Try, {}, u"Why."_s},
+        {failure(u"Locked"_s), "disksPlaceFailed", Step::Try, {}, reason},
+        {failure(u"SomethingNew"_s), "disksPlaceFailed", Step::Try, {}, u"Why."_s},
         {{false, {}, u"tmutil's line"_s, 9}, "disksPlaceFailed", Step::Try, {}, u"tmutil's line"_s},
     };
     for (const auto& row : rows) {

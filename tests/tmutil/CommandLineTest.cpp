@@ -21,6 +21,7 @@ TEST(CommandLine, TakesWhatTheSystemToolTakes)
     const auto set = parsed(u"setdestination -a /media/disk"_s);
     EXPECT_TRUE(set.append);
     EXPECT_EQ(set.operands, QStringList(u"/media/disk"_s));
+    EXPECT_TRUE(parsed(u"setdestination -a -X sftp://nas/b"_s).xml);
     for (const QString& words : {u"startbackup -b -r"_s, u"startbackup --rotation --block"_s}) {
         const auto start = parsed(words);
         EXPECT_TRUE(start.block && start.rotate && start.destination.isEmpty());
@@ -43,6 +44,7 @@ TEST(CommandLine, RefusesEverythingElse)
                                  u"status extra"_s,
                                  u"setdestination"_s,
                                  u"setdestination "_s,
+                                 u"setdestination -X /media/disk"_s,
                                  u"startbackup -d"_s,
                                  u"startbackup -d "_s,
                                  u"startbackup -r -d ID"_s,

@@ -29,7 +29,7 @@ END
 sshd() { serve /usr/sbin/sshd -D -e -f $PWD/sshd_config; }
 fingerprint() { ssh-keygen -lf $1.pub | cut -d ' ' -f 2; }
 attempt() {
-    ./tmutil setdestination --try -X "$@" >told 2>said; status=$?
+    ./tmutil setdestination ${how---try} -X "$@" >told 2>said; status=$?
     echo $status $(sed -n '/<key>\(Cause\|Contents\|Fingerprint\)</{n;s/<[^>]*>//gp}' told)
 }
 echo "key-file=$PWD/key" >by_key
@@ -54,7 +54,7 @@ ls config/quillon-timemachine | grep -v plist # a trial keeps nothing
 use_sftp; attempt $sftp
 ls -l config/quillon-timemachine/places/* config/quillon-timemachine/known_hosts | cut -c 1-10
 tmutil destinationinfo -X | grep -A 1 -e '>Kind' -e '>URL' -e '>Path' -e '>Name' | sed -n "s,$sftp,URL,;s/.*<string>\(.*\)<.*/\1/p"
-mv host kept; mv stranger host; stop; sshd; attempt $sftp | sed "s,$(fingerprint stranger).*,SHOWN,"
+mv host kept; mv stranger host; stop; sshd; (how=-a; attempt $sftp) | sed "s,$(fingerprint stranger).*,SHOWN,"
 ./tmutil startbackup -b 2>said; echo $?; cause
 mv kept host; stop; sshd
 echo of years of work >source/file; back_up; attempt $sftp

@@ -51,7 +51,7 @@ mkdir source/folder to; head -c 9000000 /dev/urandom >source/folder/large; back_
 mkdir to/folder; echo mine >to/folder/large
 pack=$(find $(repository disk)/data -type f -printf '%s %p\n' | sort -n | tail -n 1 | cut -d ' ' -f 2)
 chmod u+w $pack; printf damage | dd of=$pack bs=1 seek=1000 conv=notrunc 2>said
-tmutil restore --json --replace "$(there folder)" to >events 2>said; tail -n 1 events; event failed <events | grep -c 'restored 2.*damaged in the backup'
+tmutil restore --json --replace "$(there folder)" to >events 2>said; tail -n 1 events; event failed <events | grep -c '"cause":"Damaged".*restored 2.*damaged in the backup'
 cat to/folder/large; names 'to'; names to/folder*restored*
 )sh",
            "restore: 13\n1\nmine\nfolder\nfolder (restored DATE)\nlarge.incomplete\n");

@@ -110,7 +110,8 @@ QByteArray PlayedBackups::answerTo(const QStringList& arguments) const
         return "{\"event\":\"skipped\",\"source\":\"" + arguments.value(4).toUtf8() +
                "\",\"path\":\"/home/you/budget.ods\"}\n";
     return "{\"event\":\"failed\",\"source\":\"" + arguments.value(4).toUtf8() +
-           "\",\"path\":\"/home/you/budget.ods\",\"reason\":\"A part of it is damaged on the backup disk.\"}\n";
+           "\",\"path\":\"/home/you/budget.ods\",\"cause\":\"Damaged\","
+           "\"reason\":\"\\\"/home/you/budget.ods\\\" is damaged in the backup.\"}\n";
 }
 
 TmutilScript::Call PlayedBackups::behaviour(const TaskRequest& request)

@@ -2,6 +2,7 @@
 
 #include "BackupSetup.h"
 #include "LocalizedString.h"
+#include "Setup.h"
 #include "ShownText.h"
 
 #include <QJsonDocument>
@@ -46,6 +47,12 @@ QString optionOf(ConflictRule rule)
     return u"--skip"_s;
 }
 
+QString reasonIn(const QJsonObject& object, RestoreEvent::Kind kind)
+{
+    const auto line = object[kind == RestoreEvent::Kind::Restored ? "remark"_L1 : "reason"_L1].toString();
+    return toolReason(object["cause"_L1].toString(), shownLongText(line));
+}
+
 } // namespace
 
 std::optional<RestoreEvent> readRestoreEvent(const QByteArray& line)
@@ -61,7 +68,7 @@ std::optional<RestoreEvent> readRestoreEvent(const QByteArray& line)
                         .totalBytes = object["totalBytes"_L1].toInteger(),
                         .source = object["source"_L1].toString(),
                         .path = object["path"_L1].toString(),
-                        .reason = object[*kind == RestoreEvent::Kind::Restored ? "remark"_L1 : "reason"_L1].toString()};
+                        .reason = reasonIn(object, *kind)};
 }
 
 RestorePlan::RestorePlan(const QStringList& sources, QString folder)
@@ -98,7 +105,7 @@ void RestorePlan::take(const RestoreEvent& event)
         settle(event.source);
         ++restored_;
         if (!event.reason.isEmpty())
-            losses_.push_back({event.path, shownLongText(event.reason)});
+            losses_.push_back({event.path, event.reason});
         break;
     case RestoreEvent::Kind::Skipped:
         settle(event.source);
@@ -106,7 +113,7 @@ void RestorePlan::take(const RestoreEvent& event)
         break;
     case RestoreEvent::Kind::Failed:
         settle(event.source);
-        lose(event.path.isEmpty() ? event.source : event.path, shownLongText(event.reason));
+        lose(event.path.isEmpty() ? event.source : event.path, event.reason);
         break;
     case RestoreEvent::Kind::Done:
         break;

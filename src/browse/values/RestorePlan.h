@@ -25,7 +25,7 @@ struct RestoreEvent {
     qint64 totalBytes = 0;
     QString source = {}; ///< as it was asked for
     QString path = {};   ///< where it is, or was to be
-    QString reason = {}; ///< of a failure, or what a restored thing lacks, in tmutil's words
+    QString reason = {}; ///< of a failure, or what a restored thing lacks, fit to be shown
 };
 std::optional<RestoreEvent> readRestoreEvent(const QByteArray& line);
 

@@ -29,7 +29,7 @@ constexpr std::array syntaxes{
     Syntax{"status"_L1, Command::Status, ""_L1, ""_L1, 0, 0},
     Syntax{"destinationinfo"_L1, Command::DestinationInfo, "X"_L1, "[-X]"_L1, 0, 0},
     Syntax{"setdestination"_L1, Command::SetDestination, "aCFULTX"_L1,
-           "[-a | --try [-X]] [--credentials FILE] [--accept-host-key FINGERPRINT] [--upload-limit KIB] "
+           "[-a | --try] [-X] [--credentials FILE] [--accept-host-key FINGERPRINT] [--upload-limit KIB] "
            "[--download-limit KIB] PATH | URL"_L1,
            1, 1},
     Syntax{"removedestination"_L1, Command::RemoveDestination, ""_L1, "ID"_L1, 1, 1},
@@ -146,7 +146,8 @@ QString wordAfter(QStringList::const_iterator& option, QStringList::const_iterat
 bool asksTooMuchOfDisk(const CommandLine& line, const Syntax& syntax)
 {
     const bool isAsked = !line.credentials.isEmpty() || !line.hostKey.isEmpty() || line.uploadLimit >= 0 ||
-                         line.downloadLimit >= 0 || (line.trial && syntax.command == Command::SetDestination);
+                         line.downloadLimit >= 0 ||
+                         ((line.trial || line.xml) && syntax.command == Command::SetDestination);
     return isAsked && !NetworkPlace::isUrl(line.operands.value(0));
 }
 
@@ -257,7 +258,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         line.operands.contains(QString()) || (line.command == Command::Restore && !isRestoreWhole(line)) ||
         (line.rotate && !line.destination.isEmpty()) || asksTooMuchOfDisk(line, syntax) ||
         (line.append && line.trial) ||
-        (line.xml && (!line.keptKey.isEmpty() || (syntax.options.contains(u'T') && !line.trial))))
+        (line.xml && (!line.keptKey.isEmpty() ||
+                      (syntax.options.contains(u'T') && !line.trial && line.command != Command::SetDestination))))
         refuse(syntax);
     return line;
 }

@@ -185,34 +185,52 @@ Failure failureOf(const ResticDiagnosis& problem, const NamedPlace& place, const
     return {problem.failure().status(), message, problem.cause()};
 }
 
-void requireAnswer(const NetworkAnswer& answer, const NamedPlace& place)
+/// For programs.
+void tellFailure(const Failure& failure, const NamedPlace& place, const std::optional<HostKey>& key = {})
 {
-    if (answer.problem)
-        throw failureOf(*answer.problem, place, shownKey(*answer.problem, place));
+    QVariantMap told{
+        {u"URL"_s, place.destination().path}, {u"Cause"_s, failure.cause()}, {u"Description"_s, failure.message()}};
+    if (key)
+        told.insert(u"HostKey"_s, QVariantMap{{u"Type"_s, key->type}, {u"Fingerprint"_s, key->fingerprint()}});
+    printXml(told);
 }
 
-void tryPlace(const NamedPlace& place, bool xml)
+void requireAnswer(const NetworkAnswer& answer, const NamedPlace& place, bool xml = false)
 {
-    const NetworkAnswer answer = place.ask();
-    const bool isEmpty = answer.contents == NetworkAnswer::Contents::Empty;
-    QVariantMap told{{u"URL"_s, place.destination().path}};
-    if (!answer.problem) {
-        told.insert(u"Contents"_s, isEmpty ? u"Empty"_s : u"Backups"_s);
-        if (!xml)
-            return printForPeople(QStringList(isEmpty ? u"The server can be used; there are no backups yet."_s
-                                                      : u"The server can be used; it has backups of yours."_s));
-        return printXml(told);
-    }
+    if (!answer.problem)
+        return;
     const auto key = shownKey(*answer.problem, place);
     const Failure failure = failureOf(*answer.problem, place, key);
-    if (xml) {
-        told.insert(u"Cause"_s, failure.cause());
-        told.insert(u"Description"_s, failure.message());
-        if (key)
-            told.insert(u"HostKey"_s, QVariantMap{{u"Type"_s, key->type}, {u"Fingerprint"_s, key->fingerprint()}});
-        printXml(told);
-    }
+    if (xml)
+        tellFailure(failure, place, key);
     throw failure;
+}
+
+void tellContents(const NamedPlace& place, bool isEmpty, bool xml)
+{
+    if (xml)
+        return printXml(
+            QVariantMap{{u"URL"_s, place.destination().path}, {u"Contents"_s, isEmpty ? u"Empty"_s : u"Backups"_s}});
+    printForPeople(QStringList(isEmpty ? u"The server can be used; there are no backups yet."_s
+                                       : u"The server can be used; it has backups of yours."_s));
+}
+
+/// Where it is new, its repository is made.
+void setPlace(const NamedPlace& place, bool isNew, bool append, Configuration& configuration, const Folders& folders)
+{
+    const StopRequest stop;
+    Destination destination = place.destination();
+    destination.bare = place.isBareIn(configuration).value_or(false);
+    if (isNew) {
+        KeyStore(folders.configuration).ensure(destination.id);
+        place.note();
+        makeRepository(place.repository(destination), folders, stop);
+        noteNewRepository(destination, folders);
+    }
+    place.keep();
+    configuration.takeUp(destination, append);
+    welcome(
+        destination, isNew, [&] { return place.repository(destination); }, folders, stop);
 }
 
 } // namespace
@@ -221,24 +239,18 @@ void setNetworkDestination(const Folders& folders, const CommandLine& line)
 {
     Configuration configuration(folders, Configuration::IfLost::BeginAnew);
     const NamedPlace place(folders, configuration, line);
-    if (line.trial)
-        return tryPlace(place, line.xml);
     const NetworkAnswer answer = place.ask();
-    requireAnswer(answer, place);
-    const StopRequest stop;
-    Destination destination = place.destination();
-    destination.bare = place.isBareIn(configuration).value_or(false);
-    const bool isNew = answer.contents == NetworkAnswer::Contents::Empty;
-    if (isNew) {
-        KeyStore(folders.configuration).ensure(destination.id);
-        place.note();
-        makeRepository(place.repository(destination), folders, stop);
-        noteNewRepository(destination, folders);
+    requireAnswer(answer, place, line.xml);
+    const bool isEmpty = answer.contents == NetworkAnswer::Contents::Empty;
+    if (line.trial)
+        return tellContents(place, isEmpty, line.xml);
+    try {
+        setPlace(place, isEmpty, line.append, configuration, folders);
+    } catch (const Failure& failure) {
+        if (line.xml)
+            tellFailure(failure, place);
+        throw;
     }
-    place.keep();
-    configuration.takeUp(destination, line.append);
-    welcome(
-        destination, isNew, [&] { return place.repository(destination); }, folders, stop);
 }
 
 void adoptNetworkPlace(const Folders& folders, const CommandLine& line, const TakeUp& takeUp)

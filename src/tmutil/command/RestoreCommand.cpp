@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -19,6 +20,21 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The word for why it failed, as the status has it of backups.
+QString causeOf(const Failure& failure)
+{
+    static constexpr std::array words{std::pair{ExitStatus::DestinationMissing, "DestinationMissing"_L1},
+                                      std::pair{ExitStatus::NoBackup, "NoBackup"_L1},
+                                      std::pair{ExitStatus::PathExists, "PathExists"_L1},
+                                      std::pair{ExitStatus::RestoredInPart, "Damaged"_L1},
+                                      std::pair{ExitStatus::NoInput, "NoInput"_L1},
+                                      std::pair{ExitStatus::CannotWrite, "CannotWrite"_L1}};
+    const auto* const word = std::ranges::find(words, failure.status(), [](const auto& entry) { return entry.first; });
+    if (!failure.cause().isEmpty())
+        return failure.cause();
+    return word != words.end() ? QString(word->second) : u"Unknown"_s;
+}
 
 /// Tells what becomes of each source: for programs by a line of JSON, for people where there was a choice.
 class RestoreReport {
@@ -53,8 +69,10 @@ public:
             remark_ = remark_.value_or(Failure(ExitStatus::RestoredInPart, restored.lost));
         if (json_) {
             QJsonObject event = eventOf(restored.skipped ? u"skipped"_s : u"restored"_s, source, restored.path);
-            if (!restored.lost.isEmpty())
+            if (!restored.lost.isEmpty()) {
                 event.insert(u"remark"_s, restored.lost);
+                event.insert(u"cause"_s, u"NoAttributes"_s); // all else is a failure
+            }
             printJson(event);
         } else if (isForPeople_) {
             printForPeople(QStringList(
@@ -74,6 +92,7 @@ public:
         if (json_) {
             QJsonObject event = eventOf(u"failed"_s, source, path);
             event.insert(u"reason"_s, failure.message());
+            event.insert(u"cause"_s, causeOf(failure));
             printJson(event);
         } else if (sources_ > 1) {
             printError(failure.message());

@@ -115,7 +115,7 @@ Restored Restore::run(const PlaceInBackup& place, const RestoreTarget& target) c
         const QString itsPath = item.isEmpty() ? path : item.mid(tree.size());
         const bool isItselfDamaged = damaged.contains(itsPath);
         if (isItselfDamaged && !S_ISREG(modeOf(item)))
-            throw Failure(ExitStatus::Failed, u"\"%1\" is damaged in the backup."_s.arg(shownPath(path)));
+            throw Failure(ExitStatus::Failed, u"\"%1\" is damaged in the backup."_s.arg(shownPath(path)), u"Damaged"_s);
         if (item.isEmpty())
             continue;
         const QStringList unmarked = markDamaged(tree, damaged);
@@ -156,8 +156,10 @@ RestoreErrors Restore::fetch(const PlaceInBackup& place, const QString& path, co
     RestoreErrors errors([&](const QString& one) { return one == path || modeOf(tree + one) != 0; });
     errors.read(lines.join());
     if (!errors.targetProblem().isEmpty())
-        throw Failure(ExitStatus::CannotWrite, u"The folder cannot take all that is to be restored: %1. Nothing was "
-                                               "restored."_s.arg(errors.targetProblem()));
+        throw Failure(ExitStatus::CannotWrite,
+                      u"The folder cannot take all that is to be restored: %1. Nothing was restored."_s.arg(
+                          errors.targetProblem()),
+                      ResticDiagnosis::of(errors.targetProblem(), outcome.exitStatus).cause());
     if (outcome.exitStatus < 0 || (outcome.exitStatus != 0 && errors.damaged().isEmpty() && !errors.lackAttributes()))
         throw outcome.failure();
     return errors;
