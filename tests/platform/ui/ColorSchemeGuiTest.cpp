@@ -5,6 +5,7 @@
 #include "host/FakeSettingsPortal.h"
 
 #include <QFile>
+#include <QListWidget>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -62,6 +63,22 @@ TEST_F(ColorSchemeTest, IsGnomesSettingUntilAPortalSpeaks)
     EXPECT_EQ(scheme.preference(), Dark);
     const FakeSettingsPortal portal(connection(u"portal"_s), FakeSettingsPortal::light);
     EXPECT_TRUE(runUntil([&] { return scheme.preference() == Light; }));
+}
+
+TEST(SchemeStyle, ShowsTheKeyboardInAnEmptyList)
+{
+    SchemeStyle style;
+    QListWidget list;
+    list.setStyle(&style);
+    list.show();
+    list.activateWindow();
+    list.setFocus();
+    ASSERT_TRUE(runUntil([&] { return list.hasFocus(); }));
+    const auto picture = [&list](bool byKeys) {
+        list.setAttribute(Qt::WA_KeyboardFocusChange, byKeys);
+        return list.grab().toImage();
+    };
+    EXPECT_NE(picture(true), picture(false));
 }
 
 } // namespace

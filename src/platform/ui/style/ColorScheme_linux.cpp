@@ -2,6 +2,7 @@
 
 #include "SystemColor.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -64,6 +65,9 @@ void SchemeStyle::drawControl(ControlElement element, const QStyleOption* option
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+    // A list that is empty, or has no current row, shows nothing else.
+    if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget) && hasKeyboard(*option))
+        drawRing(*option, 0, controlCornerRadius, *painter);
     // An item that can be chosen is filled instead.
     if (item && !separator && item->state.testFlag(State_Selected) && !item->state.testFlag(State_Enabled))
         drawRing(*item, 1, 2 * controlCornerRadius, *painter);

@@ -10,9 +10,9 @@
 namespace quillon {
 
 /// The desktop's style where Qt's own one falls short: with separators in menus on dark grounds, where that draws black
-/// on black; with outlines of check boxes and rings around buttons that can be seen, and without the shadow that
-/// doubles disabled text; with room for all of a menu's text in large fonts, and with room on either side of a button's
-/// text. Arrow keys reach what stands in a menu to be read.
+/// on black; with outlines of check boxes and rings around buttons and lists that can be seen, and without the shadow
+/// that doubles disabled text; with room for all of a menu's text in large fonts, and with room on either side of a
+/// button's text. Arrow keys reach what stands in a menu to be read.
 class SchemeStyle final : public QProxyStyle {
     Q_OBJECT
 
