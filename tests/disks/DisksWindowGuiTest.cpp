@@ -214,6 +214,21 @@ TEST_F(DisksWindowTest, SaysWhatCannotBeReadUntilItCan)
     EXPECT_EQ(tools_.liveChildren(), 0);
 }
 
+TEST_F(DisksWindowTest, RowsMakeRoomForRemarksAsTheWidthChanges)
+{
+    const QVariantMap failure{{u"Description"_s, u"Words of a remark. "_s.repeated(6)}};
+    tell({disk(u"A"_s, {{u"LastFailure"_s, failure}}), disk(u"B"_s)});
+    open();
+    QListWidget* const disks = list(Disks);
+    disks->setFixedHeight(disks->height()); // or what stands above it changes that
+    const auto second = [disks] { return disks->visualItemRect(disks->item(1)).top(); };
+    window_->resize(3000, window_->height());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return disks->viewport()->width() > 2000; }));
+    const int wide = second();
+    window_->resize(0, window_->height());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return second() > wide; })) << "the first lies over it";
+}
+
 TEST_F(DisksWindowTest, TheKeyboardReachesEverythingAndNothingIsCutOffAtLargeFonts)
 {
     const QFont before = QApplication::font();

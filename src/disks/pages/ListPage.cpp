@@ -81,7 +81,7 @@ ListPage::ListPage(const QString& name, const QString& explanation, QWidget* par
     list_->setAccessibleName(name);
     list_->setItemDelegate(new EntryDelegate(list_));
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->setResizeMode(QListView::Adjust); // remarks are wrapped
+    list_->setWordWrap(true); // remarks are wrapped: any change of the width is one of the rows' heights
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     emptyLabel_->setAlignment(Qt::AlignCenter);
     auto* overlay = new QVBoxLayout(list_->viewport());
