@@ -51,7 +51,7 @@ ExclusionDialog::ExclusionDialog(Kind kind, const Setup& setup, QWidget* parent)
     preview_->setMinimumHeight(2 * preview_->fontMetrics().height());
     preview_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
-    auto* buttons = new QDialogButtonBox;
+    auto* buttons = new QDialogButtonBox(this); // a dialog remembers a default button that is made in it
     buttons->addButton(localizedString("disksCancelTitle"), QDialogButtonBox::RejectRole)->setAutoDefault(false);
     leaveOut_ = buttons->addButton(localizedString("disksLeaveOutTitle"), QDialogButtonBox::AcceptRole);
     leaveOut_->setObjectName(u"leaveOut"_s);

@@ -117,7 +117,7 @@ QWidget* NetworkPlaceDialog::makeAnswer()
 
 QWidget* NetworkPlaceDialog::makeButtons()
 {
-    auto* buttons = new QDialogButtonBox;
+    auto* buttons = new QDialogButtonBox(this); // a dialog remembers a default button that is made in it
     cancel_ = buttons->addButton(localizedString("disksCancelTitle"), QDialogButtonBox::RejectRole);
     cancel_->setObjectName(u"cancel"_s);
     cancel_->setAutoDefault(false);
