@@ -1,7 +1,13 @@
 #include "AwakeLock_linux.h"
 #include "EventLoop.h"
+#include "MountWatch.h"
 #include "PlayedServices.h"
+#include "PowerSupply_linux.h"
+#include "SessionTestSupport.h"
 #include "UserNotifications_linux.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
 
 #include <optional>
 
@@ -10,6 +16,22 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+class PlayedPower final : public PlayedService {
+public:
+    explicit PlayedPower(const PrivateBus& bus)
+        : PlayedService(bus, u"upower"_s, u"org.freedesktop.UPower"_s, u"/org/freedesktop/UPower"_s)
+    {
+    }
+
+    void unplug() { play(u"UpdateProperties"_s, {u"org.freedesktop.UPower"_s, QVariantMap{{u"OnBattery"_s, true}}}); }
+    void setCharge(double percentage)
+    {
+        constexpr uint battery = 2, discharging = 2;
+        play(u"SetupDisplayDevice"_s,
+             {battery, discharging, percentage, 10.0, 20.0, 5.0, 3600LL, 0LL, true, u"b"_s, 1u});
+    }
+};
 
 class PlayedDesktop final : public PlayedService {
 public:
@@ -51,6 +73,31 @@ protected:
     PrivateBus bus;
     QDBusConnection client = bus.connect(u"client"_s); ///< the program's own
 };
+
+TEST_F(MachineIntegrationTest, PowerIsWhatUPowerTellsAndMainsWhereNobodyTellsOrWantsToKnow)
+{
+    UPowerSupply power(client);
+    std::optional<PlayedPower> upower(std::in_place, bus);
+    const PowerState unplugged{.onMains = false, .charge = 41};
+    upower->setCharge(41.4);
+    power.setWatching(true);
+    EXPECT_TRUE(runUntil([&] { return power.state() == PowerState{.onMains = true, .charge = 41}; }));
+    upower->unplug();
+    EXPECT_TRUE(runUntil([&] { return power.state() == unplugged; }));
+    const QSignalSpy changes(&power, &PowerSupply::changed);
+    upower.reset();
+    EXPECT_TRUE(runUntil([&] { return power.state() == PowerState(); }));
+    EXPECT_EQ(changes.count(), 1);
+
+    upower.emplace(bus);
+    upower->setCharge(41.4);
+    upower->unplug();
+    EXPECT_TRUE(runUntil([&] { return power.state() == unplugged; }));
+    power.setWatching(false);
+    EXPECT_EQ(power.state(), PowerState());
+    power.setWatching(true);
+    EXPECT_TRUE(runUntil([&] { return power.state() == unplugged; }));
+}
 
 TEST_F(MachineIntegrationTest, SleepIsHeldOffUntilItIsLetGoAlsoByALogindThatRestarts)
 {
@@ -102,6 +149,18 @@ TEST_F(MachineIntegrationTest, AWordReplacesTheEarlierOneOfItsKindAndIsTakenAway
     notifications.withdraw(u"other"_s);
     ASSERT_TRUE(desktop.hasTaken(2, u"CloseNotification"_s));
     EXPECT_EQ(desktop.calls(u"CloseNotification"_s)[1].value(0).toUInt(), 2u);
+}
+
+TEST_F(MachineIntegrationTest, ADiskThatAppearsIsNoticed)
+{
+    const auto watch = makeMountWatch();
+    watch->setWatching(true);
+    const QSignalSpy changes(watch.get(), &MountWatch::changed);
+    const QTemporaryDir folder;
+    if (run(u"mount"_s, {u"-t"_s, u"tmpfs"_s, u"none"_s, folder.path()}).status != 0)
+        GTEST_SKIP() << "mounting is not allowed here";
+    EXPECT_TRUE(runUntil([&] { return changes.count() > 0; }));
+    EXPECT_EQ(run(u"umount"_s, {folder.path()}).status, 0);
 }
 
 } // namespace

@@ -30,6 +30,7 @@ typedef struct __CFRunLoopSource* CFRunLoopSourceRef;
 typedef CFStringRef CFRunLoopMode;
 typedef CFStringRef CFLocaleIdentifier;
 
+extern const CFAllocatorRef kCFAllocatorDefault;
 CFTypeRef CFRetain(CFTypeRef object);
 void CFRelease(CFTypeRef object);
 CFTypeID CFGetTypeID(CFTypeRef object);
@@ -42,7 +43,7 @@ CFTypeID CFStringGetTypeID(void);
 extern const CFBooleanRef kCFBooleanTrue;
 extern const CFBooleanRef kCFBooleanFalse;
 typedef CFIndex CFNumberType;
-enum { kCFNumberLongLongType = 11, kCFNumberDoubleType = 13 };
+enum { kCFNumberIntType = 9, kCFNumberLongLongType = 11, kCFNumberDoubleType = 13 };
 CFTypeID CFBooleanGetTypeID(void);
 Boolean CFBooleanGetValue(CFBooleanRef boolean);
 CFTypeID CFNumberGetTypeID(void);
@@ -74,6 +75,7 @@ typedef struct CFDictionaryValueCallBacks CFDictionaryValueCallBacks;
 typedef void (*CFDictionaryApplierFunction)(const void* key, const void* value, void* context);
 extern const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks;
 extern const CFDictionaryValueCallBacks kCFTypeDictionaryValueCallBacks;
+const void* CFDictionaryGetValue(CFDictionaryRef dictionary, const void* key);
 CFTypeID CFDictionaryGetTypeID(void);
 CFMutableDictionaryRef CFDictionaryCreateMutable(CFAllocatorRef allocator, CFIndex capacity,
                                                  const CFDictionaryKeyCallBacks* keyCallBacks,

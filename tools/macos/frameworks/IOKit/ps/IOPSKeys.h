@@ -1,0 +1,5 @@
+#pragma once
+
+#define kIOPSCurrentCapacityKey "Current Capacity"
+#define kIOPSMaxCapacityKey "Max Capacity"
+#define kIOPSBatteryPowerValue "Battery Power"
