@@ -1,6 +1,5 @@
 #include "ScheduleWatch.h"
 
-#include "DataHelper.h"
 #include "StoredAndSentNames.h"
 
 #include <algorithm>
@@ -16,6 +15,8 @@ namespace {
 constexpr auto jumpThreshold = 2s;
 
 constexpr auto longestWaitForWake = 1min;
+
+constexpr qlonglong mostMinutes = 24 * 60; // to wait after a wake-up; by then every rule has come up again
 
 constexpr auto watchedAhead = std::chrono::days(366);
 
@@ -99,6 +100,8 @@ bool ScheduleWatch::takeClockAsItIs()
 void ScheduleWatch::lookAtSchedule(Occasion occasion)
 {
     DataManager& model = services_.dataManager;
+    if (occasion == Occasion::Woke)
+        wokeAt_ = services_.runLoop.uptime();
     const auto decide = [&] {
         return model.startDecision(occasion, services_.face.menuBarIconState() == MenuBarIconState::MissedSchedule);
     };
@@ -112,7 +115,7 @@ void ScheduleWatch::lookAtSchedule(Occasion occasion)
     services_.pause.checkExpiration();
     // A pause that ends with this plans the schedule anew, which is no reason to give a retry up.
     if (first == Decision::KeepRetry)
-        model.setRetryBackupDate(std::min(*retry, freshRetryDate()));
+        model.setRetryBackupDate(startdecision::retryDate(services_.runLoop.now(), retryWait(), retry));
     else
         planAfter(decide());
     if (armed && *armed < services_.runLoop.now() && (first == Decision::Missed || first == Decision::PlanAnew))
@@ -135,14 +138,17 @@ bool ScheduleWatch::setRetryInFiveMinutesIfEnabled(const QString& enablingKey)
     const bool paused = services_.defaults.integer(settingskeys::pauseUntilTag) != 0;
     const bool enabled = !paused && services_.defaults.integer(enablingKey) == 1;
     if (enabled)
-        services_.dataManager.setRetryBackupDate(freshRetryDate());
+        services_.dataManager.setRetryBackupDate(startdecision::retryDate(services_.runLoop.now(), retryWait()));
     return enabled;
 }
 
-Date ScheduleWatch::freshRetryDate() const
+Seconds ScheduleWatch::retryWait() const
 {
-    constexpr Seconds retryInterval{300.0};
-    return DataHelper::dateSinceNowWithCeiledMinutes(retryInterval, services_.runLoop.now());
+    const auto minutes =
+        std::clamp(services_.defaults.integer(settingskeys::minutesAfterWake), qlonglong{0}, mostMinutes);
+    if (!wokeAt_ || minutes == 0)
+        return Seconds(0);
+    return std::max<Seconds>(*wokeAt_ + std::chrono::minutes(minutes) - services_.runLoop.uptime(), Seconds(0));
 }
 
 } // namespace quillon

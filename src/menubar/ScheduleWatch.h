@@ -76,6 +76,9 @@ public:
     void lookAtSchedule(startdecision::Occasion occasion);
     /// Whether a retry was planned: the key is on and the schedule not paused.
     bool setRetryInFiveMinutesIfEnabled(const QString& enablingKey);
+    /// How long retries still have to wait after a wake-up.
+    Seconds retryWait() const;
+    bool isAsleep() const { return clock_.isAsleep(); }
 
 Q_SIGNALS:
     /// The schedule has been looked at.
@@ -87,10 +90,10 @@ private:
     /// Whether the clock or the zone was changed since the last look.
     bool takeClockAsItIs();
     void planAfter(startdecision::Decision decision);
-    Date freshRetryDate() const;
 
     Services services_;
     ClockWatch clock_;
+    std::optional<std::chrono::milliseconds> wokeAt_; ///< on the uptime clock
 };
 
 } // namespace quillon

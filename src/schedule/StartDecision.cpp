@@ -1,5 +1,8 @@
 #include "StartDecision.h"
 
+#include "DataHelper.h"
+
+#include <algorithm>
 #include <chrono>
 
 namespace quillon::startdecision {
@@ -9,6 +12,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto grace = 60s;
+constexpr Seconds retryInterval{300.0};
 
 bool isDue(const Situation& situation)
 {
@@ -35,6 +39,13 @@ Decision decide(Occasion occasion, const Situation& situation)
     if (occasion == Occasion::Woke && situation.isMarkedAsMissed)
         return Decision::Missed;
     return isMissed(situation) ? Decision::Missed : Decision::PlanAnew;
+}
+
+Date retryDate(Date now, Seconds wait, std::optional<Date> pending)
+{
+    const Date fresh = DataHelper::dateSinceNowWithCeiledMinutes(std::max(retryInterval, wait), now);
+    const Date date = std::min(pending.value_or(fresh), fresh);
+    return wait > 0s ? std::max(date, dateByAdding(now, wait)) : date;
 }
 
 } // namespace quillon::startdecision

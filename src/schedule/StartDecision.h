@@ -35,4 +35,8 @@ struct Situation {
 /// retry outlives a clock that is set.
 Decision decide(Occasion occasion, const Situation& situation);
 
+/// When a retry is made: at the next whole minute but five, and once `wait` is over, which is what remains of the time
+/// that the user wants to pass after a wake-up. One that is pending comes no later than a fresh one.
+Date retryDate(Date now, Seconds wait, std::optional<Date> pending = {});
+
 } // namespace quillon::startdecision

@@ -48,4 +48,20 @@ TEST(StartDecision, IsOneForEachOccasionAndSituation)
         EXPECT_EQ(decide(each.occasion, each.situation), each.decision) << "row " << ++row;
 }
 
+TEST(StartDecision, ARetryWaitsForFiveMinutesAndForWhatAWakeUpCallsFor)
+{
+    constexpr Date now{1'800'000'000s}; // a whole minute
+    const struct {
+        Seconds wait;
+        std::optional<Date> pending;
+        std::chrono::milliseconds ahead;
+    } cases[] = {
+        {0s, {}, 6min},           {0s, now + 9min, 6min},     {0s, now + 2min, 2min},
+        {0s, now - 1h, -1h},      {301s, {}, 6min},           {10min, {}, 11min},
+        {10min, now + 1h, 11min}, {10min, now + 2min, 10min}, {10min, now - 1h, 10min},
+    };
+    for (int row = 0; const auto& each : cases)
+        EXPECT_EQ(retryDate(now, each.wait, each.pending), now + each.ahead) << "row " << ++row;
+}
+
 } // namespace quillon
