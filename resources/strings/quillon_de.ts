@@ -1691,6 +1691,10 @@ Backup-Volumes werden in den Time Machine-Einstellungen hinzugefügt und entfern
         <source></source>
         <translation>Der Start wurde durch einen Befehl übersprungen.</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>Der Computer lief im Batteriebetrieb. Das Backup wird nachgeholt, sobald er wieder am Stromnetz ist, sofern kein späteres vorher an der Reihe ist.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>Der Zeitplan war pausiert. Im Menü lässt er sich fortsetzen.</translation>

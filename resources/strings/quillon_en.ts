@@ -1691,6 +1691,10 @@ Backup disks are added and removed in the Time Machine settings.</translation>
         <source></source>
         <translation>The start was skipped by a command.</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>The computer ran on battery. The backup is made up for once it has power again, unless a later one comes first.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>The schedule was paused. Resume it in the menu to have backups made again.</translation>

@@ -1691,6 +1691,10 @@ Los discos de copia de seguridad se añaden y se quitan en los ajustes de Time M
         <source></source>
         <translation>Este inicio se omitió mediante un comando.</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>El equipo funcionaba con batería. La copia se hará cuando vuelva a tener corriente, salvo que antes llegue la siguiente.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>La programación estaba en pausa. Reanúdela en el menú para volver a hacer copias.</translation>

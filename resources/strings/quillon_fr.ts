@@ -1691,6 +1691,10 @@ Les disques de sauvegarde s’ajoutent et se retirent dans les réglages Time Ma
         <source></source>
         <translation>Ce démarrage a été ignoré par une commande.</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>L’ordinateur fonctionnait sur batterie. La sauvegarde sera effectuée dès qu’il sera de nouveau sur secteur, sauf si la suivante arrive avant.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>La programmation était suspendue. Reprenez-la dans le menu pour relancer les sauvegardes.</translation>

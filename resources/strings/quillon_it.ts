@@ -1691,6 +1691,10 @@ I dischi di backup si aggiungono e si rimuovono nelle impostazioni Time Machine.
         <source></source>
         <translation>Questo avvio è stato saltato con un comando.</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>Il computer funzionava a batteria. Il backup verrà eseguito quando sarà di nuovo collegato all’alimentazione, a meno che il successivo non venga prima.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>La programmazione era sospesa. Riprendila dal menu per eseguire di nuovo i backup.</translation>

@@ -1691,6 +1691,10 @@
         <source></source>
         <translation>この開始はコマンドによりスキップされました。</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>コンピュータはバッテリーで動作していました。次のバックアップの時刻より前に電源に接続されると、このバックアップが実行されます。</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>スケジュールが一時停止されていました。再開するにはメニューから操作してください。</translation>

@@ -1691,6 +1691,10 @@ Reservekopieschijven voeg je toe en verwijder je in de Time Machine-instellingen
         <source></source>
         <translation>Deze start is door een opdracht overgeslagen.</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>De computer werkte op de batterij. De reservekopie wordt gemaakt zodra hij weer op netstroom is aangesloten, tenzij een latere eerder aan de beurt is.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>Het schema was onderbroken. Hervat het in het menu om weer reservekopieën te maken.</translation>

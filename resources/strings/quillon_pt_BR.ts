@@ -1691,6 +1691,10 @@ Os discos de backup são adicionados e removidos nos Ajustes do Time Machine.</t
         <source></source>
         <translation>Este início foi ignorado por um comando.</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>O computador estava usando a bateria. O backup será feito quando ele voltar a ter energia, a menos que o próximo chegue antes.</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>A programação estava pausada. Retome-a no menu para voltar a fazer backups.</translation>

@@ -1691,6 +1691,10 @@
         <source></source>
         <translation>此次启动已通过命令跳过。</translation>
     </message>
+    <message id="logOnBatteryMessage">
+        <source></source>
+        <translation>电脑正在使用电池供电。重新接通电源后将补做此备份，除非下一次备份先到。</translation>
+    </message>
     <message id="logPausedMessage">
         <source></source>
         <translation>计划已暂停。要继续备份，请在菜单中恢复计划。</translation>

@@ -29,7 +29,8 @@ constexpr std::array reasons{""_L1,
                              "neverReported"_L1,
                              "notFollowed"_L1,
                              "hookFailed"_L1,
-                             "asked"_L1};
+                             "asked"_L1,
+                             "onBattery"_L1};
 
 constexpr const auto& namesOf(LedgerEntry::Cause /*kind*/)
 {
@@ -48,7 +49,7 @@ constexpr const auto& namesOf(LedgerEntry::Reason /*kind*/)
 
 static_assert(causes.size() == std::size_t(LedgerEntry::Cause::Elsewhere) + 1);
 static_assert(outcomes.size() == std::size_t(LedgerEntry::Outcome::Refused) + 1);
-static_assert(reasons.size() == std::size_t(LedgerEntry::Reason::Asked) + 1);
+static_assert(reasons.size() == std::size_t(LedgerEntry::Reason::OnBattery) + 1);
 
 } // namespace
 

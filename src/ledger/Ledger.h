@@ -45,6 +45,7 @@ struct LedgerEntry {
         NotFollowed,      ///< Quillon ended ahead of the run
         HookFailed,       ///< the user's own program ahead of the start; `detail` is its last line
         Asked,            ///< by a command of the user's, ahead of it
+        OnBattery,        ///< the computer; what is made up for later is an entry of its own
     };
 
     std::int64_t id = 0; ///< 0 until it is written for the first time

@@ -67,6 +67,8 @@ const char* keyOf(Reason reason)
         return "hookStoppedBackupMessage";
     case Reason::Asked:
         return "logAskedMessage";
+    case Reason::OnBattery:
+        return "logOnBatteryMessage";
     }
     return nullptr;
 }

@@ -178,13 +178,9 @@ void BackupCommands::tellOfHook(const QString& words)
     services_.alerts.present(warning, {});
 }
 
-void BackupCommands::startScheduledBackup()
+void BackupCommands::startScheduledBackup(const LedgerEntry& start)
 {
-    using Cause = LedgerEntry::Cause;
-    const DataManager& model = services_.dataManager;
-    const auto due = model.nextScheduledBackupDate();
-    const Cause cause = due && due == model.retryBackupDate() ? Cause::Retry : Cause::Schedule;
-    askForScheduledStart({switchesNow(), {.date = due.value_or(services_.runLoop.now()), .cause = cause}});
+    askForScheduledStart({switchesNow(), start});
 }
 
 void BackupCommands::askForScheduledStart(const ScheduledStart& scheduled)

@@ -59,8 +59,8 @@ public:
     /// Starts a backup, and leaves alone one that runs.
     void backupNowRequested(CommandResultHandler told = {});
     void backupNowSubMenuItemClicked(const QString& identifier, CommandResultHandler told = {});
-    /// The start that is due now, while the schedule still names it as the next one.
-    void startScheduledBackup();
+    /// A start that nobody has asked for: `start` says when it was due and why.
+    void startScheduledBackup(const quillon::LedgerEntry& start);
 
 Q_SIGNALS:
     /// A command is under way: clicks have no effect until it has been answered.

@@ -23,6 +23,8 @@ StatusMenuController::StatusMenuController(const Services& services)
               services.ledger, services.statusItem, statusMenu_)
     , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
     , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
+    , machine_({services.runLoop, services.defaults, services.dataManager, follower_, commands_, schedule_,
+                services.ledger, services.powerSupply, services.awakeLock})
     , runLedger_({services.runLoop, services.defaults, services.dataManager, follower_, disks_, services.ledger,
                   services.hooks})
     , concerns_({services.runLoop, services.defaults, services.dataManager, follower_, commands_, services.ledger,
@@ -61,10 +63,10 @@ void StatusMenuController::connectParts()
     connect(&follower_, &RunFollower::ticked, &runLedger_, &RunLedger::lookAtPause);
     connect(&follower_, &RunFollower::stepped, &runLedger_, &RunLedger::noteStep);
     connect(&follower_, &RunFollower::stepped, &concerns_, &ConcernWatch::noteStep);
-    connect(&commands_, &BackupCommands::startAnswered, this, [this](const LedgerEntry& start) {
-        isOwnRun_ = isOwnRun_ || start.outcome == LedgerEntry::Outcome::Running;
-    });
-    connect(&follower_, &RunFollower::stepped, this, &StatusMenuController::keepAwake);
+    connect(&commands_, &BackupCommands::startAnswered, &machine_, &MachineWatch::noteStart);
+    connect(&follower_, &RunFollower::stepped, &machine_, &MachineWatch::noteStep);
+    connect(&machine_, &MachineWatch::startAllowed, &commands_, &BackupCommands::startScheduledBackup);
+    connect(&machine_, &MachineWatch::startHeldBack, &runLedger_, &RunLedger::noteStart);
     connect(&concerns_, &ConcernWatch::backupNowChosen, this, [this] { backupNowRequested(); });
     connect(&concerns_, &ConcernWatch::timeMachineSettingsChosen, this, &StatusMenuController::openSystemPreferences);
     connect(&concerns_, &ConcernWatch::settingsChosen, this, &StatusMenuController::preferencesClicked);
@@ -80,6 +82,7 @@ void StatusMenuController::awakeFromNib()
     pause_.restore();
     follower_.start();
     follower_.fire();
+    machine_.start();
     disks_.request(); // the first menu is to be whole as it opens
     registerObservers();
 }
@@ -109,7 +112,7 @@ void StatusMenuController::registerObservers()
 {
     NotificationCenter& notifications = services_.notifications;
     notifications.addObserver(notifications::scheduledBackupShouldStart, this,
-                              [this](const QVariantMap&) { commands_.startScheduledBackup(); });
+                              [this](const QVariantMap&) { machine_.takeStart(); });
     notifications.addObserver(notifications::scheduledBackupFoundLate, this, [this](const QVariantMap&) {
         schedule_.lookAtSchedule(startdecision::Occasion::ClockChanged);
     });
@@ -221,6 +224,7 @@ shown::Snapshot StatusMenuController::snapshot() const
         .detailedTime = defaults.integer(settingskeys::showDetailedTime) == 1,
         .updateIsAvailable = latestAppVersion_.has_value(),
         .commandIsUnderWay = commands_.isUnderWay(),
+        .waitsForPower = machine_.isHoldingBack(),
         .skipThisBackupTitleLocaleKey = skipThisBackupTitleLocaleKey_,
     };
 }
@@ -259,17 +263,6 @@ void StatusMenuController::endRun(const BackupRun::End& end)
         schedule_.setRetryInFiveMinutesIfEnabled(settingskeys::enableRetryAtFailure);
     }
     updateStatusBarTitle({}, {});
-}
-
-/// Not yet while a run is awaited: the one that never comes would keep the machine awake for ever.
-void StatusMenuController::keepAwake()
-{
-    if (tmState() == TMState::NotRunning)
-        isOwnRun_ = false;
-    if (isOwnRun_ && follower_.run().isReported() && services_.defaults.integer(settingskeys::stayAwake) == 1)
-        services_.awakeLock.hold(u"A backup is running"_s);
-    else
-        services_.awakeLock.release();
 }
 
 void StatusMenuController::recordCompletedRun(const BackupRun::End& end)

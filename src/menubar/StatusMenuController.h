@@ -1,10 +1,10 @@
 #pragma once
 
-#include "AwakeLock.h"
 #include "BackupCommands.h"
 #include "ConcernWatch.h"
 #include "DisksInMenu.h"
 #include "Hooks.h"
+#include "MachineWatch.h"
 #include "NotificationCenter.h"
 #include "Panels.h"
 #include "RunFollower.h"
@@ -45,6 +45,7 @@ public:
         Ledger& ledger;
         UserNotifications& userNotifications;
         AwakeLock& awakeLock;
+        PowerSupply& powerSupply;
         Hooks& hooks;
     };
 
@@ -136,7 +137,6 @@ private:
     void showStep(const BackupRun::Step& step);
     void beginRun();
     void endRun(const BackupRun::End& end);
-    void keepAwake();
     void recordCompletedRun(const BackupRun::End& end);
     void showMenu(const shown::Menu& menu);
     void showBackupDisk(const std::optional<QString>& title);
@@ -151,12 +151,12 @@ private:
     Panels panels_;
     StatusItemFace face_;
     ScheduleWatch schedule_;
+    MachineWatch machine_;
     RunLedger runLedger_;
     ConcernWatch concerns_;
     const char* enterTimeMachineTitleLocaleKey_ = nullptr;
     const char* skipThisBackupTitleLocaleKey_ = nullptr;
     bool shouldEnableMenuButons_ = true;
-    bool isOwnRun_ = false; ///< the run that goes on or is awaited was asked for here
     std::optional<QString> latestAppVersion_;
 };
 

@@ -39,7 +39,8 @@ QString nextStart(const shown::Snapshot& snapshot)
 {
     if (!snapshot.nextScheduledBackupDate)
         return snapshot.isScheduleEnabled ? u"no backup is planned"_s : u"the schedule is off"_s;
-    return (snapshot.retryBackupDate ? u"retry "_s : u"next backup "_s) +
+    return (snapshot.waitsForPower ? u"a backup waits for mains power, "_s : QString()) +
+           (snapshot.retryBackupDate ? u"retry "_s : u"next backup "_s) +
            report::readableDate(*snapshot.nextScheduledBackupDate);
 }
 
@@ -47,6 +48,7 @@ QJsonObject scheduleFacts(const shown::Snapshot& snapshot)
 {
     return {{u"next"_s, dateOrNull(snapshot.nextScheduledBackupDate)},
             {u"isRetry"_s, snapshot.retryBackupDate.has_value()},
+            {u"waitsForPower"_s, snapshot.waitsForPower},
             {u"pausedUntil"_s, dateOrNull(pausedUntil(snapshot))}};
 }
 

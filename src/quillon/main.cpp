@@ -13,6 +13,7 @@
 #include "ModalAlertPresenter.h"
 #include "NotificationCenter.h"
 #include "Options.h"
+#include "PowerSupply.h"
 #include "QtRunLoop.h"
 #include "QuitSignals.h"
 #include "RemoteControl.h"
@@ -72,9 +73,11 @@ int runApplication(const Options& options, SingleInstance& instance)
     const auto userNotifications =
         makeUserNotifications({.name = identity::name, .desktopEntry = identity::identifier});
     const auto awakeLock = makeAwakeLock();
+    const auto powerSupply = makePowerSupply();
     Hooks hooks({runLoop, launcher, hooksFolder()});
     StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager,
-                                     *loginItem, *statusItem, ledger, *userNotifications, *awakeLock, hooks});
+                                     *loginItem, *statusItem, ledger, *userNotifications, *awakeLock, *powerSupply,
+                                     hooks});
     RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 

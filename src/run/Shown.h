@@ -30,6 +30,7 @@ struct Snapshot {
     bool detailedTime = true;
     bool updateIsAvailable = false;
     bool commandIsUnderWay = false; ///< a start or a stop that is not answered yet
+    bool waitsForPower = false;     ///< a start that was due is held back until mains return
     const char* skipThisBackupTitleLocaleKey = "skipThisBackupTitleVentura";
 };
 

@@ -177,8 +177,7 @@ std::optional<Date> DataManager::getNextBackupDate()
         defaults_.setDate(settingskeys::pauseUntilDate, std::nullopt);
         defaults_.setObject(settingskeys::pauseUntilTag, 0LL);
     }
-    const Date reference = nextbackup::referenceDate(now, pauseUntil, lastFiredDate_);
-    return nextbackup::nextStart(calendarIntervalSettings_, changedStarts(), reference, Calendar());
+    return startFrom(nextbackup::referenceDate(now, pauseUntil, lastFiredDate_));
 }
 
 QList<ChangedStart> DataManager::changedStarts() const
@@ -186,12 +185,14 @@ QList<ChangedStart> DataManager::changedStarts() const
     return ChangedStart::listFromArray(defaults_.array(settingskeys::changedStarts));
 }
 
+std::optional<Date> DataManager::startFrom(Date date) const
+{
+    return nextbackup::nextStart(calendarIntervalSettings_, changedStarts(), date, Calendar());
+}
+
 std::optional<Date> DataManager::startAfterNext() const
 {
-    if (!nextScheduledBackupDate_)
-        return std::nullopt;
-    return nextbackup::nextStart(calendarIntervalSettings_, changedStarts(), *nextScheduledBackupDate_ + 1ms,
-                                 Calendar());
+    return nextScheduledBackupDate_ ? startFrom(*nextScheduledBackupDate_ + 1ms) : std::nullopt;
 }
 
 QList<Date> DataManager::startsBetween(Date from, Date until) const

@@ -69,6 +69,8 @@ public:
     void scheduleNextBackup();
     /// Arms the start timer for the date, or disarms it.
     void setNextScheduledBackupDate(std::optional<Date> date);
+    /// The earliest start from that date on which the rules and the user's changes give.
+    std::optional<Date> startFrom(Date date) const;
     /// The start behind the next one.
     std::optional<Date> startAfterNext() const;
     /// Every start from `from` on that is earlier than `until`, whatever is stored of a pause.

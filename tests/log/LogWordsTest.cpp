@@ -42,7 +42,7 @@ TEST_F(LogWords, CsvQuotesWhatItHasToAndLeavesNoFormula)
 
 TEST_F(LogWords, EveryOutcomeWithAReasonSaysItAndEveryDayIsWhatCountsMostInIt)
 {
-    for (int reason = 1; reason <= static_cast<int>(Reason::NotFollowed); ++reason)
+    for (int reason = 1; reason <= static_cast<int>(Reason::OnBattery); ++reason)
         EXPECT_GT(logwords::reason({.date = {}, .reason = Reason(reason)}).size(), 20) << reason;
     EXPECT_EQ(logwords::reason({.date = {}, .outcome = Outcome::Completed}), QString());
 

@@ -3,6 +3,7 @@
 #include "AlertPresenter.h"
 #include "AwakeLock.h"
 #include "LoginItem.h"
+#include "PowerSupply.h"
 #include "UserNotifications.h"
 #include "Workspace.h"
 
@@ -69,6 +70,24 @@ public:
 
     void hold(const QString& /*reason*/) override { isHeld = true; }
     void release() override { isHeld = false; }
+};
+
+/// Tells what the test says, while it is asked to.
+class FakePowerSupply final : public PowerSupply {
+public:
+    PowerState state() const override { return isWatching_ ? power_ : PowerState(); }
+    void setWatching(bool watching) override { isWatching_ = watching; }
+    void refresh() override {}
+    void become(const PowerState& power)
+    {
+        power_ = power;
+        if (isWatching_)
+            Q_EMIT changed();
+    }
+
+private:
+    bool isWatching_ = false;
+    PowerState power_;
 };
 
 class FakeLoginItem final : public LoginItem {

@@ -39,9 +39,9 @@ struct ProgramUnderTest {
         controller.reset();
         manager = std::make_unique<DataManager>(DataManager::Services{clock_, defaults, notifications, loginItem});
         hooks = std::make_unique<Hooks>(Hooks::Services{clock_, processes_, hooksFolder});
-        controller = std::make_unique<StatusMenuController>(
-            StatusMenuController::Services{clock_, defaults, notifications, workspace, tmutil, alerts, *manager,
-                                           loginItem, statusItem, ledger, userNotifications, awakeLock, *hooks});
+        controller = std::make_unique<StatusMenuController>(StatusMenuController::Services{
+            clock_, defaults, notifications, workspace, tmutil, alerts, *manager, loginItem, statusItem, ledger,
+            userNotifications, awakeLock, powerSupply, *hooks});
         controller->awakeFromNib();
     }
 
@@ -52,6 +52,7 @@ struct ProgramUnderTest {
     FakeLoginItem loginItem;
     FakeUserNotifications userNotifications;
     FakeAwakeLock awakeLock;
+    FakePowerSupply powerSupply;
     FakeStatusItem item;
     TMUtilQueue queue;
     TimeMachineSettings settings;

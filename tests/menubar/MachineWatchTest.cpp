@@ -1,0 +1,129 @@
+#include "ControllerFixture.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// A Saturday with one backup a day at twelve, on a machine whose power and disks come and go.
+class MachineWatchOf : public ControllerFixture {
+protected:
+    MachineWatchOf() { defaults.setDate(settingskeys::lastBackupDate, today(9)); }
+
+    void launchOnBattery()
+    {
+        defaults.stored[settingskeys::onlyOnMainsPower] = 1LL;
+        launch();
+        unplug();
+    }
+    void unplug(int charge = 50) { powerSupply.become({.onMains = false, .charge = charge}); }
+    void plugIn() { powerSupply.become({}); }
+    /// The ledger's latest entries, the newest first: when, why, what became of it.
+    std::string noted(int count)
+    {
+        QStringList lines;
+        const auto entries = ledger.read({.most = count}).value();
+        for (const LedgerEntry& entry : entries)
+            lines.append(u"%1 %2 %3 %4"_s
+                             .arg(DateFormatter::string(entry.date, u"H:mm"_s), nameOf(entry.cause),
+                                  nameOf(entry.outcome), nameOf(entry.reason))
+                             .trimmed());
+        return lines.join(u", "_s).toStdString();
+    }
+};
+
+TEST_F(MachineWatchOf, AStartThatPowerForbidsIsHeldBackUntilMainsReturn)
+{
+    launchOnBattery();
+    until(today(12, 10));
+    expect("1, Next: 23h 50m, Back Up Now, next 22 12:00");
+    EXPECT_EQ(noted(1), "12:00 schedule skipped onBattery");
+    EXPECT_TRUE(controller->snapshot().waitsForPower);
+    EXPECT_EQ(ledger.read()->front().next, today(12) + 24h);
+    sleepUntil(today(14));
+    expect("1, Next: 22h 0m, Back Up Now, next 22 12:00"); // nothing was missed
+    wait(2);
+    launch();
+    wait(60); // it outlives the program
+    EXPECT_TRUE(controller->snapshot().waitsForPower);
+    plugIn();
+    after(300, "startbackup -r; 1, Next: 21h 54m, Back Up Now, next 22 12:00");
+    EXPECT_EQ(noted(2), "12:00 schedule skipped onBattery, 12:00 schedule completed");
+    EXPECT_FALSE(controller->snapshot().waitsForPower);
+    launch();
+    after(60, "1, Next: 21h 52m, Back Up Now, next 22 12:00"); // once is enough
+}
+
+TEST_F(MachineWatchOf, TheUserStartsOnBatteryAndARetryIsHeldBackLikeAnyOtherStart)
+{
+    launchOnBattery();
+    letRunsFail();
+    click();
+    until(today(10, 20));
+    expect("startbackup -r; 5, Next: 1h 40m, Back Up Now, next 21 12:00");
+    EXPECT_EQ(noted(2), "10:06 retry skipped onBattery, 10:00 user failed incomplete");
+    defaults.stored[settingskeys::chargeThatSuffices] = 80LL;
+    unplug(81);
+    after(10, "startbackup -r; 2, 45.5% 10s, Skip This Backup, next 21 12:00");
+    EXPECT_EQ(noted(1), "10:06 retry skipped onBattery");
+}
+
+TEST_F(MachineWatchOf, AHeldStartIsGivenUpWithWhatGaveIt)
+{
+    const std::function<void()> reasons[] = {
+        [this] {
+            controller->pauseForClicked(3600);
+            wait(1);
+            controller->resumeScheduleClicked();
+        },
+        [this] {
+            manager->setIsScheduleEnabled(false);
+            wait(20);
+            manager->setIsScheduleEnabled(true);
+        },
+        [this] {
+            click();
+            wait(120);
+        },
+        [this] { manager->updateBackupScheduleAtIndex(0, 8 * 3600, u"time"_s); },
+        [this] { sleepUntil(runLoop.now() + 24h); },
+    };
+    launchOnBattery();
+    for (int day = 21; const auto& reason : reasons) {
+        manager->updateBackupScheduleAtIndex(0, 12 * 3600, u"time"_s);
+        sleepUntil(local(2026, 11, day++, 11, 59));
+        unplug();
+        wait(120);
+        EXPECT_TRUE(controller->snapshot().waitsForPower) << day;
+        reason();
+        wait(20);
+        EXPECT_FALSE(controller->snapshot().waitsForPower) << day;
+        const int starts = machine.starts();
+        plugIn();
+        wait(60);
+        EXPECT_EQ(machine.starts(), starts) << day;
+        if (manager->retryBackupDate()) // of the sleep
+            controller->skipRetryAttemptClicked();
+    }
+}
+
+TEST_F(MachineWatchOf, OnlyALaterStartTakesTheHeldOnesPlace)
+{
+    setRules({{0, 12 * 3600}, {0, 12 * 3600 + 600}});
+    launchOnBattery();
+    until(today(12, 15));
+    plugIn();
+    wait(120);
+    EXPECT_EQ(noted(3), "12:10 schedule skipped onBattery, 12:10 schedule completed, 12:00 schedule skipped onBattery");
+    EXPECT_EQ(machine.starts(), 1);
+}
+
+TEST_F(MachineWatchOf, RetriesWaitForMinutesAfterAWakeUp)
+{
+    defaults.stored[settingskeys::minutesAfterWake] = 10LL;
+    launch();
+    sleepUntil(today(13));
+    expect("6, Retry: 11m, Back Up Now, retry 21 13:11");
+}
+
+} // namespace quillon
