@@ -14,18 +14,83 @@ using Outcome = LedgerEntry::Outcome;
 
 namespace {
 
+// One disk that is plugged in changes the mounts several times.
+constexpr Seconds untilMountsSettle{1.0};
+
+// Somebody may only have wanted a file of it; what else comes up with it, such as its password, takes its time, too.
+constexpr Seconds untilDiskStays{20.0};
+
 // At log-in the services that tell of it start, too.
 constexpr Seconds untilPowerIsKnown{30.0};
 
-// There are no more of one date.
+// What tells how the last start went is among the latest entries, of which some may have been skipped.
 constexpr int mostLookedAt = 50;
 
 } // namespace
 
-MachineWatch::MachineWatch(const Services& services)
+AppearingDisks::AppearingDisks(RunLoop& runLoop, DisksInMenu& disks, MountWatch& mounts)
+    : runLoop_(runLoop)
+    , disks_(disks)
+    , mounts_(mounts)
+{
+    connect(&mounts_, &MountWatch::changed, this, [this] {
+        if (isWatching_ && !settling_.isValid())
+            settling_ = runLoop_.scheduleAfter(untilMountsSettle, [this] { look(); });
+    });
+    connect(&disks_, &DisksInMenu::told, this, &AppearingDisks::take);
+}
+
+void AppearingDisks::setWatching(bool watching)
+{
+    if (watching == isWatching_)
+        return;
+    isWatching_ = watching;
+    mounts_.setWatching(watching);
+    mounted_.reset();
+    came_.clear();
+    settling_.invalidate();
+    staying_.invalidate();
+    if (watching)
+        look();
+}
+
+void AppearingDisks::look()
+{
+    if (!disks_.request()) // the answer that is awaited may be older than the change
+        settling_ = runLoop_.scheduleAfter(untilMountsSettle, [this] { look(); });
+    if (!came_.isEmpty()) // an answer may be unreadable
+        staying_ = runLoop_.scheduleAfter(untilDiskStays, [this] { look(); });
+}
+
+void AppearingDisks::take(const QList<BackupDestination>& disks)
+{
+    if (!isWatching_)
+        return;
+    QSet<QString> mounted;
+    for (const auto& disk : disks) {
+        if (disk.isMounted)
+            mounted.insert(disk.id);
+    }
+    const auto now = runLoop_.uptime();
+    came_.removeIf([&mounted](const auto& disk) { return !mounted.contains(disk.key()); });
+    const QSet<QString> newOnes = mounted - mounted_.value_or(mounted);
+    for (const QString& id : newOnes)
+        came_.insert(id, now);
+    mounted_ = mounted;
+    const auto haveStayed = came_.removeIf([now](const auto& disk) { return now - disk.value() >= untilDiskStays; });
+    staying_.invalidate();
+    if (!came_.isEmpty()) // whether it is still there has to be asked once more
+        staying_ = runLoop_.scheduleAfter(untilDiskStays - (now - std::ranges::min(came_)), [this] { look(); });
+    if (haveStayed > 0)
+        Q_EMIT appeared();
+}
+
+MachineWatch::MachineWatch(const Services& services, DisksInMenu& disks, MountWatch& mounts)
     : services_(services)
+    , disks_(services.runLoop, disks, mounts)
 {
     connect(&services_.powerSupply, &PowerSupply::changed, this, [this] { reviewHeld(false); });
+    connect(&disks_, &AppearingDisks::appeared, this, &MachineWatch::startForDisk);
 }
 
 void MachineWatch::start()
@@ -49,6 +114,7 @@ void MachineWatch::takeUpHeld()
 void MachineWatch::followSettings()
 {
     services_.powerSupply.setWatching(powerRule().onlyOnMains);
+    disks_.setWatching(services_.defaults.integer(settingskeys::startWhenDiskAppears) == 1);
 }
 
 machinerules::PowerRule MachineWatch::powerRule() const
@@ -117,6 +183,22 @@ void MachineWatch::reviewHeld(bool completed)
     held_.reset();
     if (fate == machinerules::Fate::Made)
         Q_EMIT startAllowed(start);
+}
+
+/// It takes the place of a retry that is pending.
+void MachineWatch::startForDisk()
+{
+    if (machinerules::startsForDisk(moment(), lastCameToNothing()))
+        services_.dataManager.setRetryBackupDate(dateByAdding(services_.runLoop.now(), services_.schedule.retryWait()));
+}
+
+bool MachineWatch::lastCameToNothing() const
+{
+    const auto entries = services_.ledger.read({.most = mostLookedAt}).value_or(std::vector<LedgerEntry>());
+    const auto last =
+        std::ranges::find_if(entries, [](const LedgerEntry& entry) { return entry.outcome != Outcome::Skipped; });
+    return last != entries.end() &&
+           (last->outcome == Outcome::Missed || last->outcome == Outcome::Failed || last->outcome == Outcome::Refused);
 }
 
 void MachineWatch::noteStart(const LedgerEntry& start)

@@ -24,7 +24,8 @@ StatusMenuController::StatusMenuController(const Services& services)
     , face_(services.runLoop, services.defaults, services.statusItem, follower_.run())
     , schedule_({services.runLoop, services.defaults, services.dataManager, pause_, face_})
     , machine_({services.runLoop, services.defaults, services.dataManager, follower_, commands_, schedule_,
-                services.ledger, services.powerSupply, services.awakeLock})
+                services.ledger, services.powerSupply, services.awakeLock},
+               disks_, services.mountWatch)
     , runLedger_({services.runLoop, services.defaults, services.dataManager, follower_, disks_, services.ledger,
                   services.hooks})
     , concerns_({services.runLoop, services.defaults, services.dataManager, follower_, commands_, services.ledger,

@@ -46,6 +46,7 @@ public:
         UserNotifications& userNotifications;
         AwakeLock& awakeLock;
         PowerSupply& powerSupply;
+        MountWatch& mountWatch;
         Hooks& hooks;
     };
 

@@ -11,6 +11,7 @@
 #include "LocalizedString.h"
 #include "LoginItem.h"
 #include "ModalAlertPresenter.h"
+#include "MountWatch.h"
 #include "NotificationCenter.h"
 #include "Options.h"
 #include "PowerSupply.h"
@@ -74,10 +75,11 @@ int runApplication(const Options& options, SingleInstance& instance)
         makeUserNotifications({.name = identity::name, .desktopEntry = identity::identifier});
     const auto awakeLock = makeAwakeLock();
     const auto powerSupply = makePowerSupply();
+    const auto mountWatch = makeMountWatch();
     Hooks hooks({runLoop, launcher, hooksFolder()});
     StatusMenuController controller({runLoop, *defaults, notifications, *workspace, tmutil, alerts, dataManager,
                                      *loginItem, *statusItem, ledger, *userNotifications, *awakeLock, *powerSupply,
-                                     hooks});
+                                     *mountWatch, hooks});
     RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 

@@ -37,4 +37,9 @@ Fate fateOf(const HeldStart& held, const Since& since)
     return isPossible(since.moment) && !(held.isRetry && since.retriesWait) ? Fate::Made : Fate::Kept;
 }
 
+bool startsForDisk(const Moment& moment, bool lastCameToNothing)
+{
+    return lastCameToNothing && isWanted(moment) && isPossible(moment);
+}
+
 } // namespace quillon::machinerules

@@ -54,4 +54,7 @@ enum class Fate { Kept, Made, Dropped };
 /// been completed, or the user wants none. A set clock that lets it come again by itself drops it, too.
 Fate fateOf(const HeldStart& held, const Since& since);
 
+/// Whether a disk that has appeared is a reason for a start: something is to be made up for, and nothing forbids it.
+bool startsForDisk(const Moment& moment, bool lastCameToNothing);
+
 } // namespace quillon::machinerules

@@ -38,6 +38,7 @@ std::optional<BackupDestination> readDestination(const QVariantMap& entry)
     }
     destination.id = scalar(entry, u"ID"_s).toString();
     destination.isLast = toInteger(scalar(entry, u"LastDestination"_s)) == 1;
+    destination.isMounted = entry.contains(u"MountPoint"_s);
     return destination;
 }
 

@@ -11,8 +11,9 @@ namespace quillon {
 /// A disk that Time Machine is set up to back up to.
 struct BackupDestination {
     QString id;
-    QString name;        ///< for a network destination with the server's name behind it; may be percent-encoded
-    bool isLast = false; ///< the one that Time Machine used last
+    QString name;           ///< for a network destination with the server's name behind it; may be percent-encoded
+    bool isLast = false;    ///< the one that Time Machine used last
+    bool isMounted = false; ///< never a destination on a server, unless the system mounts it
 
     bool operator==(const BackupDestination&) const = default;
 };

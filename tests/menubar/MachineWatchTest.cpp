@@ -18,6 +18,11 @@ protected:
     }
     void unplug(int charge = 50) { powerSupply.become({.onMains = false, .charge = charge}); }
     void plugIn() { powerSupply.become({}); }
+    void mount(bool isMounted, qsizetype disk = 0)
+    {
+        machine.destinations[disk].isMounted = isMounted;
+        mountWatch.change();
+    }
     /// The ledger's latest entries, the newest first: when, why, what became of it.
     std::string noted(int count)
     {
@@ -118,12 +123,83 @@ TEST_F(MachineWatchOf, OnlyALaterStartTakesTheHeldOnesPlace)
     EXPECT_EQ(machine.starts(), 1);
 }
 
+TEST_F(MachineWatchOf, ADiskThatComesMakesUpForABackupThatCameToNothing)
+{
+    machine.destinations[0].isMounted = false;
+    launch();
+    const auto refuse = [this] {
+        const Date next = *manager->nextScheduledBackupDate();
+        sleepUntil(next - 1s);
+        spoilNext(Fault::None, 4, u"startbackup"_s);
+        wait(10);
+    };
+    mount(true);
+    wait(60);
+    EXPECT_EQ(machine.starts(), 0) << "nothing is to be made up for";
+    refuse();
+    EXPECT_EQ(noted(1), "12:00 schedule refused toolRefused");
+    wait(60);
+    mount(true, 1); // it has been there
+    wait(60);
+    mount(false);
+    wait(2);
+    mount(true);
+    wait(19);
+    mount(false); // too short a time
+    wait(60);
+    spoilNext(Fault::Refused, 0, u"destinationinfo"_s);
+    mount(true);
+    wait(60);
+    EXPECT_EQ(machine.starts(), 0) << "not told of";
+    mountWatch.change();
+    wait(10);
+    mountWatch.change();
+    wait(10);
+    EXPECT_EQ(machine.starts(), 0);
+    after(2, "startbackup -r; startbackup -r; 2, 0.0% Starting, Skip This Backup, next 22 12:00");
+    wait(200);
+    EXPECT_EQ(machine.starts(), 1) << "once for each time that it comes";
+}
+
+TEST_F(MachineWatchOf, ADiskThatComesReplacesTheRetryUnlessARuleForbidsIt)
+{
+    defaults.stored[settingskeys::onlyOnMainsPower] = 1LL;
+    machine.destinations[0].isMounted = false;
+    launch();
+    sleepUntil(today(13));
+    unplug();
+    mount(true);
+    after(30, "6, Retry: 5m, Back Up Now, retry 21 13:06");
+    plugIn();
+    mount(false);
+    wait(2);
+    mount(true);
+    after(22, "startbackup -r; 2, 0.0% Starting, Skip This Backup, next 22 12:00");
+    EXPECT_EQ(noted(2), "13:00 retry running, 12:00 schedule missed asleep");
+    wait(600);
+    EXPECT_EQ(machine.starts(), 1);
+
+    defaults.stored[settingskeys::startWhenDiskAppears] = 0LL;
+    sleepUntil(today(13) + 24h);
+    mount(false);
+    wait(2);
+    mount(true);
+    wait(60);
+    EXPECT_EQ(machine.starts(), 1);
+}
+
 TEST_F(MachineWatchOf, RetriesWaitForMinutesAfterAWakeUp)
 {
     defaults.stored[settingskeys::minutesAfterWake] = 10LL;
+    machine.destinations[0].isMounted = false;
     launch();
     sleepUntil(today(13));
     expect("6, Retry: 11m, Back Up Now, retry 21 13:11");
+    mount(true);
+    after(30, "6, Retry: 9m, Back Up Now, retry 21 13:10");
+    letRunsFail();
+    until(today(13, 11));
+    expect("startbackup -r; 5, Retry: 5m, Back Up Now, retry 21 13:16");
 }
 
 } // namespace quillon

@@ -71,4 +71,17 @@ TEST(MachineRules, AHeldStartIsMadeAsSoonAsThatIsPossibleAndOfUse)
         EXPECT_EQ(fateOf(each.held, each.since), each.fate) << "row " << ++row;
 }
 
+TEST(MachineRules, ADiskStartsOnlyWhatIsToBeMadeUpForWhileNothingForbidsIt)
+{
+    EXPECT_TRUE(startsForDisk({}, true));
+    EXPECT_FALSE(startsForDisk({}, false));
+    const Moment moments[] = {{.powerAllows = false},
+                              {.isScheduleEnabled = false},
+                              {.isPaused = true},
+                              {.isActive = true},
+                              {.isAsleep = true}};
+    for (int row = 0; const auto& moment : moments)
+        EXPECT_FALSE(startsForDisk(moment, true)) << "row " << ++row;
+}
+
 } // namespace quillon

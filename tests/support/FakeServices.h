@@ -3,6 +3,7 @@
 #include "AlertPresenter.h"
 #include "AwakeLock.h"
 #include "LoginItem.h"
+#include "MountWatch.h"
 #include "PowerSupply.h"
 #include "UserNotifications.h"
 #include "Workspace.h"
@@ -88,6 +89,19 @@ public:
 private:
     bool isWatching_ = false;
     PowerState power_;
+};
+
+class FakeMountWatch final : public MountWatch {
+public:
+    void setWatching(bool watching) override { isWatching_ = watching; }
+    void change()
+    {
+        if (isWatching_)
+            Q_EMIT changed();
+    }
+
+private:
+    bool isWatching_ = false;
 };
 
 class FakeLoginItem final : public LoginItem {

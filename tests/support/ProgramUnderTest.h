@@ -41,7 +41,7 @@ struct ProgramUnderTest {
         hooks = std::make_unique<Hooks>(Hooks::Services{clock_, processes_, hooksFolder});
         controller = std::make_unique<StatusMenuController>(StatusMenuController::Services{
             clock_, defaults, notifications, workspace, tmutil, alerts, *manager, loginItem, statusItem, ledger,
-            userNotifications, awakeLock, powerSupply, *hooks});
+            userNotifications, awakeLock, powerSupply, mountWatch, *hooks});
         controller->awakeFromNib();
     }
 
@@ -53,6 +53,7 @@ struct ProgramUnderTest {
     FakeUserNotifications userNotifications;
     FakeAwakeLock awakeLock;
     FakePowerSupply powerSupply;
+    FakeMountWatch mountWatch;
     FakeStatusItem item;
     TMUtilQueue queue;
     TimeMachineSettings settings;

@@ -81,8 +81,10 @@ TmutilScript::Call SimulatedTimeMachine::behaviour(const TaskRequest& request)
 int SimulatedTimeMachine::startBackup(const QStringList& arguments)
 {
     const QString chosen = chosenDestination(arguments);
-    if (isRunning() || chosen.isEmpty())
+    if (isRunning())
         return 1;
+    if (chosen.isEmpty())
+        return 4;
     start(chosen);
     return 0;
 }
@@ -90,8 +92,10 @@ int SimulatedTimeMachine::startBackup(const QStringList& arguments)
 QString SimulatedTimeMachine::chosenDestination(const QStringList& arguments) const
 {
     QStringList ids;
-    for (const auto& destination : destinations)
-        ids.append(destination.id);
+    for (const auto& destination : destinations) {
+        if (destination.isMounted)
+            ids.append(destination.id);
+    }
     if (const auto option = arguments.indexOf("-d"_L1); option >= 0)
         return ids.contains(arguments.value(option + 1)) ? arguments.value(option + 1) : QString();
     if (arguments.contains("-r"_L1)) // the one whose last run is longest ago
@@ -154,7 +158,8 @@ QByteArray SimulatedTimeMachine::destinationInfo() const
         list += "<dict><key>ID</key><string>" + destination.id.toUtf8() + "</string><key>Name</key><string>" +
                 destination.name.toHtmlEscaped().toUtf8() +
                 "</string><key>Kind</key><string>Local</string><key>LastDestination</key><integer>" +
-                QByteArray(!used_.isEmpty() && used_.last() == destination.id ? "1" : "0") + "</integer></dict>";
+                QByteArray(!used_.isEmpty() && used_.last() == destination.id ? "1" : "0") + "</integer>" +
+                (destination.isMounted ? "<key>MountPoint</key><string>/</string>" : "") + "</dict>";
     }
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict><key>Destinations</key><array>" +
            list + "</array></dict></plist>";

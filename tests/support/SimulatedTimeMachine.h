@@ -20,6 +20,7 @@ public:
     struct Destination {
         QString id;
         QString name;
+        bool isMounted = true;
     };
     /// The fault of the n-th call, counted from 1; of the n-th call of one command where that is named.
     struct Injection {

@@ -214,14 +214,23 @@ void DisksInMenu::take(const QList<BackupDestination>& disks)
     Q_EMIT listed();
 }
 
-void DisksInMenu::request()
+bool DisksInMenu::request()
 {
     if (std::exchange(namesAreAwaited_, true))
-        return; // one list tells all who ask before it is there, and holds up no second poll
-    services_.tmutil.getBackupDestinationsWithCompletionHandler([this](bool, const QList<BackupDestination>& disks) {
-        namesAreAwaited_ = false;
-        take(disks);
-    });
+        return false; // one list tells all who ask before it is there, and holds up no second poll
+    const auto reports = std::make_shared<int>(0);
+    services_.tmutil.getBackupDestinationsWithCompletionHandler(
+        [this, reports](bool success, const QList<BackupDestination>& disks) {
+            namesAreAwaited_ = false;
+            take(disks);
+            if (++*reports > 1 || !success)
+                return;
+            services_.runLoop.enqueue([this, reports, disks] {
+                if (*reports == 1) // a call that failed is reported twice
+                    Q_EMIT told(disks);
+            });
+        });
+    return true;
 }
 
 void DisksInMenu::menuWillOpen()

@@ -95,8 +95,8 @@ public:
     DisksInMenu(const Services& services, StatusMenu& menu);
 
     const QList<BackupDestination>& backupDisks() const { return backupDisks_; }
-    /// Asks for the disks' names.
-    void request();
+    /// Asks for the disks; false while an earlier question is awaited, whose answer then is everybody's.
+    bool request();
     void menuWillOpen();
     /// Takes away what a running backup leaves no use for.
     void withdrawSubmenus();
@@ -105,6 +105,8 @@ public:
 
 Q_SIGNALS:
     void listed();
+    /// The same of a list that could be read, in a later turn.
+    void told(const QList<BackupDestination>& disks);
     void systemChoiceClicked();
     void diskClicked(const QString& identifier);
     void helpButtonPressed();
