@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <tuple>
 #include <vector>
 
 namespace quillon {
@@ -64,6 +65,11 @@ struct LedgerEntry {
     bool nextIsRetry = false;
 
     bool isDue() const { return cause == Cause::Schedule || cause == Cause::Retry; }
+    /// Of one date the start that was made comes later than the one that was held back.
+    bool isNewerThan(const LedgerEntry& other) const
+    {
+        return std::tie(date, began) > std::tie(other.date, other.began);
+    }
     bool operator==(const LedgerEntry&) const = default;
 };
 

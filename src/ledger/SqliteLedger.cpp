@@ -261,7 +261,7 @@ std::optional<std::vector<LedgerEntry>> SqliteLedger::read(const LedgerFilter& f
         rows.setForwardOnly(true);
         // An empty file has no table yet.
         if (rows.exec(u"PRAGMA user_version"_s) && rows.next() && rows.value(0).toInt() != 0)
-            rows.exec("SELECT "_L1 + columns + " FROM entries ORDER BY date DESC"_L1);
+            rows.exec("SELECT "_L1 + columns + " FROM entries ORDER BY date DESC, began DESC"_L1);
         const std::size_t most = entries.size() + static_cast<std::size_t>(filter.most);
         while (entries.size() < most && rows.next()) {
             const auto entry = entryOf(rows);
@@ -273,7 +273,7 @@ std::optional<std::vector<LedgerEntry>> SqliteLedger::read(const LedgerFilter& f
             return std::nullopt;
         }
     }
-    std::ranges::stable_sort(entries, std::greater(), &LedgerEntry::date);
+    std::ranges::stable_sort(entries, &LedgerEntry::isNewerThan);
     if (entries.size() > static_cast<std::size_t>(filter.most))
         entries.resize(static_cast<std::size_t>(filter.most));
     return entries;

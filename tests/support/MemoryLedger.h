@@ -3,7 +3,6 @@
 #include "Ledger.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace quillon {
 
@@ -23,7 +22,7 @@ public:
             else
                 *known = entry;
         }
-        std::ranges::stable_sort(entries_, std::greater(), &LedgerEntry::date);
+        std::ranges::stable_sort(entries_, &LedgerEntry::isNewerThan);
         Q_EMIT changed();
     }
     std::optional<std::vector<LedgerEntry>> read(const LedgerFilter& filter = {}) override
