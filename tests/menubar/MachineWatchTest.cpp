@@ -111,17 +111,6 @@ TEST_F(MachineWatchOf, AHeldStartIsGivenUpWithWhatGaveIt)
     }
 }
 
-TEST_F(MachineWatchOf, OnlyALaterStartTakesTheHeldOnesPlace)
-{
-    setRules({{0, 12 * 3600}, {0, 12 * 3600 + 600}});
-    launchOnBattery();
-    until(today(12, 15));
-    plugIn();
-    wait(120);
-    EXPECT_EQ(noted(3), "12:10 schedule completed, 12:10 schedule skipped onBattery, 12:00 schedule skipped onBattery");
-    EXPECT_EQ(machine.starts(), 1);
-}
-
 TEST_F(MachineWatchOf, ADiskThatComesMakesUpForABackupThatCameToNothing)
 {
     machine.destinations[0].isMounted = false;

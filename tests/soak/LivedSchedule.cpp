@@ -31,6 +31,9 @@ constexpr std::array ledgerLines{
     "user completed, schedule skipped backupRan",      // ByHand
     "schedule skipped asked",                          // Skipped
     "schedule completed",                              // Postponed
+    "schedule skipped onBattery, schedule completed",  // OnBattery
+    "schedule refused toolRefused, retry completed",   // DiskAway
+    "schedule skipped onBattery",                      // StillOnBattery
 };
 
 } // namespace
@@ -44,6 +47,10 @@ LivedSchedule::LivedSchedule(Date begin, unsigned seed, Tally& tally)
         QDateTime::fromMSecsSinceEpoch(begin.time_since_epoch().count() - 1);
     setRules({{CalendarIntervalRule::everyDay, between(1, 5) * 3600 + between(0, 59) * 60},
               {CalendarIntervalRule::mondayToFriday, between(12, 17) * 3600 + between(0, 59) * 60}});
+    retryWait_ = std::chrono::minutes(between(0, 1) * 20);
+    defaults.stored[settingskeys::minutesAfterWake] = qlonglong(retryWait_ / 1min);
+    defaults.stored[settingskeys::onlyOnMainsPower] = 1LL;
+    defaults.stored[settingskeys::chargeThatSuffices] = 50LL;
     launch();
 }
 
@@ -56,8 +63,11 @@ void LivedSchedule::liveThrough(int days)
 {
     LocalTime day = Calendar().localTime(runLoop.now());
     for (int lived = 0; lived < days; ++lived) {
-        for (const Date due : dueOn(day))
+        const QList<Date> starts = dueOn(day);
+        for (const Date due : starts) {
+            isLastOfDay_ = due == starts.last();
             meet(due);
+        }
         if (between(1, 20) == 1)
             travel();
         else
@@ -96,11 +106,18 @@ void LivedSchedule::meet(Date due)
 {
     if (runLoop.now() > due - 10min)
         return; // what came before has taken that long
+    const QString onTheWall = DateFormatter::string(due, u"yyyy-MM-dd HH:mm"_s);
+    if (changed_.contains(onTheWall))
+        return; // the day is lived once more, farther west, and that start was meant wherever it is
     ++tally_.due;
     sleepUntil(due - 5min);
     runLoop.advance(20s);
     expectStart(runLoop.now(), false, {});
-    event_ = Event(std::max(between(-10, int(Event::Postponed)), 0)); // most days nothing happens
+    const bool isOnBattery = event_ == Event::StillOnBattery;
+    event_ = isOnBattery ? Event::OnBattery // most days nothing happens
+                         : Event(std::max(between(-10, int(Event::DiskAway)), 0));
+    if (event_ == Event::Skipped || event_ == Event::Postponed)
+        changed_.insert(onTheWall);
     play(event_, due);
     look(due);
 }
@@ -124,11 +141,21 @@ void LivedSchedule::play(Event event, Date due)
         pass(due, true);
         letRunEnd(); // as a completed one would have ended too
         machine.phases = completed;
-        expectRetry();
+        if (retryWait_ > 0s || between(0, 1) == 0) {
+            expectRetry();
+            return;
+        }
+        setMounted(false);
+        expectStartForDisk(); // in place of the retry
+        letRunEnd();
+        runLoop.advance(6min);
+        expectStart(due, false, {});
         return;
     case Event::Asleep:
         sleepUntil(due + std::chrono::seconds(between(1, 3600)));
         pass(runLoop.now(), false, u"asleep"_s);
+        if (manager->retryBackupDate() < runLoop.now() + retryWait_ - reactionTime)
+            tally_.untrue.append(lineAt(due) + u", a retry too soon after the wake-up"_s);
         expectRetry();
         return;
     case Event::SmallJump:
@@ -167,6 +194,16 @@ void LivedSchedule::play(Event event, Date due)
         ++seen_;
         pass(due, false, u"started by hand"_s);
         break;
+    case Event::OnBattery:
+        beOnBattery(due);
+        if (event_ == Event::StillOnBattery)
+            return;
+        break;
+    case Event::DiskAway:
+        beWithoutDisk(due);
+        break;
+    case Event::StillOnBattery: // never by itself
+        return;
     case Event::Skipped:
         ask(u"skip"_s);
         if (between(0, 1) == 1)
@@ -193,6 +230,62 @@ void LivedSchedule::play(Event event, Date due)
     }
     }
     letRunEnd();
+}
+
+/// A start that is held back is made once power suffices, unless the next one comes first.
+void LivedSchedule::beOnBattery(Date due)
+{
+    runLoop.advanceTo(due - 1min);
+    powerSupply.become({.onMains = false, .charge = 50});
+    pass(due, false, u"on battery"_s);
+    if (!isLastOfDay_ && between(0, 2) == 0) {
+        event_ = Event::StillOnBattery;
+        return;
+    }
+    if (between(0, 2) == 0)
+        sleepUntil(due + std::chrono::minutes(between(1, 90)));
+    runLoop.advance(std::chrono::seconds(between(1, 3600)));
+    expectStart(due, false, {});
+    powerSupply.become({.onMains = between(0, 1) == 1, .charge = 51});
+    pass(runLoop.now(), true);
+    powerSupply.become({});
+}
+
+/// It makes up for a start that was refused, or for a run that has failed, once it has been back for a while.
+void LivedSchedule::beWithoutDisk(Date due)
+{
+    setMounted(false);
+    pass(due, false, u"without a disk"_s);
+    if (between(0, 1) == 1)
+        sleepUntil(due + std::chrono::minutes(between(1, 60)));
+    runLoop.advance(std::chrono::seconds(between(1500, 3600)));
+    setMounted(true); // for too short a time
+    runLoop.advance(std::chrono::seconds(between(2, 19)));
+    setMounted(false);
+    powerSupply.become({.onMains = false, .charge = 3});
+    setMounted(true);
+    runLoop.advance(1min);
+    powerSupply.become({});
+    setMounted(false);
+    expectStart(due, false, {});
+    expectStartForDisk();
+}
+
+void LivedSchedule::setMounted(bool isMounted)
+{
+    machine.destinations[0].isMounted = isMounted;
+    mountWatch.change();
+    runLoop.advance(2s);
+}
+
+void LivedSchedule::expectStartForDisk()
+{
+    const Date now = runLoop.now();
+    setMounted(true);
+    runLoop.advance(16s);
+    expectStart(now, false, {});
+    runLoop.advance(5s);
+    expectStart(now, true, {});
 }
 
 /// A start that is due, or would be.

@@ -27,8 +27,8 @@ struct Tally {
 };
 
 /// A computer with the whole program on it, day after day: it sleeps and wakes, somebody sets its clock and travels
-/// with it, pauses the schedule and backs up by hand, and Time Machine fails now and then. What is to be expected of
-/// each start is known from what is done to it, not from the program.
+/// with it, pauses the schedule and backs up by hand, power and disk come and go, and Time Machine fails now and then.
+/// What is to be expected of each start is known from what is done to it, not from the program.
 class LivedSchedule : PlayedProgram {
 public:
     /// A place with its zone lasts for a life.
@@ -59,7 +59,10 @@ private:
         ToolFails,
         ByHand,
         Skipped,
-        Postponed
+        Postponed,
+        OnBattery,
+        DiskAway,
+        StillOnBattery ///< when the next start comes
     };
 
     int between(int least, int most);
@@ -70,6 +73,10 @@ private:
     void pass(Date due, bool isExpected, const QString& reason = {});
     void expectStart(Date from, bool isExpected, const QString& reason);
     void expectRetry();
+    void beOnBattery(Date due);
+    void beWithoutDisk(Date due);
+    void setMounted(bool isMounted);
+    void expectStartForDisk();
     void letRunEnd();
     /// As another program of the user does.
     void ask(const QString& words);
@@ -80,8 +87,11 @@ private:
     std::mt19937 random_;
     Tally& tally_;
     Event event_ = Event::Nothing;
-    int seen_ = 0;      ///< how many runs have been accounted for
-    QSet<qint64> read_; ///< entries of the ledger
+    bool isLastOfDay_ = false;
+    Seconds retryWait_;     ///< after a wake-up
+    int seen_ = 0;          ///< how many runs have been accounted for
+    QSet<qint64> read_;     ///< entries of the ledger
+    QSet<QString> changed_; ///< starts that were skipped or postponed
 };
 
 } // namespace quillon
