@@ -544,6 +544,67 @@
         <source></source>
         <translation>Das System hat die Änderung nicht angenommen: Was bei der Anmeldung geöffnet wird, bleibt, wie es war.</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>Weitere</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>Energie</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>Backups nur bei Netzbetrieb starten</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>Oder bei einer Ladung über</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Ruhezustand während Backups von Quillon verhindern</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>Neuer Versuch, sobald das Backup-Volume erscheint</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>Nach dem Aufwachen warten</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 Min.</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>Mitteilungen</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>Kein abgeschlossenes Backup seit</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 Tagen</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 Tag</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>Eine Minute vor dem Start eines Backups</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -544,6 +544,67 @@
         <source></source>
         <translation>The system did not take the change: what opens at login stays as it was.</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>More</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>Power</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>Start backups only on mains power</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>Or when the battery is above</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Stay awake during backups that Quillon starts</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>Retry once the backup disk appears</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>After waking, wait</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>No completed backup for</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 days</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 day</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>One minute before a backup starts</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

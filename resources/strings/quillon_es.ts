@@ -544,6 +544,67 @@
         <source></source>
         <translation>El sistema no ha aceptado el cambio: lo que se abre al iniciar sesión queda como estaba.</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>Más</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>Atrás</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>Energía</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>Iniciar copias solo con corriente</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>O si la carga supera el</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Evitar el reposo durante las copias de Quillon</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>Reintentar cuando aparezca el disco de copia</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>Tras la activación, esperar</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>Notificaciones</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>Ninguna copia completada desde hace</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 días</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 día</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>Un minuto antes de que se inicie una copia</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

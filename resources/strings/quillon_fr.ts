@@ -544,6 +544,67 @@
         <source></source>
         <translation>Le système n’a pas accepté la modification : ce qui s’ouvre à l’ouverture de session reste inchangé.</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>Plus</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>Retour</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>Énergie</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>Démarrer les sauvegardes uniquement sur secteur</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>Ou si la charge dépasse</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Empêcher la veille pendant les sauvegardes de Quillon</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>Réessayer dès que le disque de sauvegarde apparaît</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>Après le réveil, attendre</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>Aucune sauvegarde terminée depuis</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 jours</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 jour</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>Une minute avant le début d’une sauvegarde</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

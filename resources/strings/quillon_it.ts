@@ -544,6 +544,67 @@
         <source></source>
         <translation>Il sistema non ha accettato la modifica: ciò che si apre al login resta com’era.</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>Altro</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>Indietro</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>Energia</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>Avvia i backup solo con alimentazione di rete</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>O se la carica supera il</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Impedisci lo stop durante i backup di Quillon</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>Riprova quando compare il disco di backup</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>Dopo la riattivazione, attendi</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>Notifiche</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>Nessun backup completato da</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 giorni</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 giorno</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>Un minuto prima dell’inizio di un backup</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -544,6 +544,67 @@
         <source></source>
         <translation>システムが変更を受け付けませんでした。ログイン時に開く項目は変わりません。</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>その他</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>戻る</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>電源</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>電源に接続中のみバックアップを開始</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>またはバッテリー残量が次より多いとき</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Quillonが開始したバックアップ中はスリープしない</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>バックアップディスクが現れたら再試行</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>スリープ解除後の待ち時間</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1分</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>通知</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>完了したバックアップがない期間</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1日</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1日</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>バックアップ開始の1分前</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -544,6 +544,67 @@
         <source></source>
         <translation>Het systeem heeft de wijziging niet aangenomen: wat bij het inloggen wordt geopend, blijft zoals het was.</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>Meer</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>Terug</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>Energie</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>Start reservekopieën alleen op netstroom</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>Of bij een lading boven</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Voorkom slaapstand tijdens reservekopieën van Quillon</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>Probeer opnieuw zodra de reservekopieschijf verschijnt</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>Wacht na ontwaken</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>Meldingen</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>Geen voltooide reservekopie sinds</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 dagen</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 dag</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>Een minuut voordat een reservekopie start</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -544,6 +544,67 @@
         <source></source>
         <translation>O sistema não aceitou a alteração: o que abre ao iniciar a sessão continua como estava.</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>Mais</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>Voltar</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>Energia</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>Iniciar backups apenas na tomada</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>Ou com carga acima de</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Impedir o repouso durante os backups do Quillon</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>Tentar novamente quando o disco de backup aparecer</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>Após despertar, aguardar</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>Notificações</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>Nenhum backup concluído há</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 dias</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 dia</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>Um minuto antes do início de um backup</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

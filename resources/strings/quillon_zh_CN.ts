@@ -544,6 +544,67 @@
         <source></source>
         <translation>系统未接受更改：登录时打开的项目保持不变。</translation>
     </message>
+    <!-- The second page of the settings panel; a number stands behind what is not a sentence -->
+    <message id="settingsMoreTitle">
+        <source></source>
+        <translation>更多</translation>
+    </message>
+    <message id="settingsBackTitle">
+        <source></source>
+        <translation>返回</translation>
+    </message>
+    <message id="settingsGroupPower">
+        <source></source>
+        <translation>电源</translation>
+    </message>
+    <message id="settingsOnlyOnMainsPower">
+        <source></source>
+        <translation>仅在接通电源时开始备份</translation>
+    </message>
+    <message id="settingsChargeThatSuffices">
+        <source></source>
+        <translation>或电池电量高于</translation>
+    </message>
+    <message id="settingsPerCent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="settingsStayAwake">
+        <source></source>
+        <translation>Quillon 开始的备份进行时防止睡眠</translation>
+    </message>
+    <message id="settingsStartWhenDiskAppears">
+        <source></source>
+        <translation>备份磁盘出现时重试</translation>
+    </message>
+    <message id="settingsMinutesAfterWake">
+        <source></source>
+        <translation>唤醒后等待</translation>
+    </message>
+    <message id="settingsMinutes">
+        <source></source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message id="settingsGroupNotifications">
+        <source></source>
+        <translation>通知</translation>
+    </message>
+    <message id="settingsDaysWithoutBackup">
+        <source></source>
+        <translation>未完成任何备份已达</translation>
+    </message>
+    <message id="settingsDays">
+        <source></source>
+        <translation>%1 天</translation>
+    </message>
+    <message id="settingsDay">
+        <source></source>
+        <translation>%1 天</translation>
+    </message>
+    <message id="settingsTellBeforeStart">
+        <source></source>
+        <translation>备份开始前一分钟</translation>
+    </message>
     <!-- Alerts of the settings panel -->
     <message id="maximumRulesReachedTitle">
         <source></source>

@@ -18,7 +18,6 @@ namespace {
 
 const QString backUpNow = u"backUpNow"_s;
 const QString openTimeMachineSettings = u"openTimeMachineSettings"_s;
-constexpr qlonglong mostDays = 3650; // a larger number would leave the clock's range
 
 const char* titleKey(Kind kind)
 {
@@ -108,7 +107,7 @@ void ConcernWatch::noteSettings()
     facts_.now = services_.runLoop.now();
     facts_.lastCompleted = defaults.date(settingskeys::lastBackupDate);
     facts_.daysWithoutBackup =
-        int(std::clamp(defaults.integer(settingskeys::daysWithoutBackup), qlonglong{0}, mostDays));
+        int(std::clamp(defaults.integer(settingskeys::daysWithoutBackup), 0LL, settingskeys::mostDaysWithoutBackup));
     facts_.retryIsPlanned = services_.dataManager.retryBackupDate().has_value();
     const auto since = defaults.date(settingskeys::watchedSinceDate);
     facts_.watchedSince = since && *since < facts_.now ? *since : facts_.now;

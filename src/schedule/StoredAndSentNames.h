@@ -31,12 +31,15 @@ inline const QString tellBeforeStart = u"userSettingsTellBeforeStart"_s;
 
 /// Integer: the user is told when no backup has been completed for so many days; 0: never.
 inline const QString daysWithoutBackup = u"userSettingsDaysWithoutBackup"_s;
+inline constexpr qlonglong mostDaysWithoutBackup = 3650; // more would leave the clock's range
 
 /// Integer: the charge of the battery, in per cent, above which a backup starts without mains power, too; 0: none.
 inline const QString chargeThatSuffices = u"userSettingsChargeThatSuffices"_s;
+inline constexpr qlonglong mostChargeThatSuffices = 100;
 
 /// Integer: a retry comes so many minutes after a wake-up at the earliest; 0: as ever.
 inline const QString minutesAfterWake = u"userSettingsMinutesAfterWake"_s;
+inline constexpr qlonglong mostMinutesAfterWake = 1440; // a day
 
 /// Array of rule dictionaries.
 inline const QString calendarIntervals = u"userSettingsCalendarIntervals"_s;
@@ -93,7 +96,7 @@ inline const QString scheduledBackupShouldStart = u"scheduledBackupShouldStartNo
 /// The start timer ran a minute or more after its date: what becomes of the start is to be decided.
 inline const QString scheduledBackupFoundLate = u"scheduledBackupFoundLateNotification"_s;
 
-/// A setting that the menu bar shows has changed.
+/// A setting has changed that the menu bar shows or the program goes by at every step.
 inline const QString shouldUpdateStatusBar = u"shouldUpdateStatusBarNotification"_s;
 
 /// Somebody outside the settings panel has changed the rules.

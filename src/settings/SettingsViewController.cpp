@@ -5,6 +5,7 @@
 #include "CalendarIntervalCellView.h"
 #include "DataManager.h"
 #include "LocalizedString.h"
+#include "MoreSettingsPage.h"
 #include "NotificationCenter.h"
 #include "ScreenFittingArea.h"
 #include "SetupAdvice.h"
@@ -39,14 +40,18 @@ SettingsViewController::SettingsViewController(const Services& services, QWidget
     , loginItem_(services.loginItem)
     , tmutil_(services.tmutil)
     , ui_(std::make_unique<Ui::SettingsView>())
+    , firstArea_(new ScreenFittingArea(this))
+    , moreArea_(new ScreenFittingArea(this))
+    , morePage_(new MoreSettingsPage(defaults_, moreArea_))
 {
     auto view = std::make_unique<QWidget>();
     ui_->setupUi(view.get());
-    auto* area = new ScreenFittingArea(this);
-    area->setContent(view.release());
+    firstArea_->setContent(view.release());
+    moreArea_->setContent(morePage_);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(area);
+    layout->addWidget(firstArea_);
+    layout->addWidget(moreArea_);
 
     titleControls();
     nameControls();
@@ -54,6 +59,7 @@ SettingsViewController::SettingsViewController(const Services& services, QWidget
     connectScheduleControls();
     connectOptionControls();
     connectAlertControls();
+    connectMorePage();
     notifications_.addObserver(notifications::rulesChanged, this,
                                [this](const QVariantMap&) { reloadCalendarIntervalTableView(); });
     showStoredSchedule();
@@ -89,6 +95,7 @@ void SettingsViewController::titleControls()
     ui_->rotateBackupDisksCheckmark->setText(localizedString("settingsRotateBackupDisks"));
     ui_->enableAppAtSystemStartCheckmark->setText(localizedString("settingsStartOnSystemStart"));
     ui_->backupLogButton->setText(u"%1..."_s.arg(localizedString("logWindowTitle")));
+    ui_->moreButton->setText(u"%1..."_s.arg(localizedString("settingsMoreTitle")));
 }
 
 /// For assistive technology, which tells neither what a picture shows nor what a control stands beside.
@@ -132,7 +139,7 @@ void SettingsViewController::nameControls()
                      ui_->enableRetryAtMissedScheduleCheckmark, ui_->enableRetryAtFailureCheckmark,
                      ui_->showRemainingMinutesCheckmark, ui_->showMenuBarIconOnlyCheckmark,
                      ui_->enableMenuBarColorsCheckmark, ui_->rotateBackupDisksCheckmark,
-                     ui_->enableAppAtSystemStartCheckmark, ui_->backupLogButton});
+                     ui_->enableAppAtSystemStartCheckmark, ui_->backupLogButton, ui_->moreButton});
 }
 
 /// What depends on the sizes of the style and the font.
@@ -151,6 +158,32 @@ void SettingsViewController::arrangeForStyle()
     constexpr int digits = 3;
     ui_->scheduleIntervalValueTextField->setFixedWidth(ui_->scheduleIntervalValueTextField->minimumSizeHint().width() +
                                                        digits * fontMetrics().horizontalAdvance(u'0'));
+}
+
+void SettingsViewController::connectMorePage()
+{
+    moreArea_->hide();
+    connect(ui_->moreButton, &QPushButton::clicked, this, &SettingsViewController::turnToMore);
+    connect(morePage_, &MoreSettingsPage::backPressed, this, &SettingsViewController::turnBack);
+    connect(morePage_, &MoreSettingsPage::changed, this, &SettingsViewController::postShouldUpdateStatusBar);
+}
+
+// Only the page that is shown has a say in the panel's size.
+
+void SettingsViewController::turnToMore()
+{
+    morePage_->showStored();
+    moreArea_->setMinimumWidth(firstArea_->width()); // its lower edge alone moves
+    firstArea_->hide();
+    moreArea_->show();
+    morePage_->setFocus();
+}
+
+void SettingsViewController::turnBack()
+{
+    moreArea_->hide();
+    firstArea_->show();
+    ui_->moreButton->setFocus();
 }
 
 void SettingsViewController::changeEvent(QEvent* event)
@@ -176,6 +209,8 @@ void SettingsViewController::hideEvent(QHideEvent* event)
     if (event->spontaneous())
         return;
     nextBackupTimer_.invalidate();
+    if (!moreArea_->isHidden())
+        turnBack();
     postShouldUpdateStatusBar();
     reloadCalendarIntervalTableView();
 }

@@ -22,16 +22,18 @@ namespace quillon {
 class CalendarIntervalCellView;
 class DataManager;
 class LoginItem;
+class MoreSettingsPage;
 class NotificationCenter;
 class RunLoop;
+class ScreenFittingArea;
 class UserDefaults;
 struct SetupAdvice;
 
 /// The settings panel. Every control acts and is stored the moment the user changes it; there is nothing to apply or to
 /// cancel.
 ///
-/// What its two pages and its options show and take is in SettingsViewController_pages.cpp; the rest, alerts included,
-/// in SettingsViewController.cpp.
+/// What the schedule's two pages and the options show and take is in SettingsViewController_pages.cpp; the rest, alerts
+/// included, in SettingsViewController.cpp. Behind "More..." lies a MoreSettingsPage.
 class SettingsViewController final : public QWidget {
     Q_OBJECT
 
@@ -80,6 +82,9 @@ private:
     void titleControls();
     void nameControls();
     void arrangeForStyle();
+    void connectMorePage();
+    void turnToMore();
+    void turnBack();
 
     // Schedule
     void connectScheduleControls();
@@ -133,6 +138,9 @@ private:
     LoginItem& loginItem_;
     TMUtil& tmutil_;
     std::unique_ptr<Ui::SettingsView> ui_;
+    ScreenFittingArea* firstArea_;
+    ScreenFittingArea* moreArea_;
+    MoreSettingsPage* morePage_;
     Timer nextBackupTimer_; ///< runs while the panel is visible
     QPointer<QWidget> focusBeforeAlert_;
     QList<CalendarIntervalRule> calendarIntervalSettings_;

@@ -44,17 +44,17 @@ protected:
     }
 
     /// The controls that the Tab key goes to from the first one on, until the keyboard is there again.
-    QString wayOfTheTabKey() const
+    QString wayOfTheTabKey(const char* first) const
     {
         QStringList way;
-        control("enableScheduleCheckmark").setFocus();
+        control(first).setFocus();
         do {
             const QWidget* focused = QApplication::focusWidget();
             way.append(focused->objectName());
             // Within a time picker Tab goes from hours to minutes first.
             for (int parts = 0; parts < 4 && QApplication::focusWidget() == focused; ++parts)
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        } while (!control("enableScheduleCheckmark").hasFocus() && way.size() < 100);
+        } while (!control(first).hasFocus() && way.size() < 100);
         return way.join(u' ') + u'\n';
     }
 
@@ -68,15 +68,17 @@ protected:
     QFont font_ = QApplication::font();
 };
 
-TEST_F(SettingsLooks, EverythingIsReadOutWithANameAndAnExplanationAndReachedFromAboveOnEitherPage)
+TEST_F(SettingsLooks, EverythingIsReadOutWithANameAndAnExplanationAndReachedFromAboveOnEveryPage)
 {
     open({{1, 3600}});
     click("addCalendarIntervalButton");
     QString found = whatIsReadOut();
     for (const auto page : {Qt::Key_Home, Qt::Key_End}) {
         QTest::keyClick(&control<QComboBox>("schedulePopup"), page);
-        found += wayOfTheTabKey();
+        found += wayOfTheTabKey("enableScheduleCheckmark");
     }
+    click("moreButton");
+    found += wayOfTheTabKey("userSettingsOnlyOnMainsPower");
     QFile recorded(QStringLiteral(READ_OUT));
     ASSERT_TRUE(recorded.open(QIODevice::ReadOnly));
     EXPECT_EQ(found.toStdString(), recorded.readAll().toStdString());
@@ -94,6 +96,9 @@ TEST_F(SettingsLooks, NothingIsClippedInAnyLanguageOrSizeOfTheSystemsFont)
             QCoreApplication::processEvents();
             EXPECT_EQ(clippedTexts(*panel_), "") << language.toStdString();
         }
+        click("moreButton");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(clippedTexts(*panel_), "") << language.toStdString();
     }
     installStringTable(u"en"_s);
     open({{}, {8, 7200}});
@@ -108,7 +113,7 @@ TEST_F(SettingsLooks, WhatTheScreenHasNoRoomForIsScrolledToByKeyboard)
 {
     enlargeFont(2.5);
     open();
-    auto& last = control<QPushButton>("backupLogButton");
+    auto& last = control<QPushButton>("moreButton");
     control("enableScheduleCheckmark").setFocus();
     EXPECT_TRUE(last.visibleRegion().isEmpty());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);

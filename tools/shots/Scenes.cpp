@@ -226,6 +226,11 @@ constexpr std::array scenes{
               openSettings(stage);
               stage.choose("schedulePopup", 1);
           }},
+    Scene{"settings-more",
+          [](Stage& stage) {
+              pressInSettings(stage, "moreButton");
+              stage.press("userSettingsOnlyOnMainsPower"); // lets one choose a charge
+          }},
     Scene{"settings-off",
           [](Stage& stage) {
               openSettings(stage);
