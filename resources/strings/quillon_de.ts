@@ -395,6 +395,22 @@
         <source></source>
         <translation>Time Machine hat Schäden in den Backups gefunden. Einige Dateien lassen sich möglicherweise nicht wiederherstellen.</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>Backup startet gleich</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>Das nächste Backup startet um %1 Uhr.</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>Überspringen</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>In einer Stunde</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -395,6 +395,22 @@
         <source></source>
         <translation>Time Machine found damage in your backups. Some files may not be restorable.</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>Backup Starts Soon</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>The next backup starts at %1.</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>Skip</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>In an Hour</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -395,6 +395,22 @@
         <source></source>
         <translation>Time Machine ha encontrado daños en tus copias de seguridad. Es posible que algunos archivos no puedan restaurarse.</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>La copia se iniciará en breve</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>Próxima copia de seguridad: %1.</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>Omitir</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>En una hora</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

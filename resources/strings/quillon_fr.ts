@@ -395,6 +395,22 @@
         <source></source>
         <translation>Time Machine a trouvé des dommages dans vos sauvegardes. Certains fichiers ne pourront peut-être pas être restaurés.</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>Sauvegarde imminente</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>La prochaine sauvegarde démarre à %1.</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>Ignorer</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>Dans une heure</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

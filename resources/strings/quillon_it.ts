@@ -395,6 +395,22 @@
         <source></source>
         <translation>Time Machine ha trovato danni nei tuoi backup. Alcuni file potrebbero non essere ripristinabili.</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>Il backup inizia a breve</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>Prossimo backup: %1.</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>Salta</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>Tra un’ora</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -395,6 +395,22 @@
         <source></source>
         <translation>Time Machineがバックアップの破損を検出しました。一部のファイルを復元できない可能性があります。</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>まもなくバックアップを開始します</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>次のバックアップは%1に開始されます。</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>スキップ</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>1時間後</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

@@ -395,6 +395,22 @@
         <source></source>
         <translation>Time Machine heeft schade in je reservekopieën gevonden. Sommige bestanden kunnen mogelijk niet worden teruggezet.</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>Reservekopie start zo</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>De volgende reservekopie start om %1.</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>Sla over</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>Over een uur</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

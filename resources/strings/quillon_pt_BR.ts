@@ -395,6 +395,22 @@
         <source></source>
         <translation>O Time Machine encontrou danos nos seus backups. Talvez alguns arquivos não possam ser restaurados.</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>O Backup Começará em Breve</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>Próximo backup: %1.</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>Ignorar</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>Em Uma Hora</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

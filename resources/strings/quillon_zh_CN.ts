@@ -395,6 +395,22 @@
         <source></source>
         <translation>“时间机器”在你的备份中发现损坏。部分文件可能无法恢复。</translation>
     </message>
+    <message id="startAheadTitle">
+        <source></source>
+        <translation>备份即将开始</translation>
+    </message>
+    <message id="startAheadMessage">
+        <source></source>
+        <translation>下次备份将于 %1 开始。</translation>
+    </message>
+    <message id="startAheadSkipTitle">
+        <source></source>
+        <translation>跳过</translation>
+    </message>
+    <message id="startAheadPostponeTitle">
+        <source></source>
+        <translation>1 小时后</translation>
+    </message>
     <!-- Where there is no Time Machine application -->
     <!-- The schedule in the settings panel -->
     <message id="settingsGroupSchedule">

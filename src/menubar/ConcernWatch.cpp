@@ -60,7 +60,10 @@ ConcernWatch::ConcernWatch(const Services& services)
             told_.insert(kind, Date(std::chrono::milliseconds(date.toMSecsSinceEpoch())));
     }
     connect(&services.notifications, &UserNotifications::chosen, this,
-            [this](const QString&, const QString& action) { carryOut(action); });
+            [this](const QString& identifier, const QString& action) {
+                if (std::ranges::any_of(concerns::kinds, [&](Kind kind) { return nameOf(kind) == identifier; }))
+                    carryOut(action);
+            });
 }
 
 void ConcernWatch::noteStep(const BackupRun::Step& step)

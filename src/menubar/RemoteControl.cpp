@@ -173,10 +173,8 @@ ControlAnswer RemoteControl::skip()
     if (const QString why = whyNoChange(); !why.isEmpty())
         return ControlAnswer::refused(why);
     const Date skipped = *services_.dataManager.nextScheduledBackupDate();
-    if (!services_.dataManager.changeNextStart({}))
+    if (!services_.controller.skipNextStart())
         return ControlAnswer::refused(tooManyChanges.arg(nextbackup::mostChanges));
-    services_.controller.noteSkippedStart(skipped);
-    services_.controller.updateStatusBar();
     return scheduled(u"the backup of %1 is skipped"_s.arg(report::readableDate(skipped)));
 }
 
@@ -189,9 +187,8 @@ ControlAnswer RemoteControl::postpone(std::chrono::seconds by)
     if (following && postponed + by >= *following)
         return ControlAnswer::refused(u"another backup starts on %1, before that; skip the next one instead"_s.arg(
             report::readableDate(*following)));
-    if (!services_.dataManager.changeNextStart(postponed + by))
+    if (!services_.controller.postponeNextStart(by))
         return ControlAnswer::refused(tooManyChanges.arg(nextbackup::mostChanges));
-    services_.controller.updateStatusBar();
     return scheduled(u"the backup of %1 is postponed"_s.arg(report::readableDate(postponed)));
 }
 

@@ -179,6 +179,26 @@ void StatusMenuController::skipRetryAttemptClicked()
     updateStatusBar();
 }
 
+bool StatusMenuController::skipNextStart()
+{
+    const auto due = services_.dataManager.nextScheduledBackupDate();
+    if (!services_.dataManager.changeNextStart({}))
+        return false;
+    using enum LedgerEntry::Outcome;
+    runLedger_.noteStart({.date = *due, .outcome = Skipped, .reason = LedgerEntry::Reason::Asked});
+    updateStatusBar();
+    return true;
+}
+
+bool StatusMenuController::postponeNextStart(std::chrono::seconds by)
+{
+    const auto due = services_.dataManager.nextScheduledBackupDate();
+    if (!due || !services_.dataManager.changeNextStart(*due + by))
+        return false;
+    updateStatusBar();
+    return true;
+}
+
 void StatusMenuController::enterTimeMachineClicked()
 {
     services_.workspace.openApplication(TimeMachineSettings::browser(), {});

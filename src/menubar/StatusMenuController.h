@@ -110,12 +110,10 @@ public:
     void pauseForClicked(std::int64_t tag) { pause_.pauseForClicked(tag); }
     void pauseUntil(Date end, std::int64_t tag) { pause_.pauseUntil(end, tag); }
     void resumeScheduleClicked() { pause_.resumeScheduleClicked(); }
-    /// A start that will not be made, as the user has asked.
-    void noteSkippedStart(Date due)
-    {
-        using enum LedgerEntry::Outcome;
-        runLedger_.noteStart({.date = due, .outcome = Skipped, .reason = LedgerEntry::Reason::Asked});
-    }
+    // The next start, which is no retry, as the user has asked. False where nothing could be changed.
+
+    bool skipNextStart();
+    bool postponeNextStart(std::chrono::seconds by);
 
     void setTogglesForPauseMenuItems(std::int64_t tag) { pause_.setTogglesForPauseMenuItems(tag); }
     void schedulePauseScheduleExpirationTimer() { pause_.schedulePauseScheduleExpirationTimer(); }

@@ -20,6 +20,7 @@
 #include "RemoteControl.h"
 #include "SingleInstance.h"
 #include "SqliteLedger.h"
+#include "StartWord.h"
 #include "StatusMenuController.h"
 #include "TMUtilQueue.h"
 #include "Task.h"
@@ -81,6 +82,7 @@ int runApplication(const Options& options, SingleInstance& instance)
                                      *loginItem, *statusItem, ledger, *userNotifications, *awakeLock, *powerSupply,
                                      *mountWatch, hooks});
     RemoteControl remoteControl({runLoop, notifications, tmutil, dataManager, controller});
+    const StartWord startWord({runLoop, *defaults, dataManager, *userNotifications, controller});
     AppDelegate delegate({runLoop, *defaults, notifications, *workspace, alerts, tmutil, bundleShortVersion()});
 
     std::unique_ptr<ChangePrinter> printer;
