@@ -192,7 +192,7 @@ Restored restoreInPlace(const Restore& restore, const PlaceInBackup& place, Rest
     MissingFolders missing(folder);
     const auto known = describe(Restic(place.repository, folders, &stop), place.snapshot, missing.paths());
     missing.make();
-    const Restored restored = restore.run(place, {folder.isEmpty() ? u"/"_s : folder, {}, rule});
+    Restored restored = restore.run(place, {folder.isEmpty() ? u"/"_s : folder, {}, rule});
     missing.keep(known);
     return restored;
 }

@@ -61,7 +61,7 @@ PackState stateOf(int folder, const QByteArray& name, const QByteArray& identifi
     if (file < 0)
         return PackState::Missing;
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    std::array<char, 64 * 1024> buffer{};
+    std::array<char, std::size_t{64} * 1024> buffer{};
     ssize_t count = 0;
     while ((count = read(file, buffer.data(), buffer.size())) > 0)
         hash.addData(QByteArrayView(buffer.data(), count));

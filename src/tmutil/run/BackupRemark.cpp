@@ -98,7 +98,7 @@ bool EarlierBackups::holdsFile(const Snapshot& snapshot, const QString& folder) 
     return file;
 }
 
-EarlierBackups::Latest EarlierBackups::latestOf(Latest begin, const QString& folder, const QString& justMade)
+EarlierBackups::Latest EarlierBackups::latestOf(const Latest& begin, const QString& folder, const QString& justMade)
 {
     return std::find_if(begin, all().rend(), [&](const Snapshot& snapshot) {
         return snapshot.complete && (justMade.isEmpty() || !snapshot.id.startsWith(justMade)) &&
@@ -106,7 +106,7 @@ EarlierBackups::Latest EarlierBackups::latestOf(Latest begin, const QString& fol
     });
 }
 
-bool EarlierBackups::heldFilesFrom(Latest begin, const QString& folder, const QString& justMade)
+bool EarlierBackups::heldFilesFrom(const Latest& begin, const QString& folder, const QString& justMade)
 {
     const auto found = latestOf(begin, folder, justMade);
     return found != all().rend() && holdsFile(*found, folder);

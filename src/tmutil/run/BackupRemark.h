@@ -43,9 +43,9 @@ private:
     const std::vector<Snapshot>& all();
     bool holdsFile(const Snapshot& snapshot, const QString& folder) const;
     using Latest = std::vector<Snapshot>::const_reverse_iterator;
-    Latest latestOf(Latest begin, const QString& folder, const QString& justMade = {});
+    Latest latestOf(const Latest& begin, const QString& folder, const QString& justMade = {});
     void findFiles(const QString& backup, const QStringList& folders, QSet<QString>& held) const;
-    bool heldFilesFrom(Latest begin, const QString& folder, const QString& justMade = {});
+    bool heldFilesFrom(const Latest& begin, const QString& folder, const QString& justMade = {});
 
     const Repository& repository_;
     Restic restic_;

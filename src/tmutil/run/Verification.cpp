@@ -256,7 +256,7 @@ std::optional<Damage> Verification::runAndRemember(const Repository& repository,
         history.setNextSlice(id, slice);
         history.setVerificationUnfinished(id, !all);
     });
-    const auto damage = Verification(repository, folders, stop).run(all ? std::nullopt : std::optional(slice), known);
+    auto damage = Verification(repository, folders, stop).run(all ? std::nullopt : std::optional(slice), known);
     History::change(folders.state, [&](History& history) {
         history.setDamage(id, damage);
         history.setVerificationUnfinished(id, false);

@@ -358,7 +358,7 @@ Destination Configuration::destinationAt(const QString& path, const Opens& opens
         return *known; // where it is another's now, that is said
     const KeyStore keys(folders_.configuration);
     for (const QString& id : QDir(Destination::backupFolder(path)).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        const Destination found{id, volumeName(path), path};
+        Destination found{id, volumeName(path), path};
         const Contents contents = keys.contains(id) ? RepositoryFolder::contents(found) : Contents::Absent;
         const bool isOwn = contents == Contents::Repository
                                ? opens(found)

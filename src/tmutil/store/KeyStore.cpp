@@ -31,7 +31,7 @@ QString checkOf(const QString& characters)
     constexpr int largestPrimeOfTenBits = 1021;
     int sum = 1;
     for (const QChar character : characters)
-        sum = static_cast<int>((sum * 32 + alphabet.indexOf(character)) % largestPrimeOfTenBits);
+        sum = static_cast<int>((qsizetype{32} * sum + alphabet.indexOf(character)) % largestPrimeOfTenBits);
     return QString(alphabet[sum / 32]) + alphabet[sum % 32];
 }
 
