@@ -83,7 +83,8 @@ void StartWord::post(const startword::Word& word)
         .title = localizedString("startAheadTitle"),
         .text = localizedString("startAheadMessage")
                     .arg(DataHelper::getDateTimeFrom(word.start, DateFormatterStyle::None, DateFormatterStyle::Short)),
-        .actions = {{skipAction, localizedString("startAheadSkipTitle")}}};
+        .actions = {{skipAction, localizedString("startAheadSkipTitle")}},
+        .lasts = word.start - services_.runLoop.now()};
     if (word.mayBePostponed)
         notification.actions.append({postponeAction, localizedString("startAheadPostponeTitle")});
     services_.notifications.post(notification);

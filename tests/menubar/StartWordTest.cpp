@@ -78,6 +78,7 @@ TEST_F(StartWordOf, ComesOnceAMinuteAheadAndGoesWithTheStart)
     EXPECT_EQ(told(), "The next backup starts at 12:00. skip postpone");
     until(today(11, 59, 59));
     EXPECT_EQ(userNotifications.posted.size(), 1);
+    EXPECT_EQ(userNotifications.posted[0].lasts, 1min - 1ms) << "desktops take one away within seconds";
     until(today(12) + 1ms);
     EXPECT_EQ(told(), "");
     after(1, "startbackup -r; 2, 0.0% Starting, Skip This Backup, next 22 12:00");

@@ -74,6 +74,7 @@ void DesktopNotifications::notify(const UserNotification& notification, const QS
     const QVariantMap hints{
         {u"desktop-entry"_s, sender_.desktopEntry},
         {u"urgency"_s, QVariant::fromValue<uchar>(notification.isUrgent ? desktop::Critical : desktop::Normal)}};
+    const auto lasts = static_cast<int>(notification.lasts.count());
     const QVariantList arguments{sender_.name,
                                  posted_[notification.identifier].number,
                                  sender_.desktopEntry,
@@ -81,7 +82,7 @@ void DesktopNotifications::notify(const UserNotification& notification, const QS
                                  readsMarkup ? notification.text.toHtmlEscaped() : notification.text,
                                  capabilities.contains("actions"_L1) ? actions : QStringList(),
                                  hints,
-                                 desktop::desktopsOwnTime};
+                                 lasts > 0 ? lasts : desktop::desktopsOwnTime};
     call(u"Notify"_s, arguments, [this, identifier = notification.identifier](const QDBusMessage& answer) {
         taken(identifier, QDBusPendingReply<uint>(answer).value());
     });

@@ -129,6 +129,7 @@ TEST_F(MachineIntegrationTest, AWordReplacesTheEarlierOneOfItsKindAndIsTakenAway
     UserNotification word{u"failed"_s, u"Title <1>"_s, u"a < b & c"_s, true, {{u"again"_s, u"Try Again"_s}}};
     notifications.post(word);
     word.text = u"later"_s;
+    word.lasts = std::chrono::minutes(1);
     notifications.post(word); // ahead of the desktop's first answer
     ASSERT_TRUE(desktop.hasTaken(2));
     const auto taken = desktop.calls(u"Notify"_s);
@@ -137,6 +138,8 @@ TEST_F(MachineIntegrationTest, AWordReplacesTheEarlierOneOfItsKindAndIsTakenAway
     EXPECT_EQ(taken[0].value(4), u"a &lt; b &amp; c"_s);
     EXPECT_EQ(taken[1].value(1).toUInt(), 1u) << "in the place of the first";
     EXPECT_EQ(taken[1].value(4), u"later"_s);
+    EXPECT_EQ(taken[0].value(7).toInt(), -1) << "as the desktop thinks fit";
+    EXPECT_EQ(taken[1].value(7).toInt(), 60'000);
 
     runUntil([&] { // the number is known a moment after the call
         desktop.emitSignal(u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s, u"us"_s, {1u, u"again"_s});

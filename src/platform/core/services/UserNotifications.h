@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 
 namespace quillon {
@@ -20,6 +21,8 @@ struct UserNotification {
     QString text;
     bool isUrgent = false;   ///< stays until the user has seen it, where the desktop can tell them apart
     QList<Action> actions{}; ///< left out where the desktop shows none
+    /// How long it is of use, for desktops that would take it away earlier; 0: as long as they think fit.
+    std::chrono::milliseconds lasts{0};
 };
 
 /// The desktop's notifications. They are lost where a desktop has none: nothing may depend on them.
