@@ -119,15 +119,21 @@ void MachineWatch::followSettings()
 
 machinerules::PowerRule MachineWatch::powerRule() const
 {
-    const auto charge = services_.defaults.integer(settingskeys::chargeThatSuffices);
+    const auto charge = std::clamp(services_.defaults.integer(settingskeys::chargeThatSuffices), 0LL,
+                                   settingskeys::mostChargeThatSuffices);
     return {.onlyOnMains = services_.defaults.integer(settingskeys::onlyOnMainsPower) == 1,
-            .chargeThatSuffices = static_cast<int>(std::clamp(charge, qlonglong{0}, qlonglong{100}))};
+            .chargeThatSuffices = static_cast<int>(charge)};
+}
+
+bool MachineWatch::powerAllowsStart() const
+{
+    return machinerules::allows(powerRule(), services_.powerSupply.state());
 }
 
 machinerules::Moment MachineWatch::moment() const
 {
     const auto pauseEnd = services_.defaults.date(settingskeys::pauseUntilDate);
-    return {.powerAllows = machinerules::allows(powerRule(), services_.powerSupply.state()),
+    return {.powerAllows = powerAllowsStart(),
             .isScheduleEnabled = services_.dataManager.isScheduleEnabled(),
             .isPaused = pauseEnd && *pauseEnd > services_.runLoop.now(),
             .isActive = services_.follower.run().isActive() || services_.commands.isUnderWay(),
@@ -140,7 +146,7 @@ void MachineWatch::takeStart()
     const Date due = model.nextScheduledBackupDate().value_or(services_.runLoop.now());
     const LedgerEntry start{.date = due, .cause = due == model.retryBackupDate() ? Cause::Retry : Cause::Schedule};
     held_.reset(); // it has been overtaken
-    if (machinerules::allows(powerRule(), services_.powerSupply.state()))
+    if (powerAllowsStart())
         Q_EMIT startAllowed(start);
     else
         hold(start);

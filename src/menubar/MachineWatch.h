@@ -71,6 +71,7 @@ public:
 
     MachineWatch(const Services& services, DisksInMenu& disks, MountWatch& mounts);
 
+    bool powerAllowsStart() const;
     /// A start that was due waits for power.
     bool isHoldingBack() const { return held_.has_value(); }
     /// To be called once, at the start.

@@ -16,8 +16,6 @@ constexpr auto jumpThreshold = 2s;
 
 constexpr auto longestWaitForWake = 1min;
 
-constexpr qlonglong mostMinutes = 24 * 60; // to wait after a wake-up; by then every rule has come up again
-
 constexpr auto watchedAhead = std::chrono::days(366);
 
 // Two looks are held against the same year, so that a change which time alone brings into view counts as none.
@@ -145,7 +143,7 @@ bool ScheduleWatch::setRetryInFiveMinutesIfEnabled(const QString& enablingKey)
 Seconds ScheduleWatch::retryWait() const
 {
     const auto minutes =
-        std::clamp(services_.defaults.integer(settingskeys::minutesAfterWake), qlonglong{0}, mostMinutes);
+        std::clamp(services_.defaults.integer(settingskeys::minutesAfterWake), 0LL, settingskeys::mostMinutesAfterWake);
     if (!wokeAt_ || minutes == 0)
         return Seconds(0);
     return std::max<Seconds>(*wokeAt_ + std::chrono::minutes(minutes) - services_.runLoop.uptime(), Seconds(0));

@@ -10,7 +10,7 @@ namespace quillon::startword {
 
 std::optional<Word> wordAt(const Moment& moment)
 {
-    if (!moment.next || moment.isRunning || moment.now < *moment.next - ahead || moment.now >= *moment.next)
+    if (!moment.next || !moment.mayStart || moment.now < *moment.next - ahead || moment.now >= *moment.next)
         return std::nullopt;
     return Word{*moment.next, !moment.following || *moment.next + postponement < *moment.following};
 }
@@ -61,7 +61,7 @@ startword::Moment StartWord::moment() const
     return {.now = services_.runLoop.now(),
             .next = model.nextScheduledBackupDate(),
             .following = model.startAfterNext(),
-            .isRunning = services_.controller.snapshot().run.isActive()};
+            .mayStart = services_.controller.mayStart()};
 }
 
 void StartWord::look()

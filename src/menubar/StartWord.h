@@ -18,7 +18,7 @@ struct Moment {
     Date now;
     std::optional<Date> next{};      ///< start or retry
     std::optional<Date> following{}; ///< the start behind it
-    bool isRunning = false;          ///< a backup, so that a start would come to nothing
+    bool mayStart = true;            ///< no backup runs, and power allows one
 };
 
 struct Word {

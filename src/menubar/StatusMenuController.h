@@ -61,6 +61,8 @@ public:
     const QString& tmPhase() const { return follower_.run().tmPhase(); }
     const RunProgress& progress() const { return follower_.run().progress(); }
     MenuBarIconState menuBarIconState() const { return face_.menuBarIconState(); }
+    /// No backup runs, and power allows one that nobody asks for.
+    bool mayStart() const { return !follower_.run().isActive() && machine_.powerAllowsStart(); }
     const QList<BackupDestination>& backupDisks() const { return disks_.backupDisks(); }
     StatusMenu& statusMenu() { return statusMenu_; }
     /// What the item shows: the upper line, and the lower one.

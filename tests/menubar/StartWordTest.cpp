@@ -48,22 +48,22 @@ TEST(StartWord, StandsInTheLastMinuteAheadOfAStartThatIsToBeMade)
     const struct {
         Date now;
         std::optional<Date> next, following;
-        bool isRunning;
+        bool mayStart;
         std::optional<startword::Word> word;
         std::optional<Date> change;
     } rows[] = {
-        {start - 2h, start, {}, false, {}, start - 1min},
-        {start - 60001ms, start, {}, false, {}, start - 1min},
-        {start - 1min, start, {}, false, startword::Word{start, true}, start},
-        {start - 1ms, start, start + 61min, false, startword::Word{start, true}, start},
-        {start - 1ms, start, start + 60min, false, startword::Word{start, false}, start},
-        {start - 30s, start, {}, true, {}, start},
-        {start, start, {}, false, {}, {}},
-        {start - 30s, {}, {}, false, {}, {}},
+        {start - 2h, start, {}, true, {}, start - 1min},
+        {start - 60001ms, start, {}, true, {}, start - 1min},
+        {start - 1min, start, {}, true, startword::Word{start, true}, start},
+        {start - 1ms, start, start + 61min, true, startword::Word{start, true}, start},
+        {start - 1ms, start, start + 60min, true, startword::Word{start, false}, start},
+        {start - 30s, start, {}, false, {}, start},
+        {start, start, {}, true, {}, {}},
+        {start - 30s, {}, {}, true, {}, {}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE((row.now - start).count());
-        const startword::Moment moment{row.now, row.next, row.following, row.isRunning};
+        const startword::Moment moment{row.now, row.next, row.following, row.mayStart};
         EXPECT_EQ(startword::wordAt(moment), row.word);
         EXPECT_EQ(startword::nextChange(moment), row.change);
     }
@@ -119,6 +119,12 @@ TEST_F(StartWordOf, GoesWithWhatMovesTheStart)
     controller->updateStatusBar();
     expectWordUntil("backup", [&] { runElsewhere(16); });
     wait(120);
+    defaults.stored[settingskeys::onlyOnMainsPower] = 1LL;
+    expectWordUntil("power", [&] {
+        powerSupply.become({.onMains = false, .charge = 50});
+        controller->updateStatusBar();
+    });
+    powerSupply.become({});
     expectWordUntil("clock", [&] {
         runLoop.stepWallClock(-1h);
         wait(16);
