@@ -30,7 +30,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString identifier = u"startAhead"_s;
+const QString wordIdentifier = u"startAhead"_s;
 const QString skipAction = u"skip"_s;
 const QString postponeAction = u"postpone"_s;
 
@@ -42,7 +42,7 @@ StartWord::StartWord(const Services& services)
     connect(&services.controller, &StatusMenuController::statusBarUpdated, this, &StartWord::look);
     connect(&services.notifications, &UserNotifications::chosen, this,
             [this](const QString& of, const QString& action) {
-                if (of == identifier)
+                if (of == wordIdentifier)
                     carryOut(action);
             });
 }
@@ -79,7 +79,7 @@ void StartWord::look()
 void StartWord::post(const startword::Word& word)
 {
     UserNotification notification{
-        .identifier = identifier,
+        .identifier = wordIdentifier,
         .title = localizedString("startAheadTitle"),
         .text = localizedString("startAheadMessage")
                     .arg(DataHelper::getDateTimeFrom(word.start, DateFormatterStyle::None, DateFormatterStyle::Short)),
@@ -93,7 +93,7 @@ void StartWord::post(const startword::Word& word)
 void StartWord::withdraw()
 {
     if (std::exchange(shown_, std::nullopt))
-        services_.notifications.withdraw(identifier);
+        services_.notifications.withdraw(wordIdentifier);
 }
 
 void StartWord::carryOut(const QString& action)
