@@ -3,7 +3,6 @@
 #include "PropertyList.h"
 
 #include <QDateTime>
-#include <QRegularExpression>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -19,20 +18,35 @@ using namespace Qt::StringLiterals;
 // fault, which the XML reader then knows of.
 namespace {
 
+// The settings are read so in a program that runs all day: the first regular expression costs it half a megabyte.
+bool isDecimalDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool isHexadecimalDigit(QChar c)
+{
+    return isDecimalDigit(c) || (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
+}
+
+QStringView withoutLineEnd(QStringView text)
+{
+    return text.endsWith(u'\n') ? text.chopped(1) : text;
+}
+
 /// Nothing for a text that is no number; invalid for a number of more than 63 bits and a sign.
 std::optional<QVariant> integer(QStringView text)
 {
-    static const QRegularExpression decimal(u"^[+-]?(0|[1-9][0-9]*)$"_s);
-    static const QRegularExpression hexadecimal(u"^[+-]?0x[0-9A-Fa-f]+$"_s);
-    bool fits = false;
-    qlonglong number = 0;
+    text = withoutLineEnd(text);
+    const QStringView digits = text.startsWith(u'+') || text.startsWith(u'-') ? text.mid(1) : text;
+    const bool isHexadecimal = digits.startsWith("0x"_L1) && digits.size() > 2;
     // No octal numbers: strtoull(3) reads a leading zero so, other readers of property lists do not.
-    if (decimal.match(text).hasMatch())
-        number = text.toLongLong(&fits);
-    else if (hexadecimal.match(text).hasMatch())
-        number = text.toLongLong(&fits, 16);
-    else
+    const bool isDecimal = !digits.isEmpty() && (digits.size() == 1 || !digits.startsWith(u'0'));
+    if (isHexadecimal ? !std::ranges::all_of(digits.mid(2), isHexadecimalDigit)
+                      : !isDecimal || !std::ranges::all_of(digits, isDecimalDigit))
         return std::nullopt;
+    bool fits = false;
+    const qlonglong number = text.toLongLong(&fits, isHexadecimal ? 16 : 10);
     return fits ? QVariant(number) : QVariant();
 }
 
@@ -49,8 +63,8 @@ std::optional<QVariant> real(QStringView text)
 /// Invalid for a day that the calendar does not have, such as those of the year 0.
 std::optional<QVariant> date(QStringView text)
 {
-    static const QRegularExpression form(uR"(^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ$)"_s);
-    if (!form.match(text).hasMatch())
+    const auto hasForm = [](QChar c, QChar form) { return form == u'0' ? isDecimalDigit(c) : c == form; };
+    if (!std::ranges::equal(withoutLineEnd(text), u"0000-00-00T00:00:00Z"_s, hasForm))
         return std::nullopt;
     const QDateTime date = QDateTime::fromString(text.toString(), Qt::ISODate);
     return date.isValid() ? QVariant(date) : QVariant();

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QMap>
 #include <QTranslator>
 
 #include <memory>
@@ -17,18 +18,14 @@ namespace {
 constexpr auto tableFolder = ":/strings"_L1;
 constexpr auto english = "en"_L1;
 
-/// Names of tables, each NAME_TAG.qm.
-QStringList tables(const QString& tag)
+/// Tables by their languages; each is named NAME_TAG.qm.
+QMap<QString, QString> tablesByLanguage()
 {
-    return QDir(tableFolder).entryList({"*_"_L1 + tag + ".qm"_L1});
-}
-
-QStringList tableLanguages()
-{
-    QStringList tags;
-    for (const QString& table : tables(u"*"_s))
-        tags.append(table.chopped(3).section(u'_', 1));
-    return tags;
+    QMap<QString, QString> tables;
+    const QStringList names = QDir(tableFolder).entryList();
+    for (const QString& name : names)
+        tables.insert(name.chopped(3).section(u'_', 1), name);
+    return tables;
 }
 
 QStringList preferredLanguages()
@@ -57,7 +54,7 @@ QString tableLanguage(const QStringList& preferred)
 {
     // QTranslator::load() would take the second of a user's languages when its name fits exactly and the first's does
     // not: German for "en_GB:de".
-    const QStringList tags = tableLanguages();
+    const QStringList tags = tablesByLanguage().keys();
     for (const auto& language : preferred) {
         const QLocale wanted(language);
         for (const auto& tag : tags) {
@@ -79,7 +76,7 @@ void installStringTable(const QString& language)
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>(Qt::FindDirectChildrenOnly));
     // The one installed last is asked first.
     for (const QString& tag : {QString(english), language})
-        install(tables(tag).value(0), tableFolder);
+        install(tablesByLanguage().value(tag), tableFolder);
     install("qtbase_"_L1 + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 
