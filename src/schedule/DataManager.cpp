@@ -197,10 +197,6 @@ std::optional<Date> DataManager::startAfterNext() const
 
 QList<Date> DataManager::startsBetween(Date from, Date until) const
 {
-    const auto changes = changedStarts();
-    const auto startFrom = [&](Date reference) {
-        return nextbackup::nextStart(calendarIntervalSettings_, changes, reference, Calendar());
-    };
     QList<Date> starts;
     for (auto start = startFrom(from); start && *start < until; start = startFrom(*start + 1ms))
         starts.append(*start);
