@@ -11,9 +11,6 @@ class QSqlError;
 
 namespace quillon {
 
-/// The file of the user's ledger, in the folder for what programs remember.
-QString ledgerFile();
-
 /// The ledger of the last two years, in a file of SQLite's that is open only while it is read or written. Whatever goes
 /// wrong with the file, backups go on: what cannot be written waits in memory for the next time, and a damaged file is
 /// set aside for a new one.

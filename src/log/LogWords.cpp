@@ -2,9 +2,9 @@
 
 #include "Calendar.h"
 #include "DataHelper.h"
+#include "HostSystem.h"
 #include "LocalizedString.h"
 #include "ShownText.h"
-#include "SystemAdvice.h"
 #include "Words.h"
 
 #include <algorithm>

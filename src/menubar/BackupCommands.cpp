@@ -1,8 +1,8 @@
 #include "BackupCommands.h"
 
+#include "HostSystem.h"
 #include "LocalizedString.h"
 #include "StoredAndSentNames.h"
-#include "SystemAdvice.h"
 
 #include <utility>
 

@@ -6,6 +6,7 @@
 #include "Cirrel.h"
 #include "DataManager.h"
 #include "Hooks.h"
+#include "HostSystem.h"
 #include "HttpClient.h"
 #include "InstanceCall.h"
 #include "LocalizedString.h"

@@ -1,7 +1,6 @@
 #include "Report.h"
 
 #include "Calendar.h"
-#include "ChangedStart.h"
 #include "NextBackup.h"
 #include "ShownText.h"
 #include "StoredAndSentNames.h"

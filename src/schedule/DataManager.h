@@ -2,7 +2,6 @@
 
 #include "BackupInfo.h"
 #include "CalendarIntervalRule.h"
-#include "ChangedStart.h"
 #include "LoginItem.h"
 #include "NextBackup.h"
 #include "NotificationCenter.h"

@@ -5,8 +5,27 @@
 #include "Date.h"
 
 #include <QList>
+#include <QString>
+#include <QVariantList>
 
 #include <optional>
+
+namespace quillon {
+
+/// One start that the user wants otherwise than its rule has it: passed over, or made at a later date instead. While
+/// the rules do not give that start it says nothing, and a start that it does not name it leaves alone; so neither an
+/// edit of the rules nor a set clock turns it into another start's change.
+struct ChangedStart {
+    /// As a rule has it, on the clock on the wall: it stays the same start in another time zone.
+    LocalTime start;
+    std::optional<Date> instead{}; ///< nothing where the start is passed over
+
+    /// Entries that are no changes are left out.
+    static QList<ChangedStart> listFromArray(const QVariantList& array);
+    static QVariantList listToArray(const QList<ChangedStart>& changes);
+};
+
+} // namespace quillon
 
 /// When the next backup is due, as pure functions of rules, dates and zone.
 namespace quillon::nextbackup {
@@ -31,5 +50,19 @@ Date referenceDate(Date now, std::optional<Date> pauseUntil, std::optional<Date>
 /// names, also where a gap moves its time past midnight. One that matches none of the eight days from the reference day
 /// on is given up.
 std::optional<Date> nextBackupDate(const QList<CalendarIntervalRule>& rules, Date reference, const Calendar& calendar);
+
+/// How many changes there may be at a time: a schedule that is to rest for longer is paused.
+inline constexpr qsizetype mostChanges = 20;
+
+/// The earliest start at or after `reference` that rules and changes give.
+std::optional<Date> nextStart(const QList<CalendarIntervalRule>& rules, const QList<ChangedStart>& changes,
+                              Date reference, const Calendar& calendar);
+
+/// The changes once the start of that date, which nextStart() has given, is passed over or made at `instead`. Those
+/// that have been over for a day are dropped: nobody sets the clock back by more and wants them still. Nothing where
+/// they become too many.
+std::optional<QList<ChangedStart>> changesWith(const QList<CalendarIntervalRule>& rules, QList<ChangedStart> changes,
+                                               Date start, std::optional<Date> instead, Date now,
+                                               const Calendar& calendar);
 
 } // namespace quillon::nextbackup

@@ -1,6 +1,7 @@
 #include "StoredAndSentNames.h"
 
 #include "CalendarIntervalRule.h"
+#include "HostSystem.h"
 
 namespace quillon {
 
@@ -9,7 +10,8 @@ QVariantMap registeredDefaults()
     using namespace settingskeys;
     // The pause, the changed starts, the remembered backups and the icon state have no default: absent is what their
     // readers look for.
-    QVariantMap defaults = {
+    const qlonglong whereNobodyElseWatches = systemWatchesOverBackups() ? 0 : 1;
+    return {
         {firstLaunch, true},
         {enableSchedule, 1LL},
         {enableRetryAtMissedSchedule, 1LL},
@@ -20,9 +22,10 @@ QVariantMap registeredDefaults()
         {rotateBackupDisks, 1LL},
         {launchAtSystemStart, 1LL},
         {calendarIntervals, QVariantList{CalendarIntervalRule().toDictionary()}},
+        {daysWithoutBackup, 10 * whereNobodyElseWatches},
+        {stayAwake, whereNobodyElseWatches},
+        {startWhenDiskAppears, whereNobodyElseWatches},
     };
-    defaults.insert(systemDefaults());
-    return defaults;
 }
 
 } // namespace quillon

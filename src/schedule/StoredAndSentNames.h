@@ -112,7 +112,4 @@ namespace quillon {
 /// What is read for settings that were never stored.
 QVariantMap registeredDefaults();
 
-/// Those of them that differ between systems.
-QVariantMap systemDefaults();
-
 } // namespace quillon

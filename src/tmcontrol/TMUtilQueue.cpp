@@ -1,5 +1,7 @@
 #include "TMUtilQueue.h"
 
+#include "HostSystem.h"
+
 #include <chrono>
 #include <utility>
 
@@ -27,6 +29,12 @@ std::optional<QByteArray> onlyUtf8(const std::optional<QByteArray>& output)
 }
 
 } // namespace
+
+QString tmutilPath()
+{
+    const QString chosen = qEnvironmentVariable("QUILLON_TMUTIL");
+    return chosen.isEmpty() ? systemTmutilPath() : chosen;
+}
 
 TMUtilQueue::TMUtilQueue(TaskLauncher& launcher, RunLoop& runLoop, QString executable)
     : launcher_(launcher)

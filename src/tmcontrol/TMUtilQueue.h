@@ -17,8 +17,7 @@
 
 namespace quillon {
 
-/// Path of the tmutil tool to run: the environment variable QUILLON_TMUTIL unless it is empty, else the system's own,
-/// or on Linux the one that is installed with this program.
+/// Path of the tmutil tool to run: the environment variable QUILLON_TMUTIL unless it is empty, else systemTmutilPath().
 QString tmutilPath();
 
 using StatusHandler = std::function<void(const TMStatus& status)>;

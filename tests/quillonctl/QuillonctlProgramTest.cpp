@@ -1,4 +1,5 @@
 #include "ApplicationIdentity.h"
+#include "HostSystem.h"
 #include "Program.h"
 #include "QtRunLoop.h"
 #include "Report.h"

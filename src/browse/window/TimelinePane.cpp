@@ -1,7 +1,7 @@
 #include "TimelinePane.h"
 
 #include "LocalizedString.h"
-#include "RowSymbol.h"
+#include "Symbol_linux.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -57,4 +57,9 @@ void LogindSleepLock::take(const QDBusUnixFileDescriptor& lock)
         lock_ = lock;
 }
 
+std::unique_ptr<AwakeLock> makeAwakeLock()
+{
+    return std::make_unique<LogindAwakeLock>(QDBusConnection::systemBus());
+}
+
 } // namespace quillon

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AwakeLock.h"
+
 #include <QDBusConnection>
 #include <QDBusError>
 #include <QDBusServiceWatcher>
@@ -55,6 +57,22 @@ private:
     std::optional<QString> reason_; ///< none while no lock is wanted
     QDBusServiceWatcher owner_;
     QDBusUnixFileDescriptor lock_;
+};
+
+/// Blocks sleep with logind. It refuses nobody that matters: a closed lid sleeps all the same, and an empty battery is
+/// the administrator's business (LidSwitchIgnoreInhibited in logind.conf(5); org.freedesktop.login1(5)).
+class LogindAwakeLock final : public AwakeLock {
+public:
+    explicit LogindAwakeLock(const QDBusConnection& systemBus)
+        : lock_(systemBus, LogindSleepLock::Mode::Block)
+    {
+    }
+
+    void hold(const QString& reason) override { lock_.hold(reason); }
+    void release() override { lock_.release(); }
+
+private:
+    LogindSleepLock lock_;
 };
 
 } // namespace quillon

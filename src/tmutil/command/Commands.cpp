@@ -3,7 +3,6 @@
 #include "Configuration.h"
 #include "Destination.h"
 #include "Failure.h"
-#include "FolderTree.h"
 #include "Folders.h"
 #include "History.h"
 #include "KeyStore.h"

@@ -2,7 +2,6 @@
 
 #include "Configuration.h"
 #include "Failure.h"
-#include "FolderTree.h"
 #include "Folders.h"
 #include "History.h"
 #include "KeyStore.h"

@@ -1,7 +1,7 @@
 #include "RepositoryFolder.h"
 
 #include "Failure.h"
-#include "FolderTree.h"
+#include "Folders.h"
 #include "ResticDiagnosis.h"
 #include "ShownText.h"
 

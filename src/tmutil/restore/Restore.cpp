@@ -1,18 +1,28 @@
 #include "Restore.h"
 
 #include "Failure.h"
+#include "Folders.h"
+#include "ListedFile.h"
 #include "Paths.h"
 #include "Restic.h"
 #include "StopRequest.h"
-#include "WorkFolder.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QRegularExpression>
 #include <QTimer>
+#include <QUuid>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
+#include <fcntl.h>
 #include <iterator>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -20,6 +30,80 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
+
+constexpr int workFolderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int targetFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC; // the way to the target is the user's own
+
+/// Where restic restores to: in the folder of the target, so that moving it there is one step. It is locked as long as
+/// somebody works in it, which tells what a killed restore has left behind; that is removed by the next one there. In
+/// the end it is removed with all that is in it.
+class WorkFolder {
+public:
+    /// Throws Failure where it cannot be made in that folder.
+    explicit WorkFolder(const QString& parent);
+    WorkFolder(const WorkFolder&) = delete;
+    WorkFolder& operator=(const WorkFolder&) = delete;
+    ~WorkFolder();
+
+    /// By this path restic finds it, too, which can be handed no name with bytes that are no UTF-8.
+    QString path() const;
+
+private:
+    void removeAbandoned() const;
+
+    int parent_;
+    QByteArray name_;
+    QString parentPath_;
+    int folder_ = -1;
+};
+
+WorkFolder::WorkFolder(const QString& parent)
+    : parent_(open(encodePath(parent).constData(), targetFolderFlags))
+    , name_(".tmutil-restore-" + QUuid::createUuid().toByteArray(QUuid::Id128))
+    , parentPath_(parent)
+{
+    if (parent_ < 0)
+        throw Failure(ExitStatus::CannotWrite,
+                      u"The folder \"%1\" cannot be opened: %2."_s.arg(parentPath_, qt_error_string(errno)));
+    removeAbandoned();
+    if (mkdirat(parent_, name_.constData(), S_IRWXU) == 0)
+        folder_ = openat(parent_, name_.constData(), workFolderFlags);
+    if (folder_ < 0 || flock(folder_, LOCK_EX | LOCK_NB) != 0) {
+        const QString reason = qt_error_string(errno);
+        close(parent_);
+        throw Failure(ExitStatus::CannotWrite,
+                      u"The folder \"%1\" cannot be written to: %2."_s.arg(parentPath_, reason));
+    }
+}
+
+WorkFolder::~WorkFolder()
+{
+    removeFolderTree(parent_, name_.constData());
+    close(folder_);
+    close(parent_);
+}
+
+QString WorkFolder::path() const
+{
+    return isTold(parentPath_) ? parentPath_ + u'/' + QString::fromLatin1(name_)
+                               : u"/proc/%1/fd/%2"_s.arg(getpid()).arg(folder_);
+}
+
+void WorkFolder::removeAbandoned() const
+{
+    static const QRegularExpression ours(u"^\\.tmutil-restore-[0-9a-f]{32}$"_s);
+    for (const QString& name : QDir(parentPath_).entryList({u".tmutil-restore-*"_s}, QDir::Dirs | QDir::Hidden)) {
+        if (!ours.match(name).hasMatch())
+            continue;
+        const int folder = openat(parent_, QFile::encodeName(name).constData(), workFolderFlags);
+        struct stat state {};
+        if (folder >= 0 && fstat(folder, &state) == 0 && state.st_uid == geteuid() &&
+            flock(folder, LOCK_EX | LOCK_NB) == 0)
+            removeFolderTree(parent_, QFile::encodeName(name).constData());
+        if (folder >= 0)
+            close(folder);
+    }
+}
 
 Failure inTheWay(const QString& path)
 {

@@ -1,5 +1,5 @@
-#include "AwakeLock_linux.h"
 #include "EventLoop.h"
+#include "Logind_linux.h"
 #include "MountWatch.h"
 #include "PlayedServices.h"
 #include "PowerSupply_linux.h"

@@ -1,5 +1,6 @@
 #include "ProcessInfo.h"
 
+#include <ctime>
 #include <linux/ioprio.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
@@ -10,6 +11,14 @@ namespace quillon {
 OperatingSystemVersion operatingSystemVersion()
 {
     return {14, 0, 0};
+}
+
+std::chrono::milliseconds systemUptime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_MONOTONIC, &time); // clock_gettime(2): does not count time in suspend
+    return std::chrono::floor<std::chrono::milliseconds>(std::chrono::seconds(time.tv_sec) +
+                                                         std::chrono::nanoseconds(time.tv_nsec));
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <QOperatingSystemVersion>
 
+#include <ctime>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -11,6 +12,13 @@ OperatingSystemVersion operatingSystemVersion()
 {
     const auto version = QOperatingSystemVersion::current();
     return {version.majorVersion(), version.minorVersion(), version.microVersion()};
+}
+
+std::chrono::milliseconds systemUptime()
+{
+    // CLOCK_MONOTONIC goes on during sleep on this system, CLOCK_UPTIME_RAW does not (clock_gettime(3)).
+    return std::chrono::floor<std::chrono::milliseconds>(
+        std::chrono::nanoseconds(clock_gettime_nsec_np(CLOCK_UPTIME_RAW)));
 }
 
 namespace {

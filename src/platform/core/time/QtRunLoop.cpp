@@ -1,5 +1,7 @@
 #include "QtRunLoop.h"
 
+#include "ProcessInfo.h"
+
 #include <algorithm>
 
 namespace quillon {
@@ -27,7 +29,7 @@ Date QtRunLoop::now() const
 
 std::chrono::milliseconds QtRunLoop::uptime() const
 {
-    return uptimeClockNow();
+    return systemUptime();
 }
 
 void QtRunLoop::wakeAt(std::chrono::milliseconds uptime)

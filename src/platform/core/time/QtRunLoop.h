@@ -9,9 +9,6 @@
 
 namespace quillon {
 
-/// Time since an arbitrary start on the clock that stands still while the system sleeps.
-std::chrono::milliseconds uptimeClockNow();
-
 /// The run loop of a real program, on the Qt event loop. Its blocks run also while a menu or an alert is open.
 class QtRunLoop final : public QObject, public RunLoop {
     Q_OBJECT

@@ -2,8 +2,11 @@
 
 #include "SystemColor.h"
 
+#include <QApplication>
+#include <QFontMetrics>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 #include <algorithm>
@@ -115,6 +118,25 @@ QIcon symbolIcon(const SymbolImage& symbol)
         painter.end();
         icon.addPixmap(pixmap);
     }
+    return icon;
+}
+
+QIcon rowSymbol(const QString& name, std::optional<SymbolColor> own)
+{
+    const QPalette palette = QApplication::palette();
+    const auto drawn = [&name](const QColor& color) {
+        const int side = QFontMetrics(QApplication::font()).height() + 2;
+        const qreal ratio = qApp->devicePixelRatio();
+        const QString key = name + color.name() + QString::number(side * ratio);
+        QPixmap pixmap;
+        if (!QPixmapCache::find(key, &pixmap)) {
+            pixmap = symbolPixmap(name, side, ratio, color);
+            QPixmapCache::insert(key, pixmap);
+        }
+        return pixmap;
+    };
+    QIcon icon(drawn(own ? symbolColor({.name = name, .paletteColor = own}, palette) : palette.color(QPalette::Text)));
+    icon.addPixmap(drawn(palette.color(QPalette::HighlightedText)), QIcon::Selected);
     return icon;
 }
 

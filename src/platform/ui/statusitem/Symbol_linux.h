@@ -22,4 +22,7 @@ QIcon symbolIcon(const SymbolImage& symbol);
 /// The symbol's icon or, without one, an empty icon that keeps the item's place.
 QIcon trayIcon(const std::optional<SymbolImage>& symbol);
 
+/// The symbol beside a line of text, in the text's colour or in one of the symbols' own; drawn once for all rows.
+QIcon rowSymbol(const QString& name, std::optional<SymbolColor> own = {});
+
 } // namespace quillon

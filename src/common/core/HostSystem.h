@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+/// In what the systems differ that this program runs on, as far as no service of theirs is asked for it.
+namespace quillon {
+
+/// Path of the system's tmutil; on Linux of the one that is installed with this program.
+QString systemTmutilPath();
+
+/// The file of the user's ledger, in the folder for what programs remember.
+QString ledgerFile();
+
+/// Whether the system itself tells users of backups that fail to come, stays awake for one that runs, and starts one
+/// that is late when its disk comes.
+bool systemWatchesOverBackups();
+
+/// What a user can do something about when Time Machine answers a start with this exit status; empty where the number
+/// says nothing more.
+QString startFailureReason(std::int32_t exitStatus);
+
+} // namespace quillon
