@@ -164,7 +164,7 @@ TEST_F(Commands, ARefusedStartIsToldWithItsCodeAndWhatItMeans)
         EXPECT_TRUE(alert.informativeText.startsWith(refused.arg(status) + reason));
         EXPECT_EQ(alert.informativeText.contains(u'\n'), status != 17);
     }
-    EXPECT_EQ(row(menu().backupNowMenuItem), u"Back Up Now"_s);
+    EXPECT_EQ(row(menu().backupNowMenuItem), u"Back Up Now >"_s);
 }
 
 TEST_F(Commands, AToolThatHangsIsAskedNothingMoreUntilItIsEndedAfterAMinute)

@@ -67,7 +67,7 @@ struct PlayedSaturday : PlayedPlace, PlayedProgram {
         }
         const auto next = manager->nextScheduledBackupDate();
         commands.append({QString::number(int(icon())) + u',', QString(item.title).replace(u'\n', u' ') + u',',
-                         row(menu().backupNowMenuItem) + u',', manager->retryBackupDate() ? u"retry"_s : u"next"_s,
+                         row(menu().backupNowMenuItem).remove(u" >"_s) + u',', manager->retryBackupDate() ? u"retry"_s : u"next"_s,
                          next ? DateFormatter::string(*next, u"d HH:mm"_s) : u"never"_s});
         return commands.join(u' ').toStdString();
     }
@@ -90,7 +90,16 @@ struct PlayedSaturday : PlayedPlace, PlayedProgram {
 
     void wait(double seconds) { runLoop.advance(Seconds(seconds)); }
     void until(Date date) { runLoop.advanceTo(date); }
-    void click() { menu().backupNowMenuItem->trigger(); }
+    /// The item, or "Let Time Machine Choose" where it opens the disks.
+    void click()
+    {
+        QAction* chosen = menu().backupNowMenuItem;
+        if (QMenu* disks = chosen->menu()) {
+            Q_EMIT disks->aboutToShow();
+            chosen = disks->actions().first();
+        }
+        chosen->trigger();
+    }
     void openMenuAndWait()
     {
         controller->menuWillOpen();

@@ -15,10 +15,11 @@ protected:
 
 TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
 {
+    defaults.stored[settingskeys::startWhenDiskAppears] = 0LL; // nobody else asks for the disks ahead of the menu
     launch();
     EXPECT_EQ(rows(&menu()),
-              (QStringList{u"(Latest Backup: N/A)"_s, u"(Backup Disk: N/A)"_s, u"-"_s, u"Pause Schedule For >"_s,
-                           u"(Next Backup: Today, 12:00 )"_s, u"-"_s, u"Back Up Now"_s,
+              (QStringList{u"Latest Backup: N/A >"_s, u"(Backup Disk: N/A)"_s, u"-"_s, u"Pause Schedule For >"_s,
+                           u"(Next Backup: Today, 12:00 )"_s, u"-"_s, u"Back Up Now >"_s,
                            u"Browse Time Machine Backups"_s, u"-"_s, u"Open Time Machine Settings..."_s,
                            u"Settings..."_s, u"About Quillon..."_s, u"-"_s, u"Quit Quillon"_s}));
     QStringList names;

@@ -226,8 +226,10 @@ bool DisksInMenu::request()
             if (++*reports > 1 || !success)
                 return;
             services_.runLoop.enqueue([this, reports, disks] {
-                if (*reports == 1) // a call that failed is reported twice
-                    Q_EMIT told(disks);
+                if (*reports > 1)
+                    return; // a call that failed is reported twice
+                refreshMenu();
+                Q_EMIT told(disks);
             });
         });
     return true;
