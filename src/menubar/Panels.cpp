@@ -12,10 +12,8 @@ Panels::Panels(const SettingsViewController::Services& services, Ledger& ledger,
     , item_(item)
     , menu_(menu)
 {
-    for (Popover* popover : {&aboutPopover_, &preferencesPopover_}) {
+    for (Popover* popover : {&aboutPopover_, &preferencesPopover_})
         popover->setBehavior(PopoverBehavior::Transient);
-        popover->setAnimates(true);
-    }
     // Their frames show no title; screen readers and lists of windows do.
     aboutPopover_.setWindowTitle(localizedString("aboutMenuTitle"));
     preferencesPopover_.setWindowTitle(localizedString("preferencesMenuTitle"));

@@ -38,8 +38,7 @@ void SchedulePause::pauseUntil(Date end, std::int64_t tag)
 {
     services_.defaults.setDate(settingskeys::pauseUntilDate, end);
     services_.defaults.setObject(settingskeys::pauseUntilTag, static_cast<qlonglong>(tag));
-    services_.dataManager.setRetryBackupDate(std::nullopt);
-    services_.dataManager.scheduleNextBackup();
+    services_.dataManager.setRetryBackupDate(std::nullopt); // which plans anew
     schedulePauseScheduleExpirationTimer();
     Q_EMIT changed();
     showPaused(end, tag);

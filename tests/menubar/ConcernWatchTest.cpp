@@ -50,6 +50,13 @@ TEST_F(ConcernWatchOf, AFailureIsToldOnceItsRetryHasFailedTooUntilABackupSucceed
     wait(120);
     expectWords("|");
     EXPECT_TRUE(defaults.date(settingskeys::lastBackupDate));
+
+    defaults.stored.remove(settingskeys::toldConcerns);
+    launch(); // what failed ahead of that success counts no more
+    letRunsFail();
+    click();
+    wait(5 * 60);
+    expectWords("|");
 }
 
 TEST_F(ConcernWatchOf, AFailureThatNoRetryFollowsIsToldAtOnceAlsoByTheNextLaunch)

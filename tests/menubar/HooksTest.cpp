@@ -1,4 +1,5 @@
 #include "ControllerFixture.h"
+#include "ScopedEnvironment.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -128,6 +129,12 @@ TEST_F(HooksOf, EachIsToldWhatHasBecomeOfAStartAndWhatItSaysIsKept)
     until(today(11, 59, 30));
     runElsewhere(40);
     EXPECT_EQ(told(), "skipped||||backupRan");
+}
+
+TEST(HooksFolder, IsTheOneThatTheManualNames)
+{
+    const ScopedEnvironment configuration("XDG_CONFIG_HOME", "/somewhere");
+    EXPECT_EQ(hooksFolder(), u"/somewhere/quillon/hooks"_s);
 }
 
 } // namespace quillon

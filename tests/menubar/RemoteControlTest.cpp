@@ -1,6 +1,7 @@
 #include "RemoteControl.h"
 
 #include "ControllerFixture.h"
+#include "Told.h"
 
 #include <QJsonArray>
 
@@ -120,6 +121,15 @@ TEST_F(Remote, PausesAndResumesAsTheMenuDoes)
     manager->setIsScheduleEnabled(false);
     EXPECT_EQ(ask(u"pause 1h"_s), "! the schedule is off");
     EXPECT_EQ(ask(u"skip"_s), "! the schedule is off");
+}
+
+TEST(Told, APauseThatIsOverIsNoneAlsoWhileTheScheduleIsYetToGoOn)
+{
+    shown::Snapshot snapshot{.now = Date(1h)};
+    for (const auto& [end, isTold] : {std::pair{Date(1h + 1s), true}, {Date(1h), false}, {Date(1h - 1s), false}}) {
+        snapshot.pauseUntil = end;
+        EXPECT_NE(told::scheduleFacts(snapshot)[u"pausedUntil"_s].isNull(), isTold);
+    }
 }
 
 TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestart)

@@ -95,6 +95,7 @@ TEST_F(Shown, ARunTellsHowFarItHasCome)
          "42.6% | 1h 5m | Phase: Copying (42.6%, 1.5 MB copied) | Remaining Time: 1h 5m"},
         {Running, u"Copying"_s, 0.5, 90, 0,
          "50.0% | 1m | Phase: Copying (50.0%, 1.5 MB copied) | Remaining Time: 1m 30s"},
+        {Running, u"Copying"_s, 0.5, 0.5, 0, "50.0% | 0s | Phase: Copying (50.0%, 1.5 MB copied) | Remaining Time: 0s"},
         {Running, u"Copying"_s, 0.6, -1, 0,
          "60.0% | ... | Phase: Copying (60.0%, 1.5 MB copied) | Remaining Time: Calculating..."},
         {Stopping, u"Stopping"_s, 0.6, 90, 0, "60.0% | Stopping | Phase: Stopping | Remaining Time: N/A"},

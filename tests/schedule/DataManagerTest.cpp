@@ -175,6 +175,8 @@ TEST_F(Model, SwitchingTheScheduleOffStopsTheTimerAndLeavesTheRetryDate)
     EXPECT_TRUE(started.isEmpty());
     manager->updateBackupScheduleAtIndex(0, 13 * 3600, u"time"_s);
     expect(today(11), today(11)); // an edit arms the timer all the same
+    manager->setRetryBackupDate({});
+    expect({});
     manager->setIsScheduleEnabled(true);
     expect(today(24 + 13));
 }
