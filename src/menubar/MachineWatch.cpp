@@ -56,7 +56,7 @@ void AppearingDisks::setWatching(bool watching)
 
 void AppearingDisks::look()
 {
-    if (!disks_.request()) // the answer that is awaited may be older than the change
+    if (!disks_.request(DisksInMenu::Unreadable::KeepsThem)) // the answer that is awaited may be older than the change
         settling_ = runLoop_.scheduleAfter(untilMountsSettle, [this] { look(); });
     if (!came_.isEmpty()) // an answer may be unreadable
         staying_ = runLoop_.scheduleAfter(untilDiskStays, [this] { look(); });
@@ -191,11 +191,16 @@ void MachineWatch::reviewHeld(bool completed)
         Q_EMIT startAllowed(start);
 }
 
-/// It takes the place of a retry that is pending.
+/// A retry that is pending is dropped by the run, and so is made where none comes of this.
 void MachineWatch::startForDisk()
 {
-    if (machinerules::startsForDisk(moment(), lastCameToNothing()))
-        services_.dataManager.setRetryBackupDate(dateByAdding(services_.runLoop.now(), services_.schedule.retryWait()));
+    if (!machinerules::startsForDisk(moment(), lastCameToNothing()))
+        return;
+    const Date now = services_.runLoop.now();
+    if (const Seconds wait = services_.schedule.retryWait(); wait > 0s)
+        services_.dataManager.setRetryBackupDate(dateByAdding(now, wait));
+    else
+        Q_EMIT startAllowed({.date = now, .cause = Cause::Retry});
 }
 
 bool MachineWatch::lastCameToNothing() const

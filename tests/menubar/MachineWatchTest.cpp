@@ -161,9 +161,14 @@ TEST_F(MachineWatchOf, ADiskThatComesReplacesTheRetryUnlessARuleForbidsIt)
     plugIn();
     mount(false);
     wait(2);
+    spoilNext(Fault::None, 4, u"startbackup"_s);
+    mount(true);
+    after(22, "startbackup -r; 6, Retry: 5m, Back Up Now, retry 21 13:06"); // still, since nothing came of it
+    mount(false);
+    wait(2);
     mount(true);
     after(22, "startbackup -r; 2, 0.0% Starting, Skip This Backup, next 22 12:00");
-    EXPECT_EQ(noted(2), "13:00 retry running, 12:00 schedule missed asleep");
+    EXPECT_EQ(noted(3), "13:01 retry running, 13:00 retry refused toolRefused, 12:00 schedule missed asleep");
     wait(600);
     EXPECT_EQ(machine.starts(), 1);
 
@@ -174,6 +179,17 @@ TEST_F(MachineWatchOf, ADiskThatComesReplacesTheRetryUnlessARuleForbidsIt)
     mount(true);
     wait(60);
     EXPECT_EQ(machine.starts(), 1);
+}
+
+TEST_F(MachineWatchOf, ARunKeepsTheNameOfItsDiskWhereAMountsListCannotBeRead)
+{
+    launch();
+    runElsewhere(20);
+    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
+    spoilNext(Fault::Refused, 0, u"destinationinfo"_s);
+    mountWatch.change();
+    wait(5);
+    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
 }
 
 TEST_F(MachineWatchOf, RetriesWaitForMinutesAfterAWakeUp)

@@ -214,20 +214,23 @@ void DisksInMenu::take(const QList<BackupDestination>& disks)
     Q_EMIT listed();
 }
 
-bool DisksInMenu::request()
+bool DisksInMenu::request(Unreadable answer)
 {
     if (std::exchange(namesAreAwaited_, true))
         return false; // one list tells all who ask before it is there, and holds up no second poll
     const auto reports = std::make_shared<int>(0);
     services_.tmutil.getBackupDestinationsWithCompletionHandler(
-        [this, reports](bool success, const QList<BackupDestination>& disks) {
+        [this, reports, answer](bool success, const QList<BackupDestination>& disks) {
             namesAreAwaited_ = false;
-            take(disks);
+            if (answer == Unreadable::ForgetsThem)
+                take(disks);
             if (++*reports > 1 || !success)
                 return;
-            services_.runLoop.enqueue([this, reports, disks] {
+            services_.runLoop.enqueue([this, reports, answer, disks] {
                 if (*reports > 1)
                     return; // a call that failed is reported twice
+                if (answer == Unreadable::KeepsThem)
+                    take(disks);
                 refreshMenu();
                 Q_EMIT told(disks);
             });

@@ -95,8 +95,11 @@ public:
     DisksInMenu(const Services& services, StatusMenu& menu);
 
     const QList<BackupDestination>& backupDisks() const { return backupDisks_; }
+    /// What becomes of the known disks where the answer cannot be read.
+    enum class Unreadable { ForgetsThem, KeepsThem };
+
     /// Asks for the disks; false while an earlier question is awaited, whose answer then is everybody's.
-    bool request();
+    bool request(Unreadable answer = Unreadable::ForgetsThem);
     void menuWillOpen();
     /// Takes away what a running backup leaves no use for.
     void withdrawSubmenus();
