@@ -45,7 +45,6 @@ QString timeFromInterval(double seconds, int style, bool includePrecision, bool 
         formatter.zeroFormatting = DateComponentsFormatter::ZeroFormatting::None;
         formatter.unitsStyle = DateComponentsFormatter::UnitsStyle::Positional;
     } else if (style == 2) {
-        formatter.zeroFormatting = DateComponentsFormatter::ZeroFormatting::DropLeading;
         formatter.unitsStyle = DateComponentsFormatter::UnitsStyle::Abbreviated;
     }
     return formatter.string(seconds);

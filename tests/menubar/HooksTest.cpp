@@ -111,6 +111,20 @@ TEST_F(HooksOf, AStartThatHasWaitedForOneIsMadeOnlyIfItIsStillWanted)
     EXPECT_EQ(latest({.outcome = LedgerEntry::Outcome::Skipped}), "schedule|skipped|backupRan|");
 }
 
+TEST_F(HooksOf, OfStartsThatWaitForOneTheLatestStands)
+{
+    install(u"before"_s, {{}, {}, 0, 120});
+    manager->addNewSchedule();
+    manager->updateBackupScheduleAtIndex(1, 12 * 3600 + 60, u"time"_s);
+    until(today(11, 59, 30));
+    click();
+    wait(100);
+    EXPECT_EQ(latest({.outcome = LedgerEntry::Outcome::Skipped}), "schedule|skipped|overtaken|");
+    wait(30);
+    EXPECT_EQ(latest({.outcome = LedgerEntry::Outcome::Skipped}), "schedule|skipped|startedByHand|");
+    EXPECT_EQ(machine.starts(), 1);
+}
+
 TEST_F(HooksOf, EachIsToldWhatHasBecomeOfAStartAndWhatItSaysIsKept)
 {
     for (const auto& event : {u"completed"_s, u"failed"_s, u"skipped"_s})

@@ -140,6 +140,7 @@ TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestar
     EXPECT_EQ(ask(u"postpone 90m"_s),
               "the backup of Sat 2026-11-21 12:00 +01:00 is postponed; next backup Sat 2026-11-21 13:30 +01:00");
     EXPECT_EQ(facts[u"next"_s], u"2026-11-21T13:30:00+01:00"_s);
+    after(0.1, "1, Next: 3h 29m, Back Up Now, next 21 13:30");
     sleepUntil(today(13));
     launchWithRemote();
     until(today(13, 29, 59));
