@@ -45,7 +45,7 @@ struct LedgerEntry {
         NeverReported,    ///< the run, by Time Machine
         NotFollowed,      ///< Quillon ended ahead of the run
         HookFailed,       ///< the user's own program ahead of the start; `detail` is its last line
-        Asked,            ///< by a command of the user's, ahead of it
+        Asked,            ///< by the user, ahead of it
         OnBattery,        ///< the computer; what is made up for later is an entry of its own
     };
 

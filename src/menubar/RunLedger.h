@@ -17,7 +17,7 @@
 namespace quillon {
 
 /// Notes in the ledger what became of every start and every run, and runs the user's own program for it: hears of what
-/// others have decided, and decides nothing. Its slots come behind those that act on the same signal, so that what is
+/// others have decided, and decides nothing. Its slots come behind those that plan on the same signal, so that what is
 /// planned next is known.
 class RunLedger final : public QObject {
     Q_OBJECT

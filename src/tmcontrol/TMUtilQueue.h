@@ -33,7 +33,7 @@ struct TMUtilHandlers {
     DestinationsHandler destinationinfo;
 };
 
-/// Runs the tmutil tool for every TMUtil of the process, one child at a time.
+/// Runs the tmutil tool for all that share it, one child at a time.
 ///
 /// When a child ends, the report of its exit status and then the parser's report are delivered in one turn, and the
 /// queue moves on only after the blocks that those handlers queued: what a handler, or such a block, asks for runs

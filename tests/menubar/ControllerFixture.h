@@ -67,7 +67,8 @@ struct PlayedSaturday : PlayedPlace, PlayedProgram {
         }
         const auto next = manager->nextScheduledBackupDate();
         commands.append({QString::number(int(icon())) + u',', QString(item.title).replace(u'\n', u' ') + u',',
-                         row(menu().backupNowMenuItem).remove(u" >"_s) + u',', manager->retryBackupDate() ? u"retry"_s : u"next"_s,
+                         row(menu().backupNowMenuItem).remove(u" >"_s) + u',',
+                         manager->retryBackupDate() ? u"retry"_s : u"next"_s,
                          next ? DateFormatter::string(*next, u"d HH:mm"_s) : u"never"_s});
         return commands.join(u' ').toStdString();
     }

@@ -14,8 +14,8 @@
 
 namespace quillon {
 
-/// Does for other programs of the user what the menu and the settings panel do for the user, and nothing that the menu
-/// would not offer at that moment. Who asks gets the answer, and no alert.
+/// Does for other programs of the user what the menu and the settings panel do for the user, and refuses what has no
+/// use at that moment. Who asks gets the answer, and no alert.
 class RemoteControl final : public QObject {
     Q_OBJECT
 

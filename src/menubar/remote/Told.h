@@ -13,7 +13,7 @@ namespace quillon::told {
 /// When the schedule's next start is, or why there is none; the end of a line.
 QString nextStart(const shown::Snapshot& snapshot);
 
-/// "next" and "pausedUntil", dates or null, and "isRetry".
+/// "next" and "pausedUntil", dates or null, "isRetry" and "waitsForPower".
 QJsonObject scheduleFacts(const shown::Snapshot& snapshot);
 
 /// The same with the members of a status: "failed", "state", "phase", "percent", "timeRemaining", "bytesCopied" and
