@@ -99,7 +99,7 @@ void SchedulePause::timerRan(Date end)
     if (end < services_.runLoop.now() && services_.defaults.date(settingskeys::pauseUntilDate))
         resumeScheduleClicked();
     else
-        schedulePauseScheduleExpirationTimer(); // also when the clock was changed, or the timer was fired early
+        schedulePauseScheduleExpirationTimer(); // finds no pause, and shows that
 }
 
 } // namespace quillon

@@ -35,8 +35,6 @@ public:
     void setTogglesForPauseMenuItems(std::int64_t tag);
     void schedulePauseScheduleExpirationTimer();
     void stopPauseScheduleExpirationTimer() { timer_.invalidate(); }
-    /// Looks whether the pause has ended, as the timer does.
-    void checkExpiration() { timer_.fire(); }
 
 Q_SIGNALS:
     /// The schedule is paused, or goes on.

@@ -110,7 +110,6 @@ void ScheduleWatch::lookAtSchedule(Occasion occasion)
     if (first == Decision::Start)
         model.makeScheduledStart();
     services_.pause.schedulePauseScheduleExpirationTimer();
-    services_.pause.checkExpiration();
     // A pause that ends with this plans the schedule anew, which is no reason to give a retry up.
     if (first == Decision::KeepRetry)
         model.setRetryBackupDate(startdecision::retryDate(services_.runLoop.now(), retryWait(), retry));

@@ -42,6 +42,7 @@ protected:
             if (!request.executable.startsWith(folder_.path()))
                 continue;
             values.clear();
+            EXPECT_TRUE(request.captureErrors) << "the ledger would lack its words";
             for (const auto& name : {u"EVENT"_s, u"DISK"_s, u"DISK_NAME"_s, u"BYTES"_s, u"REASON"_s})
                 values += request.environment.filter(u"QUILLON_%1="_s.arg(name)).value(0).section(u'=', 1);
         }
@@ -59,7 +60,8 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     wait(10);
     EXPECT_EQ(latest(), "user|skipped|hookFailed|No network.");
     EXPECT_EQ(told(), "before|B|||");
-    EXPECT_TRUE(takeAlert().first.informativeText.endsWith(u"\n\nNo network."_s));
+    EXPECT_EQ(takeAlert().first.informativeText,
+              u"The program “before” kept the backup from starting.\n\nNo network."_s);
     QString words;
     controller->backupNowRequested([&words](const CommandResult& result) { words = result.hookWords; });
     wait(10);
@@ -123,6 +125,15 @@ TEST_F(HooksOf, OfStartsThatWaitForOneTheLatestStands)
     wait(30);
     EXPECT_EQ(latest({.outcome = LedgerEntry::Outcome::Skipped}), "schedule|skipped|startedByHand|");
     EXPECT_EQ(machine.starts(), 1);
+}
+
+TEST_F(HooksOf, NoneIsRunAheadOfAStartThatFindsABackup)
+{
+    install(u"before"_s, {{}, {}, 0, 1});
+    until(today(11, 59, 50));
+    runElsewhere(20);
+    EXPECT_EQ(latest({.outcome = LedgerEntry::Outcome::Skipped}), "schedule|skipped|backupRan|");
+    EXPECT_EQ(told(), "");
 }
 
 TEST_F(HooksOf, EachIsToldWhatHasBecomeOfAStartAndWhatItSaysIsKept)

@@ -72,6 +72,17 @@ TEST_F(MachineWatchOf, TheUserStartsOnBatteryAndARetryIsHeldBackLikeAnyOtherStar
     after(10, "startbackup -r; 2, 45.5% 10s, Skip This Backup, next 21 12:00");
 }
 
+TEST_F(MachineWatchOf, AHeldStartComesAfterARunThatPowerFindsAndThatFails)
+{
+    launchOnBattery();
+    letRunsFail();
+    until(today(12, 10));
+    runElsewhere(18);
+    plugIn();
+    wait(30);
+    EXPECT_EQ(noted(2), "12:10 elsewhere failed incomplete, 12:00 schedule failed incomplete");
+}
+
 TEST_F(MachineWatchOf, AHeldStartIsGivenUpWithWhatGaveIt)
 {
     const std::function<void()> reasons[] = {

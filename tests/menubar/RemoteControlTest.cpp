@@ -107,6 +107,7 @@ TEST_F(Remote, NamesADiskByNameOrIdentifierAndTellsOfARefusalWithoutAnAlert)
 TEST_F(Remote, PausesAndResumesAsTheMenuDoes)
 {
     launchWithRemote();
+    EXPECT_EQ(ask(u"settings"_s), "the settings are open");
     EXPECT_EQ(ask(u"resume"_s), "! the schedule is not paused");
     EXPECT_EQ(ask(u"pause 1h"_s),
               "the schedule is paused until Sat 2026-11-21 11:00 +01:00; next backup Sat 2026-11-21 12:00 +01:00");

@@ -19,7 +19,8 @@ TMStatus running(const QByteArray& entries)
 
 TEST(ReadingTheStatus, TakesEveryFieldFromTheToolsText)
 {
-    EXPECT_EQ(TMStatus::fromOutput("Backup session status:\n{\n    Running = 0;\n}\n"), TMStatus::notRunning());
+    EXPECT_EQ(TMStatus::fromOutput("Backup session status:\n{\n    Running = 0;\n}\nThat is all.\n"),
+              TMStatus::notRunning());
     EXPECT_EQ(TMStatus::notRunning(), (TMStatus{false, TMState::NotRunning, u"Not Running"_s, 0, 0, 0, {}}));
     EXPECT_EQ(TMStatus::failure(), (TMStatus{true, TMState::Unknown, u"Unknown"_s, 0, 0, 0, {}}));
     QFile recorded(QStringLiteral(ANSWERS_FOLDER "/status-copying.txt"));
