@@ -119,6 +119,7 @@ TEST_F(Remote, PausesAndResumesAsTheMenuDoes)
     EXPECT_EQ(ask(u"resume"_s), "the schedule goes on; next backup Sat 2026-11-21 12:00 +01:00");
     EXPECT_EQ(ask(u"pause --until 2026-11-21"_s), "! that time has passed");
     EXPECT_EQ(ask(u"pause --until 2027-11-21"_s), "! a pause lasts four weeks at most");
+    EXPECT_TRUE(ask(u"pause 4w"_s).starts_with("the schedule is paused until"));
     manager->setIsScheduleEnabled(false);
     EXPECT_EQ(ask(u"pause 1h"_s), "! the schedule is off");
     EXPECT_EQ(ask(u"skip"_s), "! the schedule is off");

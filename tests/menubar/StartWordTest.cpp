@@ -26,6 +26,7 @@ protected:
     {
         if (!userNotifications.shown.contains(u"startAhead"_s))
             return "";
+        EXPECT_EQ(userNotifications.posted.last().title, u"Backup Starts Soon"_s);
         QStringList words{userNotifications.posted.last().text};
         for (const auto& action : userNotifications.posted.last().actions)
             words.append(action.identifier);
