@@ -162,7 +162,7 @@ constexpr std::chrono::minutes patience{1};
 
 ToolAnswer ask(const ProgramServices& services, const QStringList& words)
 {
-    const ToolAnswer answer = askTool(services.runLoop, services.launcher, tmutilPath(), words, patience);
+    ToolAnswer answer = askTool(services.runLoop, services.launcher, tmutilPath(), words, patience);
     std::fwrite(answer.errors.constData(), 1, static_cast<std::size_t>(answer.errors.size()), stderr);
     return answer;
 }

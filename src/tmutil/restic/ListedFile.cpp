@@ -105,8 +105,8 @@ std::vector<Version> distinctVersions(std::vector<Version> all)
         };
         return content(a.file) == content(b.file);
     };
-    const auto repeated = std::ranges::unique(all, isLike);
-    all.erase(repeated.begin(), repeated.end());
+    // Of libstdc++ 12 clang 14 cannot compile std::ranges::unique().
+    all.erase(std::unique(all.begin(), all.end(), isLike), all.end());
     return all;
 }
 
