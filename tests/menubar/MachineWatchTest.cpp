@@ -160,7 +160,7 @@ TEST_F(MachineWatchOf, ADiskThatComesMakesUpForABackupThatCameToNothing)
     EXPECT_EQ(machine.starts(), 1) << "once for each time that it comes";
 }
 
-TEST_F(MachineWatchOf, ADiskThatComesReplacesTheRetryUnlessARuleForbidsIt)
+TEST_F(MachineWatchOf, ADiskThatComesStartsAheadOfTheRetryUnlessARuleForbidsIt)
 {
     defaults.stored[settingskeys::onlyOnMainsPower] = 1LL;
     machine.destinations[0].isMounted = false;

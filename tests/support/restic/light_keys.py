@@ -3,8 +3,8 @@
 
 restic makes deriving a key cost up to half a second of processor time, and measures for seconds how to: most of what
 the tests would take. Whatever is out of the ordinary is left to restic itself, whose words count then; a repository at
-a server is made by restic, and its keys are written anew where the address tells where they are. The formats are those of
-restic's design document: "Repository Format", "Keys, Encryption and MAC".
+a server is made by restic, and its keys are written anew where the address tells where they are. The formats are those
+of restic's design document: "Repository Format", "Keys, Encryption and MAC".
 """
 
 import base64
