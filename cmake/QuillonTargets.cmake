@@ -50,9 +50,6 @@ function(quillon_precompiled target)
     file(CONFIGURE OUTPUT ${empty} CONTENT "")
     add_library(precompiled_${set} OBJECT ${empty})
     target_link_libraries(precompiled_${set} PRIVATE ${links} quillon_options)
-    if("tests" IN_LIST ARGN)
-      target_compile_options(precompiled_${set} PRIVATE ${quillon_test_options})
-    endif()
     target_precompile_headers(precompiled_${set} PRIVATE ${headers})
   endif()
   get_target_property(sources ${target} SOURCES)
@@ -117,11 +114,6 @@ function(quillon_program name)
   quillon_precompiled(${name})
 endfunction()
 
-# Of sources that are compiled as one, g++ takes each for a header, and warns of fixtures that only one file can see.
-if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  set(quillon_test_options -Wno-subobject-linkage)
-endif()
-
 # quillon_tests(NAME MAIN LINK...): the tests of the current folder. A file's ending says its kind and so its ctest
 # label: *IntegrationTest.cpp (real processes), *GuiTest.cpp (real widgets), any other *Test.cpp (unit). MAIN is
 # test_main_core or, for code with widgets, test_main_widgets, which runs on the offscreen platform unless told
@@ -140,9 +132,7 @@ function(quillon_tests name main)
     if(sources)
       set(target ${name}_${kind}_tests)
       add_executable(${target} ${sources})
-      set_target_properties(${target} PROPERTIES AUTOMOC ON)
       target_link_libraries(${target} PRIVATE ${main} ${ARGN} quillon_options)
-      target_compile_options(${target} PRIVATE ${quillon_test_options})
       quillon_precompiled(${target} tests)
       if(kind STREQUAL "integration") # these wait more than they compute: side by side they take less time
         gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 600

@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto longestCall = 10s;
+constexpr auto longestWait = 10s;
 
 /// Mount points of the running system; a folder on such a disk can still be added.
 bool isOfTheSystem(const QString& path)
@@ -84,7 +84,7 @@ void MountedDisks::refresh()
          .environment = {u"LC_ALL=C.UTF-8"_s}},
         [this](const TaskResult& result) { take(result); });
     // One that hangs in the kernel does not end when it is killed; no other is started beside it.
-    limit_ = runLoop_.scheduleAfter(longestCall, [this] {
+    limit_ = runLoop_.scheduleAfter(longestWait, [this] {
         fail();
         child_->kill();
     });

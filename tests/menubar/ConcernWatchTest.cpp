@@ -11,14 +11,14 @@ protected:
     ConcernWatchOf() { launch(); }
 
     /// What was posted since the last look; behind a stroke what stands on the desktop.
-    void expectWords(const char* expected, std::source_location at = std::source_location::current())
+    void expectWords(const char* expected, int line = __builtin_LINE())
     {
         QStringList words;
         for (; looked_ < userNotifications.posted.size(); ++looked_)
             words.append(userNotifications.posted[looked_].identifier);
         words.append(u"|"_s);
         words += userNotifications.shown;
-        EXPECT_EQ(words.join(u' ').toStdString(), expected) << "line " << at.line();
+        EXPECT_EQ(words.join(u' ').toStdString(), expected) << "line " << line;
     }
     UserNotification lastWord() const { return userNotifications.posted.value(looked_ - 1); }
 

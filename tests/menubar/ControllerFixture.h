@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <source_location>
 
 namespace quillon {
 
@@ -121,14 +120,11 @@ private:
 
 class ControllerFixture : public testing::Test, protected PlayedSaturday {
 protected:
-    void expect(const char* expected, std::source_location at = std::source_location::current())
-    {
-        EXPECT_EQ(seen(), expected) << "line " << at.line();
-    }
-    void after(double seconds, const char* expected, std::source_location at = std::source_location::current())
+    void expect(const char* expected, int line = __builtin_LINE()) { EXPECT_EQ(seen(), expected) << "line " << line; }
+    void after(double seconds, const char* expected, int line = __builtin_LINE())
     {
         wait(seconds);
-        expect(expected, at);
+        expect(expected, line);
     }
 };
 

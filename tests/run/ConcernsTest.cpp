@@ -11,11 +11,11 @@ using concerns::Kind;
 namespace {
 
 constexpr Date now{std::chrono::days(20000)};
-constexpr auto day = std::chrono::days(1);
+constexpr auto aDay = std::chrono::days(1);
 
 concerns::Facts allIsWell()
 {
-    return {.now = now, .lastCompleted = now - 1h, .watchedSince = now - 100 * day, .daysWithoutBackup = 10};
+    return {.now = now, .lastCompleted = now - 1h, .watchedSince = now - 100 * aDay, .daysWithoutBackup = 10};
 }
 
 } // namespace
@@ -26,10 +26,10 @@ TEST(Concerns, AreFoundWhereSomethingIsWrongAndNotBefore)
     const std::pair<Change, QList<Kind>> rows[] = {
         {[](auto&) {}, {}},
         {[](auto& facts) { facts.failedInARow = 1; }, {Kind::BackupFailed}},
-        {[](auto& facts) { facts.lastCompleted = now - 10 * day; }, {Kind::NoBackupForDays}},
-        {[](auto& facts) { facts.lastCompleted = now - 10 * day + 1ms; }, {}},
+        {[](auto& facts) { facts.lastCompleted = now - 10 * aDay; }, {Kind::NoBackupForDays}},
+        {[](auto& facts) { facts.lastCompleted = now - 10 * aDay + 1ms; }, {}},
         {[](auto& facts) { facts.lastCompleted.reset(); }, {Kind::NoBackupForDays}},
-        {[](auto& facts) { facts.lastCompleted.reset(), facts.watchedSince = now - 9 * day; }, {}},
+        {[](auto& facts) { facts.lastCompleted.reset(), facts.watchedSince = now - 9 * aDay; }, {}},
         {[](auto& facts) { facts.lastCompleted.reset(), facts.daysWithoutBackup = 0; }, {}},
         {[](auto& facts) { facts.startAwaited = 2min; }, {Kind::StartWithoutRun}},
         {[](auto& facts) { facts.startAwaited = 2min - 1ms; }, {}},
@@ -53,9 +53,9 @@ TEST(Concerns, EachIsToldOnceADayAndTakenAwayWhenItIsMended)
     EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now}}), (Change{{}, failed}));
     facts.failedInARow = 1;
     EXPECT_EQ(concerns::change(facts, {}, {}), (Change{failed, {}}));
-    EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now - day + 1ms}}), Change());
-    EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now - day}}), (Change{failed, {}}));
-    EXPECT_EQ(concerns::change(facts, {}, {{Kind::BackupFailed, now + 2 * day}}), (Change{failed, {}}))
+    EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now - aDay + 1ms}}), Change());
+    EXPECT_EQ(concerns::change(facts, failed, {{Kind::BackupFailed, now - aDay}}), (Change{failed, {}}));
+    EXPECT_EQ(concerns::change(facts, {}, {{Kind::BackupFailed, now + 2 * aDay}}), (Change{failed, {}}))
         << "the clock was set back";
     EXPECT_EQ(concerns::change(facts, {}, {{Kind::DamageFound, now}}), (Change{failed, {}}));
     for (bool concerns::Facts::*mayMend : {&concerns::Facts::retryIsPlanned, &concerns::Facts::isActive}) {

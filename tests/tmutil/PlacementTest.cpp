@@ -20,7 +20,8 @@ TEST(FreeName, KeepsTheEndingOfAFileAndIsNotTaken)
         {u"\U0001F5FF"_s.repeated(63), true, {}, u"\U0001F5FF"_s.repeated(60) + u" (restored D)"_s},
     };
     for (const auto& [name, isFile, taken, expected] : cases)
-        EXPECT_EQ(freeName(name, isFile, u"D"_s, [&](const QString& one) { return taken.contains(one); }), expected);
+        EXPECT_EQ(freeName(name, isFile, u"D"_s, [&taken = taken](const QString& one) { return taken.contains(one); }),
+                  expected);
 }
 
 class PlacementTest : public ConfigurationFixture {

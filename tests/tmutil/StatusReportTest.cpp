@@ -143,8 +143,8 @@ TEST_F(StatusReportTest, NoWorkerIsToldOfWhoseNumberStandsForMany)
 
 TEST_F(StatusReportTest, WhatCannotBeReadIsNeverToldAsAnEmptyAnswer)
 {
-    const QByteArray half = "<plist><dict>";
-    file(u"state/run.plist"_s, half);
+    const QByteArray cutOff = "<plist><dict>";
+    file(u"state/run.plist"_s, cutOff);
     EXPECT_EQ(running(), u"0"_s) << "left behind by a power failure: nobody holds the lock";
     {
         const LockHolder worker(lock());
@@ -158,7 +158,7 @@ TEST_F(StatusReportTest, WhatCannotBeReadIsNeverToldAsAnEmptyAnswer)
     ASSERT_TRUE(QFile::remove(lock()));
 
     // What is forgotten of past backups keeps neither the state from being told nor the next backup from being made.
-    file(u"state/history.plist"_s, half);
+    file(u"state/history.plist"_s, cutOff);
     EXPECT_EQ(running(), u"0"_s);
     EXPECT_EQ(cause(), u"HistoryUnreadable"_s);
     History history(state());
@@ -171,7 +171,7 @@ TEST_F(StatusReportTest, WhatCannotBeReadIsNeverToldAsAnEmptyAnswer)
     // The version before is what counts then; a pipe that nobody writes to is no reason to wait.
     history.setLastBackup(u"ID"_s, QDateTime::currentDateTimeUtc());
     ASSERT_TRUE(history.save());
-    const QString written = file(u"state/history.plist"_s, half);
+    const QString written = file(u"state/history.plist"_s, cutOff);
     EXPECT_EQ(History(state()).lastDestination(), u"ID"_s);
     ASSERT_TRUE(QFile::remove(written));
     ASSERT_EQ(mkfifo(QFile::encodeName(written).constData(), 0600), 0);

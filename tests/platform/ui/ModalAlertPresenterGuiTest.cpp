@@ -46,7 +46,7 @@ protected:
 
 TEST_F(ModalAlertPresenterTest, TakesAUsersClosingOfTheWindowForEscapeAndTheProgramsEndForNoAnswer)
 {
-    const auto closeByUser = [this] {
+    const auto closeByUser = [] {
         QCloseEvent event;
         QSpontaneKeyEvent::setSpontaneous(&event);
         QCoreApplication::instance()->notify(window(), &event); // sendEvent() would make it the program's again

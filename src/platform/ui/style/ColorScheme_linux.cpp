@@ -59,8 +59,8 @@ void SchemeStyle::drawControl(ControlElement element, const QStyleOption* option
     const auto* item = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
     const bool separator = item && item->menuItemType == QStyleOptionMenuItem::Separator;
     if (separator && isDark(option->palette)) {
-        constexpr int margin = 5;
-        painter->fillRect(item->rect.left() + margin, item->rect.center().y(), item->rect.width() - 2 * margin, 1,
+        constexpr int indent = 5;
+        painter->fillRect(item->rect.left() + indent, item->rect.center().y(), item->rect.width() - 2 * indent, 1,
                           lineColor(*option, 0.2F));
         return;
     }
