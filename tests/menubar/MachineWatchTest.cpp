@@ -138,6 +138,9 @@ TEST_F(MachineWatchOf, ADiskThatComesMakesUpForABackupThatCameToNothing)
     refuse();
     EXPECT_EQ(noted(1), "12:00 schedule refused toolRefused");
     wait(60);
+    spoilNext(Fault::NotUtf8, 0, u"destinationinfo"_s);
+    mountWatch.change();
+    wait(5);
     mount(true, 1); // it has been there
     wait(60);
     mount(false);
@@ -197,10 +200,12 @@ TEST_F(MachineWatchOf, ARunKeepsTheNameOfItsDiskWhereAMountsListCannotBeRead)
     launch();
     runElsewhere(20);
     EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
-    spoilNext(Fault::Refused, 0, u"destinationinfo"_s);
-    mountWatch.change();
-    wait(5);
-    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
+    for (const Fault fault : {Fault::Refused, Fault::Half, Fault::NotUtf8}) {
+        spoilNext(fault, 0, u"destinationinfo"_s);
+        mountWatch.change();
+        wait(5);
+        EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
+    }
 }
 
 TEST_F(MachineWatchOf, RetriesWaitForMinutesAfterAWakeUp)

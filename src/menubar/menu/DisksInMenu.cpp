@@ -228,11 +228,13 @@ bool DisksInMenu::request(Unreadable answer)
                 return;
             services_.runLoop.enqueue([this, reports, answer, disks] {
                 if (*reports > 1)
-                    return; // a call that failed is reported twice
-                if (answer == Unreadable::KeepsThem)
+                    return;                               // a call that failed is reported twice
+                const bool isReadable = !disks.isEmpty(); // what is no text reads as a list without disks
+                if (answer == Unreadable::KeepsThem && isReadable)
                     take(disks);
                 refreshMenu();
-                Q_EMIT told(disks);
+                if (isReadable)
+                    Q_EMIT told(disks);
             });
         });
     return true;
