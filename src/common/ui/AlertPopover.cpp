@@ -61,8 +61,10 @@ void AlertPopover::runAsPopoverForView(const PopoverAnchor& view, RectEdge prefe
     targetView_ = view;
     if (view.view && view.view->isVisible())
         targetView_.screenRect = QRect(view.view->mapToGlobal(QPoint()), view.view->size());
-    auto* panel = view.view ? qobject_cast<Popover*>(view.view->window()) : nullptr;
-    panelStaysOpen_ = panel ? panel->keepOpen() : nullptr;
+    if (view.view) { // one that has gone meanwhile leaves the panel that it lay in
+        auto* panel = qobject_cast<Popover*>(view.view->window());
+        panelStaysOpen_ = panel ? panel->keepOpen() : nullptr;
+    }
     isAnswered_ = false;
 
     Stack& alerts = stack();

@@ -69,9 +69,8 @@ protected:
     void clickOutside() { QTest::mouseClick(window_.get(), Qt::LeftButton, {}, QPoint(5, 5)); }
     static QRect onScreen(const QWidget* widget) { return {widget->mapToGlobal(QPoint()), widget->size()}; }
     static QRect place() { return onScreen(shown().front()->contentView()); }
-    static bool isAbove(const QWidget* view)
+    static bool isAbove(const QRect& target)
     {
-        const QRect target = onScreen(view);
         return place().bottom() < target.top() && std::abs(place().center().x() - target.center().x()) <= 1;
     }
 
@@ -104,10 +103,10 @@ TEST_F(AlertPopoverTest, BringsBackWhatWasPushedAsideTheLatestFirstAboveItsOwnVi
     EXPECT_TRUE(noted_.isEmpty()) << "being pushed aside is no answer";
     click(1);
     EXPECT_EQ(visible(), u"B"_s);
-    EXPECT_TRUE(isAbove(views_[1])) << "on the upper side, wherever it was first";
+    EXPECT_TRUE(isAbove(onScreen(views_[1]))) << "on the upper side, wherever it was first";
     click(2);
     EXPECT_EQ(visible(), u"A"_s);
-    EXPECT_TRUE(isAbove(views_[0]));
+    EXPECT_TRUE(isAbove(onScreen(views_[0])));
     click();
     EXPECT_EQ(noted_, (QStringList{u"C 1001"_s, u"B 1002"_s, u"A 1000"_s}));
 }
@@ -128,10 +127,18 @@ TEST_F(AlertPopoverTest, ABlockMayShowTheNextAlertAndOneThatIsThereMoves)
     int answers = 0;
     for (QPushButton* view : {views_[0], views_[1]}) // the second time it is there already
         again->runAsPopoverForView({.view = view}, [&answers](int) { ++answers; });
-    EXPECT_TRUE(isAbove(views_[1]));
+    EXPECT_TRUE(isAbove(onScreen(views_[1])));
     click();
     EXPECT_TRUE(shown().empty());
     EXPECT_EQ(answers, 1);
+
+    again->runAsPopoverForView({.view = views_[0]});
+    run(u"E"_s, views_[1]);
+    again->runAsPopoverForView({.view = views_[0]}); // it waits no more
+    for (const QString& next : {u"E"_s, u"0 popovers"_s}) {
+        click();
+        EXPECT_EQ(visible(), next);
+    }
 }
 
 TEST_F(AlertPopoverTest, KeepsATransientPopoverOpenThatItPointsInto)
@@ -144,6 +151,13 @@ TEST_F(AlertPopoverTest, KeepsATransientPopoverOpenThatItPointsInto)
     run(u"A"_s, control, RectEdge::MaxX);
     clickOutside();
     EXPECT_TRUE(settings.isShown());
+    const QRect controlPlace = onScreen(control);
+    run(u"B"_s, views_[1]);
+    clickOutside();
+    EXPECT_TRUE(settings.isShown()) << "also while the alert waits";
+    delete control;
+    click();
+    EXPECT_TRUE(isAbove(controlPlace)) << "where its view was";
     click();
     EXPECT_TRUE(settings.isShown());
     clickOutside();
