@@ -117,6 +117,11 @@
         <source></source>
         <translation>Ein Update ist verfügbar.</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>Der Zeitplan der Backups wird angehalten.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -117,6 +117,11 @@
         <source></source>
         <translation>An update is available.</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>The backup schedule is being put on hold.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

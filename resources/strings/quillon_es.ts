@@ -117,6 +117,11 @@
         <source></source>
         <translation>Hay una actualización disponible.</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>Se está deteniendo la programación de las copias.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -117,6 +117,11 @@
         <source></source>
         <translation>Une mise à jour est disponible.</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>La programmation des sauvegardes est mise en attente.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -117,6 +117,11 @@
         <source></source>
         <translation>È disponibile un aggiornamento.</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>La programmazione dei backup viene fermata.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -117,6 +117,11 @@
         <source></source>
         <translation>アップデートがあります。</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>バックアップのスケジュールを停止しています。</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -117,6 +117,11 @@
         <source></source>
         <translation>Er is een update beschikbaar.</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>Het schema voor reservekopieën wordt stilgezet.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

@@ -117,6 +117,11 @@
         <source></source>
         <translation>Há uma atualização disponível.</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>A programação dos backups está sendo interrompida.</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

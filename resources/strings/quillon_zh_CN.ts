@@ -117,6 +117,11 @@
         <source></source>
         <translation>有可用更新。</translation>
     </message>
+    <!-- Why sleep waits for a moment -->
+    <message id="sleepWaitsMessage">
+        <source></source>
+        <translation>正在停止备份计划。</translation>
+    </message>
     <!-- Menu -->
     <message id="latestBackupTitle">
         <source></source>

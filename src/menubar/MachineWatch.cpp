@@ -1,5 +1,6 @@
 #include "MachineWatch.h"
 
+#include "LocalizedString.h"
 #include "StoredAndSentNames.h"
 
 #include <algorithm>
@@ -231,7 +232,7 @@ void MachineWatch::keepAwake()
     if (run.tmState() == TMState::NotRunning)
         isOwnRun_ = false;
     if (isOwnRun_ && run.isReported() && services_.defaults.integer(settingskeys::stayAwake) == 1)
-        services_.awakeLock.hold(u"A backup is running"_s);
+        services_.awakeLock.hold(localizedString("iconRunningDescription"));
     else
         services_.awakeLock.release();
 }

@@ -61,7 +61,7 @@ int runApplication(const Options& options, SingleInstance& instance)
     const auto workspace =
         makeWorkspace(runLoop, {.ownPrograms = {{TimeMachineSettings::address(), programs + "/quillon-disks"_L1}},
                                 .ownApplications = {{TimeMachineSettings::browser(), programs + "/quillon-browse"_L1}},
-                                .sleepReason = u"Putting the backup schedule on hold"_s});
+                                .sleepReason = localizedString("sleepWaitsMessage")});
     const auto loginItem = makeLoginItem({.name = identity::name,
                                           .identifier = identity::identifier,
                                           .companion = identity::companionIdentifier,

@@ -50,7 +50,7 @@ TEST_F(RunCycle, SleepIsHeldOffWhileABackupThatWasStartedHereRuns)
 {
     launch();
     runElsewhere(30);
-    EXPECT_FALSE(awakeLock.isHeld);
+    EXPECT_TRUE(awakeLock.reason.isEmpty());
     wait(90);
     const std::function<void()> ends[] = {
         [] {},
@@ -64,22 +64,22 @@ TEST_F(RunCycle, SleepIsHeldOffWhileABackupThatWasStartedHereRuns)
     for (const auto& end : ends) {
         click();
         wait(20);
-        EXPECT_TRUE(awakeLock.isHeld);
+        EXPECT_EQ(awakeLock.reason, u"A backup is running."_s);
         spoilNext(Fault::NotUtf8);
         wait(3);
-        EXPECT_FALSE(awakeLock.isHeld);
+        EXPECT_TRUE(awakeLock.reason.isEmpty());
         wait(20);
-        EXPECT_TRUE(awakeLock.isHeld);
+        EXPECT_FALSE(awakeLock.reason.isEmpty());
         end();
         wait(100);
-        EXPECT_FALSE(awakeLock.isHeld);
+        EXPECT_TRUE(awakeLock.reason.isEmpty());
     }
     defaults.stored.remove(settingskeys::stayAwake);
     machine.phases = {{u"Finishing"_s, 0.05}}; // too short to be seen
     click();
     wait(20);
     EXPECT_EQ(controller->tmState(), TMState::Starting);
-    EXPECT_FALSE(awakeLock.isHeld);
+    EXPECT_TRUE(awakeLock.reason.isEmpty());
 }
 
 TEST_F(RunCycle, AScheduledBackupIsStartedFollowedAndRecorded)

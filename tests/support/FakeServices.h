@@ -67,10 +67,10 @@ public:
 
 class FakeAwakeLock final : public AwakeLock {
 public:
-    bool isHeld = false;
+    QString reason; ///< none while it is not held
 
-    void hold(const QString& /*reason*/) override { isHeld = true; }
-    void release() override { isHeld = false; }
+    void hold(const QString& why) override { reason = why; }
+    void release() override { reason.clear(); }
 };
 
 /// Tells what the test says, while it is asked to.

@@ -37,7 +37,7 @@ public:
     /// Without a connected bus no lock is ever had.
     LogindSleepLock(const QDBusConnection& systemBus, Mode mode);
 
-    /// `reason` is what logind tells users who ask: English.
+    /// `reason` is what logind tells users who ask, already localised.
     void hold(const QString& reason);
     void release();
 

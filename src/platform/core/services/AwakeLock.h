@@ -15,7 +15,7 @@ public:
     /// Lets go of it.
     virtual ~AwakeLock() = default;
 
-    /// `reason` is what the system tells users who ask: English. Holding it twice is holding it once.
+    /// `reason` is what the system tells users who ask, already localised. Holding it twice is holding it once.
     virtual void hold(const QString& reason) = 0;
     virtual void release() = 0;
 };

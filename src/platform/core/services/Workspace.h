@@ -42,7 +42,7 @@ using OwnApplications = QMap<QString, QString>;
 struct WorkspaceNeeds {
     OwnPrograms ownPrograms;
     OwnApplications ownApplications = {};
-    QString sleepReason; ///< why sleep waits for the slots of willSleep(), for users who ask: English
+    QString sleepReason; ///< why sleep waits for the slots of willSleep(), for users who ask; already localised
 };
 
 /// The workspace of the session that the program runs in; the run loop must outlive it.
