@@ -15,7 +15,8 @@ using namespace Qt::StringLiterals;
 inline const QString firstLaunch = u"firstLaunch"_s;
 inline const QString didShowAlertAtFirstLaunch = u"appSettingsDidShowAlertAtFirstLaunch"_s;
 
-// Switches: integers that hold a control state, 1 on, anything else off.
+// Switches: integers that hold a control state, 1 on, anything else off; only the menu bar takes any icon-only but 0
+// for on.
 inline const QString enableSchedule = u"userSettingsEnableSchedule"_s;
 inline const QString enableRetryAtMissedSchedule = u"userSettingsEnableRetryAtMissedSchedule"_s;
 inline const QString enableRetryAtFailure = u"userSettingsEnableRetryAtFailure"_s;

@@ -93,6 +93,7 @@ TEST_F(AboutPanel, EveryButtonOpensItsPageAndTheMailNamesTheVersion)
     workspace_.opens = false;
     click("emailButton");
     const AlertRequest warning = alerts_.presented.front().first;
+    EXPECT_EQ(warning.style, AlertStyle::Warning);
     EXPECT_EQ(warning.messageText, u"Warning"_s);
     EXPECT_EQ(warning.informativeText,
               localizedString("AlertMessageMailNotConfigured").arg(makersite::supportAddress()));
@@ -103,6 +104,7 @@ TEST_F(AboutPanel, ThePrivacyPolicyIsToldHereAndReadInFullOnTheWebSite)
 {
     click("privacyPolicyButton");
     const auto& [policy, answer] = alerts_.presented.front();
+    EXPECT_EQ(policy.style, AlertStyle::Warning);
     EXPECT_EQ(policy.messageText, u"Privacy Policy"_s);
     EXPECT_EQ(policy.informativeText.count(QRegularExpression(u"\\bQuillon\\b"_s)), 4);
     EXPECT_FALSE(policy.informativeText.contains(u'%'));

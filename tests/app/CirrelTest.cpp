@@ -184,17 +184,22 @@ TEST_F(CirrelTest, TheCacheAnswersAtOnceUntilTheIntervalHasPassed)
               (QVariantMap{{u"type"_s, u"String"_s}, {u"value"_s, u"cached"_s}}));
     EXPECT_EQ(defaults.date(u"Cirrel_Config_P_lastDate"_s), runLoop.now());
     reported();
+    defaults.refuses = u"Cirrel_Config_R"_s;
+    get(u"R"_s, 100);
+    network->answer(config("String", R"("too strange")"));
+    EXPECT_EQ(reported(), "QString too strange");
+    EXPECT_FALSE(defaults.date(u"Cirrel_Config_R_lastDate"_s)) << "what was not stored is asked for again";
     get(u"P"_s, 0.5);
     EXPECT_EQ(reported(), "QString cached");
     runLoop.advance(99.9s);
     get(u"P"_s, 100);
     EXPECT_EQ(reported(), "QString cached");
-    EXPECT_EQ(network->posted, 1);
+    EXPECT_EQ(network->posted, 2);
     get(u"P"_s, 0); // asks whatever there is
     get(u"Q"_s, 100);
     runLoop.advance(0.1s);
     get(u"P"_s, 100);
-    EXPECT_EQ(network->posted, 4);
+    EXPECT_EQ(network->posted, 5);
     EXPECT_EQ(reported(), "") << "nothing is reported before the service has answered";
     defaults.setDate(u"Cirrel_Config_P_lastDate"_s, dateByAdding(runLoop.now(), 1000h));
     get(u"P"_s, 100);
@@ -205,7 +210,7 @@ TEST_F(CirrelTest, TheCacheAnswersAtOnceUntilTheIntervalHasPassed)
         EXPECT_EQ(reported(), "QString default") << "a fresh date without an answer";
         EXPECT_FALSE(Cirrel::getConfigFromCacheFor(u"P"_s).isValid());
     }
-    EXPECT_EQ(network->posted, 4);
+    EXPECT_EQ(network->posted, 5);
 }
 
 TEST_F(CirrelTest, TheServiceMovesTheClientForFourteenDays)

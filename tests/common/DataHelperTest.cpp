@@ -65,8 +65,8 @@ TEST_F(DataHelperTest, TextsOfTheYearOfVersionsAndOfTheMakersPages)
     EXPECT_EQ(DataHelper::getCurrentYear(newYear), u"2027"_s) << "the year of the host's zone";
     const ScopedEnvironment system("QUILLON_SYSTEM_VERSION", "14.2.1");
     EXPECT_EQ(systemVersion(), u"14.2.1"_s);
-    EXPECT_TRUE(DataHelper::bundleVersionString().contains(u" (Build "_s) &&
-                DataHelper::bundleVersionString().endsWith(u')'));
+    EXPECT_EQ(DataHelper::bundleVersionString(), u"%1 (Build %2)"_s.arg(bundleShortVersion(), bundleVersion()));
+    EXPECT_NE(bundleShortVersion(), bundleVersion());
     EXPECT_EQ(makersite::page(u"/a/"_s).path(), u"/a/"_s);
     for (const auto& [version, words] :
          {std::pair{"12.7.6", u"open System Preferences"_s}, {"13.0", u"open System Settings"_s}}) {

@@ -170,6 +170,11 @@ TEST_F(Pause, FollowsSleepAndASetClock)
         pass();
         EXPECT_EQ(paused(), over);
     }
+    controller->pauseForClicked(3600);
+    wait(3595);
+    workspace.sleep();
+    wait(30); // the machine looks after its mail
+    EXPECT_FALSE(manager->startBackupTimer().isValid()) << "an end in sleep plans nothing";
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "EventLoop.h"
 #include "FileUserDefaults_linux.h"
 #include "PracticeTmutil.h"
+#include "QtRunLoop.h"
 #include "StoredAndSentNames.h"
 #include "VirtualRunLoop.h"
 
@@ -94,7 +95,13 @@ TEST_F(Application, AStartDoesWhatItIsForAndHasTheRunningOneDoIt)
 {
     const QString disk = practice.addDisk(u"Backup Disk"_s);
     settings(DefaultsAccess::ReadWrite).setObject(settingskeys::didShowAlertAtFirstLaunch, true);
+    const QString latestVersion = u"Cirrel_Config_LatestAppVersion"_s; // as the service has told it a moment ago
+    settings(DefaultsAccess::ReadWrite)
+        .setObject(latestVersion,
+                   QVariantMap{{u"type"_s, u"String"_s}, {u"value"_s, uR"({"os":"1.0","app":"99.0"})"_s}});
+    settings(DefaultsAccess::ReadWrite).setDate(latestVersion + "_lastDate"_L1, QtRunLoop().now());
     start(application, {u"--menu-bar=bar"_s, u"--print-changes"_s, u"--back-up-now"_s});
+    ASSERT_TRUE(hasPrinted("🟢")) << printed.toStdString();
     ASSERT_TRUE(hasPrinted("icon=3 ")) << printed.toStdString();
     EXPECT_FALSE(printed.contains("icon=5")) << "however quick a backup is";
     EXPECT_EQ(practice.run({u"latestbackup"_s}).status, 0);

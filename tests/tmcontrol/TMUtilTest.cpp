@@ -181,6 +181,7 @@ TEST_F(Tmutil, SettingsAreALinkFromVersion13OnAndAScriptBefore)
     EXPECT_FALSE(request.captureOutput);
     ASSERT_EQ(alerts.presented.size(), 1U);
     const auto& [alert, answer] = alerts.presented.front();
+    EXPECT_EQ(alert.style, AlertStyle::Critical);
     EXPECT_EQ(alert.messageText, u"Permission Required"_s);
     EXPECT_EQ(alert.informativeText, u"To open the Time Machine preferences, click “Provide Permission” and allow "
                                      "Quillon to control System Preferences. Then try again."_s);

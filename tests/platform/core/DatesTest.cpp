@@ -123,6 +123,7 @@ TEST(DateFormatterTest, TheLocaleIsThatOfTheEnvironmentByPrecedence)
         {"", "de_DE@euro", "fr_FR.UTF-8", u"Sonntag"_s, u"Samstag"_s},
         {"", "", "fr_FR.UTF-8", u"dimanche"_s, u"samedi"_s},
         {"", "", "uz_UZ@cyrillic", u"якшанба"_s, u"шанба"_s},
+        {"", "", "fi_FI.UTF-8", u"sunnuntaina"_s, u"lauantaina"_s}, // on that day: it stands for a date
         {"", "", "", u"Sunday"_s, u"Saturday"_s},
     };
     for (const auto& [all, time, language, sunday, saturday] : rows) {
