@@ -13,9 +13,6 @@ if(QUILLON_SANITIZE)
   target_compile_options(quillon_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(quillon_options INTERFACE -fsanitize=address,undefined)
-  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    target_compile_options(quillon_options INTERFACE -fsanitize=fuzzer-no-link) # the fuzzers follow coverage
-  endif()
 endif()
 
 # quillon_precompiled(TARGET): the headers that most sources read are compiled once, instead of once a source. There is one
