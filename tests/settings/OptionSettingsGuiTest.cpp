@@ -1,9 +1,21 @@
+#include "Alert.h"
 #include "LocalizedString.h"
 #include "SettingsFixture.h"
 
+#include <QSignalSpy>
+
 namespace quillon {
 
-class OptionSettings : public SettingsFixture {};
+class OptionSettings : public SettingsFixture {
+protected:
+    static QImage drawn(QWidget& widget)
+    {
+        QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        widget.render(&image, {}, {}, {});
+        return image;
+    }
+};
 
 TEST_F(OptionSettings, EverySwitchIsStoredAsAnIntegerAtOnceAndTheMenuBarIsToldOfItsOwn)
 {
@@ -77,6 +89,14 @@ TEST_F(OptionSettings, ColorsAreOffWhereTheSystemHasNone)
     EXPECT_EQ(stored(settingskeys::enableMenuBarColors), QVariant(1LL));
 }
 
+TEST_F(OptionSettings, TheBackupLogIsAskedForByItsButton)
+{
+    open();
+    const QSignalSpy asked(panel_, &SettingsViewController::backupLogButtonPressed);
+    click("backupLogButton");
+    EXPECT_EQ(asked.count(), 1);
+}
+
 TEST_F(OptionSettings, EveryAlertBlocksThePanelSaysItsWordsAndIsLeftByEscapeWithNothingDone)
 {
     machine_.destinations.clear();
@@ -87,13 +107,17 @@ TEST_F(OptionSettings, EveryAlertBlocksThePanelSaysItsWordsAndIsLeftByEscapeWith
         const char* opener;
         const char *title, *text;
         QString buttons;
+        AlertStyle style = AlertStyle::Informational;
     } alerts[] = {
         {"warningButton", "disksDisksTitle", "setupNoDiskMessage", settings + u"..., Close"_s},
-        {"addCalendarIntervalButton", "maximumRulesReachedTitle", "maximumRulesReachedMessage", u"OK"_s},
-        {"deleteButton", "confirmDeleteRuleTitle", "confirmDeleteRuleMessage", u"Cancel, Delete"_s},
+        {"addCalendarIntervalButton", "maximumRulesReachedTitle", "maximumRulesReachedMessage", u"OK"_s,
+         AlertStyle::Warning},
+        {"deleteButton", "confirmDeleteRuleTitle", "confirmDeleteRuleMessage", u"Cancel, Delete"_s,
+         AlertStyle::Critical},
         {"retryAtMissedScheduleHelpButton", "retryAfterMissedBackupTitle", "retryAfterMissedBackupMessage", u"Close"_s},
         {"retryAtFailureHelpButton", "retryAfterFailedBackupTitle", "retryAfterFailedBackupMessage", u"Close"_s},
-        {"enableAppAtSystemStartCheckmark", "AlertTitleWarning", "loginItemRefusedMessage", u"Close"_s},
+        {"enableAppAtSystemStartCheckmark", "AlertTitleWarning", "loginItemRefusedMessage", u"Close"_s,
+         AlertStyle::Warning},
     };
     for (const auto& alert : alerts) {
         SCOPED_TRACE(alert.opener);
@@ -109,6 +133,8 @@ TEST_F(OptionSettings, EveryAlertBlocksThePanelSaysItsWordsAndIsLeftByEscapeWith
             buttons.append(button->accessibleName());
         EXPECT_EQ(buttons.join(u", "_s), alert.buttons);
         EXPECT_EQ(shown.accessibleName(), localizedString(alert.title));
+        AlertIcon sign(alert.style, nullptr);
+        EXPECT_TRUE(drawn(*shown.findChild<AlertIcon*>()) == drawn(sign));
         EXPECT_EQ(shownAlertText(), localizedString(alert.text).replace(u"%1"_s, u"5"_s));
         EXPECT_TRUE(isBlocked() && panel_->shouldDisableUserControls() && !opener.isEnabled());
         QTest::keyClick(alertButton(first), Qt::Key_Escape);
