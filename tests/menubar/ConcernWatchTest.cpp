@@ -82,6 +82,7 @@ TEST_F(ConcernWatchOf, DaysWithoutABackupAreToldFromTheFirstLaunchOn)
     expectWords("|");
     wait(60);
     expectWords("noBackupForDays | noBackupForDays");
+    EXPECT_EQ(lastWord().title, u"No Recent Backup"_s);
     EXPECT_EQ(lastWord().text, u"No backup has been completed yet."_s);
     defaults.setDate(settingskeys::lastBackupDate, today(10));
     sleepUntil(today(11) + 72h);

@@ -206,6 +206,9 @@ TEST_F(MachineWatchOf, ARunKeepsTheNameOfItsDiskWhereAMountsListCannotBeRead)
         wait(5);
         EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: First)"_s);
     }
+    machine.stop();
+    wait(20);
+    EXPECT_EQ(row(menu().backupDiskMenuItem), u"(Backup Disk: N/A)"_s) << "no backup was completed yet";
 }
 
 TEST_F(MachineWatchOf, RetriesWaitForMinutesAfterAWakeUp)

@@ -151,6 +151,7 @@ TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestar
     wait(120);
     EXPECT_EQ(ask(u"skip"_s),
               "the backup of Sun 2026-11-22 12:00 +01:00 is skipped; next backup Mon 2026-11-23 12:00 +01:00");
+    after(0.1, "1, Next: 1d 22h, Back Up Now, next 23 12:00");
     ask(u"postpone 1h"_s);
     EXPECT_EQ(ask(u"skip"_s),
               "the backup of Mon 2026-11-23 13:00 +01:00 is skipped; next backup Tue 2026-11-24 12:00 +01:00");
@@ -206,6 +207,7 @@ TEST_F(Remote, TellsWhoWatchesOfEveryChangeUntilNobodyListens)
     EXPECT_EQ(answers.size(), 1);
     runElsewhere(30);
     EXPECT_EQ(facts[u"phase"_s], u"Copying"_s);
+    EXPECT_EQ(facts[u"state"_s], 1);
     EXPECT_EQ(answers.last(), u"2026-11-21T10:01:30+01:00  running, Copying, 38.4%, 37 s remaining"_s);
     listens = false;
     wait(15);
