@@ -48,6 +48,7 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
                            .outcome = LedgerEntry::Outcome::Refused,
                            .reason = LedgerEntry::Reason::ToolRefused,
                            .exitStatus = 4,
+                           .detail = u"the disk is full"_s,
                            .next = Date(std::chrono::seconds(1'790'000'060)),
                            .nextIsRetry = true},
                           {.date = Date(std::chrono::seconds(1'790'000'060)),
@@ -84,7 +85,7 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
          "2026-10-24T12:00:00+02:00\n2026-10-25T12:00:00+01:00\n"},
         {u"history"_s, missing, 0,
          "2026-09-21T16:14:20+02:00  completed  retry  First  5\n"
-         "2026-09-21T16:13:20+02:00  refused  schedule  toolRefused  4\n"},
+         "2026-09-21T16:13:20+02:00  refused  schedule  toolRefused  4  the disk is full\n"},
         {u"history --count 1"_s, missing, 0, "2026-09-21T16:14:20+02:00  completed  retry  First  5\n"},
         {u"history --json"_s, missing, 0,
          QJsonDocument(QJsonArray{QJsonObject{{u"date"_s, u"2026-09-21T16:14:20+02:00"_s},
@@ -100,7 +101,8 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
                                               {u"reason"_s, u"toolRefused"_s},
                                               {u"next"_s, u"2026-09-21T16:14:20+02:00"_s},
                                               {u"nextIsRetry"_s, true},
-                                              {u"exitStatus"_s, 4}}})
+                                              {u"exitStatus"_s, 4},
+                                              {u"detail"_s, u"the disk is full"_s}}})
              .toJson()},
         {u"status"_s, missing, 1, report::status(TMStatus::failure(), false), isMissing, u"status"_s},
         {u"status --json"_s, babble, 1, report::status(TMStatus::failure(), true), isBabble, u"status"_s},
