@@ -120,12 +120,12 @@ TEST_F(CirrelTest, WhatCannotBeAskedIsToldApartAndSendsNothing)
             services.reset();
         Cirrel::initWithAppId(absent == 0 ? QString() : id, absent == 1 ? QString() : key,
                               absent == 2 ? QString() : server);
-        const std::string error = " ! CirrelErrorDomain -900 Cirrel is not initialised. Call "
-                                  "'+initWithAppId:apiKey:andServer:' to resolve this issue.";
+        const QString error = u" ! CirrelErrorDomain -900 Cirrel is not initialised. Call "
+                              "'+initWithAppId:apiKey:andServer:' to resolve this issue."_s;
         get({});
         track({});
         call({});
-        EXPECT_EQ(reported(), "nothing" + error + "bool false" + error + "nothing" + error);
+        EXPECT_EQ(reported(), u"nothing%1bool false%1nothing%1"_s.arg(error).toStdString());
     }
     EXPECT_EQ(Cirrel::domain(), QString());
 }

@@ -100,12 +100,12 @@ TEST_F(MachineWatchOf, AHeldStartIsGivenUpWithWhatGaveIt)
             click();
             wait(120);
         },
-        [this] { manager->updateBackupScheduleAtIndex(0, 8 * 3600, u"time"_s); },
+        [this] { manager->updateBackupScheduleAtIndex(0, 8 * 3600LL, u"time"_s); },
         [this] { sleepUntil(runLoop.now() + 24h); },
     };
     launchOnBattery();
     for (int day = 21; const auto& reason : reasons) {
-        manager->updateBackupScheduleAtIndex(0, 12 * 3600, u"time"_s);
+        manager->updateBackupScheduleAtIndex(0, 12 * 3600LL, u"time"_s);
         sleepUntil(local(2026, 11, day++, 11, 59));
         unplug();
         wait(120);

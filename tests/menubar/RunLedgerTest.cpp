@@ -108,7 +108,7 @@ TEST_F(RunLedgerOf, ARunThatAnEarlierLaunchHasSeenIsFollowedOrGivenUp)
 
 TEST_F(RunLedgerOf, APauseAndASleepPassEveryStartInThem)
 {
-    setRules({{0, 11 * 3600}, {0, 12 * 3600}, {0, 13 * 3600}, {0, 15 * 3600}});
+    setRules({{0, 11 * 3600LL}, {0, 12 * 3600LL}, {0, 13 * 3600LL}, {0, 15 * 3600LL}});
     launch();
     defaults.stored[settingskeys::lastBackupDate] = QDateTime::fromMSecsSinceEpoch(1);
     controller->pauseForClicked(3600);

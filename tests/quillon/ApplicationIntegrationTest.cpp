@@ -137,7 +137,7 @@ TEST_F(Application, DoesByCommandWhatItsMenuDoesAndTellsWhatCameOfIt)
     expect({u"skip"_s}, 2, "quillonctl: Quillon is not running\n");
     expect({u"pause"_s}, 64, "quillonctl: pause takes ");
     settings(DefaultsAccess::ReadWrite).setObject(settingskeys::didShowAlertAtFirstLaunch, true);
-    const qlonglong far = (QTime::currentTime().hour() + 12) % 24 * 3600; // from now, whenever that is
+    const qlonglong far = (QTime::currentTime().hour() + 12) % 24 * 3600LL; // from now, whenever that is
     settings(DefaultsAccess::ReadWrite)
         .setObject(settingskeys::calendarIntervals, QVariantList{QVariantMap{{u"day"_s, 0LL}, {u"time"_s, far}}});
     start(application);

@@ -163,7 +163,7 @@ protected:
     Diagnosis examine(const QByteArray& script, const QString& tool = u"/home/me/bin/tmutil"_s)
     {
         ScriptedLauncher launcher(runLoop_, TmutilScript::fromJson(script));
-        const Diagnosis found = Doctor(runLoop_, launcher, defaults_, tool).examine();
+        Diagnosis found = Doctor(runLoop_, launcher, defaults_, tool).examine();
         EXPECT_EQ(launcher.liveChildren(), 0);
         return found;
     }

@@ -107,7 +107,7 @@ TEST_F(Model, ARetryReplacesTheRegularStartUnlessThatComesFirst)
     expect(today(11), today(11));
     manager->addNewSchedule();
     expect(today(11), today(11)); // a rule edit keeps a retry that comes first
-    manager->updateBackupScheduleAtIndex(0, 11 * 3600, u"time"_s);
+    manager->updateBackupScheduleAtIndex(0, 11 * 3600LL, u"time"_s);
     expect(today(11), today(11));
     manager->updateBackupScheduleAtIndex(0, 10 * 3600 + 1800, u"time"_s);
     expect(today(10, 30));
@@ -122,7 +122,7 @@ TEST_F(Model, ARetryReplacesTheRegularStartUnlessThatComesFirst)
 
 TEST_F(Model, AChangedStartIsThatOfItsRuleAndOfItsDayAlone)
 {
-    make().addNewSchedule({7, 14 * 3600});
+    make().addNewSchedule({7, 14 * 3600LL});
     EXPECT_TRUE(manager->changeNextStart({})); // of noon
     expect(today(14));
     EXPECT_TRUE(manager->changeNextStart(today(16)));
@@ -130,9 +130,9 @@ TEST_F(Model, AChangedStartIsThatOfItsRuleAndOfItsDayAlone)
     EXPECT_EQ(manager->startsBetween(today(11), today(24 + 14)), (QList{today(16), today(24 + 12)}));
     make();
     expect(today(16));
-    manager->updateBackupScheduleAtIndex(1, 13 * 3600, u"time"_s);
+    manager->updateBackupScheduleAtIndex(1, 13 * 3600LL, u"time"_s);
     expect(today(13)); // another start; the postponed one is none of the rules any more
-    manager->updateBackupScheduleAtIndex(1, 14 * 3600, u"time"_s);
+    manager->updateBackupScheduleAtIndex(1, 14 * 3600LL, u"time"_s);
     expect(today(16));
     const Date postponed = today(16);
     {
@@ -173,7 +173,7 @@ TEST_F(Model, SwitchingTheScheduleOffStopsTheTimerAndLeavesTheRetryDate)
     expect({}, today(11));
     runLoop.advance(24h);
     EXPECT_TRUE(started.isEmpty());
-    manager->updateBackupScheduleAtIndex(0, 13 * 3600, u"time"_s);
+    manager->updateBackupScheduleAtIndex(0, 13 * 3600LL, u"time"_s);
     expect(today(11), today(11)); // an edit arms the timer all the same
     manager->setRetryBackupDate({});
     expect({});

@@ -132,7 +132,7 @@ TEST(Snapshot, KeepsItsNameInAnotherZoneAndStillHasTheOneItHadThere)
 {
     const ScopedEnvironment zone("TZ", "EST5");
     Snapshot inParis = at(QDateTime(QDate(2026, 11, 21), QTime(7, 22, 58), Qt::OffsetFromUTC, 3600));
-    Snapshot inNewYork = at(inParis.time.toOffsetFromUtc(-5 * 3600).addSecs(6 * 3600));
+    Snapshot inNewYork = at(inParis.time.toOffsetFromUtc(-5 * 3600).addSecs(6 * 3600LL));
     for (Snapshot* const snapshot : {&inParis, &inNewYork})
         snapshot->mountPoint = u"/disk"_s;
     inParis.host = inNewYork.host = u"host"_s;

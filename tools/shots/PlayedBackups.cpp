@@ -83,8 +83,8 @@ QVariantList PlayedBackups::backups() const
 
 QByteArray PlayedBackups::answerTo(const QStringList& arguments) const
 {
-    const QString command = arguments.first();
-    const QString last = arguments.last();
+    const QString& command = arguments.first();
+    const QString& last = arguments.last();
     if (command == "destinationinfo"_L1) {
         QVariantList disks;
         for (const QString& name : {u"Studio Disk"_s, u"Travel"_s})

@@ -119,7 +119,7 @@ QByteArray trapIn(int descriptor)
         struct stat entry {};
         if (fstatat(descriptor, name, &entry, AT_SYMLINK_NOFOLLOW) != 0)
             continue;
-        if (const QByteArray trap = S_ISDIR(entry.st_mode) ? trapIn(descriptor, name) : name; !trap.isEmpty())
+        if (QByteArray trap = S_ISDIR(entry.st_mode) ? trapIn(descriptor, name) : name; !trap.isEmpty())
             return trap;
     }
     struct stat config {};

@@ -129,7 +129,7 @@ BackupResult Worker::backUp(const Destination& destination, const Configuration&
     const QString begun = statusDate(QDateTime::currentDateTimeUtc());
     Backup backup(destination, configuration, folders_, history, stop_,
                   [this](QLatin1StringView phase, const auto& progress) { show(phase, progress); });
-    const BackupResult result = backup.run();
+    BackupResult result = backup.run();
     RunLog log = backup.log();
     log.begun = begun;
     log.ended = statusDate(QDateTime::currentDateTimeUtc());

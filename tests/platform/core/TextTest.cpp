@@ -36,6 +36,7 @@ TEST(TextComparison, RunsOfDigitsCompareAsNumbersOfAnyLength)
              {u"1.07"_s, u"1.7"_s, std::strong_ordering::equal},
          }) {
         EXPECT_EQ(compareNumerically(a, b), order) << a.toStdString() << " " << b.toStdString();
+        // NOLINTNEXTLINE(modernize-use-nullptr): a number
         EXPECT_EQ(compareNumerically(b, a), 0 <=> order) << b.toStdString() << " " << a.toStdString();
     }
 }

@@ -164,8 +164,8 @@ QVariant XmlPropertyListReader::readDictionary()
         const QString key = xml_.readElementText();
         if (!xml_.readNextStartElement())
             return fail(u"the key \"%1\" has no value"_s.arg(key.left(40)));
-        if (QVariant value = readValue(); value.isValid())
-            entries.insert(key, std::move(value));
+        if (const QVariant value = readValue(); value.isValid())
+            entries.insert(key, value);
     }
     return entries;
 }
