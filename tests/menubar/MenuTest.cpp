@@ -16,6 +16,7 @@ protected:
 TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
 {
     defaults.stored[settingskeys::startWhenDiskAppears] = 0LL; // nobody else asks for the disks ahead of the menu
+    const ScopedEnvironment ventura("QUILLON_SYSTEM_VERSION", "13.0");
     launch();
     EXPECT_EQ(rows(&menu()),
               (QStringList{u"Latest Backup: N/A >"_s, u"(Backup Disk: N/A)"_s, u"-"_s, u"Pause Schedule For >"_s,
@@ -34,6 +35,12 @@ TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
     EXPECT_EQ(rows(menu().pauseScheduleMenuItem->menu()).join(u", "_s),
               u"1 Hour, 2 Hours, 4 Hours, 8 Hours, 12 Hours, 1 Day, 2 Days, 3 Days, 4 Days, 5 Days, 6 Days, 1 Week, "
               "2 Weeks, 3 Weeks, 4 Weeks"_s);
+    QStringList seconds;
+    for (const QAction* duration : menu().pauseDurationItems())
+        seconds.append(duration->data().toString());
+    EXPECT_EQ(seconds.join(u' '),
+              u"3600 7200 14400 28800 43200 86400 172800 259200 345600 432000 518400 604800 1209600 "
+              "1814400 2419200"_s);
     const ScopedEnvironment monterey("QUILLON_SYSTEM_VERSION", "12.6.1");
     launch();
     EXPECT_EQ(row(menu().enterTimeMachineMenuItem), u"Enter Time Machine"_s);

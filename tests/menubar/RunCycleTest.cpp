@@ -129,6 +129,9 @@ TEST_F(RunCycle, TheItemFollowsSettingsUpdatesAndTheSystemsVersion)
     EXPECT_EQ(item.attributed->text, u"Next:\n1h"_s);
     EXPECT_EQ(item.image->paletteColor, std::nullopt);
     defaults.stored.remove(settingskeys::enableMenuBarColors);
+    notifications.post(notifications::shouldUpdateStatusBar);
+    runLoop.settle();
+    EXPECT_TRUE(item.image->paletteColor) << "the mark of a failure is drawn anew";
     for (const auto& [version, size, isColoured] :
          {std::tuple{"12.0", 11.0, true}, {"11.7", 11.0, false}, {"10.15", 12.0, false}}) {
         const ScopedEnvironment system("QUILLON_SYSTEM_VERSION", version);
