@@ -61,7 +61,7 @@ void AlertPopover::runAsPopoverForView(const PopoverAnchor& view, RectEdge prefe
     targetView_ = view;
     if (view.view && view.view->isVisible())
         targetView_.screenRect = QRect(view.view->mapToGlobal(QPoint()), view.view->size());
-    if (view.view) { // one that has gone meanwhile leaves the panel that it lay in
+    if (view.view) { // once it has gone, the panel that it lay in stays held as it is
         auto* panel = qobject_cast<Popover*>(view.view->window());
         panelStaysOpen_ = panel ? panel->keepOpen() : nullptr;
     }
