@@ -92,7 +92,10 @@ class Quillon:
             "QUILLON_TMUTIL": str(tmutil), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
     def run(self):
+        """Waits until it answers: of two starts at once the second might be the one that stays."""
         self.process = start([self.programs / "bin" / "quillon"], **self.environment)
+        rules = [self.programs / "bin" / "quillonctl", "rules"]
+        eventually(lambda: start(rules, **self.environment).wait() == 0)
 
     def run_again(self, *options):
         """A second start; its exit status."""
