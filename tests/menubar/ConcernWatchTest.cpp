@@ -21,6 +21,14 @@ protected:
         EXPECT_EQ(words.join(u' ').toStdString(), expected) << "line " << line;
     }
     UserNotification lastWord() const { return userNotifications.posted.value(looked_ - 1); }
+    /// What it says, and what can be chosen.
+    std::string lastWords() const
+    {
+        QStringList words{lastWord().title + u'.', lastWord().text};
+        for (const auto& action : lastWord().actions)
+            words.append(u'[' + action.title + u']');
+        return words.join(u' ').toStdString();
+    }
 
 private:
     qsizetype looked_ = 0;
@@ -34,6 +42,7 @@ TEST_F(ConcernWatchOf, AFailureIsToldOnceItsRetryHasFailedTooUntilABackupSucceed
     expectWords("|");
     wait(60 * 60);
     expectWords("backupFailed | backupFailed");
+    EXPECT_EQ(lastWords(), "Backup Failed. The latest backup ended before it was complete. [Back Up Now]");
     launch();
     wait(60 * 60);
     expectWords("| backupFailed");
@@ -69,6 +78,12 @@ TEST_F(ConcernWatchOf, AFailureThatNoRetryFollowsIsToldAtOnceAlsoByTheNextLaunch
     defaults.stored.remove(settingskeys::toldConcerns);
     launch();
     expectWords("backupFailed | backupFailed");
+    launch();
+    wait(60);
+    machine.phases = SimulatedTimeMachine(runLoop).phases;
+    click();
+    wait(120);
+    expectWords("|");
 }
 
 TEST_F(ConcernWatchOf, DaysWithoutABackupAreToldFromTheFirstLaunchOn)
@@ -82,13 +97,12 @@ TEST_F(ConcernWatchOf, DaysWithoutABackupAreToldFromTheFirstLaunchOn)
     expectWords("|");
     wait(60);
     expectWords("noBackupForDays | noBackupForDays");
-    EXPECT_EQ(lastWord().title, u"No Recent Backup"_s);
-    EXPECT_EQ(lastWord().text, u"No backup has been completed yet."_s);
+    EXPECT_EQ(lastWords(), "No Recent Backup. No backup has been completed yet. [Back Up Now]");
     defaults.setDate(settingskeys::lastBackupDate, today(10));
     sleepUntil(today(11) + 72h);
     wait(30);
     expectWords("noBackupForDays | noBackupForDays");
-    EXPECT_EQ(lastWord().text, u"The latest backup was completed on 21 November 2026."_s);
+    EXPECT_EQ(lastWords(), "No Recent Backup. The latest backup was completed on 21 November 2026. [Back Up Now]");
     defaults.setDate(settingskeys::lastBackupDate, runLoop.now());
     wait(30);
     expectWords("|");
@@ -102,6 +116,8 @@ TEST_F(ConcernWatchOf, AStartWithoutARunARunWithoutProgressAndDamageAreTold)
     expectWords("|");
     wait(20);
     expectWords("startWithoutRun | startWithoutRun");
+    EXPECT_EQ(lastWords(), "Backup Did Not Start. Time Machine accepted the start of a backup, but none is running. "
+                           "[Open Time Machine Settings]");
     userNotifications.choose(u"openTimeMachineSettings"_s);
     EXPECT_EQ(workspace.opened.size(), 1);
 
@@ -114,12 +130,15 @@ TEST_F(ConcernWatchOf, AStartWithoutARunARunWithoutProgressAndDamageAreTold)
     expectWords("|");
     wait(105);
     expectWords("noProgress | noProgress");
+    EXPECT_EQ(lastWords(), "Backup Makes No Progress. The running backup has made no progress for half an hour.");
     machine.hasDamage = true;
     wait(60);
     expectWords("|");
     wait(60 * 60);
     expectWords("damageFound | damageFound");
     EXPECT_TRUE(lastWord().isUrgent);
+    EXPECT_EQ(lastWords(), "Backups Are Damaged. Time Machine found damage in your backups. Some files may not be "
+                           "restorable. [Open Time Machine Settings]");
     machine.phases = {{u"Finishing"_s, 60}};
     runElsewhere(30);
     expectWords("| damageFound");

@@ -223,6 +223,10 @@ TEST_F(MachineWatchOf, RetriesWaitForMinutesAfterAWakeUp)
     letRunsFail();
     until(today(13, 11));
     expect("startbackup -r; 5, Retry: 5m, Back Up Now, retry 21 13:16");
+    defaults.stored[settingskeys::minutesAfterWake] = 120LL;
+    launch(); // which has seen no wake-up
+    runElsewhere(60);
+    expect("5, Retry: 5m, Back Up Now, retry 21 13:17");
 }
 
 } // namespace quillon

@@ -164,6 +164,11 @@ TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestar
     EXPECT_EQ(machine.starts(), 1);
     wait(65);
     EXPECT_EQ(machine.starts(), 2);
+    wait(120);
+    for (int skipped = 0; skipped < nextbackup::mostChanges; ++skipped)
+        EXPECT_FALSE(ask(u"skip"_s).starts_with("!"));
+    EXPECT_EQ(ask(u"skip"_s), "! 20 starts are skipped or postponed already; pause the schedule instead");
+    EXPECT_EQ(ask(u"postpone 1h"_s), told());
 }
 
 TEST_F(Remote, MakesOrDropsAPendingRetryWhichIsNoStartToSkip)

@@ -30,6 +30,19 @@ TEST_F(RunCycle, AFailureEarnsARetryAlsoWithTheScheduleOffButNotWhereNobodyWants
     manager->setIsScheduleEnabled(false);
     runElsewhere(60);
     expect("5, Retry: Disabled, Back Up Now, retry 21 10:09");
+    EXPECT_EQ(row(menu().pauseScheduleMenuItem), u"(Pause Schedule For >)"_s);
+}
+
+TEST_F(RunCycle, QuestionsForTheStatusDoNotPileUp)
+{
+    machine.callDuration = 10;
+    spoilNext(Fault::None, 3, u"status"_s); // of which the queue tells twice
+    RunFollower follower(runLoop, tmutil);
+    follower.start();
+    for (int fired = 0; fired < 3; ++fired)
+        follower.fire();
+    wait(25);
+    EXPECT_EQ(machine.launched().size(), 2) << "one, and one more that was asked for later";
 }
 
 TEST_F(RunCycle, ARunStoppedElsewhereOrLostFromSightHasFailedUntilItIsFoundAgain)

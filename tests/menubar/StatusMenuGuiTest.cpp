@@ -1,9 +1,12 @@
+#include "AboutViewController.h"
 #include "Buttons.h"
 #include "ColorScheme_linux.h"
 #include "ControllerFixture.h"
 #include "EventLoop.h"
+#include "LogWindow.h"
 #include "Popover.h"
 #include "ShownAlerts.h"
+#include "SystemColor.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -27,9 +30,10 @@ protected:
         controller.reset();
     }
 
-    /// Launches the program, opens the menu and waits for what it asks for.
+    /// Launches the program, opens the menu and waits for what it asks for, as nobody else does.
     void launchAndOpen()
     {
+        defaults.stored[settingskeys::startWhenDiskAppears] = 0LL;
         launch();
         openMenu();
         wait(0.5);
@@ -59,6 +63,12 @@ protected:
     static QWidget* viewOf(const QMenu& history, int row)
     {
         return qobject_cast<QWidgetAction*>(history.actions().at(row))->defaultWidget();
+    }
+    static qsizetype shownLogs()
+    {
+        return std::ranges::count_if(QApplication::topLevelWidgets(), [](const QWidget* window) {
+            return qobject_cast<const LogWindow*>(window) && window->isVisible();
+        });
     }
     /// The popover that is up, or nothing.
     static Popover* popover()
@@ -136,14 +146,19 @@ TEST_F(StatusMenuGui, RowsOfTheHistoryShowNamesAsHeadingsAndTellAssistiveTechnol
     EXPECT_EQ(history.actions().first()->text(), u"Latest Backup of Each Disk"_s) << "as a tray draws it";
     auto* row = viewOf(history, 2);
     const QImage plain = row->grab().toImage();
+    const QImage other = viewOf(history, 3)->grab().toImage();
     QTest::keyClick(history.focusWidget(), Qt::Key_Down);
     EXPECT_NE(row->grab().toImage(), plain) << "it shows that it is chosen";
+    EXPECT_EQ(viewOf(history, 3)->grab().toImage(), other);
     EXPECT_EQ(history.focusWidget(), &history) << "the button is not pressed from another row";
     EXPECT_EQ(row->accessibleName(), u"<b>Bold</b> &  : N/A"_s);
     const auto* label = row->findChild<QLabel*>();
     QTextDocument shown;
     shown.setHtml(label->text());
     EXPECT_EQ(shown.toPlainText(), row->accessibleName());
+    const QPalette dark(Qt::black);
+    row->setPalette(dark);
+    EXPECT_TRUE(label->text().contains(systemBlueColor(dark).name()));
 }
 
 TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
@@ -221,6 +236,14 @@ TEST_F(StatusMenuGui, SettingsAndAboutHangBelowTheItemAndGoWithEscape)
         QTest::keyClick(popover(), Qt::Key_Escape);
         EXPECT_TRUE(runUntil([] { return !popover(); }));
     }
+    controller->preferencesClicked();
+    auto* button = popover()->findChild<QPushButton*>(u"backupLogButton"_s);
+    ASSERT_TRUE(button);
+    button->click();
+    EXPECT_TRUE(runUntil([] { return !popover(); })) << "they would lie on top of the log";
+    EXPECT_EQ(shownLogs(), 1);
+    controller->aboutClicked();
+    EXPECT_TRUE(popover()->findChild<AboutViewController*>());
 }
 
 } // namespace quillon
