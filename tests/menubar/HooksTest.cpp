@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <unistd.h>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -77,15 +79,22 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     wait(20);
     EXPECT_EQ(latest(), "user|skipped|hookFailed|“~/before” was ended after ten minutes.");
 
-    constexpr auto own = QFile::ReadOwner | QFile::ExeOwner;
-    const QFile::Permissions refused[] = {QFile::ReadOwner, own | QFile::WriteGroup, own | QFile::WriteOther};
-    for (const auto permissions : refused) {
-        install(u"before"_s, {}, permissions);
+    const auto expectRefused = [this] {
         click();
         wait(10);
         EXPECT_EQ(latest(), "user|skipped|hookFailed|“~/before” was not run. It has to be an executable file that only "
                             "you can change, in a folder that only you can change.");
+    };
+    constexpr auto own = QFile::ReadOwner | QFile::ExeOwner;
+    const QFile::Permissions refused[] = {QFile::ReadOwner, own | QFile::WriteGroup, own | QFile::WriteOther};
+    for (const auto permissions : refused) {
+        install(u"before"_s, {}, permissions);
+        expectRefused();
     }
+    install(u"before"_s, {});
+    constexpr uid_t somebodyElse = 1;
+    if (chown(QFile::encodeName(hooksFolder + "/before"_L1).constData(), somebodyElse, gid_t(-1)) == 0)
+        expectRefused(); // only root can give a file away
     EXPECT_EQ(machine.starts(), 0);
 
     install(u"before"_s, {{}, "Ready.\n", 0, 60});

@@ -4,6 +4,7 @@
 #include "Told.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 namespace quillon {
 
@@ -115,6 +116,7 @@ TEST_F(Remote, PausesAndResumesAsTheMenuDoes)
     EXPECT_EQ(ask(u"pause --until 12:30"_s),
               "the schedule is paused until Sat 2026-11-21 12:30 +01:00; next backup Sun 2026-11-22 12:00 +01:00");
     EXPECT_EQ(facts[u"pausedUntil"_s], u"2026-11-21T12:30:00+01:00"_s);
+    menu().pauseScheduleMenuItem->trigger(); // a tray that draws the menu may toggle its mark
     EXPECT_EQ(row(menu().pauseScheduleMenuItem), u"*Schedule Paused Until: Today, 12:30 >"_s);
     EXPECT_EQ(ask(u"resume"_s), "the schedule goes on; next backup Sat 2026-11-21 12:00 +01:00");
     EXPECT_EQ(ask(u"pause --until 2026-11-21"_s), "! that time has passed");
@@ -211,9 +213,12 @@ TEST_F(Remote, TellsWhoWatchesOfEveryChangeUntilNobodyListens)
     wait(60);
     EXPECT_EQ(answers.size(), 1);
     runElsewhere(30);
-    EXPECT_EQ(facts[u"phase"_s], u"Copying"_s);
-    EXPECT_EQ(facts[u"state"_s], 1);
-    EXPECT_EQ(answers.last(), u"2026-11-21T10:01:30+01:00  running, Copying, 38.4%, 37 s remaining"_s);
+    EXPECT_EQ(QJsonDocument(facts).toJson(QJsonDocument::Compact).toStdString(),
+              R"({"bytesCopied":1920833,"destinationID":"A","done":true,"failed":false,"isRetry":false,)"
+              R"("next":"2026-11-21T12:00:00+01:00","pausedUntil":null,"percent":0.38416698575019836,)"
+              R"("phase":"Copying","state":1,)"
+              R"("text":"2026-11-21T10:01:30+01:00  running, Copying, 38.4%, 37 s remaining",)"
+              R"("timeRemaining":36.95000076293945,"waitsForPower":false})");
     listens = false;
     wait(15);
     const auto lines = answers.size();

@@ -73,6 +73,7 @@ TEST_F(RunLedgerOf, RunsElsewhereAreSeenAndStartsWithoutARunAreNot)
     machine.phases = {{u"Finishing"_s, 0.05}}; // too short to be seen
     click();
     wait(1);
+    expectNew("10:00:41 user running retry 10:06:00");
     click();
     wait(2);
     expectNew("10:00:41 user unseen neverReported retry 10:06:00");

@@ -153,6 +153,7 @@ TEST_F(StatusMenuGui, RowsOfTheHistoryShowNamesAsHeadingsAndTellAssistiveTechnol
     EXPECT_EQ(history.focusWidget(), &history) << "the button is not pressed from another row";
     EXPECT_EQ(row->accessibleName(), u"<b>Bold</b> &  : N/A"_s);
     const auto* label = row->findChild<QLabel*>();
+    EXPECT_GT(row->sizeHint().height(), label->sizeHint().height());
     QTextDocument shown;
     shown.setHtml(label->text());
     EXPECT_EQ(shown.toPlainText(), row->accessibleName());

@@ -81,6 +81,7 @@ TEST(TimePickerTest, KeysChangeThePartOfTheTimeWhereTheCursorIs)
             picker.setSelectedSection(QDateTimeEdit::HourSection);
             press(picker, QString::fromLatin1(keys));
             EXPECT_EQ(shown(picker), QString::fromLatin1(outcome)) << format.toStdString() << ' ' << keys;
+            EXPECT_EQ(picker.time().second(), 0);
         }
     }
 }
