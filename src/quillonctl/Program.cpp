@@ -112,6 +112,8 @@ namespace {
 
 constexpr int exitFailed = 1;
 constexpr int exitNotRunning = 2;
+constexpr int exitUsage = 2;
+constexpr int exitUsageOfRequest = 64; // EX_USAGE of sysexits(3): of a request 2 says that no Quillon runs
 
 const QString help = u"Usage: quillonctl status [--json]\n"
                      "       quillonctl destinations [--json]\n"
@@ -147,6 +149,12 @@ const QString help = u"Usage: quillonctl status [--json]\n"
                      "settings      open the settings\n"
                      "status --watch  print a line now and at each change, until interrupted\n\n"
                      "Environment: QUILLON_TMUTIL names the tmutil tool to ask, TZ the time zone.\n"_s;
+
+/// One line on standard error.
+void complain(const QString& trouble)
+{
+    std::fputs(u"quillonctl: %1\n"_s.arg(trouble).toLocal8Bit().constData(), stderr);
+}
 
 /// False, with a line on standard error, when not all of it could be written.
 bool print(const QByteArray& text)
@@ -260,14 +268,7 @@ int askRunning(const Arguments& arguments)
     }
 }
 
-} // namespace
-
-void complain(const QString& trouble)
-{
-    std::fputs(u"quillonctl: %1\n"_s.arg(trouble).toLocal8Bit().constData(), stderr);
-}
-
-int runQuillonctl(const Arguments& arguments, const ProgramServices& services)
+int answer(const Arguments& arguments, const ProgramServices& services)
 {
     switch (arguments.command) {
     case Arguments::Command::Help:
@@ -288,6 +289,18 @@ int runQuillonctl(const Arguments& arguments, const ProgramServices& services)
         return askRunning(arguments);
     }
     return exitFailed;
+}
+
+} // namespace
+
+int runQuillonctl(const QStringList& words, const ProgramServices& services)
+{
+    QString error;
+    const auto arguments = Arguments::parse(words, &error);
+    if (arguments)
+        return answer(*arguments, services);
+    complain(error);
+    return ControlRequest::isMeant(words) ? exitUsageOfRequest : exitUsage;
 }
 
 } // namespace quillon

@@ -31,11 +31,9 @@ struct ProgramServices {
     TaskLauncher& launcher;
 };
 
-/// One line on standard error.
-void complain(const QString& trouble);
-
-/// Answers a command line on standard output, and returns the exit status: 1 where what was asked for cannot be told,
-/// is refused, or something is wrong, 2 where it takes a running Quillon and there is none; standard error says what.
-int runQuillonctl(const Arguments& arguments, const ProgramServices& services);
+/// Answers the words behind the program's name on standard output, and returns the exit status: 1 where what was asked
+/// for cannot be told, is refused, or something is wrong, 2 where it takes a running Quillon and there is none;
+/// standard error says what. Words that cannot be read end it with 2, and with 64 where they are for a running Quillon.
+int runQuillonctl(const QStringList& words, const ProgramServices& services);
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "DataHelper.h"
 
 #include "ApplicationIdentity.h"
+#include "HostSystem.h"
 #include "LocalDates.h"
 #include "ScopedEnvironment.h"
 
@@ -72,6 +73,17 @@ TEST_F(DataHelperTest, TextsOfTheYearOfVersionsAndOfTheMakersPages)
          {std::pair{"12.7.6", u"open System Preferences"_s}, {"13.0", u"open System Settings"_s}}) {
         const ScopedEnvironment named("QUILLON_SYSTEM_VERSION", version);
         EXPECT_TRUE(disableTimeMachineInstruction().contains(words)) << version;
+    }
+}
+
+TEST(HostSystemTest, KeepsTheLedgerInTheFolderOfStatesIfThatIsAbsolute)
+{
+    const ScopedEnvironment home("HOME", "/home/anna");
+    for (const auto& [folder, file] : {std::pair{"/var/../state/", "/state/quillon/ledger.sqlite"},
+                                       {"state", "/home/anna/.local/state/quillon/ledger.sqlite"},
+                                       {"", "/home/anna/.local/state/quillon/ledger.sqlite"}}) {
+        const ScopedEnvironment state("XDG_STATE_HOME", folder);
+        EXPECT_EQ(ledgerFile(), QLatin1StringView(file));
     }
 }
 

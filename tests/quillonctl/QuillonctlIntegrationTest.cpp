@@ -29,9 +29,6 @@ TEST(Quillonctl, SaysHowItEnded)
     ask(process, u"--version"_s);
     EXPECT_EQ(process.exitCode(), 1);
     EXPECT_EQ(process.readAllStandardError(), "quillonctl: the answer could not be written\n");
-    ask(process, u"state"_s);
-    EXPECT_EQ(process.exitCode(), 2);
-    EXPECT_TRUE(process.readAllStandardError().startsWith("quillonctl: unknown command"));
 }
 
 TEST(Quillonctl, FindsTheTrayThatIsThere)

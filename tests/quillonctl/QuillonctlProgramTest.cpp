@@ -1,9 +1,11 @@
 #include "ApplicationIdentity.h"
 #include "HostSystem.h"
+#include "InstanceCall.h"
 #include "Program.h"
 #include "QtRunLoop.h"
 #include "Report.h"
 #include "ScopedEnvironment.h"
+#include "SingleInstance.h"
 #include "SqliteLedger.h"
 #include "Task.h"
 
@@ -11,7 +13,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSemaphore>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -81,6 +85,9 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
         std::string errors = {};
         QString asked = {};
     } rows[] = {
+        {u"state"_s, missing, 2, "", "quillonctl: unknown command \"state\"; --help lists them\n"},
+        {u"postpone"_s, missing, 64, "",
+         "quillonctl: postpone takes a duration from 1m to 4w, such as 90m, 2h or 1d\n"},
         {u"--help"_s, missing, 0, help.readAll()},
         {u"--version"_s, missing, 0, "quillonctl " + version + "\n"},
         {u"next --count 2 --from 2026-10-24T12:00"_s, missing, 0,
@@ -119,19 +126,86 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
     };
     for (const auto& [words, tool, status, output, errors, asked] : rows) {
         SCOPED_TRACE(words.toStdString() + ' ' + output.toStdString());
-        QString error;
         QtRunLoop runLoop;
         PlayedTask played;
         played.answer = tool;
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        EXPECT_EQ(runQuillonctl(*Arguments::parse(words.split(u' '), &error), {runLoop, played}), status);
+        EXPECT_EQ(runQuillonctl(words.split(u' '), {runLoop, played}), status);
         const std::string printed = testing::internal::GetCapturedStdout();
         EXPECT_TRUE(words.startsWith(u"doctor"_s) ? printed.starts_with(output.toStdString())
                                                   : printed == output.toStdString())
             << printed;
         EXPECT_EQ(testing::internal::GetCapturedStderr(), errors);
         EXPECT_EQ(played.asked, asked);
+    }
+}
+
+/// A running Quillon that answers every question with these lines and hangs up.
+class AnsweringInstance final : public QThread {
+public:
+    explicit AnsweringInstance(QByteArrayList lines)
+        : lines_(std::move(lines))
+    {
+        start();
+        isReady_.acquire();
+    }
+    ~AnsweringInstance() override
+    {
+        quit();
+        wait();
+    }
+
+private:
+    void run() override
+    {
+        SingleInstance instance(identity::instanceLock());
+        EXPECT_TRUE(instance.acquire());
+        connect(&instance, &SingleInstance::asked, &instance, [this](const auto&, const auto& caller) {
+            for (const QByteArray& line : lines_)
+                EXPECT_TRUE(caller->tell(line));
+        });
+        isReady_.release();
+        exec();
+    }
+
+    const QByteArrayList lines_;
+    QSemaphore isReady_;
+};
+
+TEST(QuillonctlProgram, PassesOnWhatTheRunningQuillonAnswers)
+{
+    const QTemporaryDir settings;
+    const ScopedEnvironment home("XDG_CONFIG_HOME", settings.path().toUtf8());
+    const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    const QByteArray done = R"({"done":true,"text":"fine"})";
+    const QByteArray refused = R"({"done":false,"text":"no"})";
+    const struct {
+        QString words;
+        QByteArrayList answers;
+        int status;
+        std::string output;
+        std::string errors = {};
+    } rows[] = {
+        {u"skip"_s, {done, done}, 0, "fine\n"},
+        {u"skip"_s, {refused}, 1, "", "quillonctl: no\n"},
+        {u"skip --json"_s, {done}, 0, done.toStdString() + '\n'},
+        {u"skip --json"_s, {refused}, 1, refused.toStdString() + '\n', "quillonctl: no\n"},
+        {u"skip"_s, {}, 1, "", "quillonctl: the running Quillon gave no answer\n"},
+        {u"skip"_s, {"Hello"}, 1, "", "quillonctl: the running Quillon gave no answer\n"},
+        {u"status --watch"_s, {done, done}, 2, "fine\nfine\n", "quillonctl: Quillon has ended\n"},
+        {u"status --watch"_s, {done, refused, done}, 1, "fine\n", "quillonctl: no\n"},
+    };
+    for (const auto& [words, answers, status, output, errors] : rows) {
+        SCOPED_TRACE(words.toStdString() + ' ' + answers.join().toStdString());
+        const AnsweringInstance instance(answers);
+        QtRunLoop runLoop;
+        PlayedTask unused;
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(runQuillonctl(words.split(u' '), {runLoop, unused}), status);
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), output);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), errors);
     }
 }
 

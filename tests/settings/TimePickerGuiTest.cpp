@@ -86,6 +86,25 @@ TEST(TimePickerTest, KeysChangeThePartOfTheTimeWhereTheCursorIs)
     }
 }
 
+TEST(TimePickerTest, ADigitThatComesBackToTheFieldBeginsAnew)
+{
+    QWidget window;
+    QVBoxLayout layout(&window);
+    TimePicker picker;
+    picker.setDisplayFormat(u"HH:mm"_s);
+    picker.setTime({12, 45});
+    layout.addWidget(&picker);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    for (const QTime time : {QTime(1, 45), QTime(2, 45)}) {
+        picker.setFocus();
+        picker.setSelectedSection(QDateTimeEdit::HourSection);
+        QTest::keyClick(&picker, static_cast<char>('0' + time.hour()));
+        EXPECT_EQ(picker.time(), time);
+        picker.clearFocus();
+    }
+}
+
 TEST(TimePickerFormat, KeepsOrderAndSeparatorsOfThePattern)
 {
     const std::pair<QString, QString> table[] = {
