@@ -73,7 +73,7 @@ PackState stateOf(int folder, const QByteArray& name, const QByteArray& identifi
 bool isDamagedPack(const Restic& restic, const QString& pack)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    const auto outcome = restic.readInPieces().run({u"cat"_s, u"pack"_s, pack, u"--no-lock"_s},
+    const auto outcome = restic.readInPieces().run({u"cat"_s, u"pack"_s, pack, u"--no-lock"_s, u"--no-cache"_s},
                                                    [&hash](const QByteArray& piece) { hash.addData(piece); });
     return outcome.exitStatus == 0 && hash.result().toHex() != pack.toLatin1();
 }
