@@ -55,7 +55,9 @@ protected:
     {
         delegate = std::make_unique<AppDelegate>(
             AppDelegate::Services{runLoop, defaults, notifications, workspace, alerts, tmutil, u"2.9"_s});
+        EXPECT_FALSE(delegate->isRunning());
         delegate->applicationDidFinishLaunching();
+        EXPECT_TRUE(delegate->isRunning());
         runLoop.advance(1s);
     }
 

@@ -36,7 +36,7 @@ protected:
             .replace(folder_.path(), u"~"_s)
             .toStdString();
     }
-    /// What the last program was told: event, disk, its name, bytes, reason.
+    /// What the last program was told: event, disk, its name, bytes, duration, reason.
     std::string told() const
     {
         QStringList values;
@@ -45,7 +45,7 @@ protected:
                 continue;
             values.clear();
             EXPECT_TRUE(request.captureErrors) << "the ledger would lack its words";
-            for (const auto& name : {u"EVENT"_s, u"DISK"_s, u"DISK_NAME"_s, u"BYTES"_s, u"REASON"_s})
+            for (const auto& name : {u"EVENT"_s, u"DISK"_s, u"DISK_NAME"_s, u"BYTES"_s, u"DURATION"_s, u"REASON"_s})
                 values += request.environment.filter(u"QUILLON_%1="_s.arg(name)).value(0).section(u'=', 1);
         }
         return values.join(u'|').toStdString();
@@ -61,7 +61,7 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     controller->backupNowSubMenuItemClicked(u"B"_s);
     wait(10);
     EXPECT_EQ(latest(), "user|skipped|hookFailed|No network.");
-    EXPECT_EQ(told(), "before|B|||");
+    EXPECT_EQ(told(), "before|B||||");
     EXPECT_EQ(takeAlert().first.informativeText,
               u"The program “before” kept the backup from starting.\n\nNo network."_s);
     QString words;
@@ -152,17 +152,17 @@ TEST_F(HooksOf, EachIsToldWhatHasBecomeOfAStartAndWhatItSaysIsKept)
     defaults.stored[settingskeys::enableRetryAtFailure] = 0LL;
     click();
     wait(120);
-    EXPECT_EQ(told(), "completed|A|First|4758333|");
+    EXPECT_EQ(told(), "completed|A|First|4758333|84|");
     EXPECT_EQ(latest(), "user|completed||Told.");
     machine.phases = {{u"Copying"_s, 60, true}};
     machine.totalBytes = 0;
     click();
     wait(90);
-    EXPECT_EQ(told(), "failed|B|Second||incomplete");
+    EXPECT_EQ(told(), "failed|B|Second||60|incomplete");
     EXPECT_EQ(latest(), "user|failed|incomplete|The disk is full.\nTold.");
     until(today(11, 59, 30));
     runElsewhere(40);
-    EXPECT_EQ(told(), "skipped||||backupRan");
+    EXPECT_EQ(told(), "skipped|||||backupRan");
 }
 
 TEST(HooksFolder, IsTheOneThatTheManualNames)

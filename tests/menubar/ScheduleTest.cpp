@@ -133,7 +133,13 @@ TEST_F(Pause, HoldsAcrossARestartAndEndsWhileNobodyLooks)
     controller.reset();
     runLoop.advance(9 * 24h);
     launch();
-    EXPECT_EQ(paused(), "Pause Schedule For >, , , never, 0, next 20 12:00");
+    const std::string none = "Pause Schedule For >, , , never, 0, next 20 12:00";
+    EXPECT_EQ(paused(), none);
+    controller->pauseForClicked(3600);
+    runLoop.settle();
+    launch();
+    wait(3612);
+    EXPECT_EQ(paused(), none);
     EXPECT_EQ(machine.starts(), 0);
 }
 
