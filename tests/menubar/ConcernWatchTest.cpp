@@ -21,10 +21,10 @@ protected:
         EXPECT_EQ(words.join(u' ').toStdString(), expected) << "line " << line;
     }
     UserNotification lastWord() const { return userNotifications.posted.value(looked_ - 1); }
-    /// What it says, and what can be chosen.
+    /// What it says, with a mark ahead of what is urgent, and what can be chosen.
     std::string lastWords() const
     {
-        QStringList words{lastWord().title + u'.', lastWord().text};
+        QStringList words{(lastWord().isUrgent ? u"! "_s : u""_s) + lastWord().title + u'.', lastWord().text};
         for (const auto& action : lastWord().actions)
             words.append(u'[' + action.title + u']');
         return words.join(u' ').toStdString();
@@ -97,12 +97,12 @@ TEST_F(ConcernWatchOf, DaysWithoutABackupAreToldFromTheFirstLaunchOn)
     expectWords("|");
     wait(60);
     expectWords("noBackupForDays | noBackupForDays");
-    EXPECT_EQ(lastWords(), "No Recent Backup. No backup has been completed yet. [Back Up Now]");
+    EXPECT_EQ(lastWords(), "! No Recent Backup. No backup has been completed yet. [Back Up Now]");
     defaults.setDate(settingskeys::lastBackupDate, today(10));
     sleepUntil(today(11) + 72h);
     wait(30);
     expectWords("noBackupForDays | noBackupForDays");
-    EXPECT_EQ(lastWords(), "No Recent Backup. The latest backup was completed on 21 November 2026. [Back Up Now]");
+    EXPECT_EQ(lastWords(), "! No Recent Backup. The latest backup was completed on 21 November 2026. [Back Up Now]");
     defaults.setDate(settingskeys::lastBackupDate, runLoop.now());
     wait(30);
     expectWords("|");
@@ -136,8 +136,7 @@ TEST_F(ConcernWatchOf, AStartWithoutARunARunWithoutProgressAndDamageAreTold)
     expectWords("|");
     wait(60 * 60);
     expectWords("damageFound | damageFound");
-    EXPECT_TRUE(lastWord().isUrgent);
-    EXPECT_EQ(lastWords(), "Backups Are Damaged. Time Machine found damage in your backups. Some files may not be "
+    EXPECT_EQ(lastWords(), "! Backups Are Damaged. Time Machine found damage in your backups. Some files may not be "
                            "restorable. [Open Time Machine Settings]");
     machine.phases = {{u"Finishing"_s, 60}};
     runElsewhere(30);

@@ -136,6 +136,21 @@ TEST(Told, APauseThatIsOverIsNoneAlsoWhileTheScheduleIsYetToGoOn)
     }
 }
 
+TEST(Told, WhatComesNextOrWhyNothingDoes)
+{
+    const PlayedPlace berlin;
+    shown::Snapshot snapshot{.now = Date(0s)};
+    snapshot.isScheduleEnabled = false;
+    EXPECT_EQ(told::nextStart(snapshot), u"the schedule is off"_s);
+    snapshot.isScheduleEnabled = true;
+    EXPECT_EQ(told::nextStart(snapshot), u"no backup is planned"_s);
+    snapshot.nextScheduledBackupDate = Date(60s);
+    EXPECT_EQ(told::nextStart(snapshot), u"next backup Thu 1970-01-01 01:01 +01:00"_s);
+    snapshot.retryBackupDate = snapshot.nextScheduledBackupDate;
+    snapshot.waitsForPower = true;
+    EXPECT_EQ(told::nextStart(snapshot), u"a backup waits for mains power, retry Thu 1970-01-01 01:01 +01:00"_s);
+}
+
 TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestart)
 {
     launchWithRemote();

@@ -162,6 +162,10 @@ TEST_F(OptionSettings, TheAdviceSaysWhereBackupsGoAndLeadsToTimeMachinesSettings
     runLoop_.advance(Seconds(1));
     EXPECT_EQ(shownAlertText(), localizedString("retryAfterFailedBackupMessage")) << "the user has turned to it";
     answerAlert(u"Close"_s);
+    click("warningButton");
+    runLoop_.advance(Seconds(1));
+    EXPECT_TRUE(shownAlertText().contains(u"First Disk"_s)) << "it is asked for anew";
+    answerAlert(u"Close"_s);
 }
 
 TEST_F(OptionSettings, AnAlertThatOutlivesThePanelIsAnsweredWithoutIt)
