@@ -117,6 +117,8 @@ TEST_F(Pause, LastsUntilTheGraceAfterItsEndAndIsReplacedByAnother)
               "*Schedule Paused Until: Monday, 23 November 2026, 14:30 >, Resume Schedule-, 2 Days, 23 14:30, "
               "172800, next 24 12:00")
         << "the timer of the first one is gone";
+    until(local(2026, 11, 22, 15));
+    EXPECT_EQ(row(menu().pauseScheduleMenuItem), u"*Schedule Paused Until: Tomorrow, 14:30 >"_s);
     EXPECT_EQ(machine.starts(), 0);
 }
 
