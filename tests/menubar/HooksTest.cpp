@@ -62,8 +62,9 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     wait(10);
     EXPECT_EQ(latest(), "user|skipped|hookFailed|No network.");
     EXPECT_EQ(told(), "before|B||||");
-    EXPECT_EQ(takeAlert().first.informativeText,
-              u"The program “before” kept the backup from starting.\n\nNo network."_s);
+    const AlertRequest alert = takeAlert().first;
+    EXPECT_EQ(alert.messageText, u"Warning"_s);
+    EXPECT_EQ(alert.informativeText, u"The program “before” kept the backup from starting.\n\nNo network."_s);
     QString words;
     controller->backupNowRequested([&words](const CommandResult& result) { words = result.hookWords; });
     wait(10);

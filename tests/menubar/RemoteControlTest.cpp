@@ -140,6 +140,7 @@ TEST(Told, WhatComesNextOrWhyNothingDoes)
 {
     const PlayedPlace berlin;
     shown::Snapshot snapshot{.now = Date(0s)};
+    EXPECT_EQ(told::statusLine(snapshot), u"1970-01-01T01:00:00+01:00  what Time Machine does cannot be told"_s);
     snapshot.isScheduleEnabled = false;
     EXPECT_EQ(told::nextStart(snapshot), u"the schedule is off"_s);
     snapshot.isScheduleEnabled = true;

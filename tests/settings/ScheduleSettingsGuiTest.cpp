@@ -163,6 +163,10 @@ TEST_F(ScheduleSettings, SwitchingTheScheduleOffShowsInThePanelAndInTheMenuBar)
     EXPECT_EQ(stored(settingskeys::enableSchedule), QVariant(1LL));
     EXPECT_EQ(nextBackup(), u"Monday, November 23, 2026, 12:00\u202fPM"_s);
     EXPECT_TRUE(warning.isVisible());
+    close();
+    manager_->setIsScheduleEnabled(false);
+    show();
+    EXPECT_FALSE(control("enableScheduleCheckmark").isChecked()) << "it was switched elsewhere";
 }
 
 TEST_F(ScheduleSettings, TheWheelChangesNothingThatItPassesOver)
