@@ -36,8 +36,7 @@ CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
     titleDayMenu();
     applyTitles();
     auto& picker = *ui_->calendarIntervalDatePicker;
-    ui_->calendarIntervalDayPopupButton->setAccessibleName(ui_->backupTitle->text());
-    ui_->backupTitle->setBuddy(ui_->calendarIntervalDayPopupButton);
+    ui_->backupTitle->setBuddy(ui_->calendarIntervalDayPopupButton); // and so its name
     picker.setAccessibleName(ui_->atTimeTitle->text());
     ui_->deleteButton->setAccessibleName(localizedString("deleteRuleTitle"));
     ui_->deleteButton->setToolTip(localizedString("deleteRuleTitle"));

@@ -61,6 +61,12 @@ TEST_F(MoreSettings, EverySettingIsShownAsItCountsAndStoredAsAnIntegerOnceTheUse
         for (const auto& [key, value] : before.asKeyValueRange())
             EXPECT_TRUE(key == row.key || stored(key) == value) << key.toStdString() << " is nobody's to touch";
     }
+    int above = 0;
+    for (const QString& key : {onlyOnMainsPower, chargeThatSuffices, stayAwake, startWhenDiskAppears, minutesAfterWake,
+                               daysWithoutBackup, tellBeforeStart}) {
+        EXPECT_GT(box(key).y(), above) << key.toStdString();
+        above = box(key).geometry().bottom();
+    }
 }
 
 TEST_F(MoreSettings, ANumberCountsOnceItIsWholeAndIsOfferedWhereItSaysSomething)

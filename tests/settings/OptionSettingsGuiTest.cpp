@@ -166,6 +166,9 @@ TEST_F(OptionSettings, TheAdviceSaysWhereBackupsGoAndLeadsToTimeMachinesSettings
     runLoop_.advance(Seconds(1));
     EXPECT_TRUE(shownAlertText().contains(u"First Disk"_s)) << "it is asked for anew";
     answerAlert(u"Close"_s);
+    QApplication::focusWidget()->clearFocus();
+    control<QAbstractButton>("retryAtFailureHelpButton").click();
+    answerAlert(u"Close"_s); // nothing gets the keyboard back
 }
 
 TEST_F(OptionSettings, AnAlertThatOutlivesThePanelIsAnsweredWithoutIt)
