@@ -36,7 +36,7 @@ CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
     titleDayMenu();
     applyTitles();
     auto& picker = *ui_->calendarIntervalDatePicker;
-    ui_->backupTitle->setBuddy(ui_->calendarIntervalDayPopupButton); // and so its name
+    ui_->backupTitle->setBuddy(ui_->calendarIntervalDayPopupButton); // whose text screen readers read out with it
     picker.setAccessibleName(ui_->atTimeTitle->text());
     ui_->deleteButton->setAccessibleName(localizedString("deleteRuleTitle"));
     ui_->deleteButton->setToolTip(localizedString("deleteRuleTitle"));

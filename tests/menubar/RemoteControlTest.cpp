@@ -185,8 +185,8 @@ TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestar
     wait(120);
     for (int skipped = 0; skipped < nextbackup::mostChanges; ++skipped)
         EXPECT_FALSE(ask(u"skip"_s).starts_with("!"));
-    EXPECT_EQ(ask(u"skip"_s), "! 20 starts are skipped or postponed already; pause the schedule instead");
-    EXPECT_EQ(ask(u"postpone 1h"_s), told());
+    for (const QString& request : {u"skip"_s, u"postpone 1h"_s})
+        EXPECT_EQ(ask(request), "! 20 starts are skipped or postponed already; pause the schedule instead");
 }
 
 TEST_F(Remote, MakesOrDropsAPendingRetryWhichIsNoStartToSkip)
