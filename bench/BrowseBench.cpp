@@ -1,7 +1,7 @@
 #include "BrowseWindow.h"
 #include "FakeServices.h"
-#include "QtRunLoop.h"
-#include "TMUtilQueue.h"
+#include "RunLoop.h"
+#include "TMUtil.h"
 #include "Task.h"
 
 #include <QCoreApplication>

@@ -1,13 +1,12 @@
 #include "AboutViewController.h"
 
 #include "Accessibility.h"
-#include "AlertPresenter.h"
 #include "ApplicationIdentity.h"
 #include "DataHelper.h"
 #include "LocalizedString.h"
+#include "PopoverPlacement.h"
 #include "RunLoop.h"
-#include "ScreenFittingArea.h"
-#include "Workspace.h"
+#include "Services.h"
 #include "ui_AboutView.h"
 
 #include <QEvent>

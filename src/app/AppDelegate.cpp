@@ -5,8 +5,8 @@
 #include "DataHelper.h"
 #include "LocalizedString.h"
 #include "SetupAdvice.h"
-#include "ShownText.h"
 #include "StoredAndSentNames.h"
+#include "Text.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "AlertPresenter.h"
 #include "NotificationCenter.h"
 #include "RunLoop.h"
+#include "Services.h"
 #include "TMUtil.h"
 #include "UserDefaults.h"
-#include "Workspace.h"
 
 #include <QObject>
 #include <QString>

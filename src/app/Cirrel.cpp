@@ -1,7 +1,7 @@
 #include "Cirrel.h"
 
 #include "PropertyList.h"
-#include "TextEncoding.h"
+#include "Text.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FormPoster.h"
+#include "HttpClient.h"
 #include "RunLoop.h"
 #include "UserDefaults.h"
 

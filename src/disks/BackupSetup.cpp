@@ -3,7 +3,7 @@
 #include "DateFormatter.h"
 #include "LocalizedString.h"
 #include "PropertyList.h"
-#include "ShownText.h"
+#include "Text.h"
 
 #include <QDateTime>
 #include <QFileInfo>

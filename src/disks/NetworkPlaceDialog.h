@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BackupSetup.h"
-#include "PlaceTrial.h"
+#include "NetworkPlace.h"
 
 #include <QDialog>
 

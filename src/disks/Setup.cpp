@@ -1,8 +1,8 @@
 #include "Setup.h"
 
-#include "AlertPresenter.h"
 #include "LocalizedString.h"
-#include "ShownText.h"
+#include "Services.h"
+#include "Text.h"
 
 #include <QMap>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TMUtilQueue.h"
+#include "TMUtil.h"
 
 #include <QByteArray>
 #include <QObject>

@@ -1,7 +1,7 @@
 // Started by the system at log-in: starts Quillon, unless it runs already, and ends.
 
 #include "ApplicationIdentity.h"
-#include "QuillonStart.h"
+#include "HostSystem.h"
 #include "SingleInstance.h"
 
 #include <QCoreApplication>

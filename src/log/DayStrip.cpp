@@ -1,7 +1,6 @@
 #include "DayStrip.h"
 
 #include "Accessibility.h"
-#include "SystemColor.h"
 
 #include <QApplication>
 #include <QHelpEvent>

@@ -4,8 +4,8 @@
 #include "DataHelper.h"
 #include "HostSystem.h"
 #include "LocalizedString.h"
-#include "ShownText.h"
-#include "Words.h"
+#include "Shown.h"
+#include "Text.h"
 
 #include <algorithm>
 #include <array>

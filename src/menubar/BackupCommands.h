@@ -1,10 +1,10 @@
 #pragma once
 
-#include "AlertPresenter.h"
 #include "DataManager.h"
-#include "Hooks.h"
 #include "Ledger.h"
 #include "RunFollower.h"
+#include "RunLedger.h"
+#include "Services.h"
 #include "UserDefaults.h"
 
 #include <QObject>

@@ -6,8 +6,8 @@
 #include "Ledger.h"
 #include "RunFollower.h"
 #include "RunLoop.h"
+#include "Services.h"
 #include "UserDefaults.h"
-#include "UserNotifications.h"
 
 #include <QObject>
 

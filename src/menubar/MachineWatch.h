@@ -1,16 +1,14 @@
 #pragma once
 
-#include "AwakeLock.h"
 #include "BackupCommands.h"
 #include "DataManager.h"
 #include "DisksInMenu.h"
 #include "Ledger.h"
-#include "MachineRules.h"
-#include "MountWatch.h"
-#include "PowerSupply.h"
 #include "RunFollower.h"
 #include "RunLoop.h"
 #include "ScheduleWatch.h"
+#include "Services.h"
+#include "StartDecision.h"
 #include "UserDefaults.h"
 
 #include <QMap>

@@ -2,9 +2,9 @@
 
 #include "DataManager.h"
 #include "RunLoop.h"
+#include "Services.h"
 #include "StatusMenuController.h"
 #include "UserDefaults.h"
-#include "UserNotifications.h"
 
 #include <QObject>
 

@@ -1,17 +1,47 @@
 #pragma once
 
+#include "AlertPopover.h"
+#include "LogWindow.h"
+#include "Popover.h"
 #include "RunLoop.h"
+#include "SettingsViewController.h"
 #include "Shown.h"
 #include "StatusItem.h"
+#include "StatusMenu.h"
 #include "StoredAndSentNames.h"
 #include "UserDefaults.h"
 
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace quillon {
+
+/// The panels that open at the status item, and the window that opens from them.
+class Panels {
+public:
+    Panels(const SettingsViewController::Services& services, Ledger& ledger, StatusItem& item, StatusMenu& menu);
+
+    void showSettings();
+    void showAbout();
+    void showLog();
+    /// Explains the history of backups.
+    void showHistoryHelp();
+
+private:
+    void show(Popover& popover);
+
+    SettingsViewController::Services services_;
+    Ledger& ledger_;
+    StatusItem& item_;
+    StatusMenu& menu_;
+    Popover aboutPopover_;
+    Popover preferencesPopover_;
+    std::weak_ptr<AlertPopover> historyHelp_;
+    std::unique_ptr<LogWindow> log_;
+};
 
 /// The image for a state: coloured where the user wants that and the system can, with how far a run has come, a
 /// fraction, in the one of a run. None has no image.

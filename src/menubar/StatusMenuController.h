@@ -3,17 +3,14 @@
 #include "BackupCommands.h"
 #include "ConcernWatch.h"
 #include "DisksInMenu.h"
-#include "Hooks.h"
 #include "MachineWatch.h"
 #include "NotificationCenter.h"
-#include "Panels.h"
 #include "RunFollower.h"
 #include "RunLedger.h"
-#include "SchedulePause.h"
 #include "ScheduleWatch.h"
+#include "Services.h"
+#include "Shown.h"
 #include "StatusItemFace.h"
-#include "Words.h"
-#include "Workspace.h"
 
 #include <QList>
 #include <QObject>

@@ -1,6 +1,6 @@
 #include "Options.h"
 
-#include "ModalAlertPresenter.h"
+#include "Alert.h"
 #include "StatusMenuController.h"
 
 #include <array>

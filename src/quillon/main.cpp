@@ -1,36 +1,32 @@
+#include "Alert.h"
 #include "AppDelegate.h"
 #include "ApplicationIdentity.h"
-#include "AwakeLock.h"
 #include "Calendar.h"
-#include "ChangePrinter.h"
 #include "Cirrel.h"
 #include "DataManager.h"
-#include "Hooks.h"
+#include "DateFormatter.h"
 #include "HostSystem.h"
 #include "HttpClient.h"
-#include "InstanceCall.h"
+#include "Ledger.h"
 #include "LocalizedString.h"
-#include "LoginItem.h"
-#include "ModalAlertPresenter.h"
-#include "MountWatch.h"
 #include "NotificationCenter.h"
 #include "Options.h"
-#include "PowerSupply.h"
-#include "QtRunLoop.h"
-#include "QuitSignals.h"
+#include "ProcessInfo.h"
 #include "RemoteControl.h"
+#include "RunLedger.h"
+#include "RunLoop.h"
+#include "Services.h"
 #include "SingleInstance.h"
-#include "SqliteLedger.h"
 #include "StartWord.h"
 #include "StatusMenuController.h"
-#include "TMUtilQueue.h"
+#include "TMUtil.h"
 #include "Task.h"
 #include "UserDefaults.h"
-#include "UserNotifications.h"
-#include "Workspace.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QObject>
+#include <QString>
 
 #include <clocale>
 #include <cstdio>
@@ -48,6 +44,38 @@ void printLine(std::FILE* stream, const QString& text)
 {
     std::fputs((text + u'\n').toLocal8Bit().constData(), stream);
 }
+
+/// Prints each change of the menu-bar item as a line on standard output, for a person at a terminal and for scripts:
+/// "12:00:03  icon=2 title="12.5%" text="3m" phase="Copying"".
+class ChangePrinter final : public QObject {
+public:
+    /// The controller and the run loop must outlive the printer.
+    ChangePrinter(const StatusMenuController& controller, const RunLoop& runLoop)
+        : controller_(controller)
+        , runLoop_(runLoop)
+    {
+        connect(&controller, &StatusMenuController::statusBarUpdated, this, &ChangePrinter::printIfChanged);
+        connect(&controller, &StatusMenuController::menuBarIconStateChanged, this, &ChangePrinter::printIfChanged);
+    }
+
+private:
+    void printIfChanged()
+    {
+        const QString line = u"icon=%1 title=\"%2\" text=\"%3\" phase=\"%4\""_s.arg(
+            QString::number(static_cast<int>(controller_.menuBarIconState())), controller_.itemTitle().title,
+            controller_.itemTitle().text, controller_.tmPhase());
+        if (line == lastLine_)
+            return;
+        lastLine_ = line;
+        const QString stamped = DateFormatter::string(runLoop_.now(), u"HH:mm:ss"_s) + u"  "_s + line + u'\n';
+        std::fputs(stamped.toUtf8().constData(), stdout);
+        std::fflush(stdout);
+    }
+
+    const StatusMenuController& controller_;
+    const RunLoop& runLoop_;
+    QString lastLine_;
+};
 
 /// Creates the services, joins the parts and runs until the user quits.
 int runApplication(const Options& options, SingleInstance& instance)

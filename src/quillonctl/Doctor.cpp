@@ -1,17 +1,15 @@
 #include "Doctor.h"
 
 #include "ApplicationIdentity.h"
-#include "BackupDestination.h"
 #include "BackupInfo.h"
 #include "Calendar.h"
-#include "CalendarIntervalRule.h"
 #include "NextBackup.h"
 #include "PropertyList.h"
 #include "Report.h"
-#include "ShownText.h"
 #include "StatusItemPlace.h"
 #include "StoredAndSentNames.h"
-#include "TMStatus.h"
+#include "TMReports.h"
+#include "Text.h"
 
 #include <QDateTime>
 #include <QDir>

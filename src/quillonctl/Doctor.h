@@ -1,9 +1,9 @@
 #pragma once
 
-#include "BackupDestination.h"
 #include "Calendar.h"
-#include "Diagnosis.h"
+#include "Report.h"
 #include "RunLoop.h"
+#include "TMReports.h"
 #include "Task.h"
 #include "UserDefaults.h"
 

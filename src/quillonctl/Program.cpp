@@ -4,12 +4,11 @@
 #include "ControlRequest.h"
 #include "Doctor.h"
 #include "HostSystem.h"
-#include "InstanceCall.h"
-#include "PrintedDates.h"
+#include "Ledger.h"
 #include "Report.h"
-#include "SqliteLedger.h"
+#include "SingleInstance.h"
 #include "StoredAndSentNames.h"
-#include "TMUtilQueue.h"
+#include "TMUtil.h"
 #include "UserDefaults.h"
 
 #include <cstdio>

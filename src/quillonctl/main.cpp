@@ -1,5 +1,5 @@
 #include "Program.h"
-#include "QtRunLoop.h"
+#include "RunLoop.h"
 #include "Task.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Date.h"
-#include "TMStatus.h"
+#include "TMReports.h"
 
 #include <QString>
 

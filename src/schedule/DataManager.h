@@ -1,11 +1,10 @@
 #pragma once
 
 #include "BackupInfo.h"
-#include "CalendarIntervalRule.h"
-#include "LoginItem.h"
 #include "NextBackup.h"
 #include "NotificationCenter.h"
 #include "RunLoop.h"
+#include "Services.h"
 #include "StartDecision.h"
 #include "UserDefaults.h"
 

@@ -1,7 +1,7 @@
 #include "StoredAndSentNames.h"
 
-#include "CalendarIntervalRule.h"
 #include "HostSystem.h"
+#include "NextBackup.h"
 
 namespace quillon {
 

@@ -1,10 +1,9 @@
 #include "MoreSettingsPage.h"
 
 #include "Accessibility.h"
-#include "CalendarIntervalCellView.h"
+#include "CalendarIntervalTable.h"
 #include "LocalizedString.h"
 #include "StoredAndSentNames.h"
-#include "SystemColor.h"
 #include "UserDefaults.h"
 
 #include <QCheckBox>

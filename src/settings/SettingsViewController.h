@@ -1,9 +1,9 @@
 #pragma once
 
 #include "AlertPopover.h"
-#include "AlertPresenter.h"
-#include "CalendarIntervalRule.h"
+#include "NextBackup.h"
 #include "RunLoop.h"
+#include "Services.h"
 #include "TMUtil.h"
 
 #include <QTime>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AlertPresenter.h"
-#include "BackupDestination.h"
+#include "Services.h"
+#include "TMReports.h"
 
 #include <functional>
 #include <optional>

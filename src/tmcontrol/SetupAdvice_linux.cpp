@@ -1,8 +1,8 @@
 #include "LocalizedString.h"
 #include "RunLoop.h"
 #include "SetupAdvice.h"
-#include "ShownText.h"
 #include "TMUtil.h"
+#include "Text.h"
 
 #include <memory>
 #include <utility>

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "AlertPresenter.h"
 #include "RunLoop.h"
+#include "Services.h"
 #include "Task.h"
-#include "Workspace.h"
 
 #include <QString>
 #include <QUrl>

@@ -1,5 +1,4 @@
-#include "Backups.h"
-#include "Files.h"
+#include "Contents.h"
 #include "LocalDates.h"
 #include "RestorePlan.h"
 #include "ScopedEnvironment.h"

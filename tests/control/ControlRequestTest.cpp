@@ -1,7 +1,6 @@
 #include "ControlRequest.h"
 
 #include "LocalDates.h"
-#include "PrintedDates.h"
 #include "ScopedEnvironment.h"
 
 #include <QJsonDocument>

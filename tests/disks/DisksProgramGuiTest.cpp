@@ -1,7 +1,7 @@
 #include "BackupSetup.h"
 #include "EventLoop.h"
 #include "PracticeTmutil.h"
-#include "QtRunLoop.h"
+#include "RunLoop.h"
 #include "ScopedEnvironment.h"
 #include "Setup.h"
 #include "Task.h"

@@ -1,5 +1,4 @@
-#include "MountedDisks.h"
-
+#include "DisksPage.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>

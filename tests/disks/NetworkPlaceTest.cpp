@@ -1,7 +1,6 @@
 #include "NetworkPlace.h"
 
 #include "LocalizedString.h"
-#include "PlaceTrial.h"
 #include "PropertyList.h"
 
 #include <gtest/gtest.h>

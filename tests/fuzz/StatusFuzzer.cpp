@@ -1,5 +1,4 @@
-#include "BackupDestination.h"
-#include "TMStatus.h"
+#include "TMReports.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "SqliteLedger.h"
+#include "Ledger.h"
 
 #include <QSqlDatabase>
 #include <QSqlQuery>

@@ -1,4 +1,5 @@
 #include "AboutViewController.h"
+#include "Accessibility.h"
 #include "Buttons.h"
 #include "ColorScheme_linux.h"
 #include "ControllerFixture.h"
@@ -6,7 +7,6 @@
 #include "LogWindow.h"
 #include "Popover.h"
 #include "ShownAlerts.h"
-#include "SystemColor.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "EventLoop.h"
 #include "FileUserDefaults_linux.h"
 #include "PracticeTmutil.h"
-#include "QtRunLoop.h"
+#include "RunLoop.h"
 #include "StoredAndSentNames.h"
 #include "VirtualRunLoop.h"
 

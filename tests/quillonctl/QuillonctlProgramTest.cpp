@@ -1,12 +1,11 @@
 #include "ApplicationIdentity.h"
 #include "HostSystem.h"
-#include "InstanceCall.h"
+#include "Ledger.h"
 #include "Program.h"
-#include "QtRunLoop.h"
 #include "Report.h"
+#include "RunLoop.h"
 #include "ScopedEnvironment.h"
 #include "SingleInstance.h"
-#include "SqliteLedger.h"
 #include "Task.h"
 
 #include <QFile>

@@ -1,6 +1,5 @@
 #include "ApplicationIdentity.h"
 #include "BackupInfo.h"
-#include "CalendarIntervalRule.h"
 #include "Doctor.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"

@@ -1,6 +1,5 @@
-#include "Words.h"
-
 #include "ScopedEnvironment.h"
+#include "Shown.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

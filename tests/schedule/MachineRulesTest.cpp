@@ -1,4 +1,4 @@
-#include "MachineRules.h"
+#include "StartDecision.h"
 
 #include <chrono>
 #include <gtest/gtest.h>

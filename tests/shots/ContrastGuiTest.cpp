@@ -1,7 +1,7 @@
+#include "Accessibility.h"
 #include "ColorScheme_linux.h"
 #include "Scenes.h"
 #include "Stage.h"
-#include "SystemColor.h"
 
 #include <QApplication>
 #include <QCheckBox>

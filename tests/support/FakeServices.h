@@ -1,12 +1,6 @@
 #pragma once
 
-#include "AlertPresenter.h"
-#include "AwakeLock.h"
-#include "LoginItem.h"
-#include "MountWatch.h"
-#include "PowerSupply.h"
-#include "UserNotifications.h"
-#include "Workspace.h"
+#include "Services.h"
 
 #include <QList>
 #include <QUrl>

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "CalendarIntervalRule.h"
 #include "DataManager.h"
 #include "FakeServices.h"
 #include "FakeStatusItem.h"
 #include "MemoryDefaults.h"
 #include "MemoryLedger.h"
+#include "NextBackup.h"
 #include "NotificationCenter.h"
 #include "StatusMenuController.h"
 #include "StoredAndSentNames.h"
-#include "TMUtilQueue.h"
+#include "TMUtil.h"
 
 #include <QString>
 

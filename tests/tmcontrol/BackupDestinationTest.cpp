@@ -1,4 +1,4 @@
-#include "BackupDestination.h"
+#include "TMReports.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "TMStatus.h"
+#include "TMReports.h"
 
 #include <QFile>
 

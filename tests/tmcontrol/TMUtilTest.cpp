@@ -4,8 +4,7 @@
 #include "LocalizedString.h"
 #include "ScopedEnvironment.h"
 #include "SetupAdvice.h"
-#include "TMStatus.h"
-#include "TMUtilQueue.h"
+#include "TMReports.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>

@@ -1,11 +1,9 @@
 #include "ConfigurationFixture.h"
 #include "Destination.h"
 #include "History.h"
-#include "KeyStore.h"
 #include "Listing.h"
 #include "NetworkProbe.h"
-#include "Output.h"
-#include "PropertyListFile.h"
+#include "PropertyList.h"
 #include "Reports.h"
 #include "SourceSet.h"
 

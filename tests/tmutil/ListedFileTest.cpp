@@ -1,5 +1,4 @@
-#include "ListedFile.h"
-
+#include "Listing.h"
 #include "Paths.h"
 
 #include <gtest/gtest.h>

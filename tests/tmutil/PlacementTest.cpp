@@ -1,7 +1,6 @@
 #include "Placement.h"
 
 #include "ConfigurationFixture.h"
-#include "RestoredTree.h"
 
 #include <tuple>
 

@@ -1,7 +1,7 @@
 #include "RepositoryFolder.h"
 
 #include "ConfigurationFixture.h"
-#include "KeyStore.h"
+#include "Destination.h"
 
 #include <QRegularExpression>
 

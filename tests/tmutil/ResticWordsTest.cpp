@@ -1,8 +1,8 @@
-#include "BackupOutput.h"
 #include "Paths.h"
 #include "Restic.h"
 #include "ResticDiagnosis.h"
-#include "RestoreErrors.h"
+#include "ResticOutput.h"
+#include "Restore.h"
 #include "Verification.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "BackupOutput.h"
 #include "BackupRemark.h"
 #include "Restic.h"
+#include "ResticOutput.h"
 #include "Verification.h"
 
 #include <QFile>

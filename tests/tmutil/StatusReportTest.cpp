@@ -1,11 +1,10 @@
 #include "ConfigurationFixture.h"
 #include "History.h"
 #include "PracticeTmutil.h"
-#include "PropertyListFile.h"
+#include "PropertyList.h"
 #include "Reports.h"
-#include "RunLog.h"
+#include "Restic.h"
 #include "RunState.h"
-#include "StopRequest.h"
 
 #include <fcntl.h>
 #include <signal.h>

@@ -1,9 +1,9 @@
 #include "Stage.h"
 
+#include "Accessibility.h"
 #include "Alert.h"
 #include "EventLoop.h"
 #include "LocalDates.h"
-#include "SystemColor.h"
 
 #include <QApplication>
 #include <QComboBox>

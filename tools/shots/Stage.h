@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ModalAlertPresenter.h"
+#include "Alert.h"
 #include "PlayedBackups.h"
 #include "PlayedDisks.h"
 #include "PlayedProgram.h"

@@ -3,7 +3,7 @@
 #include "BackupSetup.h"
 #include "LocalizedString.h"
 #include "Setup.h"
-#include "ShownText.h"
+#include "Text.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -7,7 +7,6 @@
 #include "RestoreDialog.h"
 #include "TimeMachineSettings.h"
 #include "TimelinePane.h"
-#include "VersionsPane.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -3,7 +3,7 @@
 #include "BackupBrowser.h"
 #include "BackupSetup.h"
 #include "FilesModel.h"
-#include "Preview.h"
+#include "FilesPane.h"
 #include "Setup.h"
 
 #include <QHash>

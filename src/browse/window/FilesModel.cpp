@@ -3,8 +3,8 @@
 #include "BackupSetup.h"
 #include "DateFormatter.h"
 #include "LocalizedString.h"
-#include "ShownText.h"
 #include "Symbol_linux.h"
+#include "Text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Files.h"
+#include "Contents.h"
 
 #include <QAbstractTableModel>
 #include <QHash>

@@ -3,7 +3,7 @@
 #include "BackupSetup.h"
 #include "ListPage.h"
 #include "LocalizedString.h"
-#include "ShownText.h"
+#include "Text.h"
 
 #include <QCheckBox>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "BackupReader.h"
 #include "RestorePlan.h"
-#include "ToolCall.h"
 
 #include <QDialog>
 #include <QString>

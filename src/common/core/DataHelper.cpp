@@ -4,7 +4,7 @@
 #include "Calendar.h"
 #include "LocalizedString.h"
 #include "ProcessInfo.h"
-#include "ShownText.h"
+#include "Text.h"
 
 #include <QVersionNumber>
 

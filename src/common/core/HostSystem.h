@@ -21,4 +21,8 @@ bool systemWatchesOverBackups();
 /// says nothing more.
 QString startFailureReason(std::int32_t exitStatus);
 
+/// For the companion, which is installed beside Quillon: starts it, and does not wait for it. False, with one clear
+/// line in `error`, when it does not start.
+[[nodiscard]] bool startQuillon(QString* error);
+
 } // namespace quillon

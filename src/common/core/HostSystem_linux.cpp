@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QProcess>
 
 namespace quillon {
 
@@ -39,6 +40,15 @@ QString startFailureReason(std::int32_t exitStatus)
     default:
         return {};
     }
+}
+
+bool startQuillon(QString* error)
+{
+    const QString program = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../../bin/quillon"_L1);
+    if (QProcess::startDetached(program, {}, QDir::homePath()))
+        return true;
+    *error = u"cannot start %1"_s.arg(program);
+    return false;
 }
 
 } // namespace quillon

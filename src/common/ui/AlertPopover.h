@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AlertPresenter.h"
 #include "Popover.h"
+#include "Services.h"
 
 #include <functional>
 #include <memory>

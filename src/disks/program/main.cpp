@@ -1,13 +1,13 @@
+#include "Alert.h"
 #include "ApplicationIdentity.h"
 #include "ColorScheme_linux.h"
 #include "DisksWindow.h"
 #include "LocalizedString.h"
-#include "ModalAlertPresenter.h"
-#include "QtRunLoop.h"
-#include "QuitSignals.h"
+#include "ProcessInfo.h"
+#include "RunLoop.h"
 #include "SingleInstance.h"
 #include "Symbol_linux.h"
-#include "TMUtilQueue.h"
+#include "TMUtil.h"
 #include "Task.h"
 
 #include <QApplication>

@@ -1,12 +1,11 @@
 #include "DisksInMenu.h"
 
+#include "Accessibility.h"
 #include "Buttons.h"
 #include "LocalizedString.h"
 #include "Shown.h"
 #include "StatusMenu.h"
 #include "StoredAndSentNames.h"
-#include "SystemColor.h"
-#include "Words.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "StatusMenu.h"
 
+#include "Accessibility.h"
 #include "LocalizedString.h"
-#include "SystemColor.h"
 
 #include <QActionEvent>
 #include <QGuiApplication>

@@ -1,9 +1,9 @@
 #include "RemoteControl.h"
 
-#include "ModalAlertPresenter.h"
-#include "PrintedDates.h"
+#include "Alert.h"
+#include "ControlRequest.h"
 #include "SettingsViewController.h"
-#include "ShownText.h"
+#include "Text.h"
 #include "Told.h"
 
 #include <memory>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "BackupDestination.h"
 #include "ControlRequest.h"
 #include "StatusMenuController.h"
+#include "TMReports.h"
 
 #include <QByteArray>
 #include <QJsonObject>

@@ -1,8 +1,7 @@
 #include "Told.h"
 
 #include "ControlRequest.h"
-#include "PrintedDates.h"
-#include "Words.h"
+#include "Shown.h"
 
 #include <QJsonArray>
 #include <QStringList>

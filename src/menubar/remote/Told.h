@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CalendarIntervalRule.h"
+#include "NextBackup.h"
 #include "Shown.h"
 
 #include <QJsonObject>

@@ -1,16 +1,60 @@
 #pragma once
 
-#include "FormPoster.h"
+#include "Date.h"
 #include "RunLoop.h"
 
+#include <QByteArray>
+#include <QMap>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QObject>
 #include <QProcessEnvironment>
+#include <QString>
 #include <QUrl>
 
+#include <functional>
+#include <optional>
+
 namespace quillon {
+
+class RunLoop;
+
+/// Why something failed, for code that tells failures apart.
+struct Error {
+    QString domain; ///< who numbered the code
+    int code = 0;
+    QString message; ///< one line in English
+};
+
+/// A form to be posted, encoded as application/x-www-form-urlencoded (WHATWG URL Standard, section 5), in UTF-8.
+struct FormRequest {
+    QUrl address;
+    QMap<QString, QString> fields;
+    QMap<QString, QString> headers; ///< sent beside those of HTTP itself and of the form's encoding
+    Seconds timeout{0};             ///< for the whole request, from the call to the last byte of the answer
+};
+
+/// What came of it.
+struct HttpResult {
+    QByteArray body; ///< as the server sent it, whatever its status code; empty when there is an error
+    std::optional<Error> error;
+};
+
+/// Posts forms over HTTP; the seam at which tests play a server.
+class FormPoster {
+public:
+    using Completion = std::function<void(const HttpResult&)>;
+
+    FormPoster() = default;
+    FormPoster(const FormPoster&) = delete;
+    FormPoster& operator=(const FormPoster&) = delete;
+    virtual ~FormPoster() = default;
+
+    /// Returns at once. A connection that breaks ahead of any answer is tried again, so the form may arrive more than
+    /// once. The completion is called exactly once, in a later turn; never when this object is destroyed before.
+    virtual void post(const FormRequest& request, Completion completion) = 0;
+};
 
 /// Whether a host's name or address stands for this machine.
 bool isThisMachine(const QString& host);
@@ -21,8 +65,6 @@ bool isThisMachine(const QString& host);
 /// has names, which stand for the names below them too, addresses and subnets, each with a port or without, or "*".
 /// @return of the kind DefaultProxy where the environment says nothing, of the kind NoProxy where it forbids one
 QNetworkProxy environmentProxy(const QUrl& address, const QProcessEnvironment& environment);
-
-class RunLoop;
 
 /// One request under way: collects the answer within the bounds of size and time, and judges redirects. It deletes
 /// itself when it has ended; it ends once, and never when its parent is destroyed before.

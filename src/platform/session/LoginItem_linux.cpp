@@ -1,4 +1,4 @@
-#include "LoginItem.h"
+#include "Services.h"
 
 #include <QDir>
 #include <QFile>

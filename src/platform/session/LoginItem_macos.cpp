@@ -1,5 +1,5 @@
 #include "CoreFoundation_macos.h"
-#include "LoginItem.h"
+#include "Services.h"
 
 #include <ServiceManagement/ServiceManagement.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UserNotifications.h"
+#include "Services.h"
 
 #include <QDBusConnection>
 #include <QHash>

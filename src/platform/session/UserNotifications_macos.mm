@@ -1,4 +1,4 @@
-#include "UserNotifications.h"
+#include "Services.h"
 
 #include <QMetaObject>
 

@@ -1,14 +1,48 @@
 #include "Workspace_linux.h"
 
 #include "RunLoop.h"
+#include "Services.h"
 
+#include <QFile>
 #include <QProcess>
+#include <QSocketNotifier>
 
+#include <optional>
 #include <utility>
 
 namespace quillon {
 
+using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The kernel marks the list of mounts as exceptional once for every change, proc(5).
+class KernelMountWatch final : public MountWatch {
+public:
+    void setWatching(bool watching) override
+    {
+        if (watching == change_.has_value())
+            return;
+        change_.reset();
+        mounts_.close();
+        if (!watching || !mounts_.open(QIODevice::ReadOnly))
+            return;
+        change_.emplace(mounts_.handle(), QSocketNotifier::Exception);
+        connect(&*change_, &QSocketNotifier::activated, this, &MountWatch::changed);
+    }
+
+private:
+    QFile mounts_{u"/proc/self/mountinfo"_s};
+    std::optional<QSocketNotifier> change_;
+};
+
+} // namespace
+
+std::unique_ptr<MountWatch> makeMountWatch()
+{
+    return std::make_unique<KernelMountWatch>();
+}
 
 LogindSleepWatch::LogindSleepWatch(const QDBusConnection& systemBus, QString reason)
     : reason_(std::move(reason))
@@ -41,8 +75,6 @@ void LogindSleepWatch::ownerChanged()
     if (sleeping_)
         prepareForSleep(false);
 }
-
-using namespace std::chrono_literals;
 
 namespace {
 

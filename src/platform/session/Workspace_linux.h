@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Logind_linux.h"
-#include "Workspace.h"
+#include "Power_linux.h"
+#include "Services.h"
 
 #include <QDBusConnection>
 #include <QObject>

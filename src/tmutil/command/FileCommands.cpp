@@ -4,8 +4,8 @@
 #include "History.h"
 #include "Listing.h"
 #include "NetworkProbe.h"
-#include "Output.h"
 #include "Paths.h"
+#include "Reports.h"
 #include "Restic.h"
 
 #include <QDir>

@@ -1,11 +1,11 @@
 #include "Commands.h"
 #include "Configuration.h"
+#include "Destination.h"
 #include "Failure.h"
-#include "KeyStore.h"
 #include "NetworkProbe.h"
-#include "Output.h"
-#include "RepositorySetup.h"
-#include "StopRequest.h"
+#include "Reports.h"
+#include "Repository.h"
+#include "Restic.h"
 
 #include <QFile>
 #include <QSaveFile>

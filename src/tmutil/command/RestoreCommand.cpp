@@ -1,10 +1,9 @@
 #include "Commands.h"
 #include "Configuration.h"
 #include "Failure.h"
-#include "Output.h"
+#include "Reports.h"
 #include "Restic.h"
 #include "Restore.h"
-#include "StopRequest.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "CommandLine.h"
 #include "Commands.h"
 #include "Failure.h"
-#include "Output.h"
 #include "Paths.h"
+#include "Reports.h"
 
 #include <QCoreApplication>
 

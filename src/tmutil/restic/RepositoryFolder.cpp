@@ -1,9 +1,9 @@
 #include "RepositoryFolder.h"
 
 #include "Failure.h"
-#include "Folders.h"
+#include "Paths.h"
 #include "ResticDiagnosis.h"
-#include "ShownText.h"
+#include "Text.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,17 +1,15 @@
 #include "Backup.h"
 
-#include "BackupOutput.h"
 #include "BackupRemark.h"
+#include "Destination.h"
 #include "History.h"
-#include "KeyStore.h"
 #include "NetworkProbe.h"
-#include "RepositorySetup.h"
+#include "Repository.h"
 #include "Restic.h"
 #include "ResticDiagnosis.h"
+#include "ResticOutput.h"
 #include "Retention.h"
-#include "Room.h"
 #include "RunState.h"
-#include "StopRequest.h"
 #include "Verification.h"
 
 #include <QSysInfo>

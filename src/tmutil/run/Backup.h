@@ -1,12 +1,11 @@
 #pragma once
 
-#include "BackupOutput.h"
 #include "BackupRemark.h"
 #include "Configuration.h"
-#include "Folders.h"
+#include "Paths.h"
 #include "Repository.h"
-#include "RunLog.h"
-#include "Snapshot.h"
+#include "ResticOutput.h"
+#include "RunState.h"
 #include "SourceSet.h"
 
 #include <QDateTime>

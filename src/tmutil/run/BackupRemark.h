@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Restic.h"
-#include "Snapshot.h"
+#include "ResticOutput.h"
 
 #include <QDateTime>
 #include <QSet>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Folders.h"
 #include "Paths.h"
 
 #include <QString>

@@ -1,13 +1,12 @@
 #include "Verification.h"
 
 #include "Failure.h"
-#include "Folders.h"
 #include "History.h"
+#include "Paths.h"
 #include "Restic.h"
+#include "ResticOutput.h"
 #include "Retention.h"
 #include "RunState.h"
-#include "Snapshot.h"
-#include "StopRequest.h"
 
 #include <QDeadlineTimer>
 #include <QJsonArray>

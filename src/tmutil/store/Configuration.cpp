@@ -1,8 +1,7 @@
 #include "Configuration.h"
 
+#include "Destination.h"
 #include "Failure.h"
-#include "Folders.h"
-#include "KeyStore.h"
 #include "Paths.h"
 #include "PropertyList.h"
 #include "RepositoryFolder.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Destination.h"
-#include "Folders.h"
 #include "Paths.h"
 #include "Retention.h"
 

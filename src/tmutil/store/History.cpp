@@ -1,6 +1,6 @@
 #include "History.h"
 
-#include "Folders.h"
+#include "Paths.h"
 #include "RunState.h"
 
 #include <QDeadlineTimer>

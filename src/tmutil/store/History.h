@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RunLog.h"
-#include "Snapshot.h"
+#include "ResticOutput.h"
+#include "RunState.h"
 #include "Verification.h"
 
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #include "NetworkPlace.h"
 
 #include "Failure.h"
-#include "Folders.h"
+#include "Paths.h"
 #include "PropertyList.h"
 
 #include <QDir>

@@ -2,9 +2,9 @@
 
 #include "Backup.h"
 #include "Configuration.h"
-#include "Folders.h"
+#include "Paths.h"
+#include "Restic.h"
 #include "RunState.h"
-#include "StopRequest.h"
 
 #include <QDeadlineTimer>
 #include <QString>

@@ -1,5 +1,6 @@
+#include "RunLoop.h"
+
 #include "EventLoop.h"
-#include "QtRunLoop.h"
 #include "VirtualRunLoop.h"
 
 #include <QEventLoop>

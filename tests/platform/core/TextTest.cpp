@@ -1,4 +1,4 @@
-#include "ShownText.h"
+#include "Text.h"
 
 #include <gtest/gtest.h>
 #include <initializer_list>

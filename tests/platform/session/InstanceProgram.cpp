@@ -1,6 +1,5 @@
 // A program that runs once for each folder: the first instance stays, any other asks it to present itself.
 
-#include "InstanceCall.h"
 #include "SingleInstance.h"
 
 #include <QCoreApplication>

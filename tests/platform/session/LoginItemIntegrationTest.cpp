@@ -1,7 +1,7 @@
 #include "ChildProgram.h"
 #include "EventLoop.h"
-#include "LoginItem.h"
 #include "ScopedEnvironment.h"
+#include "Services.h"
 #include "SessionTestSupport.h"
 
 #include <QDir>

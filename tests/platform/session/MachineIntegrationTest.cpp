@@ -1,8 +1,7 @@
 #include "EventLoop.h"
-#include "Logind_linux.h"
-#include "MountWatch.h"
 #include "PlayedServices.h"
-#include "PowerSupply_linux.h"
+#include "Power_linux.h"
+#include "Services.h"
 #include "SessionTestSupport.h"
 #include "UserNotifications_linux.h"
 

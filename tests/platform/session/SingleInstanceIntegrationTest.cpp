@@ -1,6 +1,5 @@
 #include "ChildProgram.h"
 #include "EventLoop.h"
-#include "InstanceCall.h"
 #include "ScopedEnvironment.h"
 #include "SessionTestSupport.h"
 #include "SingleInstance.h"

@@ -1,4 +1,3 @@
-#include "MenuBarButton_linux.h"
 #include "MenuBarWindow_linux.h"
 
 #include <QAccessible>

@@ -1,5 +1,5 @@
+#include "Alert.h"
 #include "EventLoop.h"
-#include "ModalAlertPresenter.h"
 
 #include <QApplication>
 #include <QPushButton>

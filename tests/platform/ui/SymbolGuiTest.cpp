@@ -1,5 +1,5 @@
+#include "Accessibility.h"
 #include "Symbol_linux.h"
-#include "SystemColor.h"
 
 #include <QImage>
 #include <QPalette>

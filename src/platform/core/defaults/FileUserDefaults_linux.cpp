@@ -2,7 +2,6 @@
 
 #include "FileLock.h"
 #include "PropertyList.h"
-#include "PropertyListFile.h"
 #include "UserDefaults.h"
 
 #include <QCoreApplication>

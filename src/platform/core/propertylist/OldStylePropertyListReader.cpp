@@ -1,6 +1,6 @@
-#include "OldStylePropertyList.h"
 #include "PropertyList.h"
-#include "TextEncoding.h"
+#include "PropertyListFormats.h"
+#include "Text.h"
 
 #include <QVariantList>
 #include <QVariantMap>

@@ -1,5 +1,5 @@
-#include "OldStylePropertyList.h"
 #include "PropertyList.h"
+#include "PropertyListFormats.h"
 
 #include <QDateTime>
 #include <QVariantList>

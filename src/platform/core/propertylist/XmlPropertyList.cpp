@@ -1,6 +1,5 @@
-#include "XmlPropertyList.h"
-
 #include "PropertyList.h"
+#include "PropertyListFormats.h"
 
 #include <QDateTime>
 #include <QVariantList>

@@ -2,6 +2,9 @@
 
 #include "Date.h"
 
+#include <QObject>
+#include <QTimer>
+
 #include <chrono>
 #include <deque>
 #include <functional>
@@ -99,6 +102,23 @@ private:
 
     std::deque<Block> queue_;
     std::vector<std::weak_ptr<TimerState>> timers_;
+};
+
+/// The run loop of a real program, on the Qt event loop. Its blocks run also while a menu or an alert is open.
+class QtRunLoop final : public QObject, public RunLoop {
+    Q_OBJECT
+
+public:
+    QtRunLoop();
+
+    Date now() const override;
+    std::chrono::milliseconds uptime() const override;
+
+protected:
+    void wakeAt(std::chrono::milliseconds uptime) override;
+
+private:
+    QTimer wake_;
 };
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #include "Symbol_linux.h"
 
-#include "SystemColor.h"
+#include "Accessibility.h"
 
 #include <QApplication>
 #include <QFontMetrics>

@@ -1,6 +1,6 @@
 #include "TrayStatusItems_linux.h"
 
-#include "ModalAlertPresenter.h"
+#include "Alert.h"
 #include "Symbol_linux.h"
 #include "TrayProtocols_linux.h"
 

@@ -1,7 +1,7 @@
 #include "Buttons.h"
 
+#include "Accessibility.h"
 #include "Alert.h"
-#include "SystemColor.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AlertPresenter.h"
+#include "Services.h"
 
 #include <QAbstractButton>
 

@@ -1,6 +1,6 @@
 #include "ColorScheme_linux.h"
 
-#include "SystemColor.h"
+#include "Accessibility.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

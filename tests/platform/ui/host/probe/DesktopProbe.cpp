@@ -1,7 +1,7 @@
 // A program with nothing but a status item, or a popover and a child of it. It obeys the lines on its standard input
 // and answers each with one line of JSON about what is on the screen; it ends with its input.
 
-#include "ModalAlertPresenter.h"
+#include "Alert.h"
 #include "Popover.h"
 #include "StatusItem.h"
 
