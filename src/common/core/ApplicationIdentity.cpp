@@ -20,33 +20,25 @@ class Obfuscated {
 public:
     consteval explicit Obfuscated(const char (&text)[size])
     {
-        for (std::size_t i = 0; i < size; ++i)
-            bytes_[i] = static_cast<std::uint8_t>(text[i]) ^ mask(i, seed);
+        for (std::size_t i = 0; i < bytes_.size(); ++i)
+            bytes_[i] = static_cast<std::uint8_t>(text[i]) ^ mask;
     }
 
     QString text() const
     {
-        // Read at run time: an optimiser that knew the number would decode the text and store that.
-        static const volatile std::uint32_t hiddenSeed = seed;
-        const std::uint32_t known = hiddenSeed;
+        // Read at run time: an optimiser that knew the mask would decode the text and store that.
+        static const volatile std::uint8_t hiddenMask = mask;
+        const std::uint8_t known = hiddenMask;
         QByteArray decoded;
-        for (std::size_t i = 0; i + 1 < size; ++i) // without the final NUL
-            decoded.append(static_cast<char>(bytes_[i] ^ mask(i, known)));
+        for (const std::uint8_t byte : bytes_)
+            decoded.append(static_cast<char>(byte ^ known));
         return QString::fromUtf8(decoded);
     }
 
 private:
-    static constexpr std::uint32_t seed = 0x9E3779B9;
+    static constexpr std::uint8_t mask = 0xA5;
 
-    /// Steps of a linear congruential generator, "Numerical Recipes", ranqd1; its high bits vary most.
-    static constexpr std::uint8_t mask(std::size_t step, std::uint32_t state)
-    {
-        for (std::size_t i = 0; i <= step; ++i)
-            state = state * 1664525U + 1013904223U;
-        return static_cast<std::uint8_t>(state >> 24);
-    }
-
-    std::array<std::uint8_t, size> bytes_{};
+    std::array<std::uint8_t, size - 1> bytes_{}; ///< without the final NUL
 };
 
 /// The base64 form (RFC 4648) of a text, made by the compiler; without the text's final NUL.
