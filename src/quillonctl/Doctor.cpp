@@ -94,7 +94,7 @@ const QString notUnderstood = u"what the tool printed cannot be understood"_s;
 QString anonymousPath(const QString& path)
 {
     const QString home = QDir::homePath();
-    return home.size() > 1 && path.startsWith(home + u'/') ? u'~' + path.mid(home.size()) : path;
+    return path.startsWith(home + u'/') ? u'~' + path.mid(home.size()) : path;
 }
 
 QString describe(const CalendarIntervalRule& rule)

@@ -239,7 +239,8 @@ QString describe(const Diagnosis::Failure& failure)
 {
     QString text = join({failure.date, failure.disk, failure.cause});
     if (failure.unreadFiles > 0)
-        text += u", %1 files could not be read"_s.arg(failure.unreadFiles);
+        text += failure.unreadFiles == 1 ? u", one file could not be read"_s
+                                         : u", %1 files could not be read"_s.arg(failure.unreadFiles);
     return text;
 }
 

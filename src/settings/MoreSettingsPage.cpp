@@ -60,7 +60,6 @@ MoreSettingsPage::MoreSettingsPage(UserDefaults& defaults, QWidget* parent)
     addBackButton();
     assignMnemonics(findChildren<QAbstractButton*>());
     setFocusProxy(switches_.first().box);
-    showStored();
 }
 
 void MoreSettingsPage::addGroup(const char* title)

@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -127,6 +128,8 @@ TEST_F(AboutPanel, ShowsAllOfItsTextsInEveryLanguageAndSize)
             QFont font = before;
             font.setPointSizeF(before.pointSizeF() * factor);
             QApplication::setFont(font);
+            const auto* name = panel_->findChild<QLabel*>(u"nameLabel"_s);
+            EXPECT_TRUE(runUntil([&] { return name->font().pointSizeF() > 1.5 * font.pointSizeF(); }, 5));
             EXPECT_TRUE(runUntil([&] { return clippedTexts(*panel_).empty(); }, 5))
                 << clippedTexts(*panel_) << language.toStdString() << ' ' << factor;
         }

@@ -143,10 +143,11 @@ TEST_F(AppDelegateTest, TheFirstLaunchSaysOnceWhereBackupsGoAndLeadsToTheSetting
         EXPECT_FALSE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch)) << "not before it is answered";
         answered(hasDisk ? alertSecondButtonReturn : alertFirstButtonReturn);
         EXPECT_TRUE(defaults.boolean(settingskeys::didShowAlertAtFirstLaunch));
+        EXPECT_EQ(std::exchange(workspace.opened, {}),
+                  QList<QUrl>{hasDisk ? makersite::page(u"/quillon/manual/"_s) : TimeMachineSettings::address()});
         launch();
         EXPECT_TRUE(alerts.presented.empty());
     }
-    EXPECT_EQ(workspace.opened, (QList<QUrl>{makersite::page(u"/quillon/manual/"_s), TimeMachineSettings::address()}));
 }
 
 } // namespace quillon

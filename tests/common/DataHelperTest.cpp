@@ -3,6 +3,7 @@
 #include "ApplicationIdentity.h"
 #include "HostSystem.h"
 #include "LocalDates.h"
+#include "LocalizedString.h"
 #include "ScopedEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -85,6 +86,15 @@ TEST(HostSystemTest, KeepsTheLedgerInTheFolderOfStatesIfThatIsAbsolute)
         const ScopedEnvironment state("XDG_STATE_HOME", folder);
         EXPECT_EQ(ledgerFile(), QLatin1StringView(file));
     }
+}
+
+TEST(HostSystemTest, SaysOfARefusedStartWhatTheUserCanDoAboutIt)
+{
+    const std::pair<int, const char*> table[] = {
+        {2, "setupNoDiskMessage"}, {4, "startDiskAwayMessage"}, {9, "startResticMissingMessage"}};
+    for (const auto& [status, message] : table)
+        EXPECT_EQ(startFailureReason(status), localizedString(message));
+    EXPECT_EQ(startFailureReason(1), QString());
 }
 
 } // namespace

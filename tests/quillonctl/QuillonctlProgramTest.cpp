@@ -8,6 +8,7 @@
 #include "SingleInstance.h"
 #include "Task.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -138,6 +139,21 @@ TEST(QuillonctlProgram, TellsOnStandardErrorAndInItsStatusWhatIsWrong)
         EXPECT_EQ(testing::internal::GetCapturedStderr(), errors);
         EXPECT_EQ(played.asked, asked);
     }
+}
+
+TEST(QuillonctlProgram, ALogThatCannotBeReadIsNamed)
+{
+    const QTemporaryDir state;
+    const ScopedEnvironment log("XDG_STATE_HOME", state.path().toUtf8());
+    ASSERT_TRUE(QDir().mkpath(ledgerFile()));
+    QtRunLoop runLoop;
+    PlayedTask unused;
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(runQuillonctl({u"history"_s}, {runLoop, unused}), 1);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "quillonctl: " + ledgerFile().toStdString() + " cannot be read\n");
 }
 
 /// A running Quillon that answers every question with these lines and hangs up.

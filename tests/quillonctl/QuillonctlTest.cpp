@@ -221,7 +221,7 @@ TEST_F(DoctorTest, TellsWhatGoesOnAndWhatHasGoneWrong)
     const auto found = examine(R"([
         {"expect":["status"],"delay":0.02,"output":"{ Running = 1; BackupPhase = MountingDiskImage;
           Progress = { Percent = 0.8; }; LastFailure = { Date = \"2026-11-19 07:22:58 +0000\"; DestinationID = A;
-          Cause = UnreadFiles; Description = \"/home/me/secret\"; UnreadFiles = 3; }; }"},
+          Cause = UnreadFiles; Description = \"/home/me/secret\"; UnreadFiles = 1; }; }"},
         {"expect":["destinationinfo","-X"],"output":"<plist><dict><key>Destinations</key><array>
           <dict><key>ID</key><string>A</string><key>Name</key><string>50%1 &amp; more</string>
             <key>LastBackup</key><date>2026-11-21T07:00:00Z</date></dict>

@@ -28,8 +28,11 @@ TEST_F(ScheduleSettings, RowsShowTheRulesByTheUsersClockAndLeaveThemAsTheyAre)
     EXPECT_EQ(picker(1).text(), u"7:45 AM"_s);
     EXPECT_EQ(dayMenu(2).currentIndex(), -1) << "a day that nobody knows is not shown as another one";
     EXPECT_EQ(picker(2).text(), u"1:00 AM"_s);
-    for (const auto& [language, noon] :
-         {std::pair{"en_US.UTF-8", u"12:00 PM"_s}, {"de_DE.UTF-8", u"12:00"_s}, {"ja_JP@hours=h12", u"午後12:00"_s}}) {
+    for (const auto& [language, noon] : {std::pair{"en_US.UTF-8", u"12:00 PM"_s},
+                                         {"en_US@hours=h23", u"12:00"_s},
+                                         {"de_DE.UTF-8", u"12:00"_s},
+                                         {"ja_JP@hours=h12", u"午後12:00"_s},
+                                         {"zh_TW@hours=h12", u"下午12:00"_s}}) {
         const ScopedEnvironment locale("LC_ALL", language);
         close();
         show();

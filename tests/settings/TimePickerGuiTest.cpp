@@ -51,7 +51,7 @@ using KeysAndOutcome = std::pair<const char*, const char*>;
 // go on with the hours; whatever comes between two digits has the second one begin anew.
 constexpr KeysAndOutcome onTwelveHours[] = {
     {"0815", "8:15 [PM]"},      {"130", "1:30 [PM]"},       {"1215A", "12:15 [AM]"},   {"1><2", "2:[45] PM"},
-    {"12<1", "[1]:45 PM"},      {"1%2", "2:[45] PM"},       {"1T2", "1:[02] PM"},      {">*0930", "9:30 [PM]"},
+    {"12<1", "[1]:45 PM"},      {"1%2", "2:[45] PM"},       {"1T2", "1:[02] PM"},      {">>*0930", "9:30 [PM]"},
     {"%0745A", "7:45 [AM]"},    {">", "12:[45] PM"},        {">><", "12:[45] PM"},     {">>>", "12:45 [PM]"},
     {"}<<<", "[12]:45 PM"},     {"}", "12:45 [PM]"},        {"}{", "[12]:45 PM"},      {"0905A{3", "3:[05] AM"},
     {"0905A{1", "[1]:05 AM"},   {"0905A{12", "12:[05] AM"}, {"0905A{}P", "9:05 [PM]"}, {"0905A{}A", "9:05 [AM]"},

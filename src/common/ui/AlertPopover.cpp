@@ -16,6 +16,11 @@ struct AlertPopover::Stack {
     std::shared_ptr<AlertPopover> current;
     std::vector<std::shared_ptr<AlertPopover>> waiting;
 
+    Stack()
+    {
+        qAddPostRoutine([] { stack().clear(); });
+    }
+
     /// Windows don't outlive the application object.
     void clear()
     {
@@ -29,10 +34,6 @@ struct AlertPopover::Stack {
 AlertPopover::Stack& AlertPopover::stack()
 {
     static Stack theStack;
-    [[maybe_unused]] static const bool cleared = [] {
-        qAddPostRoutine([] { stack().clear(); });
-        return true;
-    }();
     return theStack;
 }
 

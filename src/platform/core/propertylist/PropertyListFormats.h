@@ -12,7 +12,7 @@
 
 #include <optional>
 
-// The formats behind PropertyList.h, each in a source of its own.
+// The formats behind PropertyList.h.
 
 namespace quillon {
 
