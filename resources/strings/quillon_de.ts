@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>Das Backup-Volume ist nicht verbunden.</translation>
+        <translation>Das Backup-Volume ist nicht verbunden, oder der Server mit den Backups ist nicht erreichbar.</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

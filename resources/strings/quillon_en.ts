@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
-<!-- Code adds the colon or the ellipsis that a title stands before; texts have none, but for scheduleTitle. -->
+<!-- Code adds the colon or the ellipsis behind the title of a button or a menu item; scheduleTitle brings its own. -->
 <context>
     <name></name>
     <!-- Days -->
@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>The backup disk is not connected.</translation>
+        <translation>The backup disk is not connected, or the server with the backups cannot be reached.</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

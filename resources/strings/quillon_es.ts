@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>El disco de copia de seguridad no está conectado.</translation>
+        <translation>El disco de copia de seguridad no está conectado, o no se puede acceder al servidor de las copias.</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

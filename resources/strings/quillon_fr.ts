@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>Le disque de sauvegarde n’est pas connecté.</translation>
+        <translation>Le disque de sauvegarde n’est pas connecté, ou le serveur des sauvegardes est injoignable.</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

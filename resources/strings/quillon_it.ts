@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>Il disco di backup non è collegato.</translation>
+        <translation>Il disco di backup non è collegato, o il server dei backup non è raggiungibile.</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

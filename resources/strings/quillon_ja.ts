@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>バックアップディスクが接続されていません。</translation>
+        <translation>バックアップディスクが接続されていないか、バックアップ先のサーバに接続できません。</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>De reservekopieschijf is niet aangesloten.</translation>
+        <translation>De reservekopieschijf is niet aangesloten, of de server met de reservekopieën is niet bereikbaar.</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>O disco de backup não está conectado.</translation>
+        <translation>O disco de backup não está conectado, ou não é possível acessar o servidor dos backups.</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

@@ -316,7 +316,7 @@
     </message>
     <message id="startDiskAwayMessage">
         <source></source>
-        <translation>备份磁盘未连接。</translation>
+        <translation>备份磁盘未连接，或无法连接到备份服务器。</translation>
     </message>
     <message id="startResticMissingMessage">
         <source></source>

@@ -152,10 +152,8 @@ TEST_F(Commands, ARefusedStartIsToldWithItsCodeAndWhatItMeans)
 {
     launch();
     const QString refused = u"The backup could not be started. Time Machine answered with error code %1."_s;
-    for (const auto& [status, reason] : {std::pair{2, u"\n\nNo backup disk is set up yet, and with"_s},
-                                         {4, u"\n\nThe backup disk is not connected."_s},
-                                         {9, u"\n\nThe program restic, which makes the b"_s},
-                                         {17, QString()}}) {
+    for (const auto& [status, reason] :
+         {std::pair{9, u"\n\nThe program restic, which makes the b"_s}, {17, QString()}}) {
         spoilNext(Fault::None, status, u"startbackup"_s);
         click();
         wait(1);
