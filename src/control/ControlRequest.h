@@ -14,27 +14,6 @@
 
 namespace quillon {
 
-/// "2026-11-21T12:00", seconds allowed, a blank for the T; on the clock of the current time zone.
-std::optional<Date> readLocalDateTime(const QString& text);
-
-} // namespace quillon
-
-/// Dates as quillonctl prints them.
-namespace quillon::report {
-
-/// ISO 8601 with the offset that holds at that instant, such as "2026-11-21T12:00:00+01:00".
-QString isoDate(Date date);
-
-/// For people, with the weekday: "Sat 2026-11-21 12:00 +01:00".
-QString readableDate(Date date);
-
-/// An offset from UTC in seconds, such as "+01:00".
-QString offsetText(int offset);
-
-} // namespace quillon::report
-
-namespace quillon {
-
 /// What somebody outside the menu asks the running Quillon for. It travels as the words that a user types; what is
 /// understood depends on them alone, so that an older or a newer Quillon refuses only what it does not know.
 struct ControlRequest {
@@ -90,4 +69,21 @@ struct ControlAnswer {
     QByteArray toLine() const;
 };
 
+/// "2026-11-21T12:00", seconds allowed, a blank for the T; on the clock of the current time zone.
+std::optional<Date> readLocalDateTime(const QString& text);
+
 } // namespace quillon
+
+/// Dates as quillonctl prints them, and as the running Quillon answers it.
+namespace quillon::report {
+
+/// ISO 8601 with the offset that holds at that instant, such as "2026-11-21T12:00:00+01:00".
+QString isoDate(Date date);
+
+/// For people, with the weekday: "Sat 2026-11-21 12:00 +01:00".
+QString readableDate(Date date);
+
+/// An offset from UTC in seconds, such as "+01:00".
+QString offsetText(int offset);
+
+} // namespace quillon::report

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QObject>
+#include <QString>
 #include <QStringList>
 
 #include <chrono>
@@ -11,6 +12,8 @@
 #include <optional>
 
 namespace quillon {
+
+class AlertPresenter;
 
 /// How a call of tmutil ended.
 struct TmutilAnswer {
@@ -50,8 +53,6 @@ private:
     Seconds longestCall_;
     TMUtilQueue queue_;
 };
-
-class AlertPresenter;
 
 /// The setup of Time Machine as the pages of the window share it: tmutil is asked and told one thing after the other,
 /// a change comes alone and is followed by reading anew.
@@ -107,6 +108,56 @@ private:
     int awaitedReads_ = 0; ///< answers still to come
     bool changing_ = false;
     TmutilClient tmutil_; ///< last, so that no answer finds half a setup
+};
+
+/// A mounted file system that can be offered as a backup disk.
+struct MountedDisk {
+    QString name; ///< its label or, without one, that of its folder; fit to be shown
+    QString path; ///< where it is mounted
+    std::optional<qint64> bytesFree;
+
+    bool operator==(const MountedDisk&) const = default;
+};
+
+/// The disks in what `lsblk` of util-linux prints as JSON: mounted, writable, and not part of the running system.
+/// Nothing where it has printed something else.
+std::optional<std::vector<MountedDisk>> readMountedDisks(const QByteArray& lsblk);
+
+/// Which disks are mounted. lsblk is asked, in a process of its own: a disk that hangs would block whoever asks the
+/// kernel for its room, and blocks lsblk, too, which then is given up.
+class MountedDisks {
+public:
+    enum class State {
+        Asked,  ///< for the first time
+        Known,  ///< by the last answer
+        Failed, ///< there was none, or none in time
+    };
+
+    /// Launcher and run loop must outlive this object.
+    MountedDisks(TaskLauncher& launcher, RunLoop& runLoop, QString lsblk);
+    MountedDisks(const MountedDisks&) = delete;
+    MountedDisks& operator=(const MountedDisks&) = delete;
+    ~MountedDisks();
+
+    State state() const { return state_; }
+
+    /// Empty unless they are known.
+    const std::vector<MountedDisk>& list() const { return list_; }
+
+    /// Asks anew, unless an answer is still awaited.
+    void refresh();
+
+private:
+    void take(const TaskResult& result);
+    void fail();
+
+    TaskLauncher& launcher_;
+    RunLoop& runLoop_;
+    QString lsblk_;
+    State state_ = State::Asked;
+    Timer limit_;
+    std::unique_ptr<RunningTask> child_;
+    std::vector<MountedDisk> list_;
 };
 
 } // namespace quillon

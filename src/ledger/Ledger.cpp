@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QLatin1StringView>
 #include <QRandomGenerator>
 #include <QSqlDatabase>
 #include <QSqlError>

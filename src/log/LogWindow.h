@@ -16,6 +16,8 @@ class QTreeView;
 
 namespace quillon {
 
+class DayStrip;
+
 /// Entries of the ledger as rows of a view.
 class LogModel final : public QAbstractTableModel {
     Q_OBJECT
@@ -43,8 +45,6 @@ private:
     std::vector<LedgerEntry> entries_;
     Date now_;
 };
-
-class DayStrip;
 
 /// The window of the ledger: the last days at a glance, the entries with a filter, and of the one that is chosen the
 /// reason. Reads the ledger while it is seen, and holds nothing of it otherwise.

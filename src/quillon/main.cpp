@@ -11,7 +11,6 @@
 #include "LocalizedString.h"
 #include "NotificationCenter.h"
 #include "Options.h"
-#include "ProcessInfo.h"
 #include "RemoteControl.h"
 #include "RunLedger.h"
 #include "RunLoop.h"

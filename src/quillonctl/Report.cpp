@@ -1,6 +1,7 @@
 #include "Report.h"
 
 #include "Calendar.h"
+#include "Doctor.h"
 #include "NextBackup.h"
 #include "StoredAndSentNames.h"
 #include "Text.h"

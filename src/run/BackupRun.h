@@ -90,7 +90,7 @@ public:
     TMState uiState() const { return uiState_; }
     /// Raw word of the phase.
     const QString& tmPhase() const { return tmPhase_; }
-    /// The phase as of the last step. Nothing needs it.
+    /// The phase as of the last step; a property of a run that nothing in this program asks for.
     const QString& previousTmPhase() const { return previousTmPhase_; }
     const RunProgress& progress() const { return progress_; }
     /// A stop was accepted and the run has not ended yet.

@@ -87,7 +87,7 @@ struct Menu {
 
 Menu menu(const Snapshot& snapshot);
 
-/// Such as "Today, 12:00 (1.5 GB)"; "N/A" without a date.
+/// Such as "Today, 12:00 (1.50 GB)"; "N/A" without a date.
 QString backupText(std::optional<Date> date, std::int64_t bytes, Date now);
 /// Title of the pause item while the schedule is paused.
 QString pausedUntil(Date end, Date now);

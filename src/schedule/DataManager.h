@@ -20,8 +20,8 @@ namespace quillon {
 /// The model of settings and schedule: the rules, the date of the next backup with the timer that starts it, and the
 /// latest backup of each disk.
 ///
-/// It is the only writer of the rules, of changed starts and of the latest-backup list; every other setting is written
-/// by the control that changes it and read where it is needed.
+/// It is the only writer of the rules, of changed starts and of the latest-backup list, and it ends a pause whose time
+/// is over; every other setting is written by the control that changes it and read where it is needed.
 class DataManager {
 public:
     struct Services {
@@ -76,7 +76,7 @@ public:
     /// Passes the next start over, or makes it at a later date; those behind it stay. False, and nothing is changed,
     /// where too many are changed already. A retry is no start of this kind.
     bool changeNextStart(std::optional<Date> instead);
-    /// Plans a retry in place of the next regular start, unless that comes first; nothing cancels a pending retry.
+    /// Plans a retry in place of the next regular start, unless that comes first; no date cancels a pending retry.
     void setRetryBackupDate(std::optional<Date> date);
     /// Disarms the start timer before the system sleeps; the date stays.
     void pauseBackupSchedule();
@@ -89,7 +89,7 @@ public:
     void makeScheduledStart();
     static nextbackup::TimeComponents timeComponentsFromTimeInterval(double seconds);
 
-    /// Notes a completed backup: one record a disk, newest first; stored at once.
+    /// Notes a completed backup: one record a disk, a new one ahead of the others; stored at once.
     void recordLatestBackup(const QString& diskIdentifier, const QString& diskName, std::int64_t totalBytes, Date date);
     void saveLatestBackupInfo();
     QList<BackupInfo> loadLatestBackupInfo() const;

@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 inline const QString firstLaunch = u"firstLaunch"_s;
 inline const QString didShowAlertAtFirstLaunch = u"appSettingsDidShowAlertAtFirstLaunch"_s;
 
-// Switches: integers that hold a control state, 1 on, anything else off; only the menu bar takes any icon-only but 0
-// for on.
+// Switches: integers that hold a control state, 1 on, anything else off. Of icon-only the menu bar takes any number
+// but 0 for on.
 inline const QString enableSchedule = u"userSettingsEnableSchedule"_s;
 inline const QString enableRetryAtMissedSchedule = u"userSettingsEnableRetryAtMissedSchedule"_s;
 inline const QString enableRetryAtFailure = u"userSettingsEnableRetryAtFailure"_s;
@@ -97,7 +97,7 @@ inline const QString scheduledBackupShouldStart = u"scheduledBackupShouldStartNo
 /// The start timer ran a minute or more after its date: what becomes of the start is to be decided.
 inline const QString scheduledBackupFoundLate = u"scheduledBackupFoundLateNotification"_s;
 
-/// A setting has changed that the menu bar shows or the program goes by at every step.
+/// A setting that the menu bar shows, or that counts at every step, may have changed.
 inline const QString shouldUpdateStatusBar = u"shouldUpdateStatusBarNotification"_s;
 
 /// Somebody outside the settings panel has changed the rules.

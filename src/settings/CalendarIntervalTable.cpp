@@ -63,7 +63,7 @@ CalendarIntervalCellView::CalendarIntervalCellView(QWidget* parent)
 
 CalendarIntervalCellView::~CalendarIntervalCellView() = default;
 
-/// Applied again whenever the row is filled: the user may have switched to the other clock.
+/// Applied again whenever the row is filled: the user may have switched between 12 and 24 hours.
 void CalendarIntervalCellView::applyTitles()
 {
     ui_->backupTitle->setText(localizedString("backupTitle"));
@@ -163,7 +163,8 @@ CalendarIntervalTable::CalendarIntervalTable(QWidget* parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::ClickFocus); // its rows stand behind it in the order of the Tab key, which takes some focus
+    // Some focus is needed for the rows to stand behind the table in the order of the Tab key.
+    setFocusPolicy(Qt::ClickFocus);
     viewport()->setAutoFillBackground(false);
     auto rows = std::make_unique<QWidget>();
     layout_ = new QVBoxLayout(rows.get());
@@ -235,13 +236,6 @@ QSize CalendarIntervalTable::sizeHint() const
 QSize CalendarIntervalTable::minimumSizeHint() const
 {
     return sizeHint();
-}
-
-void CalendarIntervalTable::changeEvent(QEvent* event)
-{
-    QScrollArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        updateGeometry();
 }
 
 /// The ground under the rows.

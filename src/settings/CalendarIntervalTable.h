@@ -15,8 +15,8 @@ class CalendarIntervalCell;
 
 namespace quillon {
 
-/// Lets the wheel change a control only where the user has gone to: what it merely passes over is scrolled. It is the
-/// control's own.
+/// Lets the wheel change a control only where it has the keyboard: over any other it scrolls what is around. The
+/// control owns the guard.
 class WheelGuard final : public QObject {
     Q_OBJECT
 
@@ -64,8 +64,8 @@ private:
     int row_ = 0;
 };
 
-/// The rows of the schedule's rules. As high as five rows; it scrolls when there are more, or less room. A row lives
-/// until the table gets shorter than its place.
+/// The rows of the schedule's rules. As high as five rows; it scrolls when there are more. A row lives until the table
+/// gets shorter than its place.
 class CalendarIntervalTable final : public QScrollArea {
     Q_OBJECT
 
@@ -89,7 +89,6 @@ Q_SIGNALS:
     void rowAdded(quillon::CalendarIntervalCellView* view);
 
 protected:
-    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "Accessibility.h"
 #include "CalendarIntervalTable.h"
+#include "Controls.h"
 #include "LocalizedString.h"
 #include "StoredAndSentNames.h"
 #include "UserDefaults.h"
@@ -131,7 +132,6 @@ void MoreSettingsPage::addBackButton()
     rows_->addWidget(new Divider, rows_->rowCount(), 0, 1, 2);
     auto* back = new QPushButton(localizedString("settingsBackTitle"));
     back->setObjectName(u"backButton"_s);
-    back->setAutoDefault(false);
     connect(back, &QPushButton::clicked, this, &MoreSettingsPage::backPressed);
     rows_->addWidget(back, rows_->rowCount(), 1, Qt::AlignLeft);
 }

@@ -55,7 +55,7 @@ SettingsViewController::SettingsViewController(const Services& services, QWidget
 
     titleControls();
     nameControls();
-    arrangeForStyle();
+    arrangeForFont();
     connectScheduleControls();
     connectOptionControls();
     connectAlertControls();
@@ -143,7 +143,7 @@ void SettingsViewController::nameControls()
 }
 
 /// What depends on the sizes of the style and the font.
-void SettingsViewController::arrangeForStyle()
+void SettingsViewController::arrangeForFont()
 {
     QFont heading = font();
     heading.setBold(true);
@@ -173,7 +173,7 @@ void SettingsViewController::connectMorePage()
 void SettingsViewController::turnToMore()
 {
     morePage_->showStored();
-    moreArea_->setMinimumWidth(firstArea_->width()); // its lower edge alone moves
+    moreArea_->setMinimumWidth(firstArea_->width()); // so that of the panel only the lower edge moves
     firstArea_->hide();
     moreArea_->show();
     morePage_->setFocus();
@@ -189,8 +189,8 @@ void SettingsViewController::turnBack()
 void SettingsViewController::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        arrangeForStyle();
+    if (event->type() == QEvent::FontChange)
+        arrangeForFont();
 }
 
 void SettingsViewController::showEvent(QShowEvent* event)

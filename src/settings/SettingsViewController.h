@@ -21,10 +21,8 @@ namespace quillon {
 
 class CalendarIntervalCellView;
 class DataManager;
-class LoginItem;
 class MoreSettingsPage;
 class NotificationCenter;
-class RunLoop;
 class ScreenFittingArea;
 class UserDefaults;
 struct SetupAdvice;
@@ -57,7 +55,7 @@ public:
 
     /// The text of the next-backup line.
     QString getNextScheduledBackup() const;
-    /// A place for rules that stays empty: those of the schedule are `DataManager`'s.
+    /// A property of the panel that stays empty: the schedule's rules are `DataManager`'s.
     QList<CalendarIntervalRule>& calendarIntervalSettings() { return calendarIntervalSettings_; }
     /// Hours, 1 to 24; presentation only, the schedule follows the rules.
     int scheduleIntervalValue() const { return scheduleIntervalValue_; }
@@ -81,7 +79,7 @@ private:
     // Set-up
     void titleControls();
     void nameControls();
-    void arrangeForStyle();
+    void arrangeForFont();
     void connectMorePage();
     void turnToMore();
     void turnBack();

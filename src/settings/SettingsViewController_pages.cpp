@@ -137,7 +137,8 @@ void SettingsViewController::addCalendarIntervalButtonPressed()
     reloadCalendarIntervalTableView();
     const int added = ui_->calendarIntervalTable->numberOfRows() - 1;
     ui_->calendarIntervalTable->scrollRowToVisible(added);
-    if (!ui_->addCalendarIntervalButton->underMouse()) // whose user goes on with the mouse, and turns its wheel
+    // Who clicked goes on with the mouse: its wheel would change the control of the new row that has the keyboard.
+    if (!ui_->addCalendarIntervalButton->underMouse())
         ui_->calendarIntervalTable->viewAtRow(added)->takeKeyboard();
 }
 

@@ -29,9 +29,9 @@ private:
     QStyleOptionSpinBox wholeSpinBox() const;
 };
 
-/// A field for a time of day. Its arrows go round, and switch between the halves of the day, as the keys A and P do in
-/// every language; wherever the user puts the cursor, what is typed next replaces that part of the time, or, where all
-/// of it is selected, the time from its hours on. A digit that cannot go on with the hours begins the minutes.
+/// A field for a time of day. Its arrows go round, and switch between the halves of the day; so do the keys A and P, in
+/// every language. What is typed replaces the part of the time where the cursor is or, where all of it is selected, the
+/// time from its hours on. A digit that cannot go on with the hours begins the minutes.
 class TimePicker final : public QTimeEdit {
     Q_OBJECT
 

@@ -23,7 +23,7 @@ struct SetupAdvice {
     bool operator==(const SetupAdvice&) const = default;
 };
 
-/// The advice for these backup disks, or, with none of them known, what can be said without.
+/// The advice for these backup disks, or what can be said while they are not known.
 SetupAdvice setupAdvice(const std::optional<QList<BackupDestination>>& disks);
 
 /// Gives the advice once: on a Mac at once, elsewhere when the tool has told of the disks. The tool and the run loop

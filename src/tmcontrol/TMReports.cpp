@@ -63,59 +63,6 @@ BackupDestinations BackupDestinations::fromOutput(const std::optional<QByteArray
     return result;
 }
 
-} // namespace quillon
-
-namespace quillon::backupphase {
-
-namespace {
-
-// The raw words are the system tool's; several of them are one step to a user.
-constexpr std::array phrases = {
-    std::pair{""_L1, "N/A"_L1},
-    std::pair{"FindingBackupVol"_L1, "Looking For Backup Disk"_L1},
-    std::pair{"MountingBackupVol"_L1, "Connecting To Backup Disk"_L1},
-    std::pair{"MountingDiskImage"_L1, "Connecting To Backup Disk"_L1},
-    std::pair{"ThinningPreBackup"_L1, "Preparing Backup"_L1},
-    std::pair{"PreparingSourceVolumes"_L1, "Preparing Backup"_L1},
-    std::pair{"FindingChanges"_L1, "Preparing Backup"_L1},
-    std::pair{"ThinningPostBackup"_L1, "Cleaning Up"_L1},
-    std::pair{"MountingBackupVolForHealthCheck"_L1, "Performing Health Check"_L1},
-    std::pair{"HealthCheckCopyHFSMeta"_L1, "Performing Health Check"_L1},
-    std::pair{"HealthCheckFsck"_L1, "Performing Health Check"_L1},
-};
-
-constexpr std::array keys = {
-    std::pair{"N/A"_L1, "notAvailableAbbreviation"},
-    std::pair{"Starting"_L1, "tmPhaseStarting"},
-    std::pair{"Looking For Backup Disk"_L1, "tmPhaseLookingForDisk"},
-    std::pair{"Connecting To Backup Disk"_L1, "tmPhaseConnectingToDisk"},
-    std::pair{"Preparing Backup"_L1, "tmPhasePreparingBackup"},
-    std::pair{"Copying"_L1, "tmPhaseCopying"},
-    std::pair{"Cleaning Up"_L1, "tmPhaseCleaningUp"},
-    std::pair{"Performing Health Check"_L1, "tmPhaseHealthCheck"},
-    std::pair{"Finishing"_L1, "tmPhaseFinishing"},
-    std::pair{"Not Running"_L1, "tmPhaseDefault"},
-    std::pair{"Unknown"_L1, "tmPhaseUnknown"},
-};
-
-} // namespace
-
-QString phrase(const QString& rawPhase)
-{
-    const auto found = std::ranges::find(phrases, rawPhase, &decltype(phrases)::value_type::first);
-    return found == phrases.end() ? rawPhase : QString(found->second);
-}
-
-const char* localizationKey(const QString& phrase)
-{
-    const auto found = std::ranges::find(keys, phrase, &decltype(keys)::value_type::first);
-    return found == keys.end() ? nullptr : found->second;
-}
-
-} // namespace quillon::backupphase
-
-namespace quillon {
-
 namespace {
 
 /// The property list in the tool's text: from the first "{" to the last "}", whatever stands around it.
@@ -169,7 +116,7 @@ TMStatus runningStatus(const QVariantMap& status)
     } else {
         const auto share = scalar(status, u"FractionOfProgressBar"_s);
         const auto done = scalar(status, u"FractionDone"_s);
-        if (share.isValid() && done.isValid()) // one of the two may be infinite, which times 0 is not 0
+        if (share.isValid() && done.isValid()) // a missing one would read as 0, which times infinity is not 0
             result.percent = fraction(share) * fraction(done);
     }
     return result;
@@ -217,3 +164,52 @@ TMStatus TMStatus::fromOutput(const std::optional<QByteArray>& output)
 }
 
 } // namespace quillon
+
+namespace quillon::backupphase {
+
+namespace {
+
+// The raw words are the system tool's; several of them are one step to a user.
+constexpr std::array phrases = {
+    std::pair{""_L1, "N/A"_L1},
+    std::pair{"FindingBackupVol"_L1, "Looking For Backup Disk"_L1},
+    std::pair{"MountingBackupVol"_L1, "Connecting To Backup Disk"_L1},
+    std::pair{"MountingDiskImage"_L1, "Connecting To Backup Disk"_L1},
+    std::pair{"ThinningPreBackup"_L1, "Preparing Backup"_L1},
+    std::pair{"PreparingSourceVolumes"_L1, "Preparing Backup"_L1},
+    std::pair{"FindingChanges"_L1, "Preparing Backup"_L1},
+    std::pair{"ThinningPostBackup"_L1, "Cleaning Up"_L1},
+    std::pair{"MountingBackupVolForHealthCheck"_L1, "Performing Health Check"_L1},
+    std::pair{"HealthCheckCopyHFSMeta"_L1, "Performing Health Check"_L1},
+    std::pair{"HealthCheckFsck"_L1, "Performing Health Check"_L1},
+};
+
+constexpr std::array keys = {
+    std::pair{"N/A"_L1, "notAvailableAbbreviation"},
+    std::pair{"Starting"_L1, "tmPhaseStarting"},
+    std::pair{"Looking For Backup Disk"_L1, "tmPhaseLookingForDisk"},
+    std::pair{"Connecting To Backup Disk"_L1, "tmPhaseConnectingToDisk"},
+    std::pair{"Preparing Backup"_L1, "tmPhasePreparingBackup"},
+    std::pair{"Copying"_L1, "tmPhaseCopying"},
+    std::pair{"Cleaning Up"_L1, "tmPhaseCleaningUp"},
+    std::pair{"Performing Health Check"_L1, "tmPhaseHealthCheck"},
+    std::pair{"Finishing"_L1, "tmPhaseFinishing"},
+    std::pair{"Not Running"_L1, "tmPhaseDefault"},
+    std::pair{"Unknown"_L1, "tmPhaseUnknown"},
+};
+
+} // namespace
+
+QString phrase(const QString& rawPhase)
+{
+    const auto found = std::ranges::find(phrases, rawPhase, &decltype(phrases)::value_type::first);
+    return found == phrases.end() ? rawPhase : QString(found->second);
+}
+
+const char* localizationKey(const QString& phrase)
+{
+    const auto found = std::ranges::find(keys, phrase, &decltype(keys)::value_type::first);
+    return found == keys.end() ? nullptr : found->second;
+}
+
+} // namespace quillon::backupphase

@@ -3,8 +3,6 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
-#include <QVariant>
-#include <QVariantMap>
 
 #include <cstdint>
 #include <optional>
@@ -16,7 +14,7 @@ struct BackupDestination {
     QString id;
     QString name;           ///< for a network destination with the server's name behind it; may be percent-encoded
     bool isLast = false;    ///< the one that Time Machine used last
-    bool isMounted = false; ///< never a destination on a server, unless the system mounts it
+    bool isMounted = false; ///< of a destination on a server only where the system mounts it
 
     bool operator==(const BackupDestination&) const = default;
 };
@@ -30,46 +28,13 @@ struct BackupDestinations {
     static BackupDestinations fromOutput(const std::optional<QByteArray>& output);
 };
 
-} // namespace quillon
-
-namespace quillon::backupphase {
-
-/// The English phrase of a raw phase word of the status report; an unknown word is its own phrase.
-QString phrase(const QString& rawPhase);
-
-/// Localisation key of an English phrase; null for a phrase that has none and is shown as it is.
-const char* localizationKey(const QString& phrase);
-
-} // namespace quillon::backupphase
-
-namespace quillon::propertylist {
-
-/// The value of a key when it is a single value; a missing key or a container gives an invalid QVariant.
-inline QVariant scalar(const QVariantMap& dictionary, const QString& key)
-{
-    const QVariant value = dictionary.value(key);
-    const auto type = value.typeId();
-    return type == QMetaType::QVariantMap || type == QMetaType::QVariantList ? QVariant() : value;
-}
-
-/// The dictionary of a key; nothing when the key is missing or holds something else.
-inline std::optional<QVariantMap> dictionary(const QVariantMap& outer, const QString& key)
-{
-    const QVariant value = outer.value(key);
-    return value.typeId() == QMetaType::QVariantMap ? std::optional(value.toMap()) : std::nullopt;
-}
-
-} // namespace quillon::propertylist
-
-namespace quillon {
-
 /// What Time Machine is doing.
 enum class TMState : std::int64_t {
     Unknown = -1,   ///< the status could not be read
     NotRunning = 0, ///< no backup runs
     Running = 1,    ///< a backup runs
     Stopping = 2,   ///< a backup runs and is being stopped
-    Starting = 3,   ///< the status menu's own: a start was accepted, the run is not reported yet
+    Starting = 3,   ///< Quillon's own: a start was accepted, the run is not reported yet
 };
 
 /// One status report of Time Machine.
@@ -94,3 +59,13 @@ struct TMStatus {
 };
 
 } // namespace quillon
+
+namespace quillon::backupphase {
+
+/// The English phrase of a raw phase word of the status report; an unknown word is its own phrase.
+QString phrase(const QString& rawPhase);
+
+/// Localisation key of an English phrase; null for a phrase that has none and is shown as it is.
+const char* localizationKey(const QString& phrase);
+
+} // namespace quillon::backupphase

@@ -131,8 +131,7 @@ void TMUtilQueue::childEnded(const Request& request, const TaskResult& result)
 
 void TMUtilQueue::reportExitStatus(const QString& command, int status)
 {
-    // Called by copy: a handler may delete this queue, and its own slot with it.
-    const TMUtilHandlers handlers = handlers_;
+    const TMUtilHandlers& handlers = handlers_;
     if (command == "status"_L1) {
         if (status > 0 && handlers.status)
             handlers.status(TMStatus::failure());

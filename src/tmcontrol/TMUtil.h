@@ -91,7 +91,7 @@ private:
 /// Time Machine control: reads what Time Machine does, starts and stops backups, opens its settings.
 ///
 /// Results travel in handlers. A request that fails may be reported twice: once for the tool's exit status and once by
-/// the parser of its output. It lives as long as the program: answers still under way refer to it.
+/// the parser of its output. Queue and settings live as long as the program: answers still under way refer to them.
 class TMUtil {
 public:
     TMUtil(TMUtilQueue& queue, TimeMachineSettings& settings);
@@ -113,7 +113,7 @@ public:
     QString stringForBackupPhase(const QString& rawPhase) const;
 
 private:
-    /// Runs one command of the tool; everything above goes through here.
+    /// Runs one command of the tool.
     void callTMUtilWithCommand(const QString& command, const QStringList& arguments,
                                std::function<void(TMUtilHandlers&)> enterSlot,
                                std::function<void(const std::optional<QByteArray>&)> parse);

@@ -1,4 +1,4 @@
-#include "Contents.h"
+#include "Backups.h"
 #include "LocalDates.h"
 #include "RestorePlan.h"
 #include "ScopedEnvironment.h"

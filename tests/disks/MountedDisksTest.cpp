@@ -1,4 +1,4 @@
-#include "DisksPage.h"
+#include "Setup.h"
 #include "VirtualLauncher.h"
 
 #include <gtest/gtest.h>

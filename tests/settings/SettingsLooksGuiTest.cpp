@@ -1,4 +1,4 @@
-#include "Buttons.h"
+#include "Controls.h"
 #include "ClippedTexts.h"
 #include "LocalizedString.h"
 #include "SettingsFixture.h"

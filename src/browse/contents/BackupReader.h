@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Contents.h"
+#include "Backups.h"
 #include "ListingCache.h"
 #include "RunLoop.h"
 #include "Setup.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Contents.h"
+#include "Backups.h"
 
 #include <QSqlDatabase>
 #include <QSqlQuery>

@@ -3,7 +3,6 @@
 #include "BrowseWindow.h"
 #include "ColorScheme_linux.h"
 #include "LocalizedString.h"
-#include "ProcessInfo.h"
 #include "RunLoop.h"
 #include "SingleInstance.h"
 #include "Symbol_linux.h"

@@ -20,7 +20,6 @@ class QStackedWidget;
 
 namespace quillon {
 
-class FilesPane;
 class TimelinePane;
 class VersionsPane;
 

@@ -1,13 +1,9 @@
 #include "FilesPane.h"
 
 #include "BackupSetup.h"
-#include "FileLock.h"
 #include "LocalizedString.h"
-#include "Services.h"
 #include "Text.h"
 
-#include <QDir>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -17,71 +13,17 @@
 #include <QShortcut>
 #include <QToolButton>
 #include <QTreeView>
-#include <QUrl>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr auto folderName = "preview-"_L1;
-
-} // namespace
-
-Preview::Preview(const Setup::Services& services, Workspace& workspace, QString folder)
-    : services_(services)
-    , workspace_(workspace)
-    , folder_(std::move(folder))
-{
-    const QDir kept(folder_);
-    for (const QString& name : kept.entryList({folderName + u'*'}, QDir::Dirs | QDir::NoSymLinks))
-        QDir(kept.filePath(name)).removeRecursively();
-}
-
-void Preview::show(const QString& backup, const FileEntry& file)
-{
-    const QString name = shownName(file.path);
-    fetching_.reset();
-    if (!copies_ && makePrivateFolder(folder_))
-        copies_.emplace(folder_ + u'/' + folderName + "XXXXXX"_L1);
-    const QString around = copies_ ? copies_->filePath(QString::number(++count_)) : QString();
-    if (around.isEmpty() || !makePrivateFolder(around))
-        return fail(name, copies_ ? copies_->errorString() : folder_);
-    const QString copy = around + file.path.sliced(file.path.lastIndexOf(u'/'));
-    Q_EMIT progressed(localizedString("browsePreviewing").arg(name));
-    fetching_ = std::make_unique<ToolCall>(
-        services_, QStringList{u"restore"_s, u"--json"_s, u"--"_s, backup + file.path, copy},
-        ToolCall::Handlers{.line = [](const QByteArray&) { return true; },
-                           .ended =
-                               [this, name, copy](const QString& complaint) {
-                                   fetching_.reset();
-                                   Q_EMIT progressed({});
-                                   complaint.isEmpty() ? open(name, copy) : fail(name, complaint);
-                               }});
-}
-
-void Preview::open(const QString& name, const QString& copy)
-{
-    QFile::setPermissions(copy, QFile::ReadOwner);
-    workspace_.openURL(QUrl::fromLocalFile(copy), [this, name](bool opened) {
-        if (!opened)
-            fail(name, localizedString("browseNoProgram"));
-    });
-}
-
-void Preview::fail(const QString& name, const QString& complaint)
-{
-    services_.alerts.present({.style = AlertStyle::Warning,
-                              .messageText = localizedString("browsePreviewFailed").arg(name),
-                              .informativeText = complaint,
-                              .buttons = {localizedString("disksOkTitle")}},
-                             {});
-}
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -262,6 +204,107 @@ std::vector<int> FilesPane::selectedRows() const
         rows.push_back(index.row());
     std::ranges::sort(rows);
     return rows;
+}
+
+namespace {
+
+// All backups are looked through: who walks through a folder does not ask for each of its files.
+constexpr auto pauseBeforeAsking = 400ms;
+
+} // namespace
+
+VersionsPane::VersionsPane(const Setup::Services& services, QWidget* parent)
+    : QWidget(parent)
+    , services_(services)
+    , heading_(new QLabel(localizedString("browseVersionsName")))
+    , sentence_(new QLabel)
+    , list_(new QTreeWidget)
+{
+    sentence_->setTextFormat(Qt::PlainText);
+    sentence_->setWordWrap(true);
+    sentence_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    list_->setObjectName(u"versions"_s);
+    list_->setAccessibleName(localizedString("browseVersionsName"));
+    list_->setHeaderHidden(true);
+    list_->setRootIsDecorated(false);
+    list_->setUniformRowHeights(true);
+    list_->setColumnCount(2);
+    list_->header()->setStretchLastSection(false);
+    list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    heading_->setBuddy(list_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addWidget(heading_);
+    column->addWidget(sentence_, 1);
+    column->addWidget(list_, 1);
+    connect(list_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+        Q_EMIT chosen(versions_.at(static_cast<std::size_t>(list_->indexOfTopLevelItem(item))));
+    });
+    wantNone();
+}
+
+void VersionsPane::setBackupTitles(const QHash<QString, QString>& titles)
+{
+    titles_ = titles;
+    path_.clear();
+}
+
+void VersionsPane::want(const QString& path)
+{
+    if (std::exchange(path_, path) == path)
+        return;
+    asking_.reset();
+    versions_.clear();
+    tell(localizedString("browseSearching"));
+    delay_ = services_.runLoop.scheduleAfter(pauseBeforeAsking, [this] { ask(); });
+}
+
+void VersionsPane::wantNone()
+{
+    path_.clear();
+    asking_.reset();
+    delay_.invalidate();
+    tell(localizedString("browseVersionsHint"));
+}
+
+void VersionsPane::ask()
+{
+    asking_ = std::make_unique<ToolCall>(
+        services_, QStringList{u"versions"_s, u"--json"_s, u"--"_s, path_},
+        ToolCall::Handlers{.line =
+                               [this](const QByteArray& line) {
+                                   auto version = readFileLine(line);
+                                   if (version)
+                                       versions_.push_back(std::move(*version));
+                                   return version.has_value();
+                               },
+                           .ended = [this](const QString& complaint) { showVersions(complaint); }});
+}
+
+void VersionsPane::showVersions(const QString& complaint)
+{
+    asking_.reset();
+    if (!complaint.isEmpty())
+        return tell(localizedString("browseReadFailed").arg(complaint));
+    if (versions_.empty())
+        return tell(localizedString("browseNoVersions"));
+    list_->clear();
+    for (const FileEntry& version : versions_) {
+        const QString title = titles_.value(version.backup, shownName(version.backup));
+        auto* item = new QTreeWidgetItem(list_, {title, version.size ? sizeText(*version.size) : QString()});
+        item->setToolTip(0, title.toHtmlEscaped());
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    sentence_->hide();
+    list_->show();
+}
+
+void VersionsPane::tell(const QString& sentence)
+{
+    sentence_->setText(sentence);
+    sentence_->show();
+    list_->hide();
 }
 
 } // namespace quillon

@@ -1,17 +1,15 @@
 #pragma once
 
 #include "BackupReader.h"
-#include "Contents.h"
+#include "Backups.h"
 #include "FilesModel.h"
-#include "Services.h"
+#include "RunLoop.h"
 
-#include <QObject>
+#include <QHash>
 #include <QString>
-#include <QTemporaryDir>
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -20,36 +18,9 @@ class QLineEdit;
 class QPushButton;
 class QToolButton;
 class QTreeView;
+class QTreeWidget;
 
 namespace quillon {
-
-/// Shows files of a backup in the programs that the desktop has for them: copies that nobody can write to, in a folder
-/// for the user alone, gone with this.
-class Preview final : public QObject {
-    Q_OBJECT
-
-public:
-    /// All outlive this object. `folder` is where the copies are put; what an earlier program left there is removed.
-    Preview(const Setup::Services& services, Workspace& workspace, QString folder);
-
-    /// In place of one that is still being fetched.
-    void show(const QString& backup, const FileEntry& file);
-
-Q_SIGNALS:
-    /// A line on what is under way, or nothing.
-    void progressed(const QString& line);
-
-private:
-    void open(const QString& name, const QString& copy);
-    void fail(const QString& name, const QString& complaint);
-
-    const Setup::Services& services_;
-    Workspace& workspace_;
-    QString folder_;
-    std::optional<QTemporaryDir> copies_;
-    int count_ = 0;
-    std::unique_ptr<ToolCall> fetching_;
-};
 
 /// A folder of a backup with the way to it, or what a search has found. What a click or a key asks for is told; others
 /// do it.
@@ -97,6 +68,40 @@ private:
     QTreeView* view_;
     QLabel* sentence_;
     QPushButton* again_;
+};
+
+/// The versions of one file in all backups, the same content once.
+class VersionsPane final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The services must outlive this object.
+    explicit VersionsPane(const Setup::Services& services, QWidget* parent = nullptr);
+
+    /// How backups are called, by their names. What is shown is asked for anew when it is next wanted.
+    void setBackupTitles(const QHash<QString, QString>& titles);
+    /// Asks for the versions of that file, once nothing else is wanted for a moment.
+    void want(const QString& path);
+    /// Says what to do, as long as no file is chosen.
+    void wantNone();
+
+Q_SIGNALS:
+    void chosen(const quillon::FileEntry& version);
+
+private:
+    void tell(const QString& sentence);
+    void ask();
+    void showVersions(const QString& complaint);
+
+    const Setup::Services& services_;
+    QHash<QString, QString> titles_;
+    QString path_;
+    Timer delay_;
+    std::unique_ptr<ToolCall> asking_;
+    QLabel* heading_;
+    QLabel* sentence_;
+    QTreeWidget* list_;
+    std::vector<FileEntry> versions_;
 };
 
 } // namespace quillon

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// In what the systems differ that this program runs on, as far as no service of theirs is asked for it.
+/// What differs between the systems that this program runs on, and has no face among their services.
 namespace quillon {
 
 /// Path of the system's tmutil; on Linux of the one that is installed with this program.
@@ -17,8 +17,8 @@ QString ledgerFile();
 /// that is late when its disk comes.
 bool systemWatchesOverBackups();
 
-/// What a user can do something about when Time Machine answers a start with this exit status; empty where the number
-/// says nothing more.
+/// What a user can do something about when Time Machine answers a start with this exit status; empty where there is no
+/// such thing. A signal's number, which stands for a child that was killed, cannot be told from an exit status.
 QString startFailureReason(std::int32_t exitStatus);
 
 /// For the companion, which is installed beside Quillon: starts it, and does not wait for it. False, with one clear

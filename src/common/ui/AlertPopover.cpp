@@ -77,7 +77,7 @@ void AlertPopover::runAsPopoverForView(const PopoverAnchor& view, RectEdge prefe
     parentPopover_->showRelativeTo(targetView_, preferredEdge);
 }
 
-/// For another alert, which may be this one's own block that shows it.
+/// Makes room for another alert. It may be this one's own block that shows that.
 void AlertPopover::stepAside(Stack& stack)
 {
     if (!isAnswered_)
@@ -124,7 +124,7 @@ void AlertPopover::stopSynchronousPopoverAlert(const QAbstractButton* sender)
 
 void AlertPopover::CloseAndDelete::operator()(Popover* popover) const
 {
-    // It is one of its own buttons that closes it, and it fades.
+    // A click on one of its own buttons closes it, and it fades: nothing of it may go before both are over.
     QObject::connect(popover, &Popover::didClose, popover, &QObject::deleteLater);
     popover->close();
     if (!popover->isVisible())

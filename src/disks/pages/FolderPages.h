@@ -19,6 +19,24 @@ class Setup;
 class TmutilClient;
 struct TmutilAnswer;
 
+/// The folders that are backed up.
+class SourcesPage final : public ListPage {
+    Q_OBJECT
+
+public:
+    /// The setup must outlive this object.
+    explicit SourcesPage(Setup& setup, QWidget* parent = nullptr);
+
+    void reload();
+
+private:
+    void add(const QString& path);
+    void remove(const QString& path, const QString& name);
+
+    Setup& setup_;
+    QStringList sources_;
+};
+
 /// Asks which files are to be left out by their names or by their size, and shows what of the present folders that
 /// would be before it takes an answer.
 class ExclusionDialog final : public QDialog {
@@ -51,24 +69,6 @@ private:
     QPushButton* leaveOut_;
     Timer delay_;
     std::unique_ptr<TmutilClient> tmutil_; ///< counts for the value as it stands
-};
-
-/// The folders that are backed up.
-class SourcesPage final : public ListPage {
-    Q_OBJECT
-
-public:
-    /// The setup must outlive this object.
-    explicit SourcesPage(Setup& setup, QWidget* parent = nullptr);
-
-    void reload();
-
-private:
-    void add(const QString& path);
-    void remove(const QString& path, const QString& name);
-
-    Setup& setup_;
-    QStringList sources_;
 };
 
 /// What is left out of backups: by path, by name, by size.

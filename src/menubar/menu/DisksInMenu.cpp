@@ -1,7 +1,7 @@
 #include "DisksInMenu.h"
 
 #include "Accessibility.h"
-#include "Buttons.h"
+#include "Controls.h"
 #include "LocalizedString.h"
 #include "Shown.h"
 #include "StatusMenu.h"

@@ -18,8 +18,6 @@
 
 namespace quillon {
 
-class RunLoop;
-
 /// Why something failed, for code that tells failures apart.
 struct Error {
     QString domain; ///< who numbered the code
@@ -69,8 +67,8 @@ QNetworkProxy environmentProxy(const QUrl& address, const QProcessEnvironment& e
 /// One request under way: collects the answer within the bounds of size and time, and judges redirects. It deletes
 /// itself when it has ended; it ends once, and never when its parent is destroyed before.
 ///
-/// It has connections of its own: those of one QNetworkAccessManager that requests share can get lost together, and
-/// then a request that comes to nothing is seen by its time-out only.
+/// It has connections of its own: where requests share a QNetworkAccessManager, all of them can lose theirs at once,
+/// and then only the time-out ends them.
 class HttpExchange final : public QObject {
     Q_OBJECT
 

@@ -23,6 +23,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto patience = 2s;
+constexpr auto pauseBetweenTries = 20ms;
+constexpr auto timeForRequest = 5s;
+
+constexpr auto present = "present";
+constexpr char beginOfQuestion = '{';                // no other request begins so
+constexpr qint64 longestRequest = qint64{16} * 1024; // with a path of 4096 bytes, three characters each
+constexpr qint64 longestToken = 512;
+constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
+constexpr QByteArrayView confirmation("presenting");
+
 /// Many times what a reader leaves lying between two looks.
 constexpr qint64 longestBacklog = 1 << 20;
 
@@ -35,8 +46,42 @@ int remaining(const QDeadlineTimer& deadline)
 /// Desktops that don't know it yet take the identifier of the startup notification for one.
 QByteArray activationToken()
 {
-    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    const QByteArray token = qgetenv(tokenVariable);
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+/// The user's own folder for sockets, which the session's end empties; empty where the session has none.
+QString runtimeFolder()
+{
+    // Qt would fall back to a fixed name below the folder for temporary files, which another user can take first.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        return {};
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
+/// Qt shows the token to the compositor with the next window that it brings to the front. A token serves once, and is
+/// of no use to programs that are started later.
+class TokenInEnvironment {
+public:
+    explicit TokenInEnvironment(const QByteArray& token) { qputenv(tokenVariable, token); }
+    TokenInEnvironment(const TokenInEnvironment&) = delete;
+    TokenInEnvironment& operator=(const TokenInEnvironment&) = delete;
+    ~TokenInEnvironment() { qunsetenv(tokenVariable); }
+};
+
+/// A name for the socket. The file's own path may be longer than the 104 bytes (macOS) or 108 bytes (Linux) that the
+/// address of a socket holds, unix(4) and unix(7).
+QString socketName(const QString& lockFile)
+{
+    const QByteArray path = QFileInfo(lockFile).canonicalFilePath().toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex().first(16);
+    return "instance-"_L1 + QLatin1StringView(hash);
+}
+
+/// A line, or as much as a line may be.
+bool holdsRequest(const QLocalSocket& client)
+{
+    return client.canReadLine() || client.bytesAvailable() >= longestRequest;
 }
 
 } // namespace
@@ -80,55 +125,6 @@ std::optional<QByteArray> InstanceCall::nextLine(QDeadlineTimer deadline)
     }
     return first_.readLine().chopped(1);
 }
-
-namespace {
-
-constexpr auto patience = 2s;
-constexpr auto pauseBetweenTries = 20ms;
-constexpr auto timeForRequest = 5s;
-
-constexpr auto present = "present";
-constexpr char beginOfQuestion = '{';                // no other request begins so
-constexpr qint64 longestRequest = qint64{16} * 1024; // with a path of 4096 bytes, three characters each
-constexpr qint64 longestToken = 512;
-constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
-constexpr QByteArrayView confirmation("presenting");
-
-/// The user's own folder for sockets, which the session's end empties; empty where the session has none.
-QString runtimeFolder()
-{
-    // Qt would fall back to a fixed name below the folder for temporary files, which another user can take first.
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
-        return {};
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-}
-
-/// Qt shows the token to the compositor with the next window that it brings to the front. A token serves once, and is
-/// of no use to programs that are started later.
-class TokenInEnvironment {
-public:
-    explicit TokenInEnvironment(const QByteArray& token) { qputenv(tokenVariable, token); }
-    TokenInEnvironment(const TokenInEnvironment&) = delete;
-    TokenInEnvironment& operator=(const TokenInEnvironment&) = delete;
-    ~TokenInEnvironment() { qunsetenv(tokenVariable); }
-};
-
-/// A name for the socket. The file's own path may be longer than the 104 bytes (macOS) or 108 bytes (Linux) that the
-/// address of a socket holds, unix(4) and unix(7).
-QString socketName(const QString& lockFile)
-{
-    const QByteArray path = QFileInfo(lockFile).canonicalFilePath().toUtf8();
-    const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex().first(16);
-    return "instance-"_L1 + QLatin1StringView(hash);
-}
-
-/// A line, or as much as a line may be.
-bool holdsRequest(const QLocalSocket& client)
-{
-    return client.canReadLine() || client.bytesAvailable() >= longestRequest;
-}
-
-} // namespace
 
 SingleInstance::SingleInstance(const QString& lockFile, const QByteArrayList& requests)
     : requests_(requests)

@@ -15,35 +15,6 @@ namespace quillon {
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The kernel marks the list of mounts as exceptional once for every change, proc(5).
-class KernelMountWatch final : public MountWatch {
-public:
-    void setWatching(bool watching) override
-    {
-        if (watching == change_.has_value())
-            return;
-        change_.reset();
-        mounts_.close();
-        if (!watching || !mounts_.open(QIODevice::ReadOnly))
-            return;
-        change_.emplace(mounts_.handle(), QSocketNotifier::Exception);
-        connect(&*change_, &QSocketNotifier::activated, this, &MountWatch::changed);
-    }
-
-private:
-    QFile mounts_{u"/proc/self/mountinfo"_s};
-    std::optional<QSocketNotifier> change_;
-};
-
-} // namespace
-
-std::unique_ptr<MountWatch> makeMountWatch()
-{
-    return std::make_unique<KernelMountWatch>();
-}
-
 LogindSleepWatch::LogindSleepWatch(const QDBusConnection& systemBus, QString reason)
     : reason_(std::move(reason))
     , lock_(systemBus, LogindSleepLock::Mode::Delay)
@@ -179,6 +150,35 @@ void LinuxWorkspace::report(bool opened, Completion completion)
 std::unique_ptr<Workspace> makeWorkspace(RunLoop& runLoop, const WorkspaceNeeds& needs)
 {
     return std::make_unique<LinuxWorkspace>(runLoop, QDBusConnection::systemBus(), needs);
+}
+
+namespace {
+
+/// The kernel marks the list of mounts as exceptional once for every change, proc(5).
+class KernelMountWatch final : public MountWatch {
+public:
+    void setWatching(bool watching) override
+    {
+        if (watching == change_.has_value())
+            return;
+        change_.reset();
+        mounts_.close();
+        if (!watching || !mounts_.open(QIODevice::ReadOnly))
+            return;
+        change_.emplace(mounts_.handle(), QSocketNotifier::Exception);
+        connect(&*change_, &QSocketNotifier::activated, this, &MountWatch::changed);
+    }
+
+private:
+    QFile mounts_{u"/proc/self/mountinfo"_s};
+    std::optional<QSocketNotifier> change_;
+};
+
+} // namespace
+
+std::unique_ptr<MountWatch> makeMountWatch()
+{
+    return std::make_unique<KernelMountWatch>();
 }
 
 } // namespace quillon

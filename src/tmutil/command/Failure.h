@@ -18,7 +18,7 @@ enum class ExitStatus {
     NoBackup = 6,           ///< there is no such backup, or nothing has been backed up yet
     PathExists = 7,         ///< a restore would overwrite something
     Stopped = 8,            ///< the backup that was waited for, or the restore, has been stopped
-    ResticMissing = 9,      ///< restic is not installed
+    ResticMissing = 9,      ///< restic, or ssh for a place on SFTP, is not installed
     NotListed = 10,         ///< what was to be removed is not among the sources or exclusions
     LeftOut = 11,           ///< a folder would be backed up and left out at once
     Incomplete = 12,        ///< a backup was made, but it lacks a folder that held files before

@@ -12,36 +12,16 @@
 #include "Text.h"
 #include "Verification.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QStorageInfo>
 
 #include <cstdio>
-#include <fcntl.h>
 #include <map>
-#include <sys/socket.h>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
-
-void CallerChannel::tellReady() const
-{
-    send("ready\n");
-}
-
-void CallerChannel::tellEnd(ExitStatus status, const QString& message) const
-{
-    send(QByteArray::number(static_cast<int>(status)) + ' ' + message.simplified().toUtf8() + '\n');
-}
-
-void CallerChannel::send(const QByteArray& line)
-{
-    // Lines this short go out whole. That nobody listens any more is no concern of the backup's.
-    [[maybe_unused]] const auto sent =
-        ::send(descriptor, line.constData(), static_cast<size_t>(line.size()), MSG_NOSIGNAL);
-}
 
 void print(const QByteArray& text)
 {
@@ -108,39 +88,6 @@ QByteArray lineOf(const ListedFile& file, const QString& name)
 void printError(const QString& sentence)
 {
     std::fprintf(stderr, "tmutil: %s\n", shownText(sentence, sentence.size()).toUtf8().constData());
-}
-
-ReportMarks::ReportMarks(const QString& stateFolder)
-    : folder_(stateFolder + "/reported"_L1)
-{
-}
-
-void ReportMarks::clear() const
-{
-    QFile::remove(folder_); // should it be a link: not what that leads to
-    removeFolderTree(AT_FDCWD, QFile::encodeName(folder_).constData());
-    needPrivateFolder(folder_);
-}
-
-void ReportMarks::mark(const QString& runId, bool finishing) const
-{
-    if (QFile file(path(runId, finishing)); !file.exists())
-        file.open(QIODevice::WriteOnly);
-}
-
-bool ReportMarks::isReported(const QString& runId) const
-{
-    return QFile::exists(path(runId, false)) || isFinishingReported(runId);
-}
-
-bool ReportMarks::isFinishingReported(const QString& runId) const
-{
-    return QFile::exists(path(runId, true));
-}
-
-QString ReportMarks::path(const QString& runId, bool finishing) const
-{
-    return folder_ + u'/' + runId + (finishing ? "-finishing"_L1 : "-running"_L1);
 }
 
 namespace {

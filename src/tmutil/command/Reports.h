@@ -19,22 +19,6 @@ namespace quillon {
 class Configuration;
 class History;
 
-/// The worker's end of the line to the `startbackup` that has started it. The caller may hang up at any time.
-class CallerChannel {
-public:
-    /// The descriptor at which a worker finds its channel.
-    static constexpr int descriptor = 3;
-
-    /// The lock is held, and the status shows the run.
-    void tellReady() const;
-
-    /// The worker ends.
-    void tellEnd(ExitStatus status, const QString& message) const;
-
-private:
-    static void send(const QByteArray& line);
-};
-
 /// To standard output, at once. Throws Failure.
 void print(const QByteArray& text);
 void print(const QStringList& lines);
@@ -57,27 +41,6 @@ void printForPeople(const QStringList& lines);
 
 /// To standard error, in the same way, with the program's name.
 void printError(const QString& sentence);
-
-/// How the worker learns what `status` has told its callers: an empty file per run and kind of report. Making a file
-/// that exists already changes nothing, so any number of callers may mark at once.
-class ReportMarks {
-public:
-    explicit ReportMarks(const QString& stateFolder);
-
-    /// Throws Failure when the folder cannot be made.
-    void clear() const;
-
-    /// A caller has been told that this run runs, or that it is finishing.
-    void mark(const QString& runId, bool finishing) const;
-
-    bool isReported(const QString& runId) const;
-    bool isFinishingReported(const QString& runId) const;
-
-private:
-    QString path(const QString& runId, bool finishing) const;
-
-    QString folder_;
-};
 
 /// What `destinationinfo` says, for people and, as an XML property list, for programs, which are told "Path" and, where
 /// there is one, the date "LastBackup" besides what the system tool tells; of a disk that is there also "BytesFree" and

@@ -12,8 +12,6 @@
 
 namespace quillon {
 
-class Restic;
-
 /// The repository of a destination, ready for restic: a folder that is held open or a network place, of which only
 /// restic can tell what is there.
 class Repository {

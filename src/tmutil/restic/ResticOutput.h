@@ -13,6 +13,8 @@
 
 class QJsonObject;
 
+// What restic says of a repository: its list of backups, and its lines while it makes one.
+
 namespace quillon {
 
 class Repository;

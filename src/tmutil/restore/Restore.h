@@ -43,7 +43,6 @@ private:
     QString targetProblem_;
 };
 
-class Restic;
 class StopRequest;
 
 /// Where something is restored to.

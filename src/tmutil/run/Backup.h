@@ -17,7 +17,6 @@
 
 namespace quillon {
 
-class BackupOutput;
 class History;
 class Restic;
 struct ResticOutcome;

@@ -33,6 +33,8 @@ std::vector<Snapshot> leastMissed(const std::vector<Snapshot>& snapshots, const 
 /// for "never".
 bool isWeekOver(const QDateTime& last, const QDateTime& now);
 
+// From here on what acts upon a repository by those decisions.
+
 class Repository;
 class Restic;
 

@@ -11,7 +11,6 @@
 namespace quillon {
 
 class History;
-class Restic;
 struct ResticOutcome;
 class StopRequest;
 struct Folders;

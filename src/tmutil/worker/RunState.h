@@ -29,32 +29,6 @@ struct LastFailure {
     QVariantMap toDictionary() const;
 };
 
-/// What one run has done, kept in a file of the state folder.
-struct RunLog {
-    QString begun; ///< a statusDate(), as `ended`
-    QString ended;
-    QString destinationId;
-    QString disk;        ///< its name
-    QString result;      ///< "Completed", "Incomplete", "Failed" or "Stopped"
-    QString description; ///< what was wrong, for people; empty where nothing was
-    QString backup;      ///< the backup's name; empty where none was made
-    qlonglong files = 0;
-    qlonglong newFiles = 0;
-    qlonglong changedFiles = 0;
-    qlonglong bytesAdded = 0; ///< to the repository
-    QStringList unread;       ///< every path that could not be read
-    QString words;            ///< what restic said on standard error
-
-    /// Keeps it, and the latest 199 besides. False when it could not be written.
-    bool write(const QString& stateFolder) const;
-
-    /// Those kept, oldest first.
-    static std::vector<RunLog> all(const QString& stateFolder);
-
-    QString line() const; ///< one line of an overview
-    QStringList text() const;
-};
-
 /// The lock of a file for this program, which ends with a Failure where a lock cannot be had at all.
 class ProcessLock {
 public:
@@ -121,6 +95,53 @@ struct RunState {
 
     /// The dictionary that `status` prints.
     QVariantMap toDictionary() const;
+};
+
+/// What one run has done, kept in a file of the state folder.
+struct RunLog {
+    QString begun; ///< a statusDate(), as `ended`
+    QString ended;
+    QString destinationId;
+    QString disk;        ///< its name
+    QString result;      ///< "Completed", "Incomplete", "Failed" or "Stopped"
+    QString description; ///< what was wrong, for people; empty where nothing was
+    QString backup;      ///< the backup's name; empty where none was made
+    qlonglong files = 0;
+    qlonglong newFiles = 0;
+    qlonglong changedFiles = 0;
+    qlonglong bytesAdded = 0; ///< to the repository
+    QStringList unread;       ///< every path that could not be read
+    QString words;            ///< what restic said on standard error
+
+    /// Keeps it, and the latest 199 besides. False when it could not be written.
+    bool write(const QString& stateFolder) const;
+
+    /// Those kept, oldest first.
+    static std::vector<RunLog> all(const QString& stateFolder);
+
+    QString line() const; ///< one line of an overview
+    QStringList text() const;
+};
+
+/// How the worker learns what `status` has told its callers: an empty file per run and kind of report. Making a file
+/// that exists already changes nothing, so any number of callers may mark at once.
+class ReportMarks {
+public:
+    explicit ReportMarks(const QString& stateFolder);
+
+    /// Throws Failure when the folder cannot be made.
+    void clear() const;
+
+    /// A caller has been told that this run runs, or that it is finishing.
+    void mark(const QString& runId, bool finishing) const;
+
+    bool isReported(const QString& runId) const;
+    bool isFinishingReported(const QString& runId) const;
+
+private:
+    QString path(const QString& runId, bool finishing) const;
+
+    QString folder_;
 };
 
 } // namespace quillon

@@ -2,16 +2,34 @@
 
 #include "Backup.h"
 #include "Configuration.h"
+#include "Failure.h"
 #include "Paths.h"
 #include "Restic.h"
 #include "RunState.h"
 
+#include <QByteArray>
 #include <QDeadlineTimer>
 #include <QString>
 
 #include <optional>
 
 namespace quillon {
+
+/// The worker's end of the line to the `startbackup` that has started it. The caller may hang up at any time.
+class CallerChannel {
+public:
+    /// The descriptor at which a worker finds its channel.
+    static constexpr int descriptor = 3;
+
+    /// The lock is held, and the status shows the run.
+    void tellReady() const;
+
+    /// The worker ends.
+    void tellEnd(ExitStatus status, const QString& message) const;
+
+private:
+    static void send(const QByteArray& line);
+};
 
 /// Starts a worker for that destination, in a session of its own and with nothing of this process open, and returns
 /// once `status` shows the run; with `block` when the run has ended, with what is to be said about it. Throws Failure

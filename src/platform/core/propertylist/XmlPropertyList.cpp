@@ -13,8 +13,8 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-// Here a function that reads a value gives an invalid one for two reasons: the value cannot be held, or the text is at
-// fault, which the XML reader then knows of.
+// A function that reads a value gives an invalid one where no QVariant holds it, and where the text is at fault; then
+// the XML reader has an error.
 namespace {
 
 // The settings are read so in a program that runs all day: the first regular expression costs it half a megabyte.
@@ -39,7 +39,7 @@ std::optional<QVariant> integer(QStringView text)
     text = withoutLineEnd(text);
     const QStringView digits = text.startsWith(u'+') || text.startsWith(u'-') ? text.mid(1) : text;
     const bool isHexadecimal = digits.startsWith("0x"_L1) && digits.size() > 2;
-    // No octal numbers: strtoull(3) reads a leading zero so, other readers of property lists do not.
+    // Readers of property lists differ on a leading zero: some take the number for an octal one, as strtoull(3) does.
     const bool isDecimal = !digits.isEmpty() && (digits.size() == 1 || !digits.startsWith(u'0'));
     if (isHexadecimal ? !std::ranges::all_of(digits.mid(2), isHexadecimalDigit)
                       : !isDecimal || !std::ranges::all_of(digits, isDecimalDigit))

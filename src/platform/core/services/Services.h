@@ -12,8 +12,8 @@
 #include <memory>
 #include <optional>
 
-// What programs want of the system and of the desktop that they run on: the seams at which tests play both. Each face
-// has one implementation for either system, in `session/` or, of alerts, in `ui/`.
+// What programs want of the system and of the desktop that they run on: the seams at which tests play both. What stands
+// behind them is in `session/`, a source for each system; alerts are shown by `ui/alert/`.
 
 namespace quillon {
 

@@ -2,10 +2,18 @@
 
 #include "ProcessInfo.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
 #include <utility>
 
 namespace quillon {
+
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
 
 /// What a Timer handle and its RunLoop share. An empty block marks an invalidated timer.
 struct TimerState {
@@ -55,9 +63,6 @@ void Timer::fire()
         invalidate();
     block();
 }
-
-using std::chrono::milliseconds;
-using namespace std::chrono_literals;
 
 void RunLoop::enqueue(Block block)
 {
@@ -171,7 +176,7 @@ void RunLoop::requestWake()
 namespace {
 
 // QTimer counts milliseconds in an int, 24 days at most; waking once an hour for a farther date costs nothing.
-constexpr std::chrono::milliseconds longestWait = 1h;
+constexpr milliseconds longestWait = 1h;
 
 } // namespace
 
@@ -187,15 +192,66 @@ Date QtRunLoop::now() const
     return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
 }
 
-std::chrono::milliseconds QtRunLoop::uptime() const
+milliseconds QtRunLoop::uptime() const
 {
     return systemUptime();
 }
 
-void QtRunLoop::wakeAt(std::chrono::milliseconds uptime)
+void QtRunLoop::wakeAt(milliseconds uptime)
 {
     const auto wait = std::clamp(uptime - this->uptime(), 0ms, longestWait);
     wake_.start(wait);
+}
+
+namespace {
+
+// A signal handler is given nothing but the signal's number.
+volatile sig_atomic_t writeEnd = -1;
+
+void passOn(int)
+{
+    const char byte = 0;
+    [[maybe_unused]] const auto written = write(writeEnd, &byte, 1);
+}
+
+void handleWith(void (*handler)(int))
+{
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+QuitSignals::QuitSignals()
+{
+    if (pipe(pipe_.data()) != 0)
+        return; // the signals end the program as they always did
+    for (const int end : pipe_) {
+        fcntl(end, F_SETFD, FD_CLOEXEC);
+        fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    writeEnd = pipe_[1];
+    notifier_.setSocket(pipe_[0]);
+    QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] {
+        char byte = 0;
+        while (read(pipe_[0], &byte, 1) == 1) {
+        }
+        QCoreApplication::quit();
+    });
+    notifier_.setEnabled(true);
+    handleWith(passOn);
+}
+
+QuitSignals::~QuitSignals()
+{
+    handleWith(SIG_DFL);
+    for (const int end : pipe_) {
+        if (end >= 0)
+            close(end);
+    }
 }
 
 } // namespace quillon

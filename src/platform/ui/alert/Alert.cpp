@@ -64,7 +64,7 @@ AlertText::AlertText(const QString& text, bool bold, QWidget* parent)
 void AlertText::changeEvent(QEvent* event)
 {
     QTextEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange)
         fitToText();
     else if (event->type() == QEvent::PaletteChange)
         takeWindowColor();

@@ -12,25 +12,6 @@ class QPalette;
 
 namespace quillon {
 
-/// The content of a popover: as large as what is in it, and scrolling where the screen has no room for that. What is in
-/// it needs a layout.
-class ScreenFittingArea final : public QScrollArea {
-    Q_OBJECT
-
-public:
-    explicit ScreenFittingArea(QWidget* parent = nullptr);
-
-    /// Takes ownership. Transparent: the ground is that of the popover.
-    void setContent(QWidget* content);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-};
-
 /// Sides of a rectangle, in a coordinate system whose y axis points up: MinY is the lower side, MaxY the upper one.
 enum class RectEdge { MinX = 0, MinY = 1, MaxX = 2, MaxY = 3 };
 
@@ -78,5 +59,24 @@ void paintPopoverShadow(QPainter& painter, const QRectF& body);
 
 /// The ground and its border line in the palette's colours.
 void paintPopoverGround(QPainter& painter, const QPainterPath& outline, const QPalette& palette);
+
+/// The content of a popover: as large as what is in it, and scrolling where the screen has no room for that. What is in
+/// it needs a layout.
+class ScreenFittingArea final : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ScreenFittingArea(QWidget* parent = nullptr);
+
+    /// Takes ownership. Transparent: the ground is that of the popover.
+    void setContent(QWidget* content);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+};
 
 } // namespace quillon

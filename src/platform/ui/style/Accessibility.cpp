@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QFontInfo>
-#include <QPainter>
 #include <QStringList>
 #include <QStyle>
 #include <QVariant>
@@ -43,32 +42,6 @@ bool isDark(const QPalette& palette)
 QColor systemBlueColor(const QPalette& palette)
 {
     return isDark(palette) ? QColor(0x5aaaff) : QColor(0x0058d0);
-}
-
-namespace {
-
-constexpr int space = 6; // above and below the line, in logical pixels
-constexpr int lineHeight = 1;
-
-} // namespace
-
-Divider::Divider(QWidget* parent)
-    : QWidget(parent)
-{
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-}
-
-QSize Divider::sizeHint() const
-{
-    return {0, 2 * space + lineHeight};
-}
-
-void Divider::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter painter(this);
-    QColor faint = palette().color(QPalette::WindowText);
-    faint.setAlphaF(0.15F);
-    painter.fillRect(QRect(0, space, width(), lineHeight), faint);
 }
 
 QFont withColorEmoji(QFont font)

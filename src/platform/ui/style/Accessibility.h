@@ -22,17 +22,6 @@ bool isDark(const QPalette& palette);
 /// palette (WCAG 2.1, 1.4.3 and 1.4.11).
 QColor systemBlueColor(const QPalette& palette);
 
-/// A faint line between two groups of controls.
-class Divider final : public QWidget {
-public:
-    explicit Divider(QWidget* parent = nullptr);
-
-    QSize sizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
 /// The font with colour emoji: Qt 6.4 prefers any font that has a glyph to the one that has it in colour.
 QFont withColorEmoji(QFont font);
 

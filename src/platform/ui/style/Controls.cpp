@@ -1,4 +1,4 @@
-#include "Buttons.h"
+#include "Controls.h"
 
 #include "Accessibility.h"
 #include "Alert.h"
@@ -148,6 +148,32 @@ void SignButton::paintEvent(QPaintEvent* /*event*/)
     if (!isEnabled())
         painter.setOpacity(0.4);
     paintAlertSign(painter, QRectF(rect()).adjusted(signMargin, signMargin, -signMargin, -signMargin), alertStyle_);
+}
+
+namespace {
+
+constexpr int space = 6; // above and below the line, in logical pixels
+constexpr int lineHeight = 1;
+
+} // namespace
+
+Divider::Divider(QWidget* parent)
+    : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize Divider::sizeHint() const
+{
+    return {0, 2 * space + lineHeight};
+}
+
+void Divider::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    QColor faint = palette().color(QPalette::WindowText);
+    faint.setAlphaF(0.15F);
+    painter.fillRect(QRect(0, space, width(), lineHeight), faint);
 }
 
 } // namespace quillon

@@ -1,4 +1,4 @@
-#include "Contents.h"
+#include "Backups.h"
 
 #include "Calendar.h"
 #include "DateFormatter.h"
