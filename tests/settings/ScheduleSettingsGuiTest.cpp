@@ -98,6 +98,9 @@ TEST_F(ScheduleSettings, ARuleIsDeletedOnlyWhenTheUserConfirmsItAndTheLastOneGoe
     EXPECT_EQ(storedRules(), (QVariantList{rule(2, 3600), rule(4, 10800)}));
     ASSERT_EQ(rows().size(), 2);
     EXPECT_TRUE(deleteButton(1).hasFocus());
+    deleteButton(0).setFocus();
+    QTest::keyClick(&deleteButton(0), Qt::Key_Tab);
+    EXPECT_TRUE(dayMenu(1).hasFocus());
     EXPECT_EQ(dayMenu(1).currentText(), u"every Wednesday"_s);
     choose(dayMenu(1), u"every Thursday"_s);
     EXPECT_EQ(storedRules().last().toMap(), rule(5, 10800)) << "rows belong to the rules that are left";

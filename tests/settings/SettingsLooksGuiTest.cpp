@@ -1,5 +1,6 @@
-#include "Controls.h"
+#include "Accessibility.h"
 #include "ClippedTexts.h"
+#include "Controls.h"
 #include "LocalizedString.h"
 #include "SettingsFixture.h"
 #include "TimePicker.h"
@@ -103,10 +104,30 @@ TEST_F(SettingsLooks, NothingIsClippedInAnyLanguageOrSizeOfTheSystemsFont)
     installStringTable(u"en"_s);
     open({{}, {8, 7200}});
     const int before = panel_->width();
+    const int field = control<QWidget>("scheduleIntervalValueTextField").maximumWidth();
     enlargeFont(1.75);
     ASSERT_TRUE(runUntil([&] { return panel_->width() > before; }, 5)) << "it grows while it is open";
     EXPECT_EQ(clippedTexts(*panel_), "");
     EXPECT_EQ(control<QScrollArea>("calendarIntervalTable").verticalScrollBar()->maximum(), 0);
+    EXPECT_GT(control<QWidget>("scheduleIntervalValueTextField").maximumWidth(), field);
+}
+
+TEST_F(SettingsLooks, RulesLieOnAGroundOfTheirOwnWithRoundedCornersAndAFaintEdge)
+{
+    open({{}});
+    auto& table = control<QScrollArea>("calendarIntervalTable");
+    for (const auto& [window, base, ground] : {std::tuple(QColor(240, 240, 240), QColor(Qt::white), QColor(Qt::white)),
+                                               {QColor(40, 40, 40), QColor(Qt::black), QColor(50, 50, 50)}}) {
+        QPalette palette(window);
+        palette.setColor(QPalette::Base, base);
+        table.setPalette(palette);
+        const QImage image = table.grab().toImage();
+        EXPECT_EQ(image.pixelColor(image.width() / 2, image.height() - 10), ground);
+        EXPECT_EQ(image.pixelColor(0, 0), window);
+        const QColor edge = image.pixelColor(0, image.height() / 2);
+        EXPECT_GT(contrast(edge, ground), 1.05);
+        EXPECT_LT(contrast(edge, ground), 2);
+    }
 }
 
 TEST_F(SettingsLooks, WhatTheScreenHasNoRoomForIsScrolledToByKeyboard)
