@@ -208,8 +208,6 @@ void CalendarIntervalTable::removeLastRow()
 
 void CalendarIntervalTable::scrollRowToVisible(int row)
 {
-    widget()->layout()->activate();
-    widget()->adjustSize();
     ensureWidgetVisible(viewAtRow(row), 0, 0);
 }
 

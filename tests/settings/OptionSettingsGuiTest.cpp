@@ -58,6 +58,8 @@ TEST_F(OptionSettings, SwitchingARetryOffCancelsThePendingOne)
         open();
         manager_->setRetryBackupDate(local(2026, 11, 21, 10, 6));
         menuBarUpdates_ = 0;
+        runLoop_.advance(Seconds(1));
+        EXPECT_EQ(nextBackup(), u"Today, 10:06\u202fAM"_s);
         click(box);
         EXPECT_EQ(nextBackup(), u"Today, 12:00\u202fPM"_s);
         manager_->setRetryBackupDate(local(2026, 11, 21, 10, 6));

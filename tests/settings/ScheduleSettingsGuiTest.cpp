@@ -70,6 +70,9 @@ TEST_F(ScheduleSettings, FiveRulesAreSeenAtOnceASixthIsRefusedAndThoseOfAnotherH
     QTest::keyClick(&add, Qt::Key_Space);
     ASSERT_EQ(rows().size(), 5);
     EXPECT_TRUE(dayMenu(4).hasFocus()) << "a rule added by keyboard has the keyboard";
+    QCoreApplication::processEvents();
+    for (int row = 1; row < 5; ++row)
+        EXPECT_LT(rows()[row - 1]->y(), rows()[row]->y());
     EXPECT_EQ(storedRules().last().toMap(), rule(0, 43200));
     click(add);
     answerAlert(u"OK"_s);
