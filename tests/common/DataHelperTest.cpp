@@ -70,6 +70,7 @@ TEST_F(DataHelperTest, TextsOfTheYearOfVersionsAndOfTheMakersPages)
     EXPECT_EQ(DataHelper::bundleVersionString(), u"%1 (Build %2)"_s.arg(bundleShortVersion(), bundleVersion()));
     EXPECT_NE(bundleShortVersion(), bundleVersion());
     EXPECT_EQ(makersite::page(u"/a/"_s).path(), u"/a/"_s);
+    EXPECT_TRUE(identity::instanceLock().endsWith("/com.Orvane.Quillon.instance"_L1));
     for (const auto& [version, words] :
          {std::pair{"12.7.6", u"open System Preferences"_s}, {"13.0", u"open System Settings"_s}}) {
         const ScopedEnvironment named("QUILLON_SYSTEM_VERSION", version);

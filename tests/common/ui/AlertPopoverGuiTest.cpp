@@ -1,6 +1,7 @@
 #include "Alert.h"
 #include "AlertPopover.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
@@ -83,6 +84,7 @@ TEST_F(AlertPopoverTest, ClosesByItsButtonsOnlyWhichAnswerOnce)
 {
     const std::weak_ptr<AlertPopover> alert = run(u"A"_s, views_[0], RectEdge::MaxX);
     EXPECT_GT(place().left(), onScreen(views_[0]).right());
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(shown().front())->role(), QAccessible::AlertMessage);
     clickOutside();
     Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
     EXPECT_EQ(visible(), u"A"_s);
