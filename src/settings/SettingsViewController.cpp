@@ -231,14 +231,9 @@ void SettingsViewController::connectAlertControls()
 
 void SettingsViewController::warningButtonPressed()
 {
-    if (std::exchange(setupAdviceIsAwaited_, true))
-        return;
     giveSetupAdvice(tmutil_, runLoop_, [self = QPointer(this)](const SetupAdvice& advice) {
-        if (!self)
-            return;
-        self->setupAdviceIsAwaited_ = false;
-        // The user may have turned to something else meanwhile.
-        if (self->ui_->warningButton->isVisible() && !self->shouldDisableUserControls_)
+        // The user may have turned to something else meanwhile, also by another click on the button.
+        if (self && self->ui_->warningButton->isVisible() && !self->shouldDisableUserControls_)
             self->showSetupAdvice(advice);
     });
 }

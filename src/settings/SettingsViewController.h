@@ -144,7 +144,6 @@ private:
     QList<CalendarIntervalRule> calendarIntervalSettings_;
     int scheduleIntervalValue_ = 2;
     bool shouldDisableUserControls_ = false;
-    bool setupAdviceIsAwaited_ = false;
 };
 
 } // namespace quillon

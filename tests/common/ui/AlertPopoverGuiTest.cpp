@@ -150,7 +150,7 @@ TEST_F(AlertPopoverTest, KeepsATransientPopoverOpenThatItPointsInto)
     settings.setContentView(control);
     settings.setBehavior(PopoverBehavior::Transient);
     settings.showRelativeTo({.view = views_[0]}, RectEdge::MinY);
-    run(u"A"_s, control, RectEdge::MaxX);
+    const auto kept = run(u"A"_s, control, RectEdge::MaxX);
     clickOutside();
     EXPECT_TRUE(settings.isShown());
     const QRect controlPlace = onScreen(control);
