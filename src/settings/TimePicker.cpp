@@ -202,7 +202,7 @@ void TimePicker::type(int digit)
     ++typedDigits_;
     setPart(part, typed_);
     setSelectedSection(part);
-    if (typedDigits_ == 2 || ten * typed_ > largest(part)) {
+    if (typedDigits_ == 2 || typed_ > largest(part) / ten) {
         typedDigits_ = 0;
         selectPart(currentSectionIndex() + 1);
     }

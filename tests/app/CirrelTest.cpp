@@ -204,13 +204,15 @@ TEST_F(CirrelTest, TheCacheAnswersAtOnceUntilTheIntervalHasPassed)
     defaults.setDate(u"Cirrel_Config_P_lastDate"_s, dateByAdding(runLoop.now(), 1000h));
     get(u"P"_s, 100);
     EXPECT_EQ(reported(), "QString cached") << "a date in the future is fresh";
+    get(u"P"_s, 0);
+    EXPECT_EQ(network->posted, 6);
     for (const auto& unusable : {QVariant(), QVariant(u"damaged"_s)}) {
         defaults.stored[u"Cirrel_Config_P"_s] = unusable;
         get(u"P"_s, 100);
         EXPECT_EQ(reported(), "QString default") << "a fresh date without an answer";
         EXPECT_FALSE(Cirrel::getConfigFromCacheFor(u"P"_s).isValid());
     }
-    EXPECT_EQ(network->posted, 5);
+    EXPECT_EQ(network->posted, 6);
 }
 
 TEST_F(CirrelTest, TheServiceMovesTheClientForFourteenDays)

@@ -78,7 +78,7 @@ TEST_F(DataHelperTest, TextsOfTheYearOfVersionsAndOfTheMakersPages)
     }
 }
 
-TEST(HostSystemTest, KeepsTheLedgerInTheFolderOfStatesIfThatIsAbsolute)
+TEST(HostSystemTest, TheLedgerIsInTheFolderOfStatesIfThatIsAbsoluteAndTheToolBesideThePrograms)
 {
     const ScopedEnvironment home("HOME", "/home/anna");
     for (const auto& [folder, file] : {std::pair{"/var/../state/", "/state/quillon/ledger.sqlite"},
@@ -87,6 +87,7 @@ TEST(HostSystemTest, KeepsTheLedgerInTheFolderOfStatesIfThatIsAbsolute)
         const ScopedEnvironment state("XDG_STATE_HOME", folder);
         EXPECT_EQ(ledgerFile(), QLatin1StringView(file));
     }
+    EXPECT_TRUE(systemTmutilPath().endsWith("/libexec/quillon/tmutil"_L1));
 }
 
 TEST(HostSystemTest, SaysOfARefusedStartWhatTheUserCanDoAboutIt)

@@ -18,16 +18,10 @@ struct AlertPopover::Stack {
 
     Stack()
     {
-        qAddPostRoutine([] { stack().clear(); });
-    }
-
-    /// Windows don't outlive the application object.
-    void clear()
-    {
-        if (current)
-            delete current->parentPopover_.release();
-        current.reset();
-        waiting.clear();
+        qAddPostRoutine([] { // windows don't outlive the application object
+            if (stack().current)
+                delete stack().current->parentPopover_.release();
+        });
     }
 };
 

@@ -99,7 +99,9 @@ TEST_F(AlertPopoverTest, ClosesByItsButtonsOnlyWhichAnswerOnce)
 TEST_F(AlertPopoverTest, BringsBackWhatWasPushedAsideTheLatestFirstAboveItsOwnView)
 {
     run(u"A"_s, views_[0], RectEdge::MaxX);
+    QPushButton* const fading = button(0);
     run(u"B"_s, views_[1], RectEdge::MinY);
+    fading->click();
     run(u"C"_s, views_[2], RectEdge::MinX);
     EXPECT_EQ(visible(), u"C"_s);
     EXPECT_TRUE(noted_.isEmpty()) << "being pushed aside is no answer";
