@@ -102,7 +102,7 @@ struct PlayedSaturday : PlayedPlace, PlayedProgram {
     }
     void openMenuAndWait()
     {
-        controller->menuWillOpen();
+        Q_EMIT menu().aboutToShow();
         wait(0.3);
     }
     /// Runs fail from now on, after twenty seconds.

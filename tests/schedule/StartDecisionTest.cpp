@@ -62,6 +62,7 @@ TEST(StartDecision, ARetryWaitsForFiveMinutesAndForWhatAWakeUpCallsFor)
     };
     for (int row = 0; const auto& each : cases)
         EXPECT_EQ(retryDate(now, each.wait, each.pending), now + each.ahead) << "row " << ++row;
+    EXPECT_EQ(retryDate(now + 59s, 0s), now + 6min);
 }
 
 } // namespace quillon
