@@ -1,4 +1,5 @@
 #include "ControllerFixture.h"
+#include "RemoteControl.h"
 #include "ScopedEnvironment.h"
 
 #include <QFile>
@@ -65,10 +66,14 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     const AlertRequest alert = takeAlert().first;
     EXPECT_EQ(alert.messageText, u"Warning"_s);
     EXPECT_EQ(alert.informativeText, u"The program “before” kept the backup from starting.\n\nNo network."_s);
-    QString words;
-    controller->backupNowRequested([&words](const CommandResult& result) { words = result.hookWords; });
+    RemoteControl remote({runLoop, notifications, tmutil, *manager, *controller});
+    QString answer;
+    remote.take(ControlRequest::toLine({u"backup"_s}), [&answer](const QByteArray& line) {
+        answer = ControlAnswer::fromLine(line)->text;
+        return true;
+    });
     wait(10);
-    EXPECT_EQ(words, u"No network."_s);
+    EXPECT_EQ(answer, u"a program of yours stopped it: No network."_s);
     until(today(12, 0, 30));
     EXPECT_EQ(latest(), "schedule|skipped|hookFailed|No network.");
     EXPECT_TRUE(alerts.presented.empty());
