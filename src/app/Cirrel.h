@@ -74,7 +74,8 @@ public:
 
     /// The parameter's value, from the cache while that is younger than `serverInterval` seconds (at once), else from
     /// the service; 0 or less always asks it. Where neither has one, `defaultValue`, a text or a number; where the
-    /// service answers with a kind that this client does not know, an invalid value. When the service fails, the cached or the default value comes together with the error, and the cache stays.
+    /// service answers with a kind that this client does not know, an invalid value. When the service fails, the cached
+    /// or the default value comes together with the error, and the cache stays.
     static void getConfigForParameter(const QString& parameter, double serverInterval, const QVariant& defaultValue,
                                       const ConfigBlock& block);
 

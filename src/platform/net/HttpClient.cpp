@@ -164,7 +164,7 @@ void HttpExchange::takeEnd()
     const QVariant length = reply_->header(QNetworkRequest::ContentLengthHeader);
     if (!isAnswer(*reply_))
         fail(reply_->error(), reply_->errorString());
-    else if (length.isValid() && body_.size() < length.toLongLong()) // Qt tells of that only where the status code is no error
+    else if (length.isValid() && body_.size() < length.toLongLong()) // Qt does not tell where the status is an error
         fail(QNetworkReply::RemoteHostClosedError, u"The server's answer breaks off."_s);
     else if (target.isEmpty())
         finish({body_, std::nullopt});
