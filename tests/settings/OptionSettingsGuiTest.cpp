@@ -154,7 +154,7 @@ TEST_F(OptionSettings, TheAdviceSaysWhereBackupsGoAndLeadsToTimeMachinesSettings
 {
     open();
     click("warningButton");
-    click("warningButton"); // an impatient user asks once
+    click("warningButton"); // an impatient user is told once
     runLoop_.advance(Seconds(1));
     EXPECT_TRUE(shownAlertText().contains(u"First Disk"_s));
     answerAlert(u"Open Time Machine Settings..."_s);
