@@ -55,10 +55,10 @@ function(quillon_precompiled target)
   target_precompile_headers(${target} REUSE_FROM precompiled_${set})
 endfunction()
 
-# Folders of a target: the current one, and those in it that are no target of their own.
-function(quillon_folders result)
-  set(folders ${CMAKE_CURRENT_SOURCE_DIR})
-  file(GLOB entries CONFIGURE_DEPENDS LIST_DIRECTORIES true ${CMAKE_CURRENT_SOURCE_DIR}/*)
+# The folder, and those in it that make no targets of their own.
+function(quillon_folders result folder)
+  set(folders ${folder})
+  file(GLOB entries CONFIGURE_DEPENDS LIST_DIRECTORIES true ${folder}/*)
   foreach(entry ${entries})
     if(IS_DIRECTORY ${entry} AND NOT EXISTS ${entry}/CMakeLists.txt)
       list(APPEND folders ${entry})
@@ -90,10 +90,13 @@ function(quillon_sources result)
   set(${result} ${sources} PARENT_SCOPE)
 endfunction()
 
-# quillon_layer(NAME LINK...): a static library of all sources in the target's folders; it exposes only those.
-function(quillon_layer name)
-  quillon_folders(folders)
+# quillon_layer(NAME FOLDER LINK...): a static library of the sources in the folder and in those below it, but for its
+# main.cpp; it exposes only these folders.
+function(quillon_layer name folder)
+  get_filename_component(folder ${folder} ABSOLUTE)
+  quillon_folders(folders ${folder})
   quillon_sources(sources ${folders})
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON
     AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/resources/interface)
@@ -102,10 +105,9 @@ function(quillon_layer name)
   quillon_precompiled(${name})
 endfunction()
 
-# quillon_program(NAME LINK...): an executable of all sources in the current folder.
-function(quillon_program name)
-  quillon_sources(sources ${CMAKE_CURRENT_SOURCE_DIR})
-  add_executable(${name} ${sources})
+# quillon_program(NAME FOLDER LINK...): an executable of the folder's main.cpp.
+function(quillon_program name folder)
+  add_executable(${name} ${folder}/main.cpp)
   target_link_libraries(${name} PRIVATE ${ARGN} quillon_options)
   quillon_precompiled(${name})
 endfunction()

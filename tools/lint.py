@@ -25,33 +25,37 @@ NAMESPACE = re.compile(r"^(?:inline )?namespace(?: ([\w:]+))? \{$")
 LONG_FILE = 420
 
 
-TARGET = re.compile(r"^(?:quillon_layer|quillon_program|add_library)\((\S+)", re.MULTILINE)
-LINKS = re.compile(r"(?:quillon_layer|quillon_program|target_link_libraries)\((\S+)\s([^)]*)\)")
+TARGET = re.compile(r"^ *quillon_(layer|program)\((\S+)\s+([^\s)]+)([^)]*)\)", re.MULTILINE)
+MORE_LINKS = re.compile(r"target_link_libraries\((\S+)\s([^)]*)\)")
+MAIN = "/main.cpp"
 
 
 class Layers:
-    """The folders that CMake makes a target of, and what each target links, directly or by what it links."""
+    """The folders that CMake makes a target of, each a layer, and what a target links, directly or by what it links. A
+    program is a layer of one file."""
 
     def __init__(self, source):
-        self._folders = {}
+        self._targets = {}
         self._links = {}
         for path in source.rglob("CMakeLists.txt"):
             text = path.read_text(encoding="utf-8")
-            if target := TARGET.search(text):
-                self._folders[path.parent.relative_to(source).as_posix()] = target[1]
-            for name, links in LINKS.findall(text):
+            for kind, name, folder, links in TARGET.findall(text):
+                layer = (path.parent / folder).relative_to(source).as_posix()
+                self._targets[layer + MAIN if kind == "program" else layer] = name
                 self._links.setdefault(name, set()).update(links.split())
-        self._targets = {target: folder for folder, target in self._folders.items()}
+            for name, links in MORE_LINKS.findall(text):
+                self._links.setdefault(name, set()).update(links.split())
+        self._layers = {target: layer for layer, target in self._targets.items()}
 
-    def layer_of(self, folder):
-        """The layer that a folder belongs to; None for none."""
-        while folder not in self._folders and "/" in folder:
-            folder = folder.rpartition("/")[0]
-        return folder if folder in self._folders else None
+    def layer_of(self, file):
+        """The layer that a file belongs to, by its path below the sources; None for none."""
+        while file not in self._targets and "/" in file:
+            file = file.rpartition("/")[0]
+        return file if file in self._targets else None
 
     def linked(self, layer):
         """Names of all that a layer links."""
-        reached, waiting = set(), [self._folders[layer]]
+        reached, waiting = set(), [self._targets[layer]]
         while waiting:
             for link in self._links.get(waiting.pop(), ()):
                 if link not in reached:
@@ -60,10 +64,10 @@ class Layers:
         return reached
 
     def in_one_program(self, *layers):
-        return any(set(layers) <= self.allowed(program) for program in self._folders)
+        return any(set(layers) <= self.allowed(program) for program in self._targets)
 
     def allowed(self, layer):
-        return {self._targets[link] for link in self.linked(layer) if link in self._targets} | {layer}
+        return {self._layers[link] for link in self.linked(layer) if link in self._layers} | {layer}
 
 
 class Tree:
@@ -110,7 +114,7 @@ class Tree:
                 yield from ((number, what) for what in self._about_include(layer, *include.groups()))
             if (switch := SYSTEM_SWITCH.match(bare)) and not path.stem.endswith(("_linux", "_macos")):
                 yield number, f"{switch[1]} belongs into a file named *_linux or *_macos"
-            if (clock := CLOCK.search(bare)) and layer not in WITH_CLOCK:
+            if (clock := CLOCK.search(bare)) and layer.removesuffix(MAIN) not in WITH_CLOCK:
                 yield number, f"{clock[1]}: time comes from the run loop here"
 
     def _about_include(self, layer, own, foreign):
@@ -119,14 +123,14 @@ class Tree:
             owners = self._headers.get(name, set())
             if owners and not owners & self._layers.allowed(layer):
                 yield f"{layer} must not include {name} of {' or '.join(map(str, owners))}"
-            if name in FORBIDDEN_HEADERS.get(layer, ()):
+            if name in FORBIDDEN_HEADERS.get(layer.removesuffix(MAIN), ()):
                 yield f"{layer} must not include {name}"
         elif (module := foreign.partition("/")[0]) in QT_MODULES:
             if QT_MODULES[module] not in self._layers.linked(layer):
                 yield f"{layer} links no {module} and must not include <{foreign}>"
 
     def _layer(self, path):
-        return self._layers.layer_of(path.parent.relative_to(self._source).as_posix())
+        return self._layers.layer_of(path.relative_to(self._source).as_posix())
 
     def _name(self, path):
         return path.relative_to(self._source.parent).as_posix()
