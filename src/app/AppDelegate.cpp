@@ -5,7 +5,7 @@
 #include "DataHelper.h"
 #include "LocalizedString.h"
 #include "SetupAdvice.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "Text.h"
 
 #include <QJsonDocument>

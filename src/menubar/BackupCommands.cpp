@@ -2,7 +2,7 @@
 
 #include "HostSystem.h"
 #include "LocalizedString.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <QFile>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #include "MachineWatch.h"
 
 #include "LocalizedString.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <algorithm>
 #include <chrono>

@@ -2,7 +2,7 @@
 
 #include "LocalizedString.h"
 #include "Shown.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <algorithm>
 #include <utility>

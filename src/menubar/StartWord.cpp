@@ -2,7 +2,7 @@
 
 #include "DataHelper.h"
 #include "LocalizedString.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 #include "AboutViewController.h"
 #include "DataHelper.h"
 #include "LocalizedString.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "WindowSystem.h"
 
 #include <algorithm>

@@ -8,7 +8,7 @@
 #include "Shown.h"
 #include "StatusItem.h"
 #include "StatusMenu.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "UserDefaults.h"
 
 #include <QObject>

@@ -3,7 +3,7 @@
 #include "ApplicationIdentity.h"
 #include "DataHelper.h"
 #include "LocalizedString.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "TimeMachineSettings.h"
 
 namespace quillon {

@@ -1,13 +1,12 @@
 #include "Doctor.h"
 
 #include "ApplicationIdentity.h"
-#include "BackupInfo.h"
 #include "Calendar.h"
 #include "NextBackup.h"
 #include "PropertyList.h"
 #include "Report.h"
 #include "StatusItemPlace.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "TMReports.h"
 #include "Text.h"
 

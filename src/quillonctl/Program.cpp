@@ -7,7 +7,7 @@
 #include "Ledger.h"
 #include "Report.h"
 #include "SingleInstance.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "TMUtil.h"
 #include "UserDefaults.h"
 

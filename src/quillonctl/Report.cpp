@@ -3,7 +3,7 @@
 #include "Calendar.h"
 #include "Doctor.h"
 #include "NextBackup.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "Text.h"
 
 #include <QJsonArray>

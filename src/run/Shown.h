@@ -2,7 +2,7 @@
 
 #include "BackupRun.h"
 #include "Date.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "TMReports.h"
 
 #include <QList>

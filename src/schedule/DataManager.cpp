@@ -1,7 +1,7 @@
 #include "DataManager.h"
 
 #include "DataHelper.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "BackupInfo.h"
 #include "NextBackup.h"
 #include "NotificationCenter.h"
 #include "RunLoop.h"
 #include "Services.h"
 #include "StartDecision.h"
+#include "StoredAndSent.h"
 #include "UserDefaults.h"
 
 #include <QByteArray>

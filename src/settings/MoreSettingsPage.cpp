@@ -4,7 +4,7 @@
 #include "CalendarIntervalTable.h"
 #include "Controls.h"
 #include "LocalizedString.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "UserDefaults.h"
 
 #include <QCheckBox>

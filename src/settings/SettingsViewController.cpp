@@ -9,7 +9,7 @@
 #include "NotificationCenter.h"
 #include "PopoverPlacement.h"
 #include "SetupAdvice.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "ui_SettingsView.h"
 
 #include <QHideEvent>

@@ -4,7 +4,7 @@
 #include "LocalizedString.h"
 #include "Services.h"
 #include "SettingsViewController.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "UserDefaults.h"
 #include "ui_SettingsView.h"
 

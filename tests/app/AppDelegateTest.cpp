@@ -9,7 +9,7 @@
 #include "MemoryDefaults.h"
 #include "ScopedEnvironment.h"
 #include "SimulatedTimeMachine.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "TMUtil.h"
 
 #include <QJsonDocument>

@@ -4,7 +4,7 @@
 #include "LocalDates.h"
 #include "PlayedProgram.h"
 #include "ScopedEnvironment.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include "FileUserDefaults_linux.h"
 #include "PracticeTmutil.h"
 #include "RunLoop.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "VirtualRunLoop.h"
 
 #include <QDir>

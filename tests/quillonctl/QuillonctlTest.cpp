@@ -1,5 +1,4 @@
 #include "ApplicationIdentity.h"
-#include "BackupInfo.h"
 #include "Doctor.h"
 #include "LocalDates.h"
 #include "MemoryDefaults.h"
@@ -7,7 +6,7 @@
 #include "Program.h"
 #include "Report.h"
 #include "ScopedEnvironment.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "VirtualLauncher.h"
 
 #include <QFile>

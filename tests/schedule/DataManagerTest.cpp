@@ -6,7 +6,7 @@
 #include "MemoryDefaults.h"
 #include "PropertyList.h"
 #include "ScopedEnvironment.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "VirtualRunLoop.h"
 
 #include <QDateTime>

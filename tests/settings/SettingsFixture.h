@@ -9,7 +9,7 @@
 #include "SettingsViewController.h"
 #include "ShownAlerts.h"
 #include "SimulatedTimeMachine.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -8,7 +8,7 @@
 #include "NextBackup.h"
 #include "NotificationCenter.h"
 #include "StatusMenuController.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 #include "TMUtil.h"
 
 #include <QString>

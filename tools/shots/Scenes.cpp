@@ -4,7 +4,7 @@
 #include "Cirrel.h"
 #include "NetworkPlace.h"
 #include "ScopedEnvironment.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <QAction>
 #include <QApplication>

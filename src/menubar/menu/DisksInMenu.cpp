@@ -5,7 +5,7 @@
 #include "LocalizedString.h"
 #include "Shown.h"
 #include "StatusMenu.h"
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,4 +1,4 @@
-#include "MenuBarWindow_linux.h"
+#include "ShownStatusItem_linux.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,5 +1,5 @@
 #include "PrivateBus.h"
-#include "TrayStatusItems_linux.h"
+#include "ShownStatusItem_linux.h"
 #include "host/FakeSettingsPortal.h"
 #include "host/FakeStatusNotifierTray.h"
 #include "host/Probe.h"

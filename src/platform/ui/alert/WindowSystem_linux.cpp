@@ -1,4 +1,4 @@
-#include "TrayStatusItems_linux.h"
+#include "ShownStatusItem_linux.h"
 #include "WindowSystem.h"
 
 #include <QGuiApplication>

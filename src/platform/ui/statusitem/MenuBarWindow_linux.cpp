@@ -1,9 +1,7 @@
-#include "MenuBarWindow_linux.h"
-
 #include "Accessibility.h"
 #include "Alert.h"
+#include "ShownStatusItem_linux.h"
 #include "Symbol_linux.h"
-#include "TrayStatusItems_linux.h"
 #include "WindowSystem.h"
 
 #include <QCloseEvent>

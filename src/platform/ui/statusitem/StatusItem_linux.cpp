@@ -1,7 +1,6 @@
 #include "ColorScheme_linux.h"
-#include "MenuBarWindow_linux.h"
+#include "ShownStatusItem_linux.h"
 #include "StatusNotifierItem_linux.h"
-#include "TrayStatusItems_linux.h"
 
 #include <QDBusConnection>
 #include <QMenu>

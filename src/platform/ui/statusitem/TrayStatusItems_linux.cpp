@@ -1,6 +1,5 @@
-#include "TrayStatusItems_linux.h"
-
 #include "Alert.h"
+#include "ShownStatusItem_linux.h"
 #include "Symbol_linux.h"
 #include "TrayProtocols_linux.h"
 

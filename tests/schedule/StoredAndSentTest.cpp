@@ -1,4 +1,4 @@
-#include "StoredAndSentNames.h"
+#include "StoredAndSent.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,10 @@
-#include "BackupInfo.h"
+#include "StoredAndSent.h"
 
+#include "HostSystem.h"
+#include "NextBackup.h"
 #include "PropertyList.h"
 
 #include <QDateTime>
-#include <QVariantMap>
 
 #include <algorithm>
 #include <initializer_list>
@@ -77,6 +78,29 @@ std::optional<BackupInfo> BackupInfo::unarchiveFromData(const QByteArray& data)
     if (const auto date = fields.value(dateKey).toDateTime(); date.isValid())
         info.date_ = Date(std::chrono::milliseconds(date.toMSecsSinceEpoch()));
     return info;
+}
+
+QVariantMap registeredDefaults()
+{
+    using namespace settingskeys;
+    // The pause, the changed starts, the remembered backups and the icon state have no default: absent is what their
+    // readers look for.
+    const qlonglong whereNobodyElseWatches = systemWatchesOverBackups() ? 0 : 1;
+    return {
+        {firstLaunch, true},
+        {enableSchedule, 1LL},
+        {enableRetryAtMissedSchedule, 1LL},
+        {enableRetryAtFailure, 1LL},
+        {showDetailedTime, 1LL},
+        {showMenuBarIconOnly, 0LL},
+        {enableMenuBarColors, 1LL},
+        {rotateBackupDisks, 1LL},
+        {launchAtSystemStart, 1LL},
+        {calendarIntervals, QVariantList{CalendarIntervalRule().toDictionary()}},
+        {daysWithoutBackup, 10 * whereNobodyElseWatches},
+        {stayAwake, whereNobodyElseWatches},
+        {startWhenDiskAppears, whereNobodyElseWatches},
+    };
 }
 
 } // namespace quillon
