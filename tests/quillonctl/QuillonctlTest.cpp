@@ -217,7 +217,7 @@ TEST_F(DoctorTest, TellsWhatGoesOnAndWhatHasGoneWrong)
     defaults_.setObject(settingskeys::calendarIntervals, CalendarIntervalRule::listToArray(rules));
     defaults_.setDate(settingskeys::pauseUntilDate, local(2026, 11, 21, 13));
     defaults_.setObject(settingskeys::enableRetryAtFailure, 0LL);
-    const auto found = examine(R"([
+    auto found = examine(R"([
         {"expect":["status"],"delay":0.02,"output":"{ Running = 1; BackupPhase = MountingDiskImage;
           Progress = { Percent = 0.8; }; LastFailure = { Date = \"2026-11-19 07:22:58 +0000\"; DestinationID = A;
           Cause = UnreadFiles; Description = \"/home/me/secret\"; UnreadFiles = 1; }; }"},
@@ -230,6 +230,8 @@ TEST_F(DoctorTest, TellsWhatGoesOnAndWhatHasGoneWrong)
     EXPECT_EQ(report::doctorText(found).toStdString(), pageHere("troubled.txt").toStdString());
     EXPECT_EQ(QJsonDocument::fromJson(report::doctorJson(found)), QJsonDocument::fromJson(pageHere("troubled.json")))
         << report::doctorJson(found).toStdString();
+    found.lastFailure->unreadFiles = 2;
+    EXPECT_TRUE(report::doctorText(found).contains(", 2 files could not be read\n"));
 }
 
 TEST_F(DoctorTest, FindsNothingWrongWhereNothingIs)
