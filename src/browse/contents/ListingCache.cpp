@@ -27,7 +27,7 @@ constexpr int layout = 1;
 // Rows that are written together.
 constexpr int batch = 20'000;
 
-constexpr auto columns = "name, kind, size, modified, target, content"_L1;
+constexpr auto fileColumns = "name, kind, size, modified, target, content"_L1;
 constexpr int columnCount = 6;
 constexpr auto ending = ".listing"_L1;
 
@@ -78,7 +78,7 @@ bool ListingCache::begin()
         return false;
     folders_.clear();
     insertion_ = std::make_unique<QSqlQuery>(database_);
-    return insertion_->prepare("INSERT INTO files (folder, folded, "_L1 + columns +
+    return insertion_->prepare("INSERT INTO files (folder, folded, "_L1 + fileColumns +
                                ") VALUES (?, ?, ?, ?, ?, ?, ?, ?)"_L1);
 }
 
@@ -142,7 +142,7 @@ std::optional<std::vector<FileEntry>> ListingCache::folder(const QString& path)
         return std::nullopt;
     QSqlQuery rows(database_);
     rows.setForwardOnly(true);
-    rows.prepare("SELECT "_L1 + columns + " FROM files WHERE folder = ?"_L1);
+    rows.prepare("SELECT "_L1 + fileColumns + " FROM files WHERE folder = ?"_L1);
     rows.addBindValue(ids.value(0));
     if (!rows.exec())
         return failed();
@@ -161,7 +161,7 @@ std::optional<ListingCache::Page> ListingCache::search(const NamePattern& patter
     QSqlQuery rows(database_);
     rows.setForwardOnly(true);
     rows.prepare(u"SELECT %1, files.id, folders.path FROM files JOIN folders ON folders.id = files.folder "
-                 "WHERE files.id > ? AND %2 ORDER BY files.id LIMIT ?"_s.arg(columns, condition));
+                 "WHERE files.id > ? AND %2 ORDER BY files.id LIMIT ?"_s.arg(fileColumns, condition));
     rows.bindValue(0, behind);
     rows.bindValue(1, pattern.text);
     rows.bindValue(2, most);

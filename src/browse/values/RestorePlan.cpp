@@ -21,7 +21,7 @@ namespace {
 // So that the command line stays well below what the kernel takes.
 constexpr qsizetype mostSources = 500;
 
-std::optional<RestoreEvent::Kind> kindOf(const QString& event)
+std::optional<RestoreEvent::Kind> eventKindOf(const QString& event)
 {
     if (event == "progress"_L1)
         return RestoreEvent::Kind::Progress;
@@ -58,7 +58,7 @@ QString reasonIn(const QJsonObject& object, RestoreEvent::Kind kind)
 std::optional<RestoreEvent> readRestoreEvent(const QByteArray& line)
 {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
-    const auto kind = kindOf(object["event"_L1].toString());
+    const auto kind = eventKindOf(object["event"_L1].toString());
     if (!kind)
         return std::nullopt;
     return RestoreEvent{.kind = *kind,

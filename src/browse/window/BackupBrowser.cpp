@@ -25,7 +25,7 @@ constexpr std::size_t longestHistory = 100;
 
 // Of what is kept a search takes moments; the tool is asked once somebody pauses.
 constexpr auto typingPause = 400ms;
-constexpr int page = 500; // names that are found at a time
+constexpr int foundAtATime = 500; // names
 
 } // namespace
 
@@ -219,7 +219,7 @@ void BackupBrowser::searchKept(const QString& typed)
 {
     Q_EMIT told(localizedString("browseNothingFound"));
     model_.showFound(FilesModel::Kind::FoundHere, [this, pattern = namePattern(typed), behind = qint64{0}]() mutable {
-        auto [files, next] = reader_->search(pattern, behind, page);
+        auto [files, next] = reader_->search(pattern, behind, foundAtATime);
         behind = next;
         return files;
     });
@@ -241,7 +241,7 @@ void BackupBrowser::askForNames(const QString& typed, bool everywhere)
                                    if (!entry)
                                        return false;
                                    found_.push_back(std::move(*entry));
-                                   if (found_.size() >= page)
+                                   if (found_.size() >= foundAtATime)
                                        model_.append(std::exchange(found_, {}));
                                    return true;
                                },

@@ -44,7 +44,7 @@ bool isAnswered(int status)
     return status == noDisk || status == noDiskThere || status == noBackup;
 }
 
-QLabel* makeSentence(const QString& text)
+QLabel* makeWrapped(const QString& text)
 {
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
@@ -70,14 +70,14 @@ BrowseWindow::BrowseWindow(const Setup::Services& services, Workspace& workspace
     , previewButton_(new QPushButton(localizedString("browsePreviewTitle")))
     , restoreButton_(new QPushButton(panelTitle("browseRestoreTitle")))
     , troubleBar_(new QWidget)
-    , troubleLabel_(makeSentence({}))
+    , troubleLabel_(makeWrapped({}))
     , pages_(new QStackedWidget)
-    , emptyLabel_(makeSentence({}))
+    , emptyLabel_(makeWrapped({}))
     , tmutil_(services.launcher, services.runLoop, services.tmutil, longestCall)
 {
     setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(localizedString("browseWindowTitle"));
-    QLabel* reading = makeSentence(localizedString("browseReading"));
+    QLabel* reading = makeWrapped(localizedString("browseReading"));
     reading->setAlignment(Qt::AlignCenter);
     pages_->addWidget(reading);
     pages_->addWidget(makePanes());
@@ -188,7 +188,7 @@ void BrowseWindow::addKeys()
     key(QKeySequence::Close, [this] { close(); });
     key(Qt::Key_F5, [this] { reload(); });
     key(QKeySequence::Find, [this] { search_->setFocus(Qt::ShortcutFocusReason); });
-    key(Qt::CTRL | Qt::Key_R, [this] { restore(); });
+    key(QKeyCombination(Qt::CTRL, Qt::Key_R), [this] { restore(); });
     auto* leaveSearch = new QShortcut(Qt::Key_Escape, search_);
     leaveSearch->setContext(Qt::WidgetShortcut);
     connect(leaveSearch, &QShortcut::activated, this, [this] {

@@ -197,7 +197,7 @@ void FilesModel::sort(int column, Qt::SortOrder order)
 
 QKeySequence FilesModel::sortKeys(Column column)
 {
-    return {Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(column))};
+    return QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(column)));
 }
 
 /// Returns the new row of each old one.

@@ -27,8 +27,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto backKeys = Qt::ALT | Qt::Key_Left;
-constexpr auto upKeys = Qt::ALT | Qt::Key_Up;
+constexpr QKeyCombination backKeys(Qt::ALT, Qt::Key_Left);
+constexpr QKeyCombination upKeys(Qt::ALT, Qt::Key_Up);
 
 QToolButton* makeArrow(Qt::ArrowType arrow, const char* key, const QKeySequence& keys)
 {
