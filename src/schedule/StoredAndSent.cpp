@@ -97,7 +97,7 @@ QVariantMap registeredDefaults()
         {rotateBackupDisks, 1LL},
         {launchAtSystemStart, 1LL},
         {calendarIntervals, QVariantList{CalendarIntervalRule().toDictionary()}},
-        {daysWithoutBackup, 10 * whereNobodyElseWatches},
+        {daysWithoutBackup, systemWatchesOverBackups() ? 0LL : 10LL},
         {stayAwake, whereNobodyElseWatches},
         {startWhenDiskAppears, whereNobodyElseWatches},
     };

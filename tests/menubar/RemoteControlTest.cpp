@@ -3,6 +3,7 @@
 #include "ControllerFixture.h"
 #include "Told.h"
 
+#include <QDialog>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -109,6 +110,12 @@ TEST_F(Remote, PausesAndResumesAsTheMenuDoes)
 {
     launchWithRemote();
     EXPECT_EQ(ask(u"settings"_s), "the settings are open");
+    {
+        QDialog alert;
+        alert.setModal(true);
+        alert.show();
+        EXPECT_EQ(ask(u"settings"_s), "! an alert of Quillon waits for an answer");
+    }
     EXPECT_EQ(ask(u"resume"_s), "! the schedule is not paused");
     EXPECT_EQ(ask(u"pause 1h"_s),
               "the schedule is paused until Sat 2026-11-21 11:00 +01:00; next backup Sat 2026-11-21 12:00 +01:00");

@@ -158,7 +158,12 @@ TEST(BackupRun, ProgressNeverGoesBackAndIsCarriedOnAfterCopyingWhileThereIsAnEst
           {50s, finishing, 0.9, 50},
           {100s, finishing, 1.0, 0},
           {103s, finishing, 0.8, 0}}}, // the estimate has run out
-        {begun(0.8, 2), {{0s, finishing, 0.8, 2}, {1s, finishing, 0.9, 1}, {2s, finishing, 1.0, 0}, {}}},
+        {begun(),
+         {{0s, finishing, 0.8, 100},
+          {50s, finishing, 0.9, 50},
+          {60s, report(Running, u"Finishing"_s, 0.9, 30), 0.8, 30}, // a percentage that tells nothing new
+          {}}},
+        {begun(0.8, 1), {{0s, finishing, 0.8, 1}, {1s, finishing, 1.0, 0}, {}, {}}},
         {begun(), {{0s, finishing, 0.8, 100}, {150s, finishing, 1.0, 0}, {}, {}}}, // nobody could ask for long
         {begun(0.5, 0), {{0s, finishing, 0.5, 0}, {50s, finishing, 0.5, 0}, {60s, finishing, 0.5, 0}, {}}},
         {begun(0, 60), {{0s, finishing, 0, 60}, {50s, finishing, 0, 60}, {70s, finishing, 0, 60}, {}}},

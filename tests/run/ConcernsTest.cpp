@@ -31,6 +31,7 @@ TEST(Concerns, AreFoundWhereSomethingIsWrongAndNotBefore)
         {[](auto& facts) { facts.lastCompleted.reset(); }, {Kind::NoBackupForDays}},
         {[](auto& facts) { facts.lastCompleted.reset(), facts.watchedSince = now - 9 * aDay; }, {}},
         {[](auto& facts) { facts.lastCompleted.reset(), facts.daysWithoutBackup = 0; }, {}},
+        {[](auto& facts) { facts.lastCompleted = now - aDay, facts.daysWithoutBackup = 1; }, {Kind::NoBackupForDays}},
         {[](auto& facts) { facts.startAwaited = 2min; }, {Kind::StartWithoutRun}},
         {[](auto& facts) { facts.startAwaited = 2min - 1ms; }, {}},
         {[](auto& facts) { facts.withoutProgress = 30min; }, {Kind::NoProgress}},

@@ -74,6 +74,10 @@ TEST_F(Shown, AnIdleItemTellsOfTheNextBackup)
     }
     moment.updateIsAvailable = false;
     EXPECT_EQ(shown::idleIcon(moment), std::nullopt);
+    moment.pauseUntil = moment.now + 1ms;
+    EXPECT_EQ(menu().pausedUntil, u"Schedule Paused Until: Today, 10:00"_s);
+    moment.pauseUntil = moment.now;
+    EXPECT_EQ(menu().pausedUntil, std::nullopt);
 }
 
 TEST_F(Shown, ARunTellsHowFarItHasCome)
