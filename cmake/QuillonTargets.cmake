@@ -1,4 +1,4 @@
-# What every target of the tree has in common, and the two functions that make a layer and its tests.
+# What every target of the tree has in common, and the functions that make a layer, a program and their tests.
 
 add_library(quillon_options INTERFACE)
 target_compile_features(quillon_options INTERFACE cxx_std_20)
@@ -67,8 +67,8 @@ function(quillon_folders result folder)
   set(${result} ${folders} PARENT_SCOPE)
 endfunction()
 
-# Sources of these folders that belong to the system being built for: a file named *_linux or *_macos is one twin of a
-# service whose other twin lies beside it.
+# Sources of these folders that belong to the system being built for: a file named *_linux or *_macos is for that
+# system alone; of a service that both have, its twin lies beside it.
 function(quillon_sources result)
   foreach(folder ${ARGN})
     file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
@@ -90,8 +90,8 @@ function(quillon_sources result)
   set(${result} ${sources} PARENT_SCOPE)
 endfunction()
 
-# quillon_layer(NAME FOLDER LINK...): a static library of the sources in the folder and in those below it, but for its
-# main.cpp; it exposes only these folders.
+# quillon_layer(NAME FOLDER LINK...): a static library of the sources in the folder and in those directly in it, but
+# for its main.cpp; it exposes only these folders.
 function(quillon_layer name folder)
   get_filename_component(folder ${folder} ABSOLUTE)
   quillon_folders(folders ${folder})

@@ -13,8 +13,8 @@ FORBIDDEN_HEADERS = {"quillonctl": {"DataManager.h"}}
 # Modules that Debian's layout lets an include find although the layer does not link them.
 QT_MODULES = {"QtGui": "Qt6::Widgets", "QtWidgets": "Qt6::Widgets", "QtNetwork": "Qt6::Network", "QtDBus": "Qt6::DBus",
               "QtSql": "Qt6::Sql", "QtSvg": "Qt6::Svg"}
-# Who may ask a clock: what the run loop stands on, and programs that have none.
-WITH_CLOCK = {"platform/core", "platform/session", "platform/ui", "quillon", "quillonctl", "helper", "tmutil"}
+# Who may ask a clock: the run loop, services of the platform beside it, and the commands, which wait.
+WITH_CLOCK = {"platform/core", "platform/session", "platform/ui", "quillonctl", "tmutil"}
 CLOCK = re.compile(r"\b(QDateTime::current\w*|QDate::currentDate|QTime::currentTime|(?:system|steady)_clock::now"
                    r"|QTimer|QElapsedTimer|QDeadlineTimer)\b")
 SYSTEM_SWITCH = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(Q_OS_\w+|__APPLE__|__linux__)\b")

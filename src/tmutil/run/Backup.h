@@ -35,7 +35,7 @@ struct BackupResult {
     std::optional<LastFailure> failure; ///< why it failed, or what a completed backup lacks
 };
 
-/// One backup, from looking for the disk to cleaning up behind it. Runs in the worker, in order, in its main thread.
+/// One backup, from looking for the disk to cleaning up behind it. Runs in the worker.
 class Backup {
 public:
     /// Told of each phase as it begins and, while copying, of progress.

@@ -13,7 +13,7 @@
 #include <optional>
 
 // What programs want of the system and of the desktop that they run on: the seams at which tests play both. What stands
-// behind them is in `session/`, a source for each system; alerts are shown by `ui/alert/`.
+// behind them is in `platform/session/`, a source for each system; alerts are shown by `platform/ui/alert/`.
 
 namespace quillon {
 
