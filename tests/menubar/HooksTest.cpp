@@ -78,10 +78,14 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     EXPECT_EQ(latest(), "schedule|skipped|hookFailed|No network.");
     EXPECT_TRUE(alerts.presented.empty());
 
+    install(u"before"_s, {{}, {}, 3});
+    click();
+    wait(10);
+    EXPECT_EQ(latest(), "user|skipped|hookFailed|“~/before” ended with exit status 3.");
     install(u"before"_s, {{}, {}, 0, 0, Fault::Hang});
     click();
     wait(590);
-    EXPECT_EQ(latest(), "schedule|skipped|hookFailed|No network.");
+    EXPECT_EQ(latest(), "user|skipped|hookFailed|“~/before” ended with exit status 3.");
     wait(20);
     EXPECT_EQ(latest(), "user|skipped|hookFailed|“~/before” was ended after ten minutes.");
 

@@ -88,6 +88,9 @@ TEST_F(RunCycle, SleepIsHeldOffWhileABackupThatWasStartedHereRuns)
         EXPECT_TRUE(awakeLock.reason.isEmpty());
     }
     defaults.stored.remove(settingskeys::stayAwake);
+    runElsewhere(30);
+    EXPECT_TRUE(awakeLock.reason.isEmpty());
+    wait(90);
     machine.phases = {{u"Finishing"_s, 0.05}}; // too short to be seen
     click();
     wait(20);

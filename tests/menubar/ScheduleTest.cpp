@@ -1,4 +1,6 @@
 #include "ControllerFixture.h"
+#include "ScheduleWatch.h"
+#include "ScopedEnvironment.h"
 
 #include <functional>
 
@@ -79,6 +81,16 @@ TEST_F(SleepAndClock, AClockSetBackByMoreThanThreeHoursRepeatsAStartAndANewZoneM
     after(16, "1, Next: 6h 29m, Back Up Now, next 21 12:00");
 }
 
+TEST(ClockWatch, TellsOfANewZoneOnce)
+{
+    const ScopedEnvironment home("TZ", "Europe/Berlin");
+    VirtualRunLoop runLoop(local(2026, 11, 21, 10));
+    ClockWatch clock(runLoop);
+    const ScopedEnvironment travel("TZ", "Europe/London");
+    EXPECT_TRUE(clock.look().newTimeZone);
+    EXPECT_FALSE(clock.look().newTimeZone);
+}
+
 class Pause : public ControllerFixture {
 protected:
     /// What the menu shows of it, what is stored of it, and when the next backup is due.
@@ -117,7 +129,7 @@ TEST_F(Pause, LastsUntilTheGraceAfterItsEndAndIsReplacedByAnother)
               "*Schedule Paused Until: Monday, 23 November 2026, 14:30 >, Resume Schedule-, 2 Days, 23 14:30, "
               "172800, next 24 12:00")
         << "the timer of the first one is gone";
-    until(local(2026, 11, 22, 15));
+    until(local(2026, 11, 22, 0, 1));
     EXPECT_EQ(row(menu().pauseScheduleMenuItem), u"*Schedule Paused Until: Tomorrow, 14:30 >"_s);
     EXPECT_EQ(machine.starts(), 0);
 }

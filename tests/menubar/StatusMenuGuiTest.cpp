@@ -174,6 +174,15 @@ TEST_F(StatusMenuGui, SubmenusFollowWhileTheMenuIsOpen)
     disks.close();
     openByMouse(menu().backupNowMenuItem);
     EXPECT_EQ(disks.actions().size(), 5);
+    QMenu& history = openByMouse(menu().phaseMenuItem);
+    const auto rows = history.actions().size();
+    machine.destinations.append({u"D"_s, u"Fourth"_s});
+    openMenuAndWait();
+    EXPECT_EQ(history.actions().size(), rows);
+    history.close();
+    openByMouse(menu().phaseMenuItem);
+    EXPECT_EQ(history.actions().size(), rows + 1);
+    openByMouse(menu().backupNowMenuItem);
     machine.start(u"A"_s);
     wait(16);
     EXPECT_FALSE(disks.isVisible()) << "a backup has begun: there is nothing to choose";

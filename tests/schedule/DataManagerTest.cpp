@@ -158,6 +158,7 @@ TEST_F(Model, AChangedStartIsThatOfItsRuleAndOfItsDayAlone)
     EXPECT_EQ(defaults.array(settingskeys::changedStarts).size(), 1) << "what is over is dropped";
     defaults.stored[settingskeys::changedStarts] = QVariantList{7LL, QVariantMap{{u"start"_s, u"noon"_s}}};
     manager->scheduleNextBackup(); // rubbish changes nothing
+    EXPECT_TRUE(ChangedStart::listFromArray({QVariantMap{{u"start"_s, u"2026-11-22T25:00:00"_s}}}).isEmpty());
     manager->deleteBackupScheduleAtIndex(0);
     manager->deleteBackupScheduleAtIndex(0);
     expect({});

@@ -40,7 +40,7 @@ TEST(ReadingDestinations, OnlyANetworkDiskWithAServerGetsItsName)
     for (const auto& [fields, name] :
          {std::pair{"Network;URL=smb://me@Server._smb._tcp.local./Data", "Data - Server.local"},
           {"Network;URL=smb://Server.local/Data", "Data"},
-          {"Network;URL=smb://me@.local/Data", "Data"},
+          {"Network;URL=smb://me@.local./Data", "Data"},
           {"Network", "Data"},
           {"Local;URL=smb://me@Server.local/Data", "Data"}})
         EXPECT_EQ(read("<array>" + entry("Name=Data;Kind=" + QByteArray(fields)) + "</array>").list.value(0).name,

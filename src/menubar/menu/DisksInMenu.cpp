@@ -63,14 +63,6 @@ constexpr int smallestGap = 12;
 constexpr int titleMargin = 1;
 constexpr int rowMargin = 4;
 
-QLabel* plainLabel(const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setText(text);
-    return label;
-}
-
 /// A disk's name as a heading and, behind it, what is known of its latest backup.
 class RowView final : public QWidget {
 public:
@@ -178,7 +170,7 @@ QWidget* HistoryMenu::createAllBackupInfoTitleMenuItemView()
     layout->setSpacing(smallestGap);
     auto* help = new HelpButton(view.get());
     help->setAccessibleName(localizedString("helpButtonTitle"));
-    layout->addWidget(plainLabel(localizedString("latestBackupOfEachDestinationTitle"), view.get()));
+    layout->addWidget(new QLabel(localizedString("latestBackupOfEachDestinationTitle"), view.get()));
     layout->addStretch();
     layout->addWidget(help, 0, Qt::AlignVCenter);
     view->setFocusProxy(help); // the arrow keys reach the row, and with it the button
