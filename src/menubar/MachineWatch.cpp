@@ -180,7 +180,7 @@ void MachineWatch::reviewHeld(bool completed)
                                     .completed = completed,
                                     .rules = model.calendarIntervalSettings(),
                                     .given = model.startFrom(held_->due),
-                                    .following = model.startFrom(held_->due + 1ms),
+                                    .following = model.startAfter(held_->due),
                                     .planned = model.nextScheduledBackupDate(),
                                     .retriesWait = services_.schedule.retryWait() > 0s};
     const auto fate = machinerules::fateOf(*held_, since);

@@ -78,7 +78,7 @@ void RunLedger::notePassed(Date due, bool isRetry, startdecision::Occasion occas
     std::vector<LedgerEntry> passed{
         {.date = due, .cause = isRetry ? Cause::Retry : Cause::Schedule, .outcome = Outcome::Missed, .reason = reason}};
     const DataManager& model = services_.dataManager;
-    const auto later = model.startsBetween(due + 1ms, services_.runLoop.now());
+    const auto later = model.startsBetween(instantAfter(due), services_.runLoop.now());
     for (const Date date : model.isScheduleEnabled() ? later : QList<Date>())
         passed.push_back({.date = date, .outcome = Outcome::Missed, .reason = reason});
     write(passed);

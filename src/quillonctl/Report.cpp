@@ -14,7 +14,6 @@
 
 namespace quillon {
 
-using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 QList<Date> comingStarts(const UserDefaults& defaults, Date from, int count)
@@ -31,7 +30,7 @@ QList<Date> comingStarts(const UserDefaults& defaults, Date from, int count)
         if (!next)
             break;
         starts.append(*next);
-        reference = *next + 1ms;
+        reference = instantAfter(*next);
     }
     return starts;
 }

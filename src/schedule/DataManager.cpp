@@ -192,13 +192,13 @@ std::optional<Date> DataManager::startFrom(Date date) const
 
 std::optional<Date> DataManager::startAfterNext() const
 {
-    return nextScheduledBackupDate_ ? startFrom(*nextScheduledBackupDate_ + 1ms) : std::nullopt;
+    return nextScheduledBackupDate_ ? startAfter(*nextScheduledBackupDate_) : std::nullopt;
 }
 
 QList<Date> DataManager::startsBetween(Date from, Date until) const
 {
     QList<Date> starts;
-    for (auto start = startFrom(from); start && *start < until; start = startFrom(*start + 1ms))
+    for (auto start = startFrom(from); start && *start < until; start = startAfter(*start))
         starts.append(*start);
     return starts;
 }

@@ -69,6 +69,7 @@ public:
     void setNextScheduledBackupDate(std::optional<Date> date);
     /// The earliest start from that date on which the rules and the user's changes give.
     std::optional<Date> startFrom(Date date) const;
+    std::optional<Date> startAfter(Date date) const { return startFrom(instantAfter(date)); }
     /// The start behind the next one.
     std::optional<Date> startAfterNext() const;
     /// Every start from `from` on that is earlier than `until`, whatever is stored of a pause.

@@ -185,7 +185,7 @@ TimeComponents timeComponents(double secondsSinceMidnight)
 Date referenceDate(Date now, std::optional<Date> pauseUntil, std::optional<Date> lastFired)
 {
     Date reference = pauseUntil ? std::max(now, *pauseUntil) : now;
-    return lastFired ? std::max(reference, *lastFired + 1ms) : reference;
+    return lastFired ? std::max(reference, instantAfter(*lastFired)) : reference;
 }
 
 std::optional<Date> nextBackupDate(const QList<CalendarIntervalRule>& rules, Date reference, const Calendar& calendar)
@@ -208,7 +208,7 @@ std::optional<Date> nextStart(const QList<CalendarIntervalRule>& rules, const QL
     };
     auto next = nextBackupDate(rules, reference, calendar);
     while (next && isChanged(*next))
-        next = nextBackupDate(rules, *next + 1ms, calendar);
+        next = nextBackupDate(rules, instantAfter(*next), calendar);
     for (const auto& [start, instead] : changes) {
         const Date changed = calendar.date(start);
         const bool isEarlier = instead && *instead >= reference && (!next || *instead < *next);

@@ -87,6 +87,17 @@ TEST_F(Commands, AClickAndAScheduledStartAtATimeMakeOneBackup)
     spoilNext(Fault::None, 17, u"startbackup"_s);
     click(); // the scheduled start waits, and is made when this one is refused
     after(20, "startbackup -r; startbackup -r; 2, 6.7% 56s, Skip This Backup, next 24 12:00");
+    wait(80);
+    openMenuAndWait();
+    wait(2);
+    const QAction* first = menu().backupNowMenuItem->menu()->actions().first();
+    EXPECT_TRUE(first->isEnabled());
+    for (int times = 0; times < 2; ++times) {
+        controller->backupNowSubMenuItemClicked(u"B"_s);
+        wait(0.5);
+        EXPECT_FALSE(first->isEnabled());
+    }
+    after(11, "startbackup -d B; 2, 6.7% 56s, Skip This Backup, next 24 12:00");
 }
 
 TEST_F(Commands, AScheduledStartIsDroppedWhenTheScheduleIsPausedOrSwitchedOffBeforeTheAnswer)

@@ -1,5 +1,7 @@
 #include "ControllerFixture.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -132,7 +134,14 @@ TEST_F(MachineWatchOf, ADiskThatComesMakesUpForABackupThatCameToNothing)
         spoilNext(Fault::None, 4, u"startbackup"_s);
         wait(10);
     };
-    mount(true);
+    wait(60);
+    const auto before = machine.launched().size();
+    for (int changes = 0; changes < 2; ++changes) { // as one disk makes
+        mount(true);
+        wait(0.6);
+    }
+    const auto asked = machine.launched().mid(before);
+    EXPECT_TRUE(std::ranges::any_of(asked, [](const auto& call) { return call.arguments[0] == "destinationinfo"_L1; }));
     wait(60);
     EXPECT_EQ(machine.starts(), 0) << "nothing is to be made up for";
     refuse();

@@ -36,8 +36,10 @@ TEST_F(Menu, IsTitledAsTheSystemsVersionNamesThings)
               u"1 Hour, 2 Hours, 4 Hours, 8 Hours, 12 Hours, 1 Day, 2 Days, 3 Days, 4 Days, 5 Days, 6 Days, 1 Week, "
               "2 Weeks, 3 Weeks, 4 Weeks"_s);
     QStringList seconds;
-    for (const QAction* duration : menu().pauseDurationItems())
+    for (const QAction* duration : menu().pauseDurationItems()) {
         seconds.append(duration->data().toString());
+        EXPECT_EQ(duration->menuRole(), QAction::NoRole);
+    }
     EXPECT_EQ(seconds.join(u' '),
               u"3600 7200 14400 28800 43200 86400 172800 259200 345600 432000 518400 604800 1209600 "
               "1814400 2419200"_s);
@@ -67,7 +69,8 @@ TEST_F(Menu, TwoDisksAreOfferedAndTheirLatestBackupsListedWhileASingleOneNeedsNe
     openMenuAndWait();
     EXPECT_EQ(disks(), (QStringList{u"Let Time Machine Choose"_s, u"-"_s, u"First"_s, u"Second (most recent)"_s}));
     EXPECT_EQ(history(), (QStringList{u"Second: Today, 10:01 (4.9 MB)"_s, u"First: N/A"_s}));
-    EXPECT_EQ(menu().backupNowMenuItem->menu()->actions().at(2)->menuRole(), QAction::NoRole) << "it would move";
+    for (const QAction* opener : {menu().backupNowMenuItem, menu().phaseMenuItem})
+        EXPECT_EQ(opener->menu()->actions().at(2)->menuRole(), QAction::NoRole) << "it would move";
     EXPECT_TRUE(menu().phaseMenuItem->isEnabled());
     EXPECT_EQ(menu().phaseMenuItem->menu()->actions().at(2)->data(), u"B"_s);
     machine.destinations.removeLast();

@@ -157,6 +157,13 @@ TEST(Told, WhatComesNextOrWhyNothingDoes)
     snapshot.retryBackupDate = snapshot.nextScheduledBackupDate;
     snapshot.waitsForPower = true;
     EXPECT_EQ(told::nextStart(snapshot), u"a backup waits for mains power, retry Thu 1970-01-01 01:01 +01:00"_s);
+    snapshot.waitsForPower = false;
+    snapshot.run.take(TMStatus::notRunning(), BackupRun::Asked::ByPoll, snapshot.now);
+    snapshot.pauseUntil = Date(60s);
+    EXPECT_EQ(told::statusLine(snapshot), u"1970-01-01T01:00:00+01:00  paused until Thu 1970-01-01 01:01 +01:00, "
+                                          "retry Thu 1970-01-01 01:01 +01:00"_s);
+    snapshot.run.startAccepted(0ms);
+    EXPECT_EQ(told::statusLine(snapshot), u"1970-01-01T01:00:00+01:00  starting"_s);
 }
 
 TEST_F(Remote, SkipsAndPostponesTheNextStartAloneAlsoAcrossSleepTravelAndARestart)
@@ -221,6 +228,7 @@ TEST_F(Remote, ListsAndEditsTheRulesAsFarAsThePanelDoes)
               (QJsonObject{{u"number"_s, 2}, {u"day"_s, u"Saturday"_s}, {u"time"_s, u"18:30"_s}}));
     ask(u"skip-retry"_s);
     EXPECT_EQ(ask(u"rules remove 1"_s), "1  Saturday 18:30\nnext backup Sat 2026-11-21 18:30 +01:00");
+    after(1, "1, Next: 8h 29m, Back Up Now, next 21 18:30");
     EXPECT_EQ(ask(u"rules remove 2"_s), "! there is no rule 2");
     EXPECT_EQ(ask(u"rules remove 1"_s), "there are no rules; no backup is planned");
     EXPECT_EQ(ask(u"skip"_s), "! no backup is planned");

@@ -74,6 +74,12 @@ TEST(NextBackup, IsTheEarliestDateThatAnyRuleAllows)
     EXPECT_TRUE(nextBackupDate({{0, never}}, in(berlin, {2026, 11, 23, 10}), Calendar()));
 }
 
+TEST(NextBackup, TimesBeyondADayAreThoseOfTheirDay)
+{
+    for (const double time : {3661.0, 90061.0, 176461.0})
+        EXPECT_EQ(nextbackup::timeComponents(time), (nextbackup::TimeComponents{1, 1, 1})) << time;
+}
+
 TEST(NextBackup, IsLookedForBehindAPauseAndBehindWhatHasFired)
 {
     const ScopedEnvironment zone("TZ", berlin);

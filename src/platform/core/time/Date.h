@@ -16,6 +16,12 @@ inline Date dateByAdding(Date date, Seconds interval)
     return date + std::chrono::round<std::chrono::milliseconds>(interval);
 }
 
+/// The earliest instant that is later.
+inline Date instantAfter(Date date)
+{
+    return date + Date::duration(1);
+}
+
 /// Seconds from `from` to `to`; negative when `to` is the earlier one.
 inline double secondsBetween(Date from, Date to)
 {
