@@ -129,6 +129,9 @@ TEST_F(Remote, PausesAndResumesAsTheMenuDoes)
     EXPECT_EQ(ask(u"pause --until 2026-11-21"_s), "! that time has passed");
     EXPECT_EQ(ask(u"pause --until 2027-11-21"_s), "! a pause lasts four weeks at most");
     EXPECT_TRUE(ask(u"pause 4w"_s).starts_with("the schedule is paused until"));
+    spoilNext(Fault::NotUtf8, 0, u"status"_s);
+    wait(16);
+    EXPECT_EQ(ask(u"pause 1h"_s), "! what Time Machine does cannot be told");
     manager->setIsScheduleEnabled(false);
     EXPECT_EQ(ask(u"pause 1h"_s), "! the schedule is off");
     EXPECT_EQ(ask(u"skip"_s), "! the schedule is off");

@@ -78,6 +78,7 @@ TEST(NextBackup, TimesBeyondADayAreThoseOfTheirDay)
 {
     for (const double time : {3661.0, 90061.0, 176461.0})
         EXPECT_EQ(nextbackup::timeComponents(time), (nextbackup::TimeComponents{1, 1, 1})) << time;
+    EXPECT_EQ(nextbackup::timeComponents(86400), nextbackup::TimeComponents());
 }
 
 TEST(NextBackup, IsLookedForBehindAPauseAndBehindWhatHasFired)
