@@ -65,6 +65,7 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
     EXPECT_EQ(told(), "before|B||||");
     const AlertRequest alert = takeAlert().first;
     EXPECT_EQ(alert.messageText, u"Warning"_s);
+    EXPECT_EQ(alert.buttons, QStringList(u"Close"_s));
     EXPECT_EQ(alert.informativeText, u"The program “before” kept the backup from starting.\n\nNo network."_s);
     RemoteControl remote({runLoop, notifications, tmutil, *manager, *controller});
     QString answer;

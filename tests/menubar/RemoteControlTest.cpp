@@ -102,8 +102,15 @@ TEST_F(Remote, NamesADiskByNameOrIdentifierAndTellsOfARefusalWithoutAnAlert)
     EXPECT_EQ(facts[u"exitStatus"_s], 4);
     EXPECT_TRUE(alerts.presented.empty());
     seen();
-    remote->take(ControlRequest::toLine({u"backup"_s, u"--disk"_s, u"My Disk"_s}), [](const auto&) { return true; });
+    const auto take = [this](const QByteArray& line) {
+        answers = {ControlAnswer::fromLine(line)->text};
+        return true;
+    };
+    remote->take(ControlRequest::toLine({u"backup"_s, u"--disk"_s, u"My Disk"_s}), take);
     after(1, "startbackup -d C; 2, 0.0% Starting, Skip This Backup, next 21 12:00");
+    EXPECT_EQ(told(), "the backup starts");
+    remote->take("rubbish", take);
+    EXPECT_EQ(told(), "the request cannot be understood");
 }
 
 TEST_F(Remote, PausesAndResumesAsTheMenuDoes)

@@ -18,7 +18,10 @@ namespace {
 
 constexpr auto longestPause = std::chrono::seconds(pausedurations::all.back().seconds);
 
+const QString backupStarts = u"the backup starts"_s;
 const QString runsAlready = u"a backup runs already"_s;
+const QString noBackupRuns = u"no backup runs"_s;
+const QString cannotBeTold = u"what Time Machine does cannot be told"_s;
 const QString commandIsUnderWay = u"another command is under way"_s;
 const QString tooManyChanges = u"%1 starts are skipped or postponed already; pause the schedule instead"_s;
 
@@ -44,7 +47,7 @@ CommandResultHandler tell(const RemoteControl::Listener& listener, const QString
         if (result.outcome == NothingToDo)
             answer = ControlAnswer::refused(nothingToDo);
         else if (result.outcome == Unreadable)
-            answer = ControlAnswer::refused(u"what Time Machine does cannot be told"_s);
+            answer = ControlAnswer::refused(cannotBeTold);
         else if (!result.hookWords.isEmpty())
             answer = ControlAnswer::refused(u"a program of yours stopped it: %1"_s.arg(result.hookWords));
         else if (result.outcome == Refused && result.exitStatus == 0)
@@ -130,7 +133,7 @@ ControlAnswer RemoteControl::pause(const ControlRequest& request)
         return ControlAnswer::refused(u"the schedule is off"_s);
     if (!shown::menu(shown).pauseIsEnabled)
         return ControlAnswer::refused(shown.run.isActive() ? u"a schedule is not paused while a backup runs"_s
-                                                           : u"what Time Machine does cannot be told"_s);
+                                                           : cannotBeTold);
     const Date end = request.pauseEnd(shown.now);
     const auto length = std::chrono::ceil<std::chrono::seconds>(end - shown.now);
     if (length <= 0s)
@@ -247,7 +250,7 @@ void RemoteControl::backUp(const Listener& listener)
     if (const QString why = whyNoStart(); !why.isEmpty())
         listener(ControlAnswer::refused(why).toLine());
     else
-        services_.controller.backupNowRequested(tell(listener, u"the backup starts"_s, runsAlready));
+        services_.controller.backupNowRequested(tell(listener, backupStarts, runsAlready));
 }
 
 void RemoteControl::askForDisk(const QString& disk, const Listener& listener)
@@ -282,21 +285,19 @@ void RemoteControl::backUpTo(const QString& disk, const std::optional<QList<Back
     if (!why.isEmpty())
         listener(ControlAnswer::refused(why).toLine());
     else
-        services_.controller.backupNowSubMenuItemClicked(meant.first(),
-                                                         tell(listener, u"the backup starts"_s, runsAlready));
+        services_.controller.backupNowSubMenuItemClicked(meant.first(), tell(listener, backupStarts, runsAlready));
 }
 
 void RemoteControl::stop(const Listener& listener)
 {
     const auto shown = services_.controller.snapshot();
     if (!shown::menu(shown).offersToStop)
-        listener(ControlAnswer::refused(shown.run.isActive() ? u"the backup is being stopped already"_s
-                                                             : u"no backup runs"_s)
+        listener(ControlAnswer::refused(shown.run.isActive() ? u"the backup is being stopped already"_s : noBackupRuns)
                      .toLine());
     else if (shown.commandIsUnderWay)
         listener(ControlAnswer::refused(commandIsUnderWay).toLine());
     else
-        services_.controller.backupNowClicked(tell(listener, u"the backup is being stopped"_s, u"no backup runs"_s));
+        services_.controller.backupNowClicked(tell(listener, u"the backup is being stopped"_s, noBackupRuns));
 }
 
 void RemoteControl::watch(const Listener& listener)
