@@ -113,7 +113,7 @@ void ConcernWatch::noteSettings()
         int(std::clamp(defaults.integer(settingskeys::daysWithoutBackup), 0LL, settingskeys::mostDaysWithoutBackup));
     facts_.retryIsPlanned = services_.dataManager.retryBackupDate().has_value();
     const auto since = defaults.date(settingskeys::watchedSinceDate);
-    facts_.watchedSince = since && *since < facts_.now ? *since : facts_.now;
+    facts_.watchedSince = std::min(since.value_or(facts_.now), facts_.now);
     if (facts_.watchedSince != since)
         defaults.setDate(settingskeys::watchedSinceDate, facts_.watchedSince);
 }

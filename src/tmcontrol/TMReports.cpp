@@ -20,9 +20,8 @@ namespace {
 /// next "."; empty when there is none.
 QString serverName(const QString& url)
 {
-    const auto at = url.indexOf(u'@');
-    const auto dot = at < 0 ? -1 : url.indexOf(u'.', at + 1);
-    return dot < 0 ? QString() : url.mid(at + 1, dot - at - 1);
+    const QString behind = url.section(u'@', 1);
+    return behind.contains(u'.') ? behind.section(u'.', 0, 0) : QString();
 }
 
 std::optional<BackupDestination> readDestination(const QVariantMap& entry)

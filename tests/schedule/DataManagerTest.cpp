@@ -128,6 +128,7 @@ TEST_F(Model, AChangedStartIsThatOfItsRuleAndOfItsDayAlone)
     EXPECT_TRUE(manager->changeNextStart(today(16)));
     EXPECT_EQ(manager->startAfterNext(), today(24 + 12));
     EXPECT_EQ(manager->startsBetween(today(11), today(24 + 14)), (QList{today(16), today(24 + 12)}));
+    EXPECT_EQ(manager->startsBetween(today(16), today(24 + 12)), QList{today(16)});
     make();
     expect(today(16));
     manager->updateBackupScheduleAtIndex(1, 13 * 3600LL, u"time"_s);
