@@ -42,7 +42,10 @@ protected:
 TEST_F(MachineWatchOf, AStartThatPowerForbidsIsHeldBackUntilMainsReturn)
 {
     launchOnBattery();
+    until(today(11, 59));
+    const int asked = powerSupply.asked;
     until(today(12, 10));
+    EXPECT_GT(powerSupply.asked, asked) << "who held a start back would be believed for ever";
     expect("1, Next: 23h 50m, Back Up Now, next 22 12:00");
     EXPECT_EQ(noted(1), "12:00 schedule skipped onBattery");
     EXPECT_TRUE(controller->snapshot().waitsForPower);

@@ -63,6 +63,16 @@ TEST_F(Model, AFreshInstallationBacksUpAtNoonAndRegistersTheLoginItemOnceIfItIsW
     EXPECT_EQ(loginItem.calls.size(), 1U);
 }
 
+TEST(SharedModel, IsTheOneThatMainHasCreated)
+{
+    static VirtualRunLoop runLoop(local(2026, 11, 21, 10)); // as long-lived as what stands on it
+    static MemoryDefaults defaults;
+    static NotificationCenter notifications;
+    static FakeLoginItem loginItem;
+    const DataManager& created = DataManager::createSharedInstance({runLoop, defaults, notifications, loginItem});
+    EXPECT_EQ(&DataManager::sharedInstance(), &created);
+}
+
 TEST_F(Model, ADeletedLastRuleStaysDeleted)
 {
     make().deleteBackupScheduleAtIndex(0);

@@ -72,13 +72,15 @@ class FakePowerSupply final : public PowerSupply {
 public:
     PowerState state() const override { return isWatching_ ? power_ : PowerState(); }
     void setWatching(bool watching) override { isWatching_ = watching; }
-    void refresh() override {}
+    void refresh() override { ++asked; }
     void become(const PowerState& power)
     {
         power_ = power;
         if (isWatching_)
             Q_EMIT changed();
     }
+
+    int asked = 0; ///< anew
 
 private:
     bool isWatching_ = false;
