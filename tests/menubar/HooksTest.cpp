@@ -120,18 +120,30 @@ TEST_F(HooksOf, OneAheadOfAStartMayKeepItFromBeingMade)
 TEST_F(HooksOf, AStartThatHasWaitedForOneIsMadeOnlyIfItIsStillWanted)
 {
     install(u"before"_s, {{}, {}, 0, 120});
-    install(u"completed"_s, {}); // takes nothing from one that still runs
     until(today(12, 1));
     controller->pauseForClicked(3600);
     until(today(12, 3));
     EXPECT_EQ(latest(), "schedule|skipped|settingsChanged|");
     controller->resumeScheduleClicked();
     sleepUntil(today(11) + std::chrono::hours(24));
-    until(today(12) + std::chrono::hours(24));
+    until(today(12, 1) + std::chrono::hours(24));
     machine.start(u"A"_s);
-    wait(140);
+    wait(80);
     EXPECT_EQ(machine.starts(), 1);
     EXPECT_EQ(latest({.outcome = LedgerEntry::Outcome::Skipped}), "schedule|skipped|backupRan|");
+}
+
+TEST_F(HooksOf, OneThatEndsTakesNothingFromOneThatStillRuns)
+{
+    install(u"before"_s, {{}, {}, 0, 60});
+    install(u"completed"_s, {{}, {}, 0, 1});
+    Hooks hooks({runLoop, machine, hooksFolder});
+    QObject whoAsks;
+    QList<Hooks::Event> ended;
+    for (const auto event : {Hooks::Event::Before, Hooks::Event::Completed})
+        hooks.run(event, {}, &whoAsks, [&ended, event](const Hooks::Result&) { ended += event; });
+    wait(61);
+    EXPECT_EQ(ended, (QList{Hooks::Event::Completed, Hooks::Event::Before}));
 }
 
 TEST_F(HooksOf, OfStartsThatWaitForOneTheLatestStands)
