@@ -237,6 +237,7 @@ TEST_F(Remote, ListsAndEditsTheRulesAsFarAsThePanelDoes)
     EXPECT_EQ(facts[u"rules"_s].toArray()[1],
               (QJsonObject{{u"number"_s, 2}, {u"day"_s, u"Saturday"_s}, {u"time"_s, u"18:30"_s}}));
     ask(u"skip-retry"_s);
+    wait(1);
     EXPECT_EQ(ask(u"rules remove 1"_s), "1  Saturday 18:30\nnext backup Sat 2026-11-21 18:30 +01:00");
     after(1, "1, Next: 8h 29m, Back Up Now, next 21 18:30");
     EXPECT_EQ(ask(u"rules remove 2"_s), "! there is no rule 2");
