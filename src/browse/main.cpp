@@ -90,13 +90,12 @@ int main(int argc, char** argv)
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                                 "/quillon-browse/instance"_L1,
                             {show});
-    if (!instance.acquire()) {
-        if (wanted.isEmpty() ? instance.askFirstToPresent() : instance.askFirst(show, wanted))
-            return 0;
-        if (!instance.acquire()) {
-            std::fputs(u"quillon-browse: %1\n"_s.arg(instance.errorString()).toLocal8Bit().constData(), stderr);
-            return 1;
-        }
+    const auto start = instance.acquireOrAsk(wanted.isEmpty() ? "" : show, wanted);
+    if (start == SingleInstance::Start::Asked)
+        return 0;
+    if (start == SingleInstance::Start::Failed) {
+        std::fputs(u"quillon-browse: %1\n"_s.arg(instance.errorString()).toLocal8Bit().constData(), stderr);
+        return 1;
     }
     const QuitSignals quitSignals;
     return runWindow(instance, wanted);

@@ -62,13 +62,12 @@ int main(int argc, char** argv)
     // A second start brings the first window to the front.
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                             "/quillon-disks/instance"_L1);
-    if (!instance.acquire()) {
-        if (instance.askFirstToPresent())
-            return 0;
-        if (!instance.acquire()) {
-            std::fputs(u"quillon-disks: %1\n"_s.arg(instance.errorString()).toLocal8Bit().constData(), stderr);
-            return 1;
-        }
+    const auto start = instance.acquireOrAsk();
+    if (start == SingleInstance::Start::Asked)
+        return 0;
+    if (start == SingleInstance::Start::Failed) {
+        std::fputs(u"quillon-disks: %1\n"_s.arg(instance.errorString()).toLocal8Bit().constData(), stderr);
+        return 1;
     }
     const QuitSignals quitSignals;
     return runWindow(instance);

@@ -140,14 +140,15 @@ int runApplication(const Options& options, SingleInstance& instance)
 int runAsOnlyInstance(const Options& options)
 {
     SingleInstance instance(identity::instanceLock(), startRequestNames());
-    if (instance.acquire())
+    switch (instance.acquireOrAsk(nameOf(options.request))) {
+    case SingleInstance::Start::First:
         return runApplication(options, instance);
-    if (instance.askFirst(nameOf(options.request)))
+    case SingleInstance::Start::Asked:
         return 0;
-    // The other one may just have ended.
-    if (instance.acquire())
-        return runApplication(options, instance);
-    printLine(stderr, u"quillon: %1"_s.arg(instance.errorString()));
+    case SingleInstance::Start::Failed:
+        printLine(stderr, u"quillon: %1"_s.arg(instance.errorString()));
+        break;
+    }
     return exitFailed;
 }
 

@@ -232,12 +232,16 @@ void SingleInstance::answer(QLocalSocket& client)
         Q_EMIT requested(request, subject);
 }
 
-bool SingleInstance::askFirstToPresent()
+SingleInstance::Start SingleInstance::acquireOrAsk(const QByteArray& request, const QString& subject)
 {
-    return askFirst(present);
+    if (acquire())
+        return Start::First;
+    if (askFirst(request.isEmpty() ? QByteArray(present) : request, subject))
+        return Start::Asked;
+    return acquire() ? Start::First : Start::Failed; // the other one may just have ended
 }
 
-bool SingleInstance::askFirst(const QByteArray& request, const QString& subject)
+bool SingleInstance::askFirst(const QByteArray& request, const QString& subject) const
 {
     const QDeadlineTimer deadline(patience);
     const QByteArray line = subject.isEmpty() ? request : request + ' ' + QUrl::toPercentEncoding(subject);
@@ -249,10 +253,10 @@ bool SingleInstance::askFirst(const QByteArray& request, const QString& subject)
     return true;
 }
 
-bool SingleInstance::ask(const QByteArray& request, const QDeadlineTimer& deadline) const
+bool SingleInstance::ask(const QByteArray& line, const QDeadlineTimer& deadline) const
 {
     InstanceCall call;
-    return call.ask(lock_.path(), request, deadline) && call.nextLine(deadline) == confirmation;
+    return call.ask(lock_.path(), line, deadline) && call.nextLine(deadline) == confirmation;
 }
 
 } // namespace quillon

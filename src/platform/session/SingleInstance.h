@@ -79,14 +79,17 @@ public:
     /// Whether another process is the one instance now. The claim is not taken.
     [[nodiscard]] bool isHeldByAnother();
 
-    /// Asks the instance that made acquire() fail to come to the front; true when it has confirmed. Blocks for two
-    /// seconds at most and is meant for start-up, ahead of the event loop. After a false the first instance may just
-    /// have ended: acquire() is worth another try.
-    [[nodiscard]] bool askFirstToPresent();
-    /// The same for any request, which the first instance has to know, with what it is about: a path, for example.
-    [[nodiscard]] bool askFirst(const QByteArray& request, const QString& subject = {});
+    enum class Start {
+        First,  ///< as after acquire()
+        Asked,  ///< another one is the one instance, and has confirmed the request
+        Failed, ///< errorString() says why
+    };
+    /// Acquires, or asks the instance that is there to come to the front, or for another request that it has to know,
+    /// with what that is about: a path, for example. Blocks for two seconds at most and is meant for start-up, ahead of
+    /// the event loop.
+    [[nodiscard]] Start acquireOrAsk(const QByteArray& request = {}, const QString& subject = {});
 
-    /// Why the last acquire() returned false: one line in English.
+    /// Why this is not the one instance: one line in English.
     QString errorString() const { return errorString_; }
 
 Q_SIGNALS:
@@ -102,7 +105,8 @@ private:
     void listen();
     void answerNextClient();
     void answer(QLocalSocket& client);
-    bool ask(const QByteArray& request, const QDeadlineTimer& deadline) const;
+    bool askFirst(const QByteArray& request, const QString& subject) const;
+    bool ask(const QByteArray& line, const QDeadlineTimer& deadline) const;
 
     QByteArrayList requests_;
     FileLock lock_;

@@ -23,9 +23,9 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     quillon::SingleInstance instance(application.arguments().value(1) + QStringLiteral("/instance"), {"back-up-now"});
     const QByteArray request = application.arguments().value(2, u"present"_s).toUtf8();
-    if (!instance.acquire()) {
-        say(instance.askFirst(request, application.arguments().value(3)) ? u"presented"_s
-                                                                         : u"refused: "_s + instance.errorString());
+    const auto start = instance.acquireOrAsk(request, application.arguments().value(3));
+    if (start != quillon::SingleInstance::Start::First) {
+        say(start == quillon::SingleInstance::Start::Asked ? u"presented"_s : u"refused: "_s + instance.errorString());
         return 0;
     }
     QObject::connect(&instance, &quillon::SingleInstance::presentRequested,
